@@ -1,0 +1,12 @@
+# What every target is compiled with. Link one of the two, PRIVATE.
+
+# Code of this project: all warnings, all of them errors.
+add_library(corvex_warnings INTERFACE)
+target_compile_options(corvex_warnings INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast -Wnon-virtual-dtor
+    -Woverloaded-virtual -Wcast-align -Wformat=2 -Wundef -Werror)
+
+# Code that is compiled for the device too, which has no exceptions.
+add_library(corvex_portable INTERFACE)
+target_link_libraries(corvex_portable INTERFACE corvex_warnings)
+target_compile_options(corvex_portable INTERFACE -fno-exceptions)

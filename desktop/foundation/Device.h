@@ -1,0 +1,46 @@
+#pragma once
+
+#include "Clock.h"
+#include "DeviceRoot.h"
+#include "MainQueueScheduler.h"
+
+#include <memory>
+#include <string>
+
+/// The device that this process stands for: its file system, time, settings of language and region. One at a
+/// time; the contract's functions act on it. Made by the host program, or by a test.
+class Device {
+public:
+    struct Options {
+        DeviceRoot root;
+        std::unique_ptr<Clock> clock;
+        std::string locale = "en_US"; ///< as ICU names locales
+        std::string timeZone = "UTC"; ///< as the time-zone database names zones
+        std::string mainBundlePath = "/Applications/Preferences.app";
+    };
+
+    /// Becomes the current device, and makes the folders that every device has. \pre there is no other
+    explicit Device(Options options);
+    ~Device();
+    Device(const Device&) = delete;
+    Device& operator=(const Device&) = delete;
+
+    /// The device there is; ends the program with a message when there is none.
+    [[nodiscard]] static Device& current();
+
+    [[nodiscard]] const DeviceRoot& root() const { return options_.root; }
+    [[nodiscard]] const Clock& clock() const { return *options_.clock; }
+    [[nodiscard]] const std::string& locale() const { return options_.locale; }
+    [[nodiscard]] const std::string& timeZone() const { return options_.timeZone; }
+    [[nodiscard]] const std::string& mainBundlePath() const { return options_.mainBundlePath; }
+    [[nodiscard]] MainQueueScheduler& mainQueue() { return mainQueue_; }
+
+    /// The user's folders, as device paths without a "/" at the end.
+    static constexpr auto documentsPath = "/var/mobile/Documents";
+    static constexpr auto temporaryPath = "/var/mobile/tmp";
+    static constexpr auto preferencesPath = "/var/mobile/Library/Preferences";
+
+private:
+    Options options_;
+    MainQueueScheduler mainQueue_;
+};

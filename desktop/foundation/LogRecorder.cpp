@@ -1,0 +1,53 @@
+#include "LogRecorder.h"
+
+#include "Foundation/NSLog.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <mutex>
+#include <syslog.h>
+#include <utility>
+
+namespace {
+
+/// The recorders that live. Never destroyed: code that is unloaded at exit may still write lines.
+struct Recorders {
+    std::mutex mutex;
+    std::vector<LogRecorder*> all;
+
+    static Recorders& shared() {
+        static auto* recorders = new Recorders;
+        return *recorders;
+    }
+};
+
+} // namespace
+
+LogRecorder::LogRecorder() {
+    auto& recorders = Recorders::shared();
+    const std::scoped_lock lock(recorders.mutex);
+    recorders.all.push_back(this);
+}
+
+LogRecorder::~LogRecorder() {
+    auto& recorders = Recorders::shared();
+    const std::scoped_lock lock(recorders.mutex);
+    std::erase(recorders.all, this);
+}
+
+std::vector<std::string> LogRecorder::take() {
+    const std::scoped_lock lock(Recorders::shared().mutex);
+    return std::exchange(lines_, {});
+}
+
+void logLine(std::string_view line) {
+    const std::string text(line);
+    syslog(LOG_USER | LOG_NOTICE, "%s", text.c_str());
+    const std::string output = text + '\n';
+    std::fwrite(output.data(), 1, output.size(), stderr);
+
+    auto& recorders = Recorders::shared();
+    const std::scoped_lock lock(recorders.mutex);
+    for (auto* recorder : recorders.all)
+        recorder->lines_.push_back(text);
+}

@@ -1,0 +1,72 @@
+#include "ObjectPeer.h"
+
+#include "ObjectiveC/Weak.h"
+
+#include <utility>
+
+NSObject::NSObject() : peer_(new ObjectPeer(*this)) {}
+
+NSObject::~NSObject() {
+    // Released one by one with nothing in the peer, since their destructors may look back at this object.
+    const auto attached = std::exchange(peer_->attachedValues, {});
+    peer_->strongCount.store(ObjectPeer::ended, std::memory_order_relaxed);
+    peer_->releaseWeak();
+}
+
+void ObjectPeer::retain() noexcept { strongCount.fetch_add(1, std::memory_order_relaxed); }
+
+void ObjectPeer::release() noexcept {
+    if (strongCount.fetch_sub(1, std::memory_order_acq_rel) != 1)
+        return;
+    strongCount.store(ended, std::memory_order_relaxed);
+    delete object;
+}
+
+bool ObjectPeer::retainIfAlive() noexcept {
+    auto count = strongCount.load(std::memory_order_relaxed);
+    while (count != 0 && count < ended / 2) {
+        if (strongCount.compare_exchange_weak(count, count + 1, std::memory_order_acq_rel))
+            return true;
+    }
+    return false;
+}
+
+void ObjectPeer::releaseWeak() noexcept {
+    if (weakCount.fetch_sub(1, std::memory_order_acq_rel) == 1)
+        delete this;
+}
+
+void retainObject(NSObject& object) noexcept { ObjectPeer::of(object).retain(); }
+
+void releaseObject(NSObject& object) noexcept { ObjectPeer::of(object).release(); }
+
+namespace {
+
+ObjectPeer* peerIn(const WeakSlot& slot) { return static_cast<ObjectPeer*>(slot.reference); }
+
+void fill(WeakSlot& slot, ObjectPeer* peer) {
+    if (peer != nullptr)
+        peer->retainWeak();
+    slot.reference = peer;
+}
+
+} // namespace
+
+void initWeakSlot(WeakSlot& slot, NSObject* object) noexcept {
+    fill(slot, object != nullptr ? &ObjectPeer::of(*object) : nullptr);
+}
+
+NSObject* loadWeakSlotRetained(const WeakSlot& slot) noexcept {
+    auto* const peer = peerIn(slot);
+    return peer != nullptr && peer->retainIfAlive() ? peer->object : nullptr;
+}
+
+void copyWeakSlot(WeakSlot& to, const WeakSlot& from) noexcept { fill(to, peerIn(from)); }
+
+void moveWeakSlot(WeakSlot& to, WeakSlot& from) noexcept { to.reference = std::exchange(from.reference, nullptr); }
+
+void destroyWeakSlot(WeakSlot& slot) noexcept {
+    if (auto* const peer = peerIn(slot))
+        peer->releaseWeak();
+    slot.reference = nullptr;
+}

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "Foundation/PropertyList.h"
+#include "ObjectiveC/NSObject.h"
+
+#include <cstdint>
+#include <expected>
+#include <string>
+#include <string_view>
+
+/// The domains and user-info keys of the platform's own errors.
+inline constexpr std::string_view NSCocoaErrorDomain = "NSCocoaErrorDomain";
+inline constexpr std::string_view NSPOSIXErrorDomain = "NSPOSIXErrorDomain";
+inline constexpr std::string_view NSLocalizedDescriptionKey = "NSLocalizedDescription";
+inline constexpr std::string_view NSFilePathErrorKey = "NSFilePath";
+
+/// Why an operation failed. Never changes once made.
+class NSError final : public NSObject {
+public:
+    /// \param userInfo what is known besides; the text for the user stands under `NSLocalizedDescriptionKey`
+    /// \param underlyingError the error that led to this one, or an empty Ref
+    [[nodiscard]] static Ref<NSError> errorWithDomain(std::string_view domain, std::int64_t code,
+                                                      PropertyList::Dictionary userInfo = {},
+                                                      Ref<NSError> underlyingError = nullptr);
+
+    [[nodiscard]] const std::string& domain() const { return domain_; }
+
+    [[nodiscard]] std::int64_t code() const { return code_; }
+
+    [[nodiscard]] const PropertyList::Dictionary& userInfo() const { return userInfo_; }
+
+    [[nodiscard]] const Ref<NSError>& underlyingError() const { return underlyingError_; }
+
+    /// The text for the user: the user info's, or else one made of domain and code.
+    [[nodiscard]] std::string localizedDescription() const;
+
+    /// `Error Domain=NSCocoaErrorDomain Code=4 "“x” couldn’t be removed." UserInfo={...}`
+    [[nodiscard]] std::string description() const override;
+
+private:
+    NSError(std::string_view domain, std::int64_t code, PropertyList::Dictionary userInfo,
+            Ref<NSError> underlyingError);
+
+    std::string domain_;
+    std::int64_t code_;
+    PropertyList::Dictionary userInfo_;
+    Ref<NSError> underlyingError_;
+};
+
+/// The value of an operation that may fail, or why it did.
+template <class T>
+using Result = std::expected<T, Ref<NSError>>;

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+/// The platform's operations on text that the pane and its platforms need. Text is a `std::string` in UTF-8.
+
+/// A copy of a C string; nothing when it is null or not valid UTF-8.
+[[nodiscard]] std::optional<std::string> stringWithUTF8String(const char* text);
+
+/// Whether the bytes are valid UTF-8 (shortest forms only, no surrogates, nothing above U+10FFFF).
+[[nodiscard]] bool isValidUTF8(std::string_view text);
+
+/// The path with one more component, and exactly one "/" between the two. An empty path gives the component.
+/// ("/tmp", "a"), ("/tmp/", "a") and ("/tmp", "/a") all give "/tmp/a".
+[[nodiscard]] std::string stringByAppendingPathComponent(std::string_view path, std::string_view component);
+
+/// What follows the last "/", trailing ones not counted: "b" of "/a/b/", "/" of "/", "" of "".
+[[nodiscard]] std::string lastPathComponent(std::string_view path);
+
+/// What precedes the last component: "/a" of "/a/b", "/" of "/a", "" of "a".
+[[nodiscard]] std::string stringByDeletingLastPathComponent(std::string_view path);
