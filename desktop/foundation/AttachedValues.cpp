@@ -11,7 +11,9 @@ namespace {
 
 std::mutex attachedValuesMutex;
 
-bool isObject(const AttachedValue& value) { return std::holds_alternative<Ref<NSObject>>(value); }
+bool isObject(const AttachedValue& value) {
+    return std::holds_alternative<Ref<NSObject>>(value);
+}
 
 } // namespace
 

@@ -27,7 +27,9 @@ Device::Device(Options options) : options_(std::move(options)), mainQueue_(*opti
     }
 }
 
-Device::~Device() { currentDevice = nullptr; }
+Device::~Device() {
+    currentDevice = nullptr;
+}
 
 Device& Device::current() {
     if (currentDevice == nullptr)

@@ -29,10 +29,15 @@ public:
     [[nodiscard]] static Device& current();
 
     [[nodiscard]] const DeviceRoot& root() const { return options_.root; }
+
     [[nodiscard]] const Clock& clock() const { return *options_.clock; }
+
     [[nodiscard]] const std::string& locale() const { return options_.locale; }
+
     [[nodiscard]] const std::string& timeZone() const { return options_.timeZone; }
+
     [[nodiscard]] const std::string& mainBundlePath() const { return options_.mainBundlePath; }
+
     [[nodiscard]] MainQueueScheduler& mainQueue() { return mainQueue_; }
 
     /// The user's folders, as device paths without a "/" at the end.

@@ -1,15 +1,19 @@
 #include "DeviceRoot.h"
 
-#include <cerrno>
-#include <fcntl.h>
-#include <filesystem>
-#include <linux/openat2.h>
 #include <sys/syscall.h>
+
+#include <fcntl.h>
+#include <linux/openat2.h>
+
+#include <cerrno>
+#include <filesystem>
 #include <system_error>
 #include <utility>
 
-DeviceRoot::DeviceRoot(FileDescriptor folder, std::string hostFolder, Resolution resolution) :
-    folder_(std::move(folder)), hostFolder_(std::move(hostFolder)), resolution_(resolution) {}
+DeviceRoot::DeviceRoot(FileDescriptor folder, std::string hostFolder, Resolution resolution)
+    : folder_(std::move(folder)),
+      hostFolder_(std::move(hostFolder)),
+      resolution_(resolution) {}
 
 std::expected<DeviceRoot, int> DeviceRoot::open(const std::string& hostFolder) {
     return open(hostFolder, Resolution::Kernel);
@@ -24,13 +28,15 @@ std::expected<DeviceRoot, int> DeviceRoot::open(const std::string& hostFolder, R
     return DeviceRoot(std::move(folder), hostFolder, resolution);
 }
 
-std::expected<FileDescriptor, int> DeviceRoot::open(std::string_view devicePath, int flags, mode_t mode) const {
+std::expected<FileDescriptor, int> DeviceRoot::open(std::string_view devicePath, int flags,
+                                                    mode_t mode) const {
     open_how how{};
     how.flags = static_cast<__u64>(flags | O_CLOEXEC);
     how.mode = mode;
     how.resolve = RESOLVE_IN_ROOT;
     const std::string path(devicePath);
-    FileDescriptor file(static_cast<int>(syscall(SYS_openat2, folder_.get(), path.c_str(), &how, sizeof how)));
+    FileDescriptor file(
+        static_cast<int>(syscall(SYS_openat2, folder_.get(), path.c_str(), &how, sizeof how)));
     if (!file)
         return std::unexpected(errno);
     return file;
@@ -49,5 +55,5 @@ std::expected<DeviceRoot::Place, int> DeviceRoot::locate(std::string_view device
     auto folder = open(parent.empty() ? "/" : parent, O_PATH | O_DIRECTORY);
     if (!folder)
         return std::unexpected(folder.error());
-    return Place{std::move(*folder), std::string(name)};
+    return Place{.folder = std::move(*folder), .name = std::string(name)};
 }

@@ -2,14 +2,15 @@
 
 #include "FileDescriptor.h"
 
+#include <sys/types.h>
+
 #include <expected>
 #include <string>
 #include <string_view>
-#include <sys/types.h>
 
-/// A folder of the host that stands for the device's file system. Every device path is resolved inside it: "/"
-/// is the folder itself, "..", absolute links and chains of links stay within, also while somebody changes the
-/// tree. Failures are host error numbers (`ENOENT`, ...). Any thread.
+/// A folder of the host that stands for the device's file system. Every device path is resolved inside it:
+/// "/" is the folder itself, "..", absolute links and chains of links stay within, also while somebody
+/// changes the tree. Failures are host error numbers (`ENOENT`, ...). Any thread.
 class DeviceRoot {
 public:
     /// How paths are resolved: by the kernel (openat2), or component by component where the kernel cannot.
@@ -19,7 +20,8 @@ public:
     [[nodiscard]] static std::expected<DeviceRoot, int> open(const std::string& hostFolder);
 
     /// The same with a chosen way of resolving.
-    [[nodiscard]] static std::expected<DeviceRoot, int> open(const std::string& hostFolder, Resolution resolution);
+    [[nodiscard]] static std::expected<DeviceRoot, int> open(const std::string& hostFolder,
+                                                             Resolution resolution);
 
     /// A thing's place: the folder that holds it, and its name there, which is not resolved any further. For
     /// the root itself, and for paths that end in "." or "..", the folder itself and ".".

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <unistd.h>
+
 #include <utility>
 
 /// Owns one open file descriptor of the host, or none (-1).

@@ -2,10 +2,11 @@
 
 #include "Foundation/NSLog.h"
 
+#include <syslog.h>
+
 #include <algorithm>
 #include <cstdio>
 #include <mutex>
-#include <syslog.h>
 #include <utility>
 
 namespace {

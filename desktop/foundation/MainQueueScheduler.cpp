@@ -5,7 +5,8 @@
 void MainQueueScheduler::after(std::chrono::nanoseconds delay, std::function<void()> block) {
     const auto wait = std::max(delay, std::chrono::nanoseconds::zero());
     const auto now = clock_.uptime();
-    const auto due = wait > std::chrono::nanoseconds::max() - now ? std::chrono::nanoseconds::max() : now + wait;
+    const auto due =
+        wait > std::chrono::nanoseconds::max() - now ? std::chrono::nanoseconds::max() : now + wait;
     blocks_.emplace(DueTime(due, queued_++), std::move(block));
 }
 

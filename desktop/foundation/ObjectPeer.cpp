@@ -13,7 +13,9 @@ NSObject::~NSObject() {
     peer_->releaseWeak();
 }
 
-void ObjectPeer::retain() noexcept { strongCount.fetch_add(1, std::memory_order_relaxed); }
+void ObjectPeer::retain() noexcept {
+    strongCount.fetch_add(1, std::memory_order_relaxed);
+}
 
 void ObjectPeer::release() noexcept {
     if (strongCount.fetch_sub(1, std::memory_order_acq_rel) != 1)
@@ -36,13 +38,19 @@ void ObjectPeer::releaseWeak() noexcept {
         delete this;
 }
 
-void retainObject(NSObject& object) noexcept { ObjectPeer::of(object).retain(); }
+void retainObject(NSObject& object) noexcept {
+    ObjectPeer::of(object).retain();
+}
 
-void releaseObject(NSObject& object) noexcept { ObjectPeer::of(object).release(); }
+void releaseObject(NSObject& object) noexcept {
+    ObjectPeer::of(object).release();
+}
 
 namespace {
 
-ObjectPeer* peerIn(const WeakSlot& slot) { return static_cast<ObjectPeer*>(slot.reference); }
+ObjectPeer* peerIn(const WeakSlot& slot) {
+    return static_cast<ObjectPeer*>(slot.reference);
+}
 
 void fill(WeakSlot& slot, ObjectPeer* peer) {
     if (peer != nullptr)
@@ -61,9 +69,13 @@ NSObject* loadWeakSlotRetained(const WeakSlot& slot) noexcept {
     return peer != nullptr && peer->retainIfAlive() ? peer->object : nullptr;
 }
 
-void copyWeakSlot(WeakSlot& to, const WeakSlot& from) noexcept { fill(to, peerIn(from)); }
+void copyWeakSlot(WeakSlot& to, const WeakSlot& from) noexcept {
+    fill(to, peerIn(from));
+}
 
-void moveWeakSlot(WeakSlot& to, WeakSlot& from) noexcept { to.reference = std::exchange(from.reference, nullptr); }
+void moveWeakSlot(WeakSlot& to, WeakSlot& from) noexcept {
+    to.reference = std::exchange(from.reference, nullptr);
+}
 
 void destroyWeakSlot(WeakSlot& slot) noexcept {
     if (auto* const peer = peerIn(slot))

@@ -21,6 +21,7 @@ struct ObjectPeer {
     [[nodiscard]] bool retainIfAlive() noexcept;
 
     void retainWeak() noexcept { weakCount.fetch_add(1, std::memory_order_relaxed); }
+
     void releaseWeak() noexcept;
 
     NSObject* const object;

@@ -1,6 +1,8 @@
 #include "RealClock.h"
 
-std::chrono::nanoseconds RealClock::uptime() const { return std::chrono::steady_clock::now().time_since_epoch(); }
+std::chrono::nanoseconds RealClock::uptime() const {
+    return std::chrono::steady_clock::now().time_since_epoch();
+}
 
 NSDate RealClock::date() const {
     const std::chrono::duration<double> seconds = std::chrono::system_clock::now().time_since_epoch();

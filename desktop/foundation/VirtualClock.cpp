@@ -2,7 +2,9 @@
 
 #include <algorithm>
 
-void VirtualClock::moveTo(std::chrono::nanoseconds uptime) { uptime_ = std::max(uptime_, uptime); }
+void VirtualClock::moveTo(std::chrono::nanoseconds uptime) {
+    uptime_ = std::max(uptime_, uptime);
+}
 
 NSDate VirtualClock::date() const {
     return {start_.timeIntervalSinceReferenceDate + std::chrono::duration<double>(uptime_).count()};

@@ -12,6 +12,7 @@ public:
 
     // Clock:
     [[nodiscard]] std::chrono::nanoseconds uptime() const override { return uptime_; }
+
     [[nodiscard]] NSDate date() const override;
 
 private:

@@ -37,15 +37,25 @@ constexpr CGRect CGRectMake(double x, double y, double width, double height) {
 }
 
 /// Whether a rectangle has no area.
-constexpr bool CGRectIsEmpty(const CGRect& rect) { return rect.size.width <= 0 || rect.size.height <= 0; }
+constexpr bool CGRectIsEmpty(const CGRect& rect) {
+    return rect.size.width <= 0 || rect.size.height <= 0;
+}
 
-constexpr double CGRectGetMidX(const CGRect& rect) { return rect.origin.x + rect.size.width / 2; }
+constexpr double CGRectGetMidX(const CGRect& rect) {
+    return rect.origin.x + rect.size.width / 2;
+}
 
-constexpr double CGRectGetMidY(const CGRect& rect) { return rect.origin.y + rect.size.height / 2; }
+constexpr double CGRectGetMidY(const CGRect& rect) {
+    return rect.origin.y + rect.size.height / 2;
+}
 
-constexpr double CGRectGetMaxX(const CGRect& rect) { return rect.origin.x + rect.size.width; }
+constexpr double CGRectGetMaxX(const CGRect& rect) {
+    return rect.origin.x + rect.size.width;
+}
 
-constexpr double CGRectGetMaxY(const CGRect& rect) { return rect.origin.y + rect.size.height; }
+constexpr double CGRectGetMaxY(const CGRect& rect) {
+    return rect.origin.y + rect.size.height;
+}
 
 /// The left and top edges are inside, the right and bottom ones are not.
 constexpr bool CGRectContainsPoint(const CGRect& rect, CGPoint point) {

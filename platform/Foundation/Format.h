@@ -17,14 +17,18 @@
 inline constexpr std::string_view absentValueText = "(null)";
 
 /// The text that "%@" prints for a value: a text as it is, anything else by its `description`.
-inline std::string formatted(std::string_view text) { return std::string(text); }
+inline std::string formatted(std::string_view text) {
+    return std::string(text);
+}
 
 template <std::same_as<PropertyList> T> // and nothing that converts to one
 std::string formatted(const T& value) {
     return value.description();
 }
 
-inline std::string formatted(const NSDate& date) { return date.description(); }
+inline std::string formatted(const NSDate& date) {
+    return date.description();
+}
 
 template <std::derived_from<NSObject> T>
 std::string formatted(const Ref<T>& object) {
@@ -37,7 +41,8 @@ std::string formatted(const std::optional<T>& value) {
 }
 
 /// Replaces each "%@" by the argument in its place and "%%" by "%".
-[[nodiscard]] std::string replacePlaceholders(std::string_view format, std::span<const std::string> arguments);
+[[nodiscard]] std::string replacePlaceholders(std::string_view format,
+                                              std::span<const std::string> arguments);
 
 /// Answers how many "%@" a format holds, or nothing when it holds any other conversion.
 [[nodiscard]] constexpr std::optional<std::size_t> placeholderCount(std::string_view format) {
@@ -45,14 +50,17 @@ std::string formatted(const std::optional<T>& value) {
     for (std::size_t i = 0; i < format.size(); ++i) {
         if (format[i] != '%')
             continue;
-        if (++i == format.size() || (format[i] != '@' && format[i] != '%'))
+        const auto conversion = format.substr(i + 1, 1);
+        if (conversion != "@" && conversion != "%")
             return std::nullopt;
-        count += format[i] == '@' ? 1U : 0U;
+        count += conversion == "@" ? 1U : 0U;
+        ++i;
     }
     return count;
 }
 
-/// A format for exactly these arguments. A literal with another number of "%@", or with any conversion besides
+/// A format for exactly these arguments. A literal with another number of "%@", or with any conversion
+/// besides
 /// "%@" and "%%", does not compile.
 template <class... Arguments>
 class FormatString {

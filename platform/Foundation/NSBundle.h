@@ -20,6 +20,7 @@ public:
     /// Looks a text up in a string table, in the first of the user's languages that the bundle has.
     /// \param value the answer when the table or the key is missing; the key itself when this is absent or ""
     /// \param table the table's name; "Localizable" when it is absent or ""
-    [[nodiscard]] virtual std::string localizedStringForKey(std::string_view key, std::optional<std::string> value,
+    [[nodiscard]] virtual std::string localizedStringForKey(std::string_view key,
+                                                            std::optional<std::string> value,
                                                             std::optional<std::string> table) const = 0;
 };

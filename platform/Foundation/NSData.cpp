@@ -31,7 +31,9 @@ NSData NSData::dataWithBytes(std::string_view text) {
     return data;
 }
 
-std::string_view NSData::view() const { return {reinterpret_cast<const char*>(bytes.data()), bytes.size()}; }
+std::string_view NSData::view() const {
+    return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
+}
 
 std::string NSData::description() const {
     std::string text = "{length = " + std::to_string(bytes.size()) + ", bytes = 0x";

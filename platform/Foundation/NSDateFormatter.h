@@ -9,8 +9,8 @@
 /// How much of a date, or of a time, to show. The numbers are the platform's.
 enum class NSDateFormatterStyle : unsigned { None = 0, Short = 1 };
 
-/// Turns moments into text in the device's locale, calendar and time zone, which are taken anew for each text.
-/// New formatters have no style and no pattern and answer "".
+/// Turns moments into text in the device's locale, calendar and time zone, which are taken anew for each
+/// text. New formatters have no style and no pattern and answer "".
 class NSDateFormatter : public NSObject {
 public:
     [[nodiscard]] static Ref<NSDateFormatter> dateFormatter();

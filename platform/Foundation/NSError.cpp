@@ -10,14 +10,17 @@ const Class classObject = Class::define<NSError>("NSError");
 
 } // namespace
 
-Ref<NSError> NSError::errorWithDomain(std::string_view domain, std::int64_t code, PropertyList::Dictionary userInfo,
-                                      Ref<NSError> underlyingError) {
+Ref<NSError> NSError::errorWithDomain(std::string_view domain, std::int64_t code,
+                                      PropertyList::Dictionary userInfo, Ref<NSError> underlyingError) {
     return adopt(new NSError(domain, code, std::move(userInfo), std::move(underlyingError)));
 }
 
 NSError::NSError(std::string_view domain, std::int64_t code, PropertyList::Dictionary userInfo,
-                 Ref<NSError> underlyingError) :
-    domain_(domain), code_(code), userInfo_(std::move(userInfo)), underlyingError_(std::move(underlyingError)) {}
+                 Ref<NSError> underlyingError)
+    : domain_(domain),
+      code_(code),
+      userInfo_(std::move(userInfo)),
+      underlyingError_(std::move(underlyingError)) {}
 
 std::string NSError::localizedDescription() const {
     const auto found = userInfo_.find(NSLocalizedDescriptionKey);
@@ -39,6 +42,6 @@ std::string NSError::description() const {
     }
     if (underlyingError_)
         add("NSUnderlyingError", "{" + underlyingError_->description() + "}");
-    return "Error Domain=" + domain_ + " Code=" + std::to_string(code_) + " \"" + localizedDescription() + "\"" +
-           (info.empty() ? "" : " UserInfo={" + info + "}");
+    return "Error Domain=" + domain_ + " Code=" + std::to_string(code_) + " \"" + localizedDescription() +
+           "\"" + (info.empty() ? "" : " UserInfo={" + info + "}");
 }

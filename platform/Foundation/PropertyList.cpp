@@ -28,8 +28,8 @@ std::string describeReal(double value) {
 /// A text inside a collection: as it is when it is a plain word, else in quotes.
 std::string quoted(const std::string& text) {
     const bool isPlain = !text.empty() && std::ranges::all_of(text, [](char character) {
-        return std::isalnum(static_cast<unsigned char>(character)) != 0 || character == '_' || character == '/' ||
-               character == '.' || character == '$' || character == ':';
+        return std::isalnum(static_cast<unsigned char>(character)) != 0 || character == '_' ||
+               character == '/' || character == '.' || character == '$' || character == ':';
     });
     if (isPlain)
         return text;
@@ -47,9 +47,11 @@ std::string quoted(const std::string& text) {
 
 std::string describe(const PropertyList& value, std::size_t indentation);
 
+// As on the platform, a collection's opening bracket is indented too, also when it follows a key.
+
 std::string describe(const PropertyList::Array& array, std::size_t indentation) {
     const std::string inner(indentation + indentationStep, ' ');
-    std::string text = "(\n";
+    std::string text = std::string(indentation, ' ') + "(\n";
     for (std::size_t i = 0; i < array.size(); ++i) {
         text += inner + describe(array[i], indentation + indentationStep);
         text += i + 1 < array.size() ? ",\n" : "\n";
@@ -59,7 +61,7 @@ std::string describe(const PropertyList::Array& array, std::size_t indentation) 
 
 std::string describe(const PropertyList::Dictionary& dictionary, std::size_t indentation) {
     const std::string inner(indentation + indentationStep, ' ');
-    std::string text = "{\n";
+    std::string text = std::string(indentation, ' ') + "{\n";
     for (const auto& [key, value] : dictionary)
         text += inner + quoted(key) + " = " + describe(value, indentation + indentationStep) + ";\n";
     return text + std::string(indentation, ' ') + "}";

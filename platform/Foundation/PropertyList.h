@@ -15,8 +15,8 @@
 #include <vector>
 
 /// One value of a property list, and with that of a preference or a row's property: a boolean, an integer, a
-/// real, a text, data, a date, an array or a dictionary. "No value" is not one: a value that may be absent is a
-/// `std::optional<PropertyList>`.
+/// real, a text, data, a date, an array or a dictionary. "No value" is not one: a value that may be absent is
+/// a `std::optional<PropertyList>`.
 ///
 /// Values compare equal when they are of the same kind and hold the same: `true`, `1` and `1.0` all differ.
 class PropertyList {
@@ -89,5 +89,6 @@ public:
     friend bool operator==(const PropertyList&, const PropertyList&) = default;
 
 private:
-    std::variant<bool, std::int64_t, std::uint64_t, double, std::string, NSData, NSDate, Array, Dictionary> value_;
+    std::variant<bool, std::int64_t, std::uint64_t, double, std::string, NSData, NSDate, Array, Dictionary>
+        value_;
 };

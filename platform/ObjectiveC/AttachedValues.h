@@ -19,9 +19,9 @@ enum class Retention : int {
     Retain = 01401,       ///< keeps the object alive; may be read and replaced from any thread
 };
 
-/// Attaches `value` to `owner` under `key`, in place of what was there; `std::monostate` only takes that away.
-/// The old value is released after the new one is in place. What is still attached is released at the end of
-/// the owner, after its destructors. An object with `CopyNonatomic` is refused with a log line.
+/// Attaches `value` to `owner` under `key`, in place of what was there; `std::monostate` only takes that
+/// away. The old value is released after the new one is in place. What is still attached is released at the
+/// end of the owner, after its destructors. An object with `CopyNonatomic` is refused with a log line.
 void setAttachedValue(NSObject& owner, std::string_view key, AttachedValue value, Retention retention);
 
 /// What is attached to `owner` under `key`, or `std::monostate`.

@@ -6,14 +6,20 @@
 #include <algorithm>
 
 Class::Class(std::string_view name, const char* type, const char* baseType, Constructor construct,
-             InstanceTest isInstance, std::initializer_list<Method> methods) :
-    name_(name), type_(type), baseType_(baseType), construct_(construct), isInstance_(isInstance),
-    methods_(methods) {
+             InstanceTest isInstance, std::initializer_list<Method> methods)
+    : name_(name),
+      type_(type),
+      baseType_(baseType),
+      construct_(construct),
+      isInstance_(isInstance),
+      methods_(methods) {
     if (!ClassTable::shared().add(*this))
         NSLog("Class %@ is stated twice; the second is refused.", name_);
 }
 
-Class::~Class() { ClassTable::shared().remove(*this); }
+Class::~Class() {
+    ClassTable::shared().remove(*this);
+}
 
 const Class* Class::superclass() const {
     return baseType_ != type_ ? ClassTable::shared().ofType(baseType_) : nullptr;
@@ -42,4 +48,6 @@ Ref<NSObject> Class::create() const {
     return object->init() ? object : nullptr;
 }
 
-const Class* NSClassFromString(std::string_view name) { return ClassTable::shared().named(name); }
+const Class* NSClassFromString(std::string_view name) {
+    return ClassTable::shared().named(name);
+}

@@ -11,8 +11,8 @@
 #include <typeinfo>
 #include <vector>
 
-/// One class of the class table: what a framework needs to create an object by name and to send it messages by
-/// selector. On the device the table's classes are published as Objective-C classes.
+/// One class of the class table: what a framework needs to create an object by name and to send it messages
+/// by selector. On the device the table's classes are published as Objective-C classes.
 ///
 /// A class is stated once, as a constant beside its definition, and is in the table for as long as that
 /// constant lives: from the load of the code that holds it to its unload.
@@ -24,14 +24,15 @@
 class Class {
 public:
     /// \tparam T the class stated; \tparam Base the nearest of its bases that is in the table too
-    /// \param name the runtime name. A name or a C++ class that the table already holds is refused: the refusal
+    /// \param name the runtime name. A name or a C++ class that the table already holds is refused: the
+    /// refusal
     ///     is logged with the name, the earlier class stays, and this one is never found.
     /// \param methods the selectors that `T` adds to those of `Base`
     template <std::derived_from<NSObject> T, std::derived_from<NSObject> Base = NSObject>
         requires std::derived_from<T, Base>
     [[nodiscard]] static Class define(std::string_view name, std::initializer_list<Method> methods = {}) {
-        return Class(name, typeid(T).name(), typeid(Base).name(), constructorOf<T>(),
-                     &isInstanceOf<T>, methods);
+        return Class(name, typeid(T).name(), typeid(Base).name(), constructorOf<T>(), &isInstanceOf<T>,
+                     methods);
     }
 
     ~Class();

@@ -34,6 +34,7 @@ struct Method {
 /// A selector's text as a template argument.
 template <std::size_t size>
 struct SelectorText {
+    // NOLINTNEXTLINE(*-avoid-c-arrays): that is what a literal is
     consteval SelectorText(const char (&literal)[size]) { std::copy_n(literal, size, text.begin()); }
 
     [[nodiscard]] consteval std::size_t parameterCount() const {
@@ -148,7 +149,7 @@ struct MemberCall {
 private:
     template <std::size_t... index>
     static MessageValue invokeWith(T& receiver, [[maybe_unused]] std::span<const MessageValue> arguments,
-                                   std::index_sequence<index...>) {
+                                   std::index_sequence<index...> /*which*/) {
         if constexpr (std::is_void_v<Result>) {
             (receiver.*member)(argumentAt<Parameters>(arguments, index)...);
             return {};
@@ -173,7 +174,8 @@ template <auto member, class T, class Result, class... Parameters>
 struct MemberCallOf<member, Result (T::*)(Parameters...)> : MemberCall<member, T, Result, Parameters...> {};
 
 template <auto member, class T, class Result, class... Parameters>
-struct MemberCallOf<member, Result (T::*)(Parameters...) const> : MemberCall<member, T, Result, Parameters...> {};
+struct MemberCallOf<member, Result (T::*)(Parameters...) const>
+    : MemberCall<member, T, Result, Parameters...> {};
 
 /// The method behind a selector: `method<"switchChanged:", &cxRootListController::switchChanged>()`.
 /// Does not compile when the selector's colons and the function's parameters differ in number.

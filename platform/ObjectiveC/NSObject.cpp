@@ -14,7 +14,9 @@ const Class classObject = Class::define<NSObject>("NSObject");
 
 } // namespace
 
-bool NSObject::init() { return true; }
+bool NSObject::init() {
+    return true;
+}
 
 std::string NSObject::description() const {
     std::array<char, 32> address{};
@@ -22,7 +24,9 @@ std::string NSObject::description() const {
     return "<" + isa().name() + ": " + address.data() + ">";
 }
 
-const Class& NSObject::isa() const { return ClassTable::shared().ofInstance(*this); }
+const Class& NSObject::isa() const {
+    return ClassTable::shared().ofInstance(*this);
+}
 
 bool NSObject::respondsToSelector(std::string_view selector) const {
     return isa().instanceMethod(selector) != nullptr;

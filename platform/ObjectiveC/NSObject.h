@@ -41,7 +41,8 @@ public:
     /// missing ones, and ones of another kind than the method's, arrive as null, false or 0.
     /// A selector that the object does not respond to is logged and answered with nothing.
     /// \returns the method's result; nothing (`std::monostate`) for a method without one
-    MessageValue performSelector(std::string_view selector, std::initializer_list<MessageValue> arguments = {});
+    MessageValue performSelector(std::string_view selector,
+                                 std::initializer_list<MessageValue> arguments = {});
 
 protected:
     NSObject();

@@ -20,6 +20,7 @@ template <class T>
 class [[nodiscard]] Ref {
 public:
     constexpr Ref() noexcept = default;
+
     constexpr Ref(std::nullptr_t) noexcept {}
 
     Ref(const Ref& other) noexcept : object_(other.object_) { retainHeld(); }
@@ -55,10 +56,13 @@ public:
         return *this;
     }
 
-    T* get() const noexcept { return object_; }
-    T* operator->() const noexcept { return object_; }
-    T& operator*() const noexcept { return *object_; }
-    explicit operator bool() const noexcept { return object_ != nullptr; }
+    [[nodiscard]] T* get() const noexcept { return object_; }
+
+    [[nodiscard]] T* operator->() const noexcept { return object_; }
+
+    [[nodiscard]] T& operator*() const noexcept { return *object_; }
+
+    [[nodiscard]] explicit operator bool() const noexcept { return object_ != nullptr; }
 
     void swap(Ref& other) noexcept { std::swap(object_, other.object_); }
 

@@ -54,7 +54,9 @@ public:
     }
 
     /// The object, kept alive for as long as the result is held; empty once the object is gone.
-    Ref<T> strong() const noexcept { return adopt(static_cast<T*>(loadWeakSlotRetained(slot_))); }
+    [[nodiscard]] Ref<T> strong() const noexcept {
+        return adopt(static_cast<T*>(loadWeakSlotRetained(slot_)));
+    }
 
 private:
     WeakSlot slot_;

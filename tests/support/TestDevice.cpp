@@ -1,9 +1,10 @@
 #include "TestDevice.h"
 
+#include <gtest/gtest.h>
+
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <gtest/gtest.h>
 #include <iterator>
 #include <memory>
 #include <utility>
@@ -12,7 +13,8 @@ namespace {
 
 constexpr NSDate start = NSDate::dateWithTimeIntervalSince1970(1794798720); // 2026-11-16 03:12:00 UTC
 
-Device::Options optionsFor(const TestDevice::Settings& settings, const std::string& folder, VirtualClock*& clock) {
+Device::Options optionsFor(const TestDevice::Settings& settings, const std::string& folder,
+                           VirtualClock*& clock) {
     auto root = DeviceRoot::open(folder, settings.resolution);
     if (!root)
         std::abort();

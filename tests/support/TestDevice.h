@@ -31,9 +31,11 @@ public:
     };
 
     TestDevice() : TestDevice(Settings()) {}
+
     explicit TestDevice(const Settings& settings);
 
     [[nodiscard]] VirtualClock& clock() { return *clock_; }
+
     [[nodiscard]] LogRecorder& log() { return log_; }
 
     /// Where a device path is on the host, for looking at the device from outside. No link is followed.

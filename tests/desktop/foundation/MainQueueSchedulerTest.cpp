@@ -1,6 +1,7 @@
 #include "MainQueueScheduler.h"
 
 #include <gtest/gtest.h>
+
 #include <string>
 
 using namespace std::chrono_literals;

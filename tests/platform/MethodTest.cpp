@@ -1,0 +1,97 @@
+#include "ObjectiveC/Method.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <string>
+#include <vector>
+
+namespace {
+
+class Receiver : public NSObject {
+public:
+    bool flag(bool value) { return !value; }
+
+    long count(long value) { return value + 1; }
+
+    double size(double value) const { return value * 2; }
+
+    std::optional<std::string> name(const std::optional<std::string>& value) { return value; }
+
+    std::optional<PropertyList> value(std::optional<PropertyList> value) { return value; }
+
+    Ref<Receiver> self(const Ref<Receiver>& value) { return value; }
+
+    void store(const std::optional<PropertyList>& value, const Ref<NSObject>& owner) {
+        stored = value.has_value() && owner != nullptr;
+    }
+
+    bool stored = false;
+};
+
+class Stranger : public NSObject {};
+
+constexpr Method flag = method<"flag:", &Receiver::flag>();
+constexpr Method count = method<"count:", &Receiver::count>();
+constexpr Method size = method<"size:", &Receiver::size>();
+constexpr Method name = method<"name:", &Receiver::name>();
+constexpr Method value = method<"value:", &Receiver::value>();
+constexpr Method self = method<"self:", &Receiver::self>();
+constexpr Method store = method<"store:owner:", &Receiver::store>();
+
+class MethodTest : public testing::Test {
+protected:
+    MessageValue call(const Method& method, std::vector<MessageValue> arguments) {
+        return method.invoke(*receiver, arguments);
+    }
+
+    static MessageValue list(PropertyList held) { return held; }
+
+    Ref<Receiver> receiver = make<Receiver>();
+    MessageValue nothing;
+};
+
+} // namespace
+
+TEST_F(MethodTest, TellsItsSelectorAndTypes) {
+    EXPECT_EQ(store.selector, "store:owner:");
+    EXPECT_EQ(store.result, MessageType::Nothing);
+    EXPECT_EQ(std::vector(store.parameters.begin(), store.parameters.end()),
+              (std::vector{MessageType::Value, MessageType::Object}));
+    EXPECT_EQ(flag.result, MessageType::Boolean);
+    EXPECT_EQ(count.result, MessageType::Integer);
+    EXPECT_EQ(size.result, MessageType::Real);
+    EXPECT_EQ(name.result, MessageType::Text);
+    EXPECT_EQ(value.result, MessageType::Value);
+    EXPECT_EQ(self.result, MessageType::Object);
+}
+
+TEST_F(MethodTest, CarriesEveryKindOfValueBothWays) {
+    EXPECT_EQ(call(flag, {list(true)}), list(false));
+    EXPECT_EQ(call(count, {list(41)}), list(42));
+    EXPECT_EQ(call(size, {list(1.5)}), list(3.0));
+    EXPECT_EQ(call(name, {list("Töne")}), list("Töne"));
+    EXPECT_EQ(call(value, {list(PropertyList::Array{1, "two"})}), list(PropertyList::Array{1, "two"}));
+    EXPECT_EQ(call(self, {Ref<NSObject>(receiver)}), MessageValue(Ref<NSObject>(receiver)));
+}
+
+TEST_F(MethodTest, AbsentTextValuesAndObjectsStayAbsent) {
+    EXPECT_EQ(call(name, {nothing}), nothing);
+    EXPECT_EQ(call(value, {nothing}), nothing);
+    EXPECT_EQ(call(self, {nothing}), nothing);
+}
+
+TEST_F(MethodTest, AnArgumentOfAnotherKindArrivesAsNullFalseOrZero) {
+    const MessageValue stranger = Ref<NSObject>(make<Stranger>());
+    EXPECT_EQ(call(flag, {stranger}), list(true));
+    EXPECT_EQ(call(count, {stranger}), list(1));
+    EXPECT_EQ(call(size, {list("wide")}), list(0.0));
+    EXPECT_EQ(call(name, {list(5)}), nothing);
+    EXPECT_EQ(call(self, {stranger}), nothing);
+    EXPECT_EQ(call(self, {list("text")}), nothing);
+}
+
+TEST_F(MethodTest, TakesSeveralArgumentsInOrder) {
+    EXPECT_EQ(call(store, {list(1), Ref<NSObject>(receiver)}), nothing);
+    EXPECT_TRUE(receiver->stored);
+}

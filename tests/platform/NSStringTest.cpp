@@ -1,0 +1,59 @@
+#include "Foundation/NSString.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+TEST(NSString, ACStringOfValidUTF8IsCopied) {
+    EXPECT_EQ(stringWithUTF8String("Grüße 🎨"), "Grüße 🎨");
+    EXPECT_EQ(stringWithUTF8String(""), "");
+}
+
+TEST(NSString, ANullOrInvalidCStringIsNoText) {
+    EXPECT_EQ(stringWithUTF8String(nullptr), std::nullopt);
+    EXPECT_EQ(stringWithUTF8String("\xff"), std::nullopt);
+}
+
+TEST(NSString, ValidUTF8IsTheShortestFormOfEachCharacter) {
+    for (const auto* const text : {"\x7f", "\xc2\x80", "\xdf\xbf", "\xe0\xa0\x80", "\xed\x9f\xbf",
+                                   "\xee\x80\x80", "\xef\xbf\xbf", "\xf0\x90\x80\x80", "\xf4\x8f\xbf\xbf"})
+        EXPECT_TRUE(isValidUTF8(text)) << testing::PrintToString(text);
+    EXPECT_TRUE(isValidUTF8(std::string_view("a\0b", 3)));
+}
+
+TEST(NSString, OverlongCutShortSurrogateAndTooLargeSequencesAreInvalid) {
+    for (const auto* const text : {"\x80", "\xbf", "\xc0\x80", "\xc1\xbf", "\xc2", "\xc2\x41", "\xe0\x9f\xbf",
+                                   "\xe1\x80", "\xed\xa0\x80", "\xed\xbf\xbf", "\xf0\x8f\xbf\xbf",
+                                   "\xf1\x80\x80", "\xf4\x90\x80\x80", "\xf5\x80\x80\x80", "a\xfe"})
+        EXPECT_FALSE(isValidUTF8(text)) << testing::PrintToString(text);
+}
+
+TEST(NSString, AppendsAPathComponentWithOneSlash) {
+    EXPECT_EQ(stringByAppendingPathComponent("/tmp", "a"), "/tmp/a");
+    EXPECT_EQ(stringByAppendingPathComponent("/tmp/", "a"), "/tmp/a");
+    EXPECT_EQ(stringByAppendingPathComponent("/tmp//", "//a"), "/tmp/a");
+    EXPECT_EQ(stringByAppendingPathComponent("/", "a"), "/a");
+    EXPECT_EQ(stringByAppendingPathComponent("", "a"), "a");
+    EXPECT_EQ(stringByAppendingPathComponent("/tmp", "a/b/"), "/tmp/a/b");
+    EXPECT_EQ(stringByAppendingPathComponent("/tmp/", ""), "/tmp");
+    EXPECT_EQ(stringByAppendingPathComponent("/tmp", ".."), "/tmp/..");
+}
+
+TEST(NSString, TheLastPathComponentIsWhatFollowsTheLastSlash) {
+    EXPECT_EQ(lastPathComponent("/a/b"), "b");
+    EXPECT_EQ(lastPathComponent("/a/b/"), "b");
+    EXPECT_EQ(lastPathComponent("b"), "b");
+    EXPECT_EQ(lastPathComponent("/"), "/");
+    EXPECT_EQ(lastPathComponent("//"), "/");
+    EXPECT_EQ(lastPathComponent(""), "");
+}
+
+TEST(NSString, DeletingTheLastPathComponentLeavesTheFolder) {
+    EXPECT_EQ(stringByDeletingLastPathComponent("/a/b"), "/a");
+    EXPECT_EQ(stringByDeletingLastPathComponent("/a//b/"), "/a");
+    EXPECT_EQ(stringByDeletingLastPathComponent("/a"), "/");
+    EXPECT_EQ(stringByDeletingLastPathComponent("/"), "/");
+    EXPECT_EQ(stringByDeletingLastPathComponent("a"), "");
+    EXPECT_EQ(stringByDeletingLastPathComponent("a/b"), "a");
+    EXPECT_EQ(stringByDeletingLastPathComponent(""), "");
+}
