@@ -106,7 +106,7 @@ TEST_F(WeakTest, WatchesAnotherObjectAfterAssignment) {
 }
 
 TEST_F(WeakTest, ReadingWhileTheLastOwnerLeavesOnAnotherThreadGivesTheObjectOrNull) {
-    for (int round = 0; round < 2000; ++round) {
+    for (int round = 0; round < 200; ++round) {
         auto owner = make<LoggedObject>("a", journal);
         const Weak<LoggedObject> weak(owner);
         std::atomic<bool> begun = false;

@@ -1,0 +1,105 @@
+"""Each rule of tools/check-tree, kept and broken in small trees made for it."""
+
+import json
+import subprocess
+import sys
+import tempfile
+import unittest
+from pathlib import Path
+
+CHECK_TREE = Path(__file__).resolve().parents[2] / "tools" / "check-tree"
+
+
+class CheckTreeTest(unittest.TestCase):
+    def setUp(self):
+        self.folder = tempfile.TemporaryDirectory()
+        self.root = Path(self.folder.name)
+        self.built = []
+        for folder in ["platform", "core", "backup", "desktop", "tests"]:
+            (self.root / folder).mkdir()
+
+    def tearDown(self):
+        self.folder.cleanup()
+
+    def write(self, path, content="", built=True):
+        target = self.root / path
+        target.parent.mkdir(parents=True, exist_ok=True)
+        target.write_text(content)
+        if built and target.suffix == ".cpp":
+            self.built.append({"directory": str(self.root), "file": path})
+
+    def check(self):
+        commands = self.root / "compile_commands.json"
+        commands.write_text(json.dumps(self.built))
+        done = subprocess.run(
+            [sys.executable, CHECK_TREE, self.root, commands], capture_output=True, text=True, check=False
+        )
+        self.assertEqual(done.returncode, 1 if done.stdout else 0, done.stderr)
+        return done.stdout.splitlines()
+
+    def test_a_tree_that_keeps_the_rules_passes(self):
+        self.write("platform/Foundation/NSLog.h", "#include <string>\n")
+        self.write("core/Store.h", '#include "Foundation/NSLog.h"\n')
+        self.write("core/Store.cpp", '#include "Store.h"\n// catch, throw, try: only words\n')
+        self.write("backup/LibArchive.cpp", "#include <archive.h>\n")
+        self.write("README.md", "[the license](LICENSE)\n")
+        self.write("LICENSE")
+        self.assertEqual(self.check(), [])
+
+    def test_a_test_file_that_is_not_built_is_named(self):
+        self.write("tests/core/StoreTest.cpp", built=False)
+        self.assertEqual(self.check(), ["tests/core/StoreTest.cpp:1: is not in the build"])
+
+    def test_a_pane_folder_may_not_include_the_desktop(self):
+        self.write("desktop/foundation/Device.h")
+        self.write("core/Store.cpp", "\n" + '#include "Device.h"\n')
+        self.assertEqual(self.check(), ["core/Store.cpp:2: core/ may not include Device.h"])
+
+    def test_a_pane_folder_may_not_reach_around_by_a_relative_path(self):
+        self.write("desktop/foundation/Device.h")
+        self.write("core/Store.cpp", '#include "../desktop/foundation/Device.h"\n')
+        self.assertEqual(
+            self.check(), ["core/Store.cpp:1: core/ may not include ../desktop/foundation/Device.h"]
+        )
+
+    def test_the_core_may_not_include_the_backup(self):
+        self.write("backup/Codec.h")
+        self.write("core/Store.cpp", '#include "Codec.h"\n')
+        self.assertEqual(self.check(), ["core/Store.cpp:1: core/ may not include Codec.h"])
+
+    def test_the_contract_includes_the_standard_library_only(self):
+        self.write("platform/Foundation/NSLog.h", "#include <syslog.h>\n")
+        self.assertEqual(self.check(), ["platform/Foundation/NSLog.h:1: platform/ may not include syslog.h"])
+
+    def test_only_the_codec_includes_the_archive_library(self):
+        self.write("backup/Restore.cpp", "#include <archive.h>\n")
+        self.assertEqual(self.check(), ["backup/Restore.cpp:1: backup/ may not include archive.h"])
+
+    def test_the_pane_has_no_platform_switch(self):
+        self.write("core/Store.cpp", "#ifdef __APPLE__\n#endif\n")
+        self.assertEqual(
+            self.check(), ["core/Store.cpp:1: the same code is compiled for every platform: no #if here"]
+        )
+
+    def test_what_the_device_lacks_is_named(self):
+        self.write("core/Store.cpp", "thread_local int a;\nauto b = std::format(c);\nvoid d() { throw 1; }\n")
+        self.assertEqual(
+            self.check(),
+            [
+                "core/Store.cpp:1: the device has no thread_local",
+                "core/Store.cpp:2: the device has no std::format and std::print",
+                "core/Store.cpp:3: the device has no exceptions",
+            ],
+        )
+
+    def test_the_desktop_may_use_them(self):
+        self.write("desktop/foundation/Device.cpp", "thread_local int a;\n#include <syslog.h>\n")
+        self.assertEqual(self.check(), [])
+
+    def test_a_dead_link_in_a_document_is_named(self):
+        self.write("docs/driving.md", "see [this](missing.md#top) and [that](https://example.org)\n")
+        self.assertEqual(self.check(), ["docs/driving.md:1: links to missing.md, which is not there"])
+
+
+if __name__ == "__main__":
+    unittest.main()
