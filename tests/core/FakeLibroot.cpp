@@ -1,4 +1,5 @@
-// A libroot whose answers cannot be mistaken for the fallbacks'. Built whole, and without some of its symbols.
+// A libroot whose answers cannot be mistaken for the fallbacks'. Built whole, and without some of its
+// symbols.
 
 #include <cstdio>
 #include <cstdlib>
@@ -7,15 +8,21 @@
 #define EXPORTED extern "C" __attribute__((visibility("default")))
 
 #ifndef WITHOUT_libroot_get_root_prefix
-EXPORTED const char* libroot_get_root_prefix() { return "/system"; }
+EXPORTED const char* libroot_get_root_prefix() {
+    return "/system";
+}
 #endif
 
 #ifndef WITHOUT_libroot_get_jbroot_prefix
-EXPORTED const char* libroot_get_jbroot_prefix() { return "/jail"; }
+EXPORTED const char* libroot_get_jbroot_prefix() {
+    return "/jail";
+}
 #endif
 
 #ifndef WITHOUT_libroot_get_boot_uuid
-EXPORTED const char* libroot_get_boot_uuid() { return "12345678-0000-0000-0000-00000000000B"; }
+EXPORTED const char* libroot_get_boot_uuid() {
+    return "12345678-0000-0000-0000-00000000000B";
+}
 #endif
 
 #ifndef WITHOUT_libroot_jbrootpath
@@ -26,9 +33,8 @@ EXPORTED char* libroot_jbrootpath(const char* path, char* buffer) {
     static char ownBlock[] = "/answered/elsewhere";
     if (std::strcmp(path, "/own") == 0)
         return ownBlock;
-    if (std::strcmp(path, "/invalid") == 0)
-        return std::strcpy(buffer, "/\xff");
-    std::snprintf(buffer, 1024, "/from-libroot%s", path);
+    const bool invalid = std::strcmp(path, "/invalid") == 0;
+    std::snprintf(buffer, 1024, "/from-libroot%s", invalid ? "\xff" : path);
     return buffer;
 }
 #endif

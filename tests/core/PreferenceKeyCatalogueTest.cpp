@@ -1,14 +1,17 @@
 #include "PreferenceStore.h"
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <array>
-#include <gtest/gtest.h>
 #include <set>
 #include <string>
 
 namespace {
 
-std::string numbered(std::size_t number) { return std::string(PreferenceKeyCatalogue.at(number - 1)); }
+std::string numbered(std::size_t number) {
+    return std::string(PreferenceKeyCatalogue.at(number - 1));
+}
 
 } // namespace
 
@@ -22,15 +25,16 @@ TEST(PreferenceKeyCatalogue, KeepsItsOrder) {
     std::string all;
     for (const auto key : PreferenceKeyCatalogue)
         all += std::string(key) + " ";
-    EXPECT_EQ(all, "kEnabled kCustom kCenter kAppleAccount kcircleIcons kCustomTitleEnable kCustomTitle "
-                   "kImageEnabled showWifiData showDiskSpace showBatteryHealth knoChevrons "
-                   "kdisableEdgeToEdgeCellsEnabled organizeSettings hideCompletlyApple customColors "
-                   "customImageBackgroundEnabled transparentTable hideIcons hideSearchBar hideCellSeparato "
-                   "customIcloudDetailsEnabled removeFollowUpEnabled removeNotificationAvailable removeSOS "
-                   "passwordGenerator tweaksTitle systemAppsTitle appStoreAppsTitle customTweakIcon "
-                   "organizedSettingsPosition blurRadius imageHeight textColor detailTextLabel backgroundColor "
-                   "kBackgroundColorFallback kDefaultTextColor kDefaultBackgroundColor kCustomImage "
-                   "customBackgroundImage ");
+    EXPECT_EQ(all,
+              "kEnabled kCustom kCenter kAppleAccount kcircleIcons kCustomTitleEnable kCustomTitle "
+              "kImageEnabled showWifiData showDiskSpace showBatteryHealth knoChevrons "
+              "kdisableEdgeToEdgeCellsEnabled organizeSettings hideCompletlyApple customColors "
+              "customImageBackgroundEnabled transparentTable hideIcons hideSearchBar hideCellSeparato "
+              "customIcloudDetailsEnabled removeFollowUpEnabled removeNotificationAvailable removeSOS "
+              "passwordGenerator tweaksTitle systemAppsTitle appStoreAppsTitle customTweakIcon "
+              "organizedSettingsPosition blurRadius imageHeight textColor detailTextLabel backgroundColor "
+              "kBackgroundColorFallback kDefaultTextColor kDefaultBackgroundColor kCustomImage "
+              "customBackgroundImage ");
 }
 
 TEST(PreferenceKeyCatalogue, KeepsTheCutShortAndMisspeltKeys) {

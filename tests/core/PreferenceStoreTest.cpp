@@ -4,6 +4,7 @@
 #include "TestDevice.h"
 
 #include <gtest/gtest.h>
+
 #include <optional>
 #include <string>
 
@@ -68,7 +69,8 @@ TEST_F(PreferenceStoreTest, TwoOpenStoresSeeEachOthersWritesAtOnce) {
 
 TEST_F(PreferenceStoreTest, TheCatalogueValuesAreThoseThatAreSet) {
     store({{"kEnabled", true}, {"blurRadius", 12.5}});
-    EXPECT_EQ(PreferenceStore::catalogueValues(*preferences), (Dictionary{{"kEnabled", true}, {"blurRadius", 12.5}}));
+    EXPECT_EQ(PreferenceStore::catalogueValues(*preferences),
+              (Dictionary{{"kEnabled", true}, {"blurRadius", 12.5}}));
 }
 
 TEST_F(PreferenceStoreTest, AKeyOutsideTheCatalogueIsNeverAmongTheCatalogueValues) {

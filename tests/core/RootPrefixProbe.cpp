@@ -1,14 +1,16 @@
 // RootPrefixProbe ROOT QUERY...: answers queries to the resolver of a fresh process whose device is in the
-// host's folder ROOT, one line each. A query is an accessor's name, with ":" and an argument where it takes one.
+// host's folder ROOT, one line each. A query is an accessor's name, with ":" and an argument where it takes
+// one.
 
 #include "Device.h"
 #include "RealClock.h"
 #include "RootPrefixResolver.h"
 
+#include <dlfcn.h>
+
 #include <array>
 #include <barrier>
 #include <cstdio>
-#include <dlfcn.h>
 #include <memory>
 #include <set>
 #include <span>
@@ -19,7 +21,9 @@
 
 namespace {
 
-std::string shown(const char* text) { return text != nullptr ? text : "(null)"; }
+std::string shown(const char* text) {
+    return text != nullptr ? text : "(null)";
+}
 
 /// What all threads were answered, each asking another accessor first.
 std::string askFromThreads() {
@@ -28,6 +32,7 @@ std::string askFromThreads() {
     std::array<std::string, count> answers;
     {
         std::vector<std::jthread> threads;
+        threads.reserve(count);
         for (std::size_t i = 0; i < count; ++i) {
             threads.emplace_back([&start, &answer = answers.at(i), i] {
                 std::array<char, 1024> buffer{};
@@ -36,7 +41,8 @@ std::string askFromThreads() {
                     answer = shown(RootPrefixResolver::libroot_jbrootpath("/a", buffer.data())) + ' ';
                 answer += shown(RootPrefixResolver::libroot_get_root_prefix());
                 if (i % 2 != 0)
-                    answer.insert(0, shown(RootPrefixResolver::libroot_jbrootpath("/a", buffer.data())) + ' ');
+                    answer.insert(0,
+                                  shown(RootPrefixResolver::libroot_jbrootpath("/a", buffer.data())) + ' ');
             });
         }
     }
@@ -47,7 +53,7 @@ std::string askFromThreads() {
 /// How often the loader was asked to open the library: closes it until it is gone. Ends the resolver's use.
 std::string countOpens(const std::string& symbol) {
     Dl_info library{};
-    dladdr(reinterpret_cast<void*>(RootPrefixResolver::libroot_get_root_prefix()), &library);
+    dladdr(RootPrefixResolver::libroot_get_root_prefix(), &library);
     const std::string name = shown(library.dli_fname);
     void* const handle = dlopen(name.c_str(), RTLD_LAZY | RTLD_NOLOAD);
     if (handle == nullptr || dlsym(handle, symbol.c_str()) == nullptr)

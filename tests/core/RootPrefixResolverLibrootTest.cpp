@@ -2,9 +2,10 @@
 
 #include "TestDevice.h"
 
+#include <gtest/gtest.h>
+
 #include <cstdio>
 #include <filesystem>
-#include <gtest/gtest.h>
 #include <memory>
 #include <string>
 #include <utility>
@@ -41,7 +42,8 @@ protected:
 };
 
 /// A libroot without one of its symbols.
-class WithoutOneSymbol : public RootPrefixResolverLibrootTest, public testing::WithParamInterface<const char*> {};
+class WithoutOneSymbol : public RootPrefixResolverLibrootTest,
+                         public testing::WithParamInterface<const char*> {};
 
 /// Every accessor, asked once.
 const std::vector<std::string> everyAccessor{
@@ -50,7 +52,11 @@ const std::vector<std::string> everyAccessor{
 };
 
 const std::vector<std::string> librootAnswers{
-    "/system", "/jail", "12345678-0000-0000-0000-00000000000B", "/from-libroot/Library", "/to-libroot/Library",
+    "/system",
+    "/jail",
+    "12345678-0000-0000-0000-00000000000B",
+    "/from-libroot/Library",
+    "/to-libroot/Library",
 };
 
 } // namespace
@@ -62,8 +68,8 @@ TEST_F(RootPrefixResolverLibrootTest, AWholeLibrootAnswersEverything) {
 
 TEST_F(RootPrefixResolverLibrootTest, WithoutLibrootTheFallbacksAnswerEverything) {
     EXPECT_EQ(ask(everyAccessor),
-              (std::vector<std::string>{"", "/var/jb", "00000000-0000-0000-0000-000000000000", "/var/jb/Library",
-                                        "/Library"}));
+              (std::vector<std::string>{"", "/var/jb", "00000000-0000-0000-0000-000000000000",
+                                        "/var/jb/Library", "/Library"}));
 }
 
 TEST_F(RootPrefixResolverLibrootTest, ALibrootWithoutAnySymbolLeavesTheFallbacks) {
@@ -84,7 +90,8 @@ TEST_P(WithoutOneSymbol, OnlyThatSlotFallsBack) {
     ASSERT_EQ(answers.size(), everyAccessor.size());
     for (std::size_t i = 0; i < answers.size(); ++i) {
         const bool isMissing = everyAccessor[i].starts_with(GetParam());
-        EXPECT_EQ(answers[i] != librootAnswers[i], isMissing) << everyAccessor[i] << " answered " << answers[i];
+        EXPECT_EQ(answers[i] != librootAnswers[i], isMissing)
+            << everyAccessor[i] << " answered " << answers[i];
     }
 }
 
@@ -101,9 +108,10 @@ TEST_F(RootPrefixResolverLibrootTest, TheFallbackConversionUsesLibrootsPrefix) {
 
 TEST_F(RootPrefixResolverLibrootTest, TheFallbackReverseConversionUsesLibrootsPrefixes) {
     install("without_libroot_rootfspath");
-    EXPECT_EQ(ask({"libroot_rootfspath:/jail/etc", "libroot_rootfspath:/etc", "libroot_rootfspath:/var/jb/etc",
-                   "libroot_rootfspath:/jailx", "libroot_rootfspath:jail/etc"}),
-              (std::vector<std::string>{"/etc", "/system/etc", "/system/var/jb/etc", "x", "jail/etc"}));
+    EXPECT_EQ(
+        ask({"libroot_rootfspath:/jail/etc", "libroot_rootfspath:/etc", "libroot_rootfspath:/var/jb/etc",
+             "libroot_rootfspath:/jailx", "libroot_rootfspath:jail/etc"}),
+        (std::vector<std::string>{"/etc", "/system/etc", "/system/var/jb/etc", "x", "jail/etc"}));
 }
 
 TEST_F(RootPrefixResolverLibrootTest, TheTextConversionTakesWhatLibrootReturnsWhereverItIs) {

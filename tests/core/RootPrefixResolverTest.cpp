@@ -4,11 +4,13 @@
 
 #include "TestDevice.h"
 
+#include <gtest/gtest.h>
+
+#include <malloc.h>
+
 #include <array>
 #include <cstdlib>
 #include <cstring>
-#include <gtest/gtest.h>
-#include <malloc.h>
 #include <memory>
 #include <string>
 

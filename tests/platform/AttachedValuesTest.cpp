@@ -34,7 +34,9 @@ TEST_F(AttachedValuesTest, KeepsATextABlockAndAnObjectApartByKey) {
     setAttachedValue(*owner, "CompletionBlock", Block([&runs] { ++runs; }), Retention::CopyNonatomic);
     attach(field, "BackupNameTextField");
     EXPECT_EQ(attachedValueOf<std::string>(*owner, "BackupName"), "My Settings.tar.gz");
-    attachedValueOf<Block>(*owner, "CompletionBlock").value()();
+    const auto block = attachedValueOf<Block>(*owner, "CompletionBlock");
+    ASSERT_TRUE(block);
+    (*block)();
     EXPECT_EQ(runs, 1);
     EXPECT_EQ(attachedValueOf<Ref<NSObject>>(*owner, "BackupNameTextField"), Ref<NSObject>(field));
 }

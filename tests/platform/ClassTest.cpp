@@ -32,7 +32,7 @@ public:
 
 class NeedsArguments : public NSObject {
 public:
-    explicit NeedsArguments(int) {}
+    explicit NeedsArguments(int /*argument*/) {}
 };
 
 const Class animalClass = Class::define<Animal>("TestAnimal", {method<"sound", &Animal::sound>()});
@@ -108,8 +108,8 @@ TEST(Class, RefusesASecondNameForOneClass) {
 
 TEST(Class, TheEndOfARefusedStatementLeavesTheFirst) {
     {
-        LogRecorder log;
         const Class second = Class::define<Dog, Animal>("TestDog");
+        EXPECT_EQ(second.name(), "TestDog");
     }
     EXPECT_EQ(NSClassFromString("TestDog"), &dogClass);
     EXPECT_EQ(&make<Dog>()->isa(), &dogClass);

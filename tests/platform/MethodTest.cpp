@@ -14,7 +14,7 @@ public:
 
     long count(long value) { return value + 1; }
 
-    double size(double value) const { return value * 2; }
+    [[nodiscard]] double size(double value) const { return value * 2; }
 
     std::optional<std::string> name(const std::optional<std::string>& value) { return value; }
 

@@ -4,10 +4,11 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <string>
 #include <thread>
+#include <type_traits>
 #include <utility>
-#include <vector>
 
 namespace {
 
@@ -44,7 +45,7 @@ TEST_F(RefTest, ANewObjectHasOneOwner) {
 TEST_F(RefTest, MovingKeepsTheOneOwner) {
     auto from = object("a");
     auto to = std::move(from);
-    EXPECT_EQ(from, nullptr); // NOLINT(*-use-after-move): a moved Ref is empty
+    EXPECT_EQ(from.get(), nullptr); // NOLINT(*-use-after-move,*-cplusplus.Move): a moved Ref is empty
     EXPECT_EQ(journal, "");
     to = nullptr;
     EXPECT_EQ(journal, "-a");
@@ -114,16 +115,13 @@ TEST_F(RefTest, WhatItsDestructorRetainsAndReleasesDoesNotEndAnObjectTwice) {
 
 TEST_F(RefTest, CountsRightWithManyThreads) {
     auto shared = object("a");
-    std::vector<std::thread> threads;
-    for (int i = 0; i < 4; ++i) {
-        threads.emplace_back([shared] {
+    {
+        const auto copyOften = [shared] {
             for (int round = 0; round < 20000; ++round)
                 const auto copy = shared; // NOLINT(*-unnecessary-copy-initialization)
-        });
+        };
+        const std::array threads{std::jthread(copyOften), std::jthread(copyOften), std::jthread(copyOften)};
     }
-    for (auto& thread : threads)
-        thread.join();
-    threads.clear();
     EXPECT_EQ(journal, "");
     shared = nullptr;
     EXPECT_EQ(journal, "-a");

@@ -84,7 +84,7 @@ TEST_F(WeakTest, MovingEmptiesTheSource) {
     Weak<LoggedObject> from(owner);
     Weak<LoggedObject> to(std::move(from));
     EXPECT_EQ(to.strong(), owner);
-    EXPECT_EQ(from.strong(), nullptr); // NOLINT(*-use-after-move): a moved Weak is empty
+    EXPECT_EQ(from.strong(), nullptr); // NOLINT(*-use-after-move,*-cplusplus.Move): a moved Weak is empty
     from = std::move(to);
     EXPECT_EQ(from.strong(), owner);
 }

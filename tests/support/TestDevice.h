@@ -50,6 +50,6 @@ public:
 private:
     TemporaryFolder folder_;
     LogRecorder log_;
-    VirtualClock* clock_; ///< the device's
+    VirtualClock* clock_ = nullptr; ///< the device's
     Device device_;
 };
