@@ -1,8 +1,6 @@
 #include "PreferenceStore.h"
 
-#include "CoreFoundation/DarwinNotifyCenter.h"
-
-#include <algorithm>
+#include <utility>
 
 Ref<NSUserDefaults> PreferenceStore::open() {
     return NSUserDefaults::initWithSuiteName(preferenceSuiteName);
@@ -28,12 +26,4 @@ void PreferenceStore::removeAll(NSUserDefaults& preferences) {
     for (const auto& [key, value] : preferences.dictionaryRepresentation())
         preferences.removeObjectForKey(key);
     preferences.synchronize();
-}
-
-bool PreferenceStore::holdsEssentialKey(const PropertyList::Dictionary& values) {
-    return std::ranges::any_of(EssentialKeys, [&](auto key) { return values.contains(key); });
-}
-
-void PreferenceStore::postReloadNotification() {
-    DarwinNotifyCenter::postNotification(reloadNotificationName);
 }

@@ -87,10 +87,4 @@ public:
 
     /// Removes every key that the domain holds, whether or not it is in the catalogue.
     static void removeAll(NSUserDefaults& preferences);
-
-    /// Whether a backup's values hold at least one of `EssentialKeys`, with any value.
-    [[nodiscard]] static bool holdsEssentialKey(const PropertyList::Dictionary& values);
-
-    /// Tells the extension to read its settings again.
-    static void postReloadNotification();
 };

@@ -46,6 +46,12 @@ TEST_F(PreferenceStoreTest, OnAFreshSystemEveryCatalogueKeyIsAbsent) {
     EXPECT_EQ(preferences->dictionaryRepresentation(), Dictionary());
 }
 
+TEST_F(PreferenceStoreTest, OnAFreshSystemABackupIsAnEmptyDictionary) {
+    const auto* const path = "/var/mobile/tmp/preferences.plist";
+    EXPECT_TRUE(writeToFileAtomically(PreferenceStore::catalogueValues(*preferences), path));
+    EXPECT_EQ(dictionaryWithContentsOfFile(path), Dictionary());
+}
+
 TEST_F(PreferenceStoreTest, ReadingMakesNoFile) {
     EXPECT_EQ(preferences->objectForKey("kEnabled"), std::nullopt);
     EXPECT_TRUE(preferences->synchronize());
@@ -118,14 +124,6 @@ TEST_F(PreferenceStoreTest, RemovingAllRemovesKeysOutsideTheCatalogueToo) {
 TEST_F(PreferenceStoreTest, RemovingAllFromAFreshSystemIsNoFailure) {
     PreferenceStore::removeAll(*preferences);
     EXPECT_EQ(preferences->dictionaryRepresentation(), Dictionary());
-}
-
-TEST_F(PreferenceStoreTest, EitherEssentialKeyWithAnyValueMakesABackupOurs) {
-    EXPECT_TRUE(PreferenceStore::holdsEssentialKey({{"kEnabled", false}}));
-    EXPECT_TRUE(PreferenceStore::holdsEssentialKey({{"kCustom", "anything"}}));
-    EXPECT_TRUE(PreferenceStore::holdsEssentialKey({{"kEnabled", 0}, {"kCustom", 0}}));
-    EXPECT_FALSE(PreferenceStore::holdsEssentialKey({{"kCenter", true}, {"kenabled", true}}));
-    EXPECT_FALSE(PreferenceStore::holdsEssentialKey({}));
 }
 
 TEST_F(PreferenceStoreTest, AnAbsentMasterSwitchReadsOff) {
