@@ -1,11 +1,5 @@
 #include "LogRecorder.h"
 
-#include "Foundation/NSLog.h"
-
-#include <syslog.h>
-
-#include <algorithm>
-#include <cstdio>
 #include <mutex>
 #include <utility>
 
@@ -41,14 +35,9 @@ std::vector<std::string> LogRecorder::take() {
     return std::exchange(lines_, {});
 }
 
-void logLine(std::string_view line) {
-    const std::string text(line);
-    syslog(LOG_USER | LOG_NOTICE, "%s", text.c_str());
-    const std::string output = text + '\n';
-    std::fwrite(output.data(), 1, output.size(), stderr);
-
+void LogRecorder::recordLine(std::string_view line) {
     auto& recorders = Recorders::shared();
     const std::scoped_lock lock(recorders.mutex);
     for (auto* recorder : recorders.all)
-        recorder->lines_.push_back(text);
+        recorder->lines_.emplace_back(line);
 }

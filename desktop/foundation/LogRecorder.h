@@ -4,7 +4,8 @@
 #include <string_view>
 #include <vector>
 
-/// Hears every log line while it lives, in the order in which they were written. Any thread.
+/// Hears every log line while it lives, as it was given and in the order in which they were written. Any
+/// thread.
 class LogRecorder {
 public:
     LogRecorder();
@@ -17,6 +18,9 @@ public:
 
 private:
     friend void logLine(std::string_view line);
+
+    /// Lets every recorder that lives hear a line.
+    static void recordLine(std::string_view line);
 
     std::vector<std::string> lines_;
 };
