@@ -1,0 +1,57 @@
+#include "DesktopDateFormatter.h"
+
+#include "Device.h"
+
+#include <unicode/resbund.h>
+#include <unicode/smpdtfmt.h>
+#include <unicode/timezone.h>
+
+#include <cmath>
+#include <memory>
+
+namespace {
+
+/// The locale if there is data for it or its language, else the root: ICU by itself would go on with the
+/// host's locale, which is not the device's.
+icu::Locale deviceLocale() {
+    const icu::Locale locale(Device::current().locale().c_str());
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::ResourceBundle data(nullptr, locale, status);
+    return U_FAILURE(status) || status == U_USING_DEFAULT_WARNING ? icu::Locale::getRoot() : locale;
+}
+
+std::unique_ptr<icu::DateFormat> formatOfPattern(const std::string& pattern) {
+    UErrorCode status = U_ZERO_ERROR;
+    auto format = std::make_unique<icu::SimpleDateFormat>(icu::UnicodeString::fromUTF8(pattern),
+                                                          deviceLocale(), status);
+    return U_SUCCESS(status) ? std::move(format) : nullptr;
+}
+
+icu::DateFormat::EStyle lengthOf(NSDateFormatterStyle style) {
+    return style == NSDateFormatterStyle::Short ? icu::DateFormat::kShort : icu::DateFormat::kNone;
+}
+
+std::unique_ptr<icu::DateFormat> formatOfStyles(NSDateFormatterStyle date, NSDateFormatterStyle time) {
+    if (date == NSDateFormatterStyle::None && time == NSDateFormatterStyle::None)
+        return nullptr;
+    return std::unique_ptr<icu::DateFormat>(
+        icu::DateFormat::createDateTimeInstance(lengthOf(date), lengthOf(time), deviceLocale()));
+}
+
+} // namespace
+
+Ref<NSDateFormatter> NSDateFormatter::dateFormatter() {
+    return make<DesktopDateFormatter>();
+}
+
+std::string DesktopDateFormatter::stringFromDate(NSDate date) const {
+    const auto format = pattern_.empty() ? formatOfStyles(dateStyle_, timeStyle_) : formatOfPattern(pattern_);
+    const double milliseconds = date.timeIntervalSince1970() * 1000;
+    if (format == nullptr || std::isnan(milliseconds))
+        return {};
+    format->adoptTimeZone(icu::TimeZone::createTimeZone(Device::current().timeZone().c_str()));
+    icu::UnicodeString text;
+    format->format(milliseconds, text);
+    std::string result;
+    return text.toUTF8String(result);
+}
