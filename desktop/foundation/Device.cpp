@@ -1,10 +1,15 @@
 #include "Device.h"
 
+#include "DesktopBundle.h"
 #include "Foundation/NSFileManager.h"
+#include "Foundation/NSLog.h"
+
+#include <unicode/timezone.h>
 
 #include <cstdio>
 #include <cstdlib>
 #include <initializer_list>
+#include <memory>
 
 namespace {
 
@@ -15,12 +20,24 @@ Device* currentDevice = nullptr;
     std::abort();
 }
 
+bool isKnownTimeZone(const std::string& name) {
+    const std::unique_ptr<const icu::TimeZone> zone(icu::TimeZone::createTimeZone(name.c_str()));
+    return *zone != icu::TimeZone::getUnknown();
+}
+
 } // namespace
 
-Device::Device(Options options) : options_(std::move(options)), mainQueue_(*options_.clock) {
+Device::Device(Options options)
+    : options_(std::move(options)),
+      mainBundle_(make<DesktopBundle>(options_.mainBundlePath)),
+      mainQueue_(*options_.clock) {
     if (currentDevice != nullptr)
         endProgram("a second device was made while there is one");
     currentDevice = this;
+    if (!isKnownTimeZone(options_.timeZone)) {
+        NSLog("There is no time zone named \"%@\"; UTC is used.", options_.timeZone);
+        options_.timeZone = "UTC";
+    }
     for (const auto* path : {documentsPath, temporaryPath, preferencesPath}) {
         if (const auto made = NSFileManager::defaultManager().createDirectoryAtPath(path, true); !made)
             std::fprintf(stderr, "corvex: %s\n", made.error()->description().c_str());

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "Clock.h"
+#include "DarwinNotifications.h"
 #include "DeviceRoot.h"
+#include "Foundation/NSBundle.h"
 #include "MainQueueScheduler.h"
 
 #include <memory>
@@ -15,7 +17,7 @@ public:
         DeviceRoot root;
         std::unique_ptr<Clock> clock;
         std::string locale = "en_US"; ///< as ICU names locales
-        std::string timeZone = "UTC"; ///< as the time-zone database names zones
+        std::string timeZone = "UTC"; ///< as the time-zone database names zones; an unknown one counts as UTC
         std::string mainBundlePath = "/Applications/Preferences.app";
     };
 
@@ -38,7 +40,11 @@ public:
 
     [[nodiscard]] const std::string& mainBundlePath() const { return options_.mainBundlePath; }
 
+    [[nodiscard]] const Ref<NSBundle>& mainBundle() const { return mainBundle_; }
+
     [[nodiscard]] MainQueueScheduler& mainQueue() { return mainQueue_; }
+
+    [[nodiscard]] DarwinNotifications& notifications() { return notifications_; }
 
     /// The user's folders, as device paths without a "/" at the end.
     static constexpr auto documentsPath = "/var/mobile/Documents";
@@ -47,5 +53,7 @@ public:
 
 private:
     Options options_;
+    Ref<NSBundle> mainBundle_;
     MainQueueScheduler mainQueue_;
+    DarwinNotifications notifications_;
 };

@@ -1,0 +1,7 @@
+#include "CoreFoundation/DarwinNotifyCenter.h"
+
+#include "Device.h"
+
+void DarwinNotifyCenter::postNotification(std::string_view name) {
+    Device::current().notifications().post(name);
+}

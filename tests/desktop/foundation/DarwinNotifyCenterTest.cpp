@@ -1,0 +1,119 @@
+#include "CoreFoundation/DarwinNotifyCenter.h"
+
+#include "EnvironmentVariable.h"
+#include "PrivateBus.h"
+#include "SignalListener.h"
+#include "TestDevice.h"
+
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+#include <spawn.h>
+
+#include <array>
+
+namespace {
+
+constexpr auto addressVariable = "DBUS_SESSION_BUS_ADDRESS";
+
+using Names = std::vector<std::string>;
+
+/// Runs a program of its own that posts a notification on a device in the folder. \returns its exit code
+int postInAnotherProcess(std::string folder, std::string name) {
+    std::string program = NOTIFICATION_POSTER;
+    const std::array<char*, 4> arguments{program.data(), folder.data(), name.data(), nullptr};
+    pid_t process = -1;
+    if (posix_spawn(&process, program.c_str(), nullptr, nullptr, arguments.data(), environ) != 0)
+        return -1;
+    int status = -1;
+    EXPECT_EQ(waitpid(process, &status, 0), process);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+Names postedOnTheDevice() {
+    return Device::current().notifications().take();
+}
+
+} // namespace
+
+TEST(DarwinNotifyCenterTest, OtherProcessesHearAPostedName) {
+    const TemporaryFolder folder;
+    const PrivateBus bus;
+    const EnvironmentVariable address(addressVariable, bus.address());
+    SignalListener listener(bus.address());
+    ASSERT_EQ(postInAnotherProcess(folder.path(), "com.example.pane/changed"), 0);
+    EXPECT_EQ(listener.next(), "com.example.pane/changed");
+}
+
+TEST(DarwinNotifyCenterTest, NamesArriveWholeWhateverTheyHold) {
+    const TestDevice device;
+    const PrivateBus bus;
+    const EnvironmentVariable address(addressVariable, bus.address());
+    SignalListener listener(bus.address());
+    const Names names{"a/b//c", "", "é 😀 \u202F", "\x01\n%@", std::string(100'000, 'x')};
+    for (const auto& name : names) {
+        DarwinNotifyCenter::postNotification(name);
+        EXPECT_EQ(listener.next(), name);
+    }
+    EXPECT_EQ(postedOnTheDevice(), names);
+}
+
+TEST(DarwinNotifyCenterTest, WithoutABusNamesAreOnlyKept) {
+    const EnvironmentVariable address(addressVariable, std::nullopt);
+    TestDevice device;
+    DarwinNotifyCenter::postNotification("a");
+    DarwinNotifyCenter::postNotification("b");
+    DarwinNotifyCenter::postNotification("a");
+    EXPECT_EQ(postedOnTheDevice(), (Names{"a", "b", "a"}));
+    EXPECT_EQ(device.log().take(), Names{});
+}
+
+TEST(DarwinNotifyCenterTest, EachNameIsAnsweredOnce) {
+    const EnvironmentVariable address(addressVariable, std::nullopt);
+    const TestDevice device;
+    DarwinNotifyCenter::postNotification("a");
+    EXPECT_EQ(postedOnTheDevice(), Names{"a"});
+    EXPECT_EQ(postedOnTheDevice(), Names{});
+    DarwinNotifyCenter::postNotification("b");
+    EXPECT_EQ(postedOnTheDevice(), Names{"b"});
+}
+
+TEST(DarwinNotifyCenterTest, ANameThatIsNoTextIsKeptAndLoggedButNotSent) {
+    using namespace std::string_literals;
+    TestDevice device;
+    const PrivateBus bus;
+    const EnvironmentVariable address(addressVariable, bus.address());
+    SignalListener listener(bus.address());
+    for (const auto& name : {"a\xFF"s, "b\0c"s, "d"s})
+        DarwinNotifyCenter::postNotification(name);
+    EXPECT_EQ(listener.next(), "d");
+    EXPECT_EQ(postedOnTheDevice(), (Names{"a\xFF"s, "b\0c"s, "d"s}));
+    EXPECT_EQ(
+        device.log().take(),
+        (Names{"The session bus cannot carry the name of a Darwin notification: {length = 2, bytes = 0x61ff}",
+               "The session bus cannot carry the name of a Darwin notification: {length = 3, bytes = "
+               "0x620063}"}));
+}
+
+TEST(DarwinNotifyCenterTest, ABusThatDiesIsNoFailure) {
+    TestDevice device;
+    PrivateBus bus;
+    const EnvironmentVariable address(addressVariable, bus.address());
+    DarwinNotifyCenter::postNotification("a");
+    bus.kill();
+    DarwinNotifyCenter::postNotification("b");
+    EXPECT_EQ(postedOnTheDevice(), (Names{"a", "b"}));
+    EXPECT_EQ(device.log().take(), Names{});
+}
+
+TEST(DarwinNotifyCenterTest, EachDeviceHasANotificationCentreOfItsOwn) {
+    for (const std::string name : {"a", "b"}) {
+        const TestDevice device;
+        const PrivateBus bus;
+        const EnvironmentVariable address(addressVariable, bus.address());
+        SignalListener listener(bus.address());
+        DarwinNotifyCenter::postNotification(name);
+        EXPECT_EQ(listener.next(), name);
+        EXPECT_EQ(postedOnTheDevice(), Names{name});
+    }
+}
