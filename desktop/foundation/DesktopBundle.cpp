@@ -81,6 +81,7 @@ std::vector<std::string> DesktopBundle::tableFolders() const {
     languages.push_back(developmentRegion(path_));
     languages.emplace_back("Base");
     std::vector<std::string> folders;
+    folders.reserve(languages.size() + 1);
     for (const auto& language : languages)
         folders.push_back(stringByAppendingPathComponent(path_, language + ".lproj"));
     folders.push_back(path_);

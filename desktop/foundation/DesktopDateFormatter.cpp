@@ -17,14 +17,14 @@ icu::Locale deviceLocale() {
     const icu::Locale locale(Device::current().locale().c_str());
     UErrorCode status = U_ZERO_ERROR;
     const icu::ResourceBundle data(nullptr, locale, status);
-    return U_FAILURE(status) || status == U_USING_DEFAULT_WARNING ? icu::Locale::getRoot() : locale;
+    return U_FAILURE(status) != 0 || status == U_USING_DEFAULT_WARNING ? icu::Locale::getRoot() : locale;
 }
 
 std::unique_ptr<icu::DateFormat> formatOfPattern(const std::string& pattern) {
     UErrorCode status = U_ZERO_ERROR;
     auto format = std::make_unique<icu::SimpleDateFormat>(icu::UnicodeString::fromUTF8(pattern),
                                                           deviceLocale(), status);
-    return U_SUCCESS(status) ? std::move(format) : nullptr;
+    return U_SUCCESS(status) != 0 ? std::move(format) : nullptr;
 }
 
 icu::DateFormat::EStyle lengthOf(NSDateFormatterStyle style) {

@@ -73,7 +73,7 @@ private:
         auto token = lexer_.next();
         if (token && token->kind == Kind::Semicolon)
             return key.text;
-        token = require(Kind::Equals, std::move(token), "\"=\" or \";\" after a key");
+        token = require(Kind::Equals, std::move(token), R"("=" or ";" after a key)");
         auto text = token ? require(Kind::Text, lexer_.next(), "a text after \"=\"") : std::move(token);
         const auto end = text ? require(Kind::Semicolon, lexer_.next(), "\";\" after a text") : text;
         if (!end)

@@ -28,7 +28,7 @@ bool append(std::string& text, std::u16string_view line) {
     u_strToUTF8(text.data() + before, static_cast<int32_t>(text.size() - before), &length, line.data(),
                 static_cast<int32_t>(line.size()), &status);
     text.resize(before + static_cast<std::size_t>(length));
-    return U_SUCCESS(status);
+    return U_SUCCESS(status) != 0;
 }
 
 /// Line by line, to know where a damage is.
@@ -37,7 +37,7 @@ Decoded decode(std::basic_string_view<Character> source, const char* encoding) {
     std::string text;
     for (std::size_t line = 1; !source.empty(); ++line) {
         const auto end = source.find(Character{'\n'});
-        const auto length = end == source.npos ? source.size() : end + 1;
+        const auto length = end == std::string_view::npos ? source.size() : end + 1;
         if (!append(text, source.substr(0, length)))
             return std::unexpected(Damage{line, encoding});
         source.remove_prefix(length);
@@ -69,7 +69,7 @@ std::expected<std::string, Damage> decodeStringTable(std::string_view bytes) {
         return decodeUTF16(bytes.substr(2), std::endian::little);
     if (bytes.starts_with(utf8ByteOrderMark))
         return decode(bytes.substr(utf8ByteOrderMark.size()), "valid UTF-8");
-    if (const auto zero = bytes.substr(0, 2).find('\0'); zero != bytes.npos && bytes.size() > 1)
+    if (const auto zero = bytes.substr(0, 2).find('\0'); zero != std::string_view::npos && bytes.size() > 1)
         return decodeUTF16(bytes, zero == 0 ? std::endian::big : std::endian::little);
     return decode(bytes, "valid UTF-8");
 }

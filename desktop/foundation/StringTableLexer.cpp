@@ -3,7 +3,9 @@
 #include <unicode/unistr.h>
 
 #include <algorithm>
+#include <array>
 #include <charconv>
+#include <memory>
 #include <optional>
 #include <utility>
 
@@ -33,13 +35,19 @@ bool isSurrogate(char32_t unit) {
 /// The number that all of the digits spell, in the base; nothing when they do not.
 std::optional<unsigned> number(std::string_view digits, int base) {
     unsigned value = 0;
-    const auto* const end = digits.data() + digits.size();
-    const auto [stop, error] = std::from_chars(digits.data(), end, value, base);
+    const auto* const end = std::to_address(digits.end());
+    const auto [stop, error] = std::from_chars(std::to_address(digits.begin()), end, value, base);
     return error == std::errc() && stop == end ? std::optional(value) : std::nullopt;
 }
 
 void append(std::string& text, char32_t character) {
     icu::UnicodeString(static_cast<UChar32>(character)).toUTF8String(text);
+}
+
+StringTableLexer::Kind kindOfSign(char sign) {
+    if (sign == '=')
+        return StringTableLexer::Kind::Equals;
+    return sign == ';' ? StringTableLexer::Kind::Semicolon : StringTableLexer::Kind::Unknown;
 }
 
 } // namespace
@@ -58,7 +66,7 @@ auto StringTableLexer::next() -> Expected<Token> {
     }
     take(1);
     if (first != '"' && first != '\'') {
-        token.kind = first == '=' ? Kind::Equals : first == ';' ? Kind::Semicolon : Kind::Unknown;
+        token.kind = kindOfSign(first);
         return token;
     }
     auto text = quoted(first);
@@ -83,7 +91,7 @@ void StringTableLexer::skipLine() {
 auto StringTableLexer::skipComment() -> Expected<void> {
     const auto firstLine = line_;
     const auto end = rest_.find("*/", 2);
-    if (end == rest_.npos)
+    if (end == std::string_view::npos)
         return std::unexpected(Damage{firstLine, "\"*/\" at the end of the comment that begins here"});
     take(end + 2);
     return {};
@@ -110,10 +118,10 @@ std::string StringTableLexer::word() {
 
 auto StringTableLexer::quoted(char quote) -> Expected<std::string> {
     const auto firstLine = line_;
-    const char ends[] = {quote, '\\'};
+    const std::array ends{quote, '\\'};
     std::string text;
     for (;;) {
-        text += take(rest_.find_first_of(std::string_view(ends, 2)));
+        text += take(rest_.find_first_of(std::string_view(ends.data(), ends.size())));
         if (atEnd())
             return std::unexpected(
                 Damage{firstLine, std::string("a closing ") + quote + " for the text that begins here"});
@@ -135,8 +143,9 @@ auto StringTableLexer::appendEscaped(std::string& text) -> Expected<void> {
         append(text, *character);
         return {};
     }
-    const auto name = next.empty() ? names.npos : names.find(next.front());
-    text += name != names.npos ? meanings.substr(name, 1) : next; // of a longer sequence, the rest follows
+    const auto name = next.empty() ? std::string_view::npos : names.find(next.front());
+    text += name != std::string_view::npos ? meanings.substr(name, 1)
+                                           : next; // of a longer sequence, the rest follows
     take(1);
     return {};
 }
@@ -160,7 +169,7 @@ auto StringTableLexer::unit() -> Expected<char32_t> {
     constexpr std::size_t digits = 4;
     const auto value = number(rest_.substr(1, digits), 16);
     if (!value || rest_.size() <= digits)
-        return std::unexpected(Damage{line_, "four hexadecimal digits after \"\\U\""});
+        return std::unexpected(Damage{line_, R"(four hexadecimal digits after "\U")"});
     take(1 + digits);
     return *value;
 }
@@ -170,6 +179,6 @@ auto StringTableLexer::octalEscaped() -> Expected<char32_t> {
     const auto* const end = std::ranges::find_if_not(digits, isOctalDigit);
     const auto value = number(take(static_cast<std::size_t>(end - digits.begin())), 8);
     if (!value || *value > 0xFF)
-        return std::unexpected(Damage{line_, "an octal number up to 377 after \"\\\""});
+        return std::unexpected(Damage{line_, R"(an octal number up to 377 after "\")"});
     return *value;
 }

@@ -55,6 +55,7 @@ TEST(LogRecorderTest, HearsEveryThreadWithItsLinesInOrder) {
     LogRecorder second;
     {
         std::vector<std::jthread> threads;
+        threads.reserve(names.size());
         for (const std::string name : names) {
             threads.emplace_back([name] {
                 for (int line = 0; line < lineCount; ++line)

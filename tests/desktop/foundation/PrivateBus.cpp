@@ -27,8 +27,8 @@ void writeConfiguration(const std::string& path, const std::string& socket) {
     prctl(PR_SET_PDEATHSIG, SIGKILL);
     fcntl(addressDescriptor, F_SETFD, 0);
     const int silence = open("/dev/null", O_WRONLY | O_CLOEXEC);
-    dup2(silence, STDERR_FILENO); // it complains about limits that it may not raise
-    execlp("dbus-daemon", "dbus-daemon", "--nofork", configuration, addressArgument, nullptr);
+    if (silence >= 0 && dup2(silence, STDERR_FILENO) >= 0) // it complains of limits that it may not raise
+        execlp("dbus-daemon", "dbus-daemon", "--nofork", configuration, addressArgument, nullptr);
     _exit(127);
 }
 

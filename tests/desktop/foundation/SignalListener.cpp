@@ -27,12 +27,12 @@ std::optional<std::string> SignalListener::next() {
         if (processed < 0 || Clock::now() > deadline || sd_bus_wait(bus_, 100'000) < 0)
             return std::nullopt;
     }
-    const auto name = heard_.front();
+    auto name = heard_.front();
     heard_.erase(heard_.begin());
     return name;
 }
 
-int SignalListener::hear(sd_bus_message* message, void* listener, sd_bus_error*) {
+int SignalListener::hear(sd_bus_message* message, void* listener, sd_bus_error* /*error*/) {
     const char* name = nullptr;
     EXPECT_GT(sd_bus_message_read(message, "s", &name), 0);
     static_cast<SignalListener*>(listener)->heard_.emplace_back(name);

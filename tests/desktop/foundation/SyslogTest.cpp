@@ -28,6 +28,7 @@ protected:
 } // namespace
 
 // Stands in for the C library's in this program.
+// NOLINTNEXTLINE(*-inconsistent-declaration-parameter-name): the C library's names are reserved
 extern "C" void syslog(int priority, const char* format, ...) {
     std::array<char, 1024> text{};
     va_list arguments;
