@@ -118,12 +118,14 @@ bool XmlPropertyListScan::scanValue() {
         if (!skipMiscellany())
             return false;
         const auto tag = nextTag();
-        if (!tag || !(isFirst ? scanElement(*tag) : scanInside(*tag)))
+        if (!tag || !(isFirst ? scanTop(*tag) : scanInside(*tag)))
             return false;
         isFirst = false;
     }
     return true;
 }
+
+bool XmlPropertyListScan::scanTop(const Tag& tag) { return tag.name != "key" && scanElement(tag); }
 
 bool XmlPropertyListScan::scanInside(const Tag& tag) {
     if (tag.closes)

@@ -31,6 +31,7 @@ private:
     };
 
     [[nodiscard]] bool scanValue();
+    [[nodiscard]] bool scanTop(const Tag& tag);
     [[nodiscard]] bool scanInside(const Tag& tag);
     [[nodiscard]] bool scanElement(const Tag& tag);
     [[nodiscard]] bool scanBoolean(const Tag& tag);
