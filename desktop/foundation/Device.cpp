@@ -1,6 +1,7 @@
 #include "Device.h"
 
 #include "Foundation/NSFileManager.h"
+#include "PreferenceDomains.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -17,7 +18,10 @@ Device* currentDevice = nullptr;
 
 } // namespace
 
-Device::Device(Options options) : options_(std::move(options)), mainQueue_(*options_.clock) {
+Device::Device(Options options) :
+    options_(std::make_shared<const Options>(std::move(options))), mainQueue_(*options_->clock),
+    preferenceDomains_(
+        std::make_shared<PreferenceDomains>(std::shared_ptr<const DeviceRoot>(options_, &options_->root))) {
     if (currentDevice != nullptr)
         endProgram("a second device was made while there is one");
     currentDevice = this;

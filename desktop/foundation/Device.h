@@ -7,6 +7,8 @@
 #include <memory>
 #include <string>
 
+class PreferenceDomains;
+
 /// The device that this process stands for: its file system, time, settings of language and region. One at a
 /// time; the contract's functions act on it. Made by the host program, or by a test.
 class Device {
@@ -28,12 +30,13 @@ public:
     /// The device there is; ends the program with a message when there is none.
     [[nodiscard]] static Device& current();
 
-    [[nodiscard]] const DeviceRoot& root() const { return options_.root; }
-    [[nodiscard]] const Clock& clock() const { return *options_.clock; }
-    [[nodiscard]] const std::string& locale() const { return options_.locale; }
-    [[nodiscard]] const std::string& timeZone() const { return options_.timeZone; }
-    [[nodiscard]] const std::string& mainBundlePath() const { return options_.mainBundlePath; }
+    [[nodiscard]] const DeviceRoot& root() const { return options_->root; }
+    [[nodiscard]] const Clock& clock() const { return *options_->clock; }
+    [[nodiscard]] const std::string& locale() const { return options_->locale; }
+    [[nodiscard]] const std::string& timeZone() const { return options_->timeZone; }
+    [[nodiscard]] const std::string& mainBundlePath() const { return options_->mainBundlePath; }
     [[nodiscard]] MainQueueScheduler& mainQueue() { return mainQueue_; }
+    [[nodiscard]] const std::shared_ptr<PreferenceDomains>& preferenceDomains() const { return preferenceDomains_; }
 
     /// The user's folders, as device paths without a "/" at the end.
     static constexpr auto documentsPath = "/var/mobile/Documents";
@@ -41,6 +44,7 @@ public:
     static constexpr auto preferencesPath = "/var/mobile/Library/Preferences";
 
 private:
-    Options options_;
+    std::shared_ptr<const Options> options_; ///< preference domains keep the root when they outlive the device
     MainQueueScheduler mainQueue_;
+    std::shared_ptr<PreferenceDomains> preferenceDomains_;
 };

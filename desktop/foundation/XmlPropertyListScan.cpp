@@ -125,7 +125,9 @@ bool XmlPropertyListScan::scanValue() {
     return true;
 }
 
-bool XmlPropertyListScan::scanTop(const Tag& tag) { return tag.name != "key" && scanElement(tag); }
+bool XmlPropertyListScan::scanTop(const Tag& tag) {
+    return tag.name != "key" && scanElement(tag);
+}
 
 bool XmlPropertyListScan::scanInside(const Tag& tag) {
     if (tag.closes)
