@@ -18,6 +18,7 @@ public:
 
 private:
     [[nodiscard]] std::uint64_t below(std::uint64_t limit) { return random_() % limit; }
+
     [[nodiscard]] PropertyList integer();
     [[nodiscard]] double real();
     [[nodiscard]] NSData data();
