@@ -7,6 +7,8 @@
 #include <plist/plist.h>
 #include <sys/wait.h>
 
+#include <unistd.h>
+
 #include <chrono>
 #include <cstdint>
 #include <cstdlib>
@@ -87,6 +89,13 @@ State after(State state, const PreferenceStep& step) {
     return state;
 }
 
+/// Files in memory where there are: what a killed process gave to the system is there also without waiting
+/// for a disk, and that is what nearly all the time would go to.
+std::string parentOfRoot() {
+    const std::string inMemory = "/dev/shm/";
+    return access(inMemory.c_str(), W_OK) == 0 ? inMemory : testing::TempDir();
+}
+
 /// A short time of work, not of rest, so that a kill comes anywhere in a write.
 void spinFor(std::chrono::microseconds time) {
     const auto end = std::chrono::steady_clock::now() + time;
@@ -103,13 +112,13 @@ protected:
     /// Lets a writer run for a while and kills it. \returns whether it lived until then
     bool runAndKill() {
         ChildProgram writer(PREFERENCE_WRITER, {folder_.path(), std::to_string(lastStep)});
-        for (auto messages = 1 + random_() % 80; messages > 0; --messages) {
+        for (auto messages = 1 + random_() % 50; messages > 0; --messages) {
             if (!hear(writer)) {
                 EXPECT_EQ(writer.wait(), 0) << "the writer ended by itself before its last step";
                 return false;
             }
         }
-        spinFor(std::chrono::microseconds(random_() % 700));
+        spinFor(std::chrono::microseconds(random_() % 150));
         writer.kill();
         const int status = writer.wait();
         while (hear(writer))
@@ -163,7 +172,7 @@ protected:
 
     const unsigned seed_ = std::random_device()();
     std::mt19937_64 random_{seed_};
-    TemporaryFolder folder_;
+    TemporaryFolder folder_{parentOfRoot()};
     std::vector<State> states_; ///< by number
     std::uint64_t begun_ = 0;
     std::uint64_t done_ = 0;
