@@ -2,9 +2,13 @@
 
 #include "DesktopBundle.h"
 #include "Foundation/NSFileManager.h"
+<<<<<<< HEAD
 #include "Foundation/NSLog.h"
 
 #include <unicode/timezone.h>
+=======
+#include "PreferenceDomains.h"
+>>>>>>> defaults
 
 #include <cstdio>
 #include <cstdlib>
@@ -27,10 +31,17 @@ bool isKnownTimeZone(const std::string& name) {
 
 } // namespace
 
+<<<<<<< HEAD
 Device::Device(Options options)
     : options_(std::move(options)),
       mainBundle_(make<DesktopBundle>(options_.mainBundlePath)),
       mainQueue_(*options_.clock) {
+=======
+Device::Device(Options options) :
+    options_(std::make_shared<const Options>(std::move(options))), mainQueue_(*options_->clock),
+    preferenceDomains_(
+        std::make_shared<PreferenceDomains>(std::shared_ptr<const DeviceRoot>(options_, &options_->root))) {
+>>>>>>> defaults
     if (currentDevice != nullptr)
         endProgram("a second device was made while there is one");
     currentDevice = this;

@@ -9,6 +9,8 @@
 #include <memory>
 #include <string>
 
+class PreferenceDomains;
+
 /// The device that this process stands for: its file system, time, settings of language and region. One at a
 /// time; the contract's functions act on it. Made by the host program, or by a test.
 class Device {
@@ -30,6 +32,7 @@ public:
     /// The device there is; ends the program with a message when there is none.
     [[nodiscard]] static Device& current();
 
+<<<<<<< HEAD
     [[nodiscard]] const DeviceRoot& root() const { return options_.root; }
 
     [[nodiscard]] const Clock& clock() const { return *options_.clock; }
@@ -42,7 +45,15 @@ public:
 
     [[nodiscard]] const Ref<NSBundle>& mainBundle() const { return mainBundle_; }
 
+=======
+    [[nodiscard]] const DeviceRoot& root() const { return options_->root; }
+    [[nodiscard]] const Clock& clock() const { return *options_->clock; }
+    [[nodiscard]] const std::string& locale() const { return options_->locale; }
+    [[nodiscard]] const std::string& timeZone() const { return options_->timeZone; }
+    [[nodiscard]] const std::string& mainBundlePath() const { return options_->mainBundlePath; }
+>>>>>>> defaults
     [[nodiscard]] MainQueueScheduler& mainQueue() { return mainQueue_; }
+    [[nodiscard]] const std::shared_ptr<PreferenceDomains>& preferenceDomains() const { return preferenceDomains_; }
 
     [[nodiscard]] DarwinNotifications& notifications() { return notifications_; }
 
@@ -52,8 +63,14 @@ public:
     static constexpr auto preferencesPath = "/var/mobile/Library/Preferences";
 
 private:
+<<<<<<< HEAD
     Options options_;
     Ref<NSBundle> mainBundle_;
     MainQueueScheduler mainQueue_;
     DarwinNotifications notifications_;
+=======
+    std::shared_ptr<const Options> options_; ///< preference domains keep the root when they outlive the device
+    MainQueueScheduler mainQueue_;
+    std::shared_ptr<PreferenceDomains> preferenceDomains_;
+>>>>>>> defaults
 };

@@ -28,7 +28,9 @@ Device::Options optionsFor(const TestDevice::Settings& settings, const std::stri
 
 } // namespace
 
-TemporaryFolder::TemporaryFolder() : path_(testing::TempDir() + "corvex-XXXXXX") {
+TemporaryFolder::TemporaryFolder() : TemporaryFolder(testing::TempDir()) {}
+
+TemporaryFolder::TemporaryFolder(const std::string& parent) : path_(parent + "corvex-XXXXXX") {
     if (mkdtemp(path_.data()) == nullptr)
         std::abort();
 }

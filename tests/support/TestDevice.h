@@ -10,6 +10,8 @@
 class TemporaryFolder {
 public:
     TemporaryFolder();
+    /// \param parent ends with "/"
+    explicit TemporaryFolder(const std::string& parent);
     ~TemporaryFolder();
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
