@@ -1,12 +1,11 @@
 // The resolver with a libroot on the device: whole, and with each of its symbols missing in turn.
 
+#include "ChildProgram.h"
 #include "TestDevice.h"
 
 #include <gtest/gtest.h>
 
-#include <cstdio>
 #include <filesystem>
-#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
@@ -23,18 +22,13 @@ protected:
 
     /// The answers of a fresh process to the queries.
     std::vector<std::string> ask(const std::vector<std::string>& queries) {
-        std::string command = "'" ROOT_PREFIX_PROBE "' '" + root.path() + "'";
-        for (const auto& query : queries)
-            command += " '" + query + "'";
-        const std::unique_ptr<FILE, int (*)(FILE*)> pipe(popen(command.c_str(), "r"), &pclose);
+        std::vector<std::string> arguments{root.path()};
+        arguments.insert(arguments.end(), queries.begin(), queries.end());
+        ChildProgram probe(ROOT_PREFIX_PROBE, arguments);
         std::vector<std::string> answers;
-        std::string line;
-        for (int character = std::getc(pipe.get()); character != EOF; character = std::getc(pipe.get())) {
-            if (character == '\n')
-                answers.push_back(std::exchange(line, {}));
-            else
-                line += static_cast<char>(character);
-        }
+        while (auto line = probe.readLine())
+            answers.push_back(std::move(*line));
+        EXPECT_EQ(probe.wait(), 0);
         return answers;
     }
 

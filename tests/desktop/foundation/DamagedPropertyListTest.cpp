@@ -89,7 +89,8 @@ TEST(DamagedPropertyListTest, AnyByteChangedReadsAsNothingOrAsSomethingThatCanBe
             auto damaged = sample;
             damaged[position] = static_cast<char>(static_cast<unsigned char>(damaged[position]) ^ change);
             const auto value = decodePropertyList(damaged);
-            const bool canBeKept = !value || encodePropertyList(*value, PropertyListFormat::Binary).has_value();
+            const bool canBeKept =
+                !value || encodePropertyList(*value, PropertyListFormat::Binary).has_value();
             ASSERT_TRUE(canBeKept) << position << ' ' << change;
         }
     }
@@ -139,7 +140,8 @@ TEST(DamagedPropertyListTest, DeepBinaryNestingReadsAsNothing) {
 
 TEST(DamagedPropertyListTest, NestingCountsAlsoThroughAnObjectThatWasReachedAtLesserDepthBefore) {
     const auto chainOf = [](unsigned length) {
-        std::vector<std::string> objects{"\xA2\x40\x01"s}; // the chain from its 64th array on, and the whole of it
+        std::vector<std::string> objects{
+            "\xA2\x40\x01"s}; // the chain from its 64th array on, and the whole of it
         for (unsigned i = 2; i <= length; ++i)
             objects.push_back('\xA1' + bigEndian(i, 1));
         objects.push_back("\xA0");

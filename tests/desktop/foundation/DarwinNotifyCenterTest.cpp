@@ -1,5 +1,6 @@
 #include "CoreFoundation/DarwinNotifyCenter.h"
 
+#include "ChildProgram.h"
 #include "EnvironmentVariable.h"
 #include "PrivateBus.h"
 #include "SignalListener.h"
@@ -8,9 +9,8 @@
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 
-#include <spawn.h>
-
-#include <array>
+#include <string>
+#include <vector>
 
 namespace {
 
@@ -19,14 +19,8 @@ constexpr auto addressVariable = "DBUS_SESSION_BUS_ADDRESS";
 using Names = std::vector<std::string>;
 
 /// Runs a program of its own that posts a notification on a device in the folder. \returns its exit code
-int postInAnotherProcess(std::string folder, std::string name) {
-    std::string program = NOTIFICATION_POSTER;
-    const std::array<char*, 4> arguments{program.data(), folder.data(), name.data(), nullptr};
-    pid_t process = -1;
-    if (posix_spawn(&process, program.c_str(), nullptr, nullptr, arguments.data(), environ) != 0)
-        return -1;
-    int status = -1;
-    EXPECT_EQ(waitpid(process, &status, 0), process);
+int postInAnotherProcess(const std::string& folder, const std::string& name) {
+    const int status = ChildProgram(NOTIFICATION_POSTER, {folder, name}).wait();
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
