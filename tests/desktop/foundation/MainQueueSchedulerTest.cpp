@@ -64,7 +64,10 @@ TEST_F(MainQueueSchedulerTest, WhatABlockQueuesForNowRunsInTheNextCall) {
 TEST_F(MainQueueSchedulerTest, AdvancingRunsWhatBlocksQueueOnTheWay) {
     scheduler.after(1s, [this] {
         EXPECT_EQ(clock.uptime(), 1s);
-        scheduler.after(1s, [this] { EXPECT_EQ(clock.uptime(), 2s), ran += "b"; });
+        scheduler.after(1s, [this] {
+            EXPECT_EQ(clock.uptime(), 2s);
+            ran += "b";
+        });
     });
     scheduler.advance(clock, 3s);
     EXPECT_EQ(ran, "b");
