@@ -1,4 +1,5 @@
 #include "DeviceRoot.h"
+#include "Meanwhile.h"
 #include "TestDevice.h"
 
 #include <gtest/gtest.h>
@@ -7,14 +8,11 @@
 #include <fcntl.h>
 
 #include <array>
-#include <atomic>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <functional>
 #include <string>
-#include <thread>
-#include <utility>
 
 namespace {
 
@@ -22,34 +20,6 @@ using Resolution = DeviceRoot::Resolution;
 
 constexpr int attemptsAtLeast = 20000;
 constexpr int attemptsAtMost = 2000000;
-
-/// Does something again and again on a thread of its own, from the first time on until the end of the object.
-class Meanwhile {
-public:
-    explicit Meanwhile(std::function<void()> work)
-        : thread_([this, work = std::move(work)] {
-              while (!isOver_) {
-                  work();
-                  ++times_;
-                  times_.notify_one();
-              }
-          }) {
-        times_.wait(0);
-    }
-
-    ~Meanwhile() {
-        isOver_ = true;
-        thread_.join();
-    }
-
-    Meanwhile(const Meanwhile&) = delete;
-    Meanwhile& operator=(const Meanwhile&) = delete;
-
-private:
-    std::atomic<bool> isOver_ = false;
-    std::atomic<int> times_ = 0;
-    std::thread thread_;
-};
 
 /// "root/folder/file" says "inside", "outside/file" beside the root says "outside". The folder has a twin
 /// "root/other" that tests replace by a link.
