@@ -2,13 +2,10 @@
 
 #include "DesktopBundle.h"
 #include "Foundation/NSFileManager.h"
-<<<<<<< HEAD
 #include "Foundation/NSLog.h"
+#include "PreferenceDomains.h"
 
 #include <unicode/timezone.h>
-=======
-#include "PreferenceDomains.h"
->>>>>>> defaults
 
 #include <cstdio>
 #include <cstdlib>
@@ -24,34 +21,31 @@ Device* currentDevice = nullptr;
     std::abort();
 }
 
-bool isKnownTimeZone(const std::string& name) {
+/// The name, or UTC when there is no zone of that name.
+std::string knownTimeZone(const std::string& name) {
     const std::unique_ptr<const icu::TimeZone> zone(icu::TimeZone::createTimeZone(name.c_str()));
-    return *zone != icu::TimeZone::getUnknown();
+    if (*zone != icu::TimeZone::getUnknown())
+        return name;
+    NSLog("There is no time zone named \"%@\"; UTC is used.", name);
+    return "UTC";
 }
 
 } // namespace
 
-<<<<<<< HEAD
 Device::Device(Options options)
-    : options_(std::move(options)),
-      mainBundle_(make<DesktopBundle>(options_.mainBundlePath)),
-      mainQueue_(*options_.clock) {
-=======
-Device::Device(Options options) :
-    options_(std::make_shared<const Options>(std::move(options))), mainQueue_(*options_->clock),
-    preferenceDomains_(
-        std::make_shared<PreferenceDomains>(std::shared_ptr<const DeviceRoot>(options_, &options_->root))) {
->>>>>>> defaults
+    : root_(std::make_shared<const DeviceRoot>(std::move(options.root))),
+      clock_(std::move(options.clock)),
+      locale_(std::move(options.locale)),
+      timeZone_(knownTimeZone(options.timeZone)),
+      mainBundle_(make<DesktopBundle>(options.mainBundlePath)),
+      preferenceDomains_(std::make_shared<PreferenceDomains>(root_)),
+      mainQueue_(*clock_) {
     if (currentDevice != nullptr)
         endProgram("a second device was made while there is one");
     currentDevice = this;
-    if (!isKnownTimeZone(options_.timeZone)) {
-        NSLog("There is no time zone named \"%@\"; UTC is used.", options_.timeZone);
-        options_.timeZone = "UTC";
-    }
     for (const auto* path : {documentsPath, temporaryPath, preferencesPath}) {
         if (const auto made = NSFileManager::defaultManager().createDirectoryAtPath(path, true); !made)
-            std::fprintf(stderr, "corvex: %s\n", made.error()->description().c_str());
+            NSLog("The device lacks one of its folders: %@", made.error());
     }
 }
 

@@ -32,28 +32,21 @@ public:
     /// The device there is; ends the program with a message when there is none.
     [[nodiscard]] static Device& current();
 
-<<<<<<< HEAD
-    [[nodiscard]] const DeviceRoot& root() const { return options_.root; }
+    [[nodiscard]] const DeviceRoot& root() const { return *root_; }
 
-    [[nodiscard]] const Clock& clock() const { return *options_.clock; }
+    [[nodiscard]] const Clock& clock() const { return *clock_; }
 
-    [[nodiscard]] const std::string& locale() const { return options_.locale; }
+    [[nodiscard]] const std::string& locale() const { return locale_; }
 
-    [[nodiscard]] const std::string& timeZone() const { return options_.timeZone; }
-
-    [[nodiscard]] const std::string& mainBundlePath() const { return options_.mainBundlePath; }
+    [[nodiscard]] const std::string& timeZone() const { return timeZone_; }
 
     [[nodiscard]] const Ref<NSBundle>& mainBundle() const { return mainBundle_; }
 
-=======
-    [[nodiscard]] const DeviceRoot& root() const { return options_->root; }
-    [[nodiscard]] const Clock& clock() const { return *options_->clock; }
-    [[nodiscard]] const std::string& locale() const { return options_->locale; }
-    [[nodiscard]] const std::string& timeZone() const { return options_->timeZone; }
-    [[nodiscard]] const std::string& mainBundlePath() const { return options_->mainBundlePath; }
->>>>>>> defaults
+    [[nodiscard]] const std::shared_ptr<PreferenceDomains>& preferenceDomains() const {
+        return preferenceDomains_;
+    }
+
     [[nodiscard]] MainQueueScheduler& mainQueue() { return mainQueue_; }
-    [[nodiscard]] const std::shared_ptr<PreferenceDomains>& preferenceDomains() const { return preferenceDomains_; }
 
     [[nodiscard]] DarwinNotifications& notifications() { return notifications_; }
 
@@ -63,14 +56,12 @@ public:
     static constexpr auto preferencesPath = "/var/mobile/Library/Preferences";
 
 private:
-<<<<<<< HEAD
-    Options options_;
+    std::shared_ptr<const DeviceRoot> root_; ///< preference domains keep it when they outlive the device
+    std::unique_ptr<Clock> clock_;
+    std::string locale_;
+    std::string timeZone_;
     Ref<NSBundle> mainBundle_;
+    std::shared_ptr<PreferenceDomains> preferenceDomains_;
     MainQueueScheduler mainQueue_;
     DarwinNotifications notifications_;
-=======
-    std::shared_ptr<const Options> options_; ///< preference domains keep the root when they outlive the device
-    MainQueueScheduler mainQueue_;
-    std::shared_ptr<PreferenceDomains> preferenceDomains_;
->>>>>>> defaults
 };

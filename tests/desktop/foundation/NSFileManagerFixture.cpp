@@ -1,0 +1,84 @@
+#include "NSFileManagerFixture.h"
+
+#include "FileDescriptor.h"
+
+#include <sys/fsuid.h>
+#include <sys/stat.h>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <filesystem>
+
+NSFileManagerFixture::NSFileManagerFixture() {
+    setMode("", 0755); // for tests without privileges
+}
+
+void NSFileManagerFixture::link(const std::string& target, std::string_view path) const {
+    ASSERT_EQ(symlink(target.c_str(), device.hostPath(path).c_str()), 0);
+}
+
+void NSFileManagerFixture::makeFolder(std::string_view path) const {
+    std::filesystem::create_directories(device.hostPath(path));
+}
+
+void NSFileManagerFixture::makeFifo(std::string_view path) const {
+    ASSERT_EQ(mkfifo(device.hostPath(path).c_str(), 0644), 0);
+}
+
+void NSFileManagerFixture::setMode(std::string_view path, mode_t mode) const {
+    ASSERT_EQ(chmod(device.hostPath(path).c_str(), mode), 0);
+}
+
+void NSFileManagerFixture::makeDeepTree(std::string_view path, int levels) const {
+    FileDescriptor folder(open(device.hostPath(path).c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+    for (int i = 0; i < levels; ++i) {
+        ASSERT_EQ(mkdirat(folder.get(), "d", 0755), 0);
+        folder = FileDescriptor(openat(folder.get(), "d", O_PATH | O_DIRECTORY | O_CLOEXEC));
+    }
+}
+
+bool NSFileManagerFixture::isThere(std::string_view path) const {
+    struct stat status{};
+    return lstat(device.hostPath(path).c_str(), &status) == 0;
+}
+
+struct stat NSFileManagerFixture::statusOf(std::string_view path) const {
+    struct stat status{};
+    EXPECT_EQ(lstat(device.hostPath(path).c_str(), &status), 0) << path;
+    return status;
+}
+
+void NSFileManagerFixture::expectError(const NSError& error, std::int64_t code, const std::string& text,
+                                       int hostError, std::string_view path) {
+    EXPECT_EQ(error.domain(), NSCocoaErrorDomain);
+    EXPECT_EQ(error.code(), code);
+    EXPECT_EQ(error.localizedDescription(), text);
+    EXPECT_EQ(error.userInfo().at(std::string(NSFilePathErrorKey)), PropertyList(path));
+    ASSERT_TRUE(error.underlyingError());
+    EXPECT_EQ(error.underlyingError()->domain(), NSPOSIXErrorDomain);
+    EXPECT_EQ(error.underlyingError()->code(), hostError);
+}
+
+WithoutPrivileges::WithoutPrivileges() {
+    constexpr uid_t nobody = 65534;
+    setfsuid(nobody); // which takes the file capabilities along
+}
+
+WithoutPrivileges::~WithoutPrivileges() {
+    setfsuid(geteuid());
+}
+
+LowerLimit::LowerLimit(__rlimit_resource resource, rlim_t limit)
+    : resource_(resource),
+      handlerBefore_(std::signal(SIGXFSZ, SIG_IGN)) {
+    EXPECT_EQ(getrlimit(resource_, &before_), 0);
+    const rlimit lower{.rlim_cur = limit, .rlim_max = before_.rlim_max};
+    EXPECT_EQ(setrlimit(resource_, &lower), 0);
+}
+
+LowerLimit::~LowerLimit() {
+    EXPECT_EQ(setrlimit(resource_, &before_), 0);
+    static_cast<void>(std::signal(SIGXFSZ, handlerBefore_));
+}
