@@ -7,10 +7,14 @@
 NSObject::NSObject() : peer_(new ObjectPeer(*this)) {}
 
 NSObject::~NSObject() {
-    // Released one by one with nothing in the peer, since their destructors may look back at this object.
-    const auto attached = std::exchange(peer_->attachedValues, {});
     peer_->strongCount.store(ObjectPeer::ended, std::memory_order_relaxed);
+    peer_->releaseAttachedValues();
     peer_->releaseWeak();
+}
+
+void ObjectPeer::releaseAttachedValues() {
+    // With none left in the peer, since the end of a value may look back at its owner.
+    const auto released = std::exchange(attachedValues, {});
 }
 
 void ObjectPeer::retain() noexcept {

@@ -20,6 +20,8 @@ struct ObjectPeer {
     /// One more owner, unless the object's end has begun.
     [[nodiscard]] bool retainIfAlive() noexcept;
 
+    void releaseAttachedValues();
+
     void retainWeak() noexcept { weakCount.fetch_add(1, std::memory_order_relaxed); }
 
     void releaseWeak() noexcept;
