@@ -31,10 +31,10 @@ private:
 
     /// An array or dictionary whose references are being followed: a dictionary's keys, then its values.
     struct Collection {
-        std::size_t object;
-        std::size_t references; ///< position of the first
-        std::size_t keyCount;
-        std::size_t count;
+        std::size_t object = 0;
+        std::size_t references = 0; ///< position of the first
+        std::size_t keyCount = 0;
+        std::size_t count = 0;
         std::size_t next = 0;
     };
 

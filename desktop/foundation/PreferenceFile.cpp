@@ -96,8 +96,10 @@ void PreferenceFile::load() {
     }
     auto value = bytes ? decodePropertyList(*bytes) : std::nullopt;
     auto* const dictionary = value ? value->getIf<PropertyList::Dictionary>() : nullptr;
-    if (dictionary == nullptr)
-        return become(Condition::Damaged, "the file is damaged");
+    if (dictionary == nullptr) {
+        become(Condition::Damaged, "the file is damaged");
+        return;
+    }
     content_ = std::move(*dictionary);
     become(Condition::Sound, "");
 }

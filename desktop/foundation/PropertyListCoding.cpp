@@ -8,6 +8,7 @@
 #include "XmlPropertyListScan.h"
 
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <cmath>
 #include <cstdlib>
@@ -16,7 +17,7 @@
 namespace {
 
 struct Free {
-    void operator()(void* memory) const { std::free(memory); }
+    void operator()(void* memory) const { std::free(memory); } // NOLINT(*-no-malloc): libplist's
 };
 
 using CText = std::unique_ptr<char, Free>;
@@ -66,7 +67,7 @@ bool wholeCanBeKept(const PropertyList& value) {
 
 /// Whether XML has all characters of a text: it has no way to write most control characters.
 bool fitsXML(std::string_view text) {
-    constexpr std::string_view notCharacters[] = {"\xEF\xBF\xBE", "\xEF\xBF\xBF"};
+    constexpr std::array<std::string_view, 2> notCharacters{"\xEF\xBF\xBE", "\xEF\xBF\xBF"};
     return std::ranges::none_of(text,
                                 [](char character) {
                                     return static_cast<unsigned char>(character) < 0x20 &&

@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr std::size_t chunkSize = 128 * 1024;
+constexpr std::size_t chunkSize = std::size_t{128} * 1024;
 
 // The copy belongs to whoever copies: it must not lend that one's rights as the original lent its owner's.
 constexpr mode_t copiedModeBits = 01777;

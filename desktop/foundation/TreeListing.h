@@ -19,5 +19,5 @@ public:
 private:
     std::vector<std::string> paths_;
     std::string prefix_;                  ///< the path of the folder that the walk is in, with "/" at its end
-    std::vector<std::size_t> prefixes_{}; ///< the lengths of `prefix_` in the folders above
+    std::vector<std::size_t> prefixes_; ///< the lengths of `prefix_` in the folders above
 };

@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 #include <cstdint>
+#include <memory>
 #include <string>
 
 namespace {
@@ -23,8 +24,8 @@ std::string_view trimmed(std::string_view text) {
 template <class Number>
 bool isNumberOfType(std::string_view text) {
     Number number{};
-    const auto* const end = text.data() + text.size();
-    const auto [rest, error] = std::from_chars(text.data(), end, number);
+    const auto* const end = std::to_address(text.end());
+    const auto [rest, error] = std::from_chars(std::to_address(text.begin()), end, number);
     return error == std::errc() && rest == end;
 }
 

@@ -26,7 +26,7 @@ private:
     };
 
     struct Collection {
-        bool isDictionary;
+        bool isDictionary = false;
         bool hasKey = false; ///< the value of the key is due
     };
 
