@@ -182,9 +182,11 @@ Result<NSFileAttributes> NSFileManager::attributesOfItemAtPath(std::string_view 
 }
 
 std::vector<std::string> NSSearchPathForDirectoriesInDomains(NSSearchPathDirectory directory) {
-    if (directory != NSSearchPathDirectory::DocumentDirectory)
-        return {};
-    return {Device::documentsPath};
+    switch (directory) {
+    case NSSearchPathDirectory::DocumentDirectory:
+        return {Device::documentsPath};
+    }
+    return {};
 }
 
 std::string NSTemporaryDirectory() {

@@ -10,7 +10,9 @@
 /// What was changed in a preference domain and is not lasting yet.
 class PreferenceChanges {
 public:
-    void set(std::string_view key, PropertyList value) { values_.insert_or_assign(std::string(key), std::move(value)); }
+    void set(std::string_view key, PropertyList value) {
+        values_.insert_or_assign(std::string(key), std::move(value));
+    }
 
     void remove(std::string_view key) { values_.insert_or_assign(std::string(key), std::nullopt); }
 

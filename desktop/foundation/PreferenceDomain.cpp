@@ -8,12 +8,14 @@ namespace {
 
 bool canNameAFile(std::string_view name) {
     constexpr std::string_view separators("/\0", 2);
-    return !name.empty() && name != "." && name != ".." && name.find_first_of(separators) == std::string_view::npos;
+    return !name.empty() && name != "." && name != ".." &&
+           name.find_first_of(separators) == std::string_view::npos;
 }
 
 } // namespace
 
-PreferenceDomain::PreferenceDomain(std::shared_ptr<const DeviceRoot> root, std::string_view name) : name_(name) {
+PreferenceDomain::PreferenceDomain(std::shared_ptr<const DeviceRoot> root, std::string_view name)
+    : name_(name) {
     if (canNameAFile(name))
         file_.emplace(std::move(root), name);
 }

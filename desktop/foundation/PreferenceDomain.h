@@ -9,8 +9,8 @@
 #include <string>
 #include <string_view>
 
-/// One preference domain of this process, shared by all its suite objects: the file, and what was changed since
-/// it was last written. Any thread.
+/// One preference domain of this process, shared by all its suite objects: the file, and what was changed
+/// since it was last written. Any thread.
 class PreferenceDomain {
 public:
     /// A domain whose name cannot be that of a file in the folder (empty, ".", "..", or with "/" or U+0000 in

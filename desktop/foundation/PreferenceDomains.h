@@ -9,8 +9,8 @@
 #include <string>
 #include <string_view>
 
-/// The preference domains of this process, one for each name that was asked for. Made by the device and shared
-/// with its suite objects, which may outlive it. Any thread.
+/// The preference domains of this process, one for each name that was asked for. Made by the device and
+/// shared with its suite objects, which may outlive it. Any thread.
 class PreferenceDomains {
 public:
     explicit PreferenceDomains(std::shared_ptr<const DeviceRoot> root) : root_(std::move(root)) {}

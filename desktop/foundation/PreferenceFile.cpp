@@ -2,19 +2,21 @@
 
 #include "Device.h"
 #include "Foundation/NSLog.h"
-#include "HostFile.h"
 #include "PreferenceFolder.h"
 #include "PropertyListBudget.h"
 #include "PropertyListCoding.h"
 
-#include <cerrno>
 #include <fcntl.h>
+
+#include <cerrno>
 #include <system_error>
 #include <utility>
 
 namespace {
 
-std::string textOfError(int error) { return std::generic_category().message(error); }
+std::string textOfError(int error) {
+    return std::generic_category().message(error);
+}
 
 std::int64_t nanoseconds(const timespec& time) {
     return static_cast<std::int64_t>(time.tv_sec) * 1'000'000'000 + time.tv_nsec;
@@ -22,11 +24,16 @@ std::int64_t nanoseconds(const timespec& time) {
 
 } // namespace
 
-PreferenceFile::Identity::Identity(const struct stat& status) :
-    device(status.st_dev), inode(status.st_ino), size(status.st_size), modified(nanoseconds(status.st_mtim)) {}
+PreferenceFile::Identity::Identity(const struct stat& status)
+    : device(status.st_dev),
+      inode(status.st_ino),
+      size(status.st_size),
+      modified(nanoseconds(status.st_mtim)) {}
 
-PreferenceFile::PreferenceFile(std::shared_ptr<const DeviceRoot> root, std::string_view domainName) :
-    root_(std::move(root)), domainName_(domainName), fileName_(domainName_ + ".plist") {}
+PreferenceFile::PreferenceFile(std::shared_ptr<const DeviceRoot> root, std::string_view domainName)
+    : root_(std::move(root)),
+      domainName_(domainName),
+      fileName_(domainName_ + ".plist") {}
 
 const PropertyList::Dictionary& PreferenceFile::content() {
     refresh();
@@ -52,49 +59,48 @@ std::expected<void, std::string> PreferenceFile::tryToMakeLasting(const Preferen
     const auto bytes = encodePropertyList(std::move(changed), PropertyListFormat::Binary);
     if (!bytes)
         return std::unexpected("they are too large");
-    if (condition_ == Condition::Damaged)
+    if (condition_ == Condition::Damaged && identity_) {
         if (const auto kept = folder->keepAside(fileName_, identity_->inode); !kept)
             return std::unexpected("the damaged file cannot be kept: " + textOfError(kept.error()));
+    }
     if (const auto replaced = folder->replace(fileName_, *bytes); !replaced)
         return std::unexpected(textOfError(replaced.error()));
     return {};
 }
 
 void PreferenceFile::refresh() {
-    const auto path = std::string(Device::preferencesPath) + '/' + fileName_;
-    auto file = root_->open(path, O_RDONLY | O_NONBLOCK | O_NOCTTY);
-    struct stat status {};
-    if (!file || fstat(file->get(), &status) != 0) {
-        refreshWithoutFile(file ? errno : file.error());
+    auto file = RegularFile::open(*root_, std::string(Device::preferencesPath) + '/' + fileName_, O_RDONLY);
+    if (!file) {
+        refreshWithoutFile(file.error());
         return;
     }
-    const Identity identity(status);
-    const auto changed = nanoseconds(status.st_ctim);
+    const Identity identity(file->status());
+    const auto changed = nanoseconds(file->status().st_ctim);
     if (identity == identity_ && changed == changed_)
         return;
     file_ = std::move(*file);
     identity_ = identity;
     changed_ = changed;
-    load();
+    load(*file_);
 }
 
 void PreferenceFile::refreshWithoutFile(int error) {
-    file_.close();
+    file_.reset();
     identity_.reset();
     content_.clear();
     const bool isMissing = error == ENOENT || error == ENOTDIR;
     become(isMissing ? Condition::Sound : Condition::Unusable, isMissing ? "" : textOfError(error));
 }
 
-void PreferenceFile::load() {
+void PreferenceFile::load(RegularFile& file) {
     content_.clear();
-    const auto bytes = readRegularFile(file_, PropertyListBudget::maximumFileSize);
-    if (!bytes && bytes.error() != EFBIG) {
-        become(Condition::Unusable, textOfError(bytes.error()));
+    const auto data = file.readAll(PropertyListBudget::maximumFileSize);
+    if (!data && data.error() != EFBIG) {
+        become(Condition::Unusable, textOfError(data.error()));
         identity_.reset(); // to be tried again
         return;
     }
-    auto value = bytes ? decodePropertyList(*bytes) : std::nullopt;
+    auto value = data ? decodePropertyList(data->view()) : std::nullopt;
     auto* const dictionary = value ? value->getIf<PropertyList::Dictionary>() : nullptr;
     if (dictionary == nullptr) {
         become(Condition::Damaged, "the file is damaged");

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "DeviceRoot.h"
-#include "FileDescriptor.h"
 #include "Foundation/PropertyList.h"
 #include "PreferenceChanges.h"
+#include "RegularFile.h"
+
+#include <sys/stat.h>
 
 #include <cstdint>
 #include <expected>
@@ -11,7 +13,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <sys/stat.h>
 
 /// The file of one preference domain. Made by the domain, under whose mutex it is used.
 class PreferenceFile {
@@ -49,16 +50,17 @@ private:
 
     void refresh();
     void refreshWithoutFile(int error);
-    void load();
+    void load(RegularFile& file);
     void become(Condition condition, std::string_view reason);
     [[nodiscard]] std::expected<void, std::string> tryToMakeLasting(const PreferenceChanges& changes);
 
     std::shared_ptr<const DeviceRoot> root_;
     std::string domainName_;
     std::string fileName_;
-    FileDescriptor file_; ///< open while it is the last one read, so that no other gets its inode
+    std::optional<RegularFile> file_; ///< open while it is the last one read, so that no other gets its inode
     std::optional<Identity> identity_;
-    std::int64_t changed_ = 0; ///< when it last was, in nanoseconds; also by what leaves the content as it was
+    std::int64_t changed_ =
+        0; ///< when it last was, in nanoseconds; also by what leaves the content as it was
     Condition condition_ = Condition::Sound;
     PropertyList::Dictionary content_;
     Complaint lastComplaint_;

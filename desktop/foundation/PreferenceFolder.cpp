@@ -2,29 +2,23 @@
 
 #include "AtomicFile.h"
 #include "Device.h"
+#include "FolderListing.h"
 
-#include <cerrno>
-#include <dirent.h>
-#include <fcntl.h>
-#include <memory>
 #include <sys/file.h>
 #include <sys/stat.h>
 
-namespace {
+#include <fcntl.h>
 
-struct CloseFolder {
-    void operator()(DIR* folder) const { closedir(folder); }
-};
-
-} // namespace
+#include <cerrno>
 
 std::expected<PreferenceFolder, int> PreferenceFolder::lock(const DeviceRoot& root) {
     auto folder = root.open(Device::preferencesPath, O_RDONLY | O_DIRECTORY);
     if (!folder)
         return std::unexpected(folder.error());
-    while (flock(folder->get(), LOCK_EX) != 0)
+    while (flock(folder->get(), LOCK_EX) != 0) {
         if (errno != EINTR)
             return std::unexpected(errno);
+    }
     PreferenceFolder locked(std::move(*folder));
     locked.removeTemporaries();
     return locked;
@@ -33,7 +27,7 @@ std::expected<PreferenceFolder, int> PreferenceFolder::lock(const DeviceRoot& ro
 std::expected<void, int> PreferenceFolder::keepAside(const std::string& fileName, ino_t inode) const {
     for (unsigned number = 1;; ++number) {
         const auto name = fileName + ".damaged" + (number == 1 ? "" : "-" + std::to_string(number));
-        struct stat other {};
+        struct stat other{};
         const bool isTaken = fstatat(folder_.get(), name.c_str(), &other, AT_SYMLINK_NOFOLLOW) == 0;
         if (isTaken && other.st_ino == inode)
             return {};
@@ -44,14 +38,14 @@ std::expected<void, int> PreferenceFolder::keepAside(const std::string& fileName
     }
 }
 
-std::expected<void, int> PreferenceFolder::replace(const std::string& fileName, std::string_view bytes) const {
+std::expected<void, int> PreferenceFolder::replace(const std::string& fileName,
+                                                   std::string_view bytes) const {
     return AtomicFile::replace(folder_, fileName, bytes, temporaryPrefix);
 }
 
 void PreferenceFolder::removeTemporaries() const {
-    const FileDescriptor again(openat(folder_.get(), ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    const std::unique_ptr<DIR, CloseFolder> entries(again ? fdopendir(dup(again.get())) : nullptr);
-    while (const auto* const entry = entries ? readdir(entries.get()) : nullptr)
-        if (std::string_view(entry->d_name).starts_with(temporaryPrefix))
-            unlinkat(folder_.get(), entry->d_name, 0);
+    for (const auto& name : namesInFolder(folder_.get()).value_or(std::vector<std::string>())) {
+        if (name.starts_with(temporaryPrefix))
+            unlinkat(folder_.get(), name.c_str(), 0);
+    }
 }

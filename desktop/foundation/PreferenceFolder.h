@@ -3,13 +3,14 @@
 #include "DeviceRoot.h"
 #include "FileDescriptor.h"
 
+#include <sys/types.h>
+
 #include <expected>
 #include <string>
 #include <string_view>
-#include <sys/types.h>
 
-/// The folder of preferences, locked: while the object lives no other writer of preferences, of any domain and
-/// in any process, changes it.
+/// The folder of preferences, locked: while the object lives no other writer of preferences, of any domain
+/// and in any process, changes it.
 class PreferenceFolder {
 public:
     /// What the names of temporaries of preference files begin with.
@@ -18,8 +19,8 @@ public:
     /// Waits for the lock. Temporaries that are there then are of writers that died, and are removed.
     [[nodiscard]] static std::expected<PreferenceFolder, int> lock(const DeviceRoot& root);
 
-    /// Gives the file a second name, "NAME.damaged" or "NAME.damaged-2" and so on, so that it stays when it is
-    /// replaced. Nothing is done when it has such a name already; no name that is taken is touched.
+    /// Gives the file a second name, "NAME.damaged" or "NAME.damaged-2" and so on, so that it stays when it
+    /// is replaced. Nothing is done when it has such a name already; no name that is taken is touched.
     /// \param inode the file's
     [[nodiscard]] std::expected<void, int> keepAside(const std::string& fileName, ino_t inode) const;
 
@@ -28,6 +29,7 @@ public:
 
 private:
     explicit PreferenceFolder(FileDescriptor folder) : folder_(std::move(folder)) {}
+
     void removeTemporaries() const;
 
     FileDescriptor folder_;

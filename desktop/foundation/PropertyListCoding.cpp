@@ -242,10 +242,10 @@ PlistNode readSoundFile(std::string_view bytes) {
     const auto size = static_cast<std::uint32_t>(bytes.size());
     if (bytes.starts_with("bplist")) {
         if (BinaryPropertyListScan(bytes).isSound())
-            plist_from_bin(bytes.data(), size, &node);
+            plist_from_bin(std::to_address(bytes.begin()), size, &node);
     } else if (XmlPropertyListScan(bytes).isSound()) {
         const CNumericLocale locale;
-        plist_from_xml(bytes.data(), size, &node);
+        plist_from_xml(std::to_address(bytes.begin()), size, &node);
     }
     return PlistNode(node);
 }

@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <utility>
 
@@ -62,6 +63,25 @@ std::expected<RegularFile, int> RegularFile::check(FileDescriptor file) {
 
 std::expected<std::size_t, int> RegularFile::read(std::span<std::byte> buffer) {
     return transferAll(buffer, [this](auto left) { return ::read(file_.get(), left.data(), left.size()); });
+}
+
+std::expected<NSData, int> RegularFile::readAll(std::size_t maximumSize) {
+    // The file may grow while it is read, and some tell no size at all.
+    constexpr std::size_t leastRoom = 4096;
+    const auto told = static_cast<std::size_t>(status_.st_size);
+    NSData data;
+    while (data.bytes.size() <= maximumSize) {
+        const auto size = data.bytes.size();
+        const auto room = std::max(leastRoom, told > size ? told - size + 1 : 0); // 1 to see the end with
+        data.bytes.resize(size + room);
+        const auto count = read(std::span(data.bytes).subspan(size));
+        if (!count)
+            return std::unexpected(count.error());
+        data.bytes.resize(size + *count);
+        if (*count < room && data.bytes.size() <= maximumSize)
+            return data;
+    }
+    return std::unexpected(EFBIG);
 }
 
 std::expected<void, int> RegularFile::write(std::span<const std::byte> bytes) {

@@ -2,6 +2,7 @@
 
 #include "DeviceRoot.h"
 #include "FileDescriptor.h"
+#include "Foundation/NSData.h"
 
 #include <sys/stat.h>
 
@@ -28,6 +29,9 @@ public:
 
     /// Reads on. \returns how many bytes there were for `buffer`: fewer than it holds, or 0, at the end only
     [[nodiscard]] std::expected<std::size_t, int> read(std::span<std::byte> buffer);
+
+    /// Reads all that is left. \returns `EFBIG` when that is more than the maximum
+    [[nodiscard]] std::expected<NSData, int> readAll(std::size_t maximumSize);
 
     /// Writes all bytes at the current place.
     [[nodiscard]] std::expected<void, int> write(std::span<const std::byte> bytes);

@@ -18,6 +18,6 @@ public:
 
 private:
     std::vector<std::string> paths_;
-    std::string prefix_;                  ///< the path of the folder that the walk is in, with "/" at its end
+    std::string prefix_;                ///< the path of the folder that the walk is in, with "/" at its end
     std::vector<std::size_t> prefixes_; ///< the lengths of `prefix_` in the folders above
 };

@@ -82,7 +82,7 @@ public:
 
     /// Calls `visitor` with the value as the type that it is kept in.
     template <class Visitor>
-    decltype(auto) visit(Visitor&& visitor) const {
+    [[nodiscard]] decltype(auto) visit(Visitor&& visitor) const {
         return std::visit(std::forward<Visitor>(visitor), value_);
     }
 

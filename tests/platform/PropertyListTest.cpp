@@ -1,5 +1,7 @@
 #include "Foundation/PropertyList.h"
 
+#include "DecimalCommaLocale.h"
+
 #include <gtest/gtest.h>
 
 #include <cstdint>
@@ -93,6 +95,12 @@ TEST(PropertyList, DescribesScalarsAsThePlatformPrintsThem) {
     EXPECT_EQ(PropertyList("it's").description(), "it's");
     EXPECT_EQ(PropertyList(NSDate{0}).description(), "2001-01-01 00:00:00 +0000");
     EXPECT_EQ(PropertyList(NSData::dataWithBytes("ab")).description(), "{length = 2, bytes = 0x6162}");
+}
+
+TEST(PropertyList, DescribesRealsWithAPointWhereTheHostWritesAComma) {
+    const DecimalCommaLocale locale;
+    EXPECT_EQ(PropertyList(0.5).description(), "0.5");
+    EXPECT_EQ(PropertyList(0.1).description(), "0.1");
 }
 
 TEST(PropertyList, DescribesCollectionsOverSeveralLines) {

@@ -30,6 +30,7 @@ pid_t spawn(const std::string& path, const std::vector<std::string>& arguments, 
     std::vector<std::string> texts{path};
     texts.insert(texts.end(), arguments.begin(), arguments.end());
     std::vector<char*> pointers;
+    pointers.reserve(texts.size() + 1);
     for (auto& text : texts)
         pointers.push_back(text.data());
     pointers.push_back(nullptr);
@@ -70,7 +71,7 @@ void ChildProgram::sendLine(const std::string& line) const {
 std::optional<std::string> ChildProgram::readLine() {
     while (true) {
         if (const auto end = unread_.find('\n'); end != std::string::npos) {
-            const auto line = unread_.substr(0, end);
+            auto line = unread_.substr(0, end);
             unread_.erase(0, end + 1);
             return line;
         }
@@ -87,7 +88,7 @@ std::string ChildProgram::ask(const std::string& line) {
     return readLine().value_or("no answer");
 }
 
-void ChildProgram::kill() {
+void ChildProgram::kill() const {
     ::kill(process_, SIGKILL);
 }
 

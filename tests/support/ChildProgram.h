@@ -26,7 +26,7 @@ public:
     [[nodiscard]] std::string ask(const std::string& line);
 
     /// Ends it as by `kill -9`. Its output so far can still be read.
-    void kill();
+    void kill() const;
 
     /// Waits for its end. \returns the status of waitpid(2)
     int wait();

@@ -15,6 +15,8 @@
 #include <string>
 #include <vector>
 
+namespace {
+
 class AtomicFileTest : public testing::Test {
 protected:
     [[nodiscard]] std::string path(const std::string& name) const { return temporary_.path() + '/' + name; }
@@ -44,6 +46,8 @@ protected:
     TemporaryFolder temporary_;
     FileDescriptor folder_{open(temporary_.path().c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC)};
 };
+
+} // namespace
 
 TEST_F(AtomicFileTest, ANewFileHoldsTheBytesAndIsTheOwnersOnly) {
     const std::string bytes("a\0b", 3);

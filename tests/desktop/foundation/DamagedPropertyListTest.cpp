@@ -44,7 +44,7 @@ std::string doublingFile(int count) {
     for (int i = 1; i <= count; ++i)
         objects.push_back('\xA2' + bigEndian(static_cast<std::uint64_t>(i), 1) +
                           bigEndian(static_cast<std::uint64_t>(i), 1));
-    objects.push_back("\x09");
+    objects.emplace_back("\x09");
     return binaryFile(objects);
 }
 
@@ -133,7 +133,7 @@ TEST(DamagedPropertyListTest, DeepBinaryNestingReadsAsNothing) {
         std::vector<std::string> objects;
         for (int i = 1; i <= depth; ++i)
             objects.push_back('\xA1' + bigEndian(static_cast<std::uint64_t>(i), 4));
-        objects.push_back("\x09");
+        objects.emplace_back("\x09");
         EXPECT_FALSE(decodePropertyList(binaryFile(objects, 4))) << depth;
     }
 }
@@ -144,7 +144,7 @@ TEST(DamagedPropertyListTest, NestingCountsAlsoThroughAnObjectThatWasReachedAtLe
             "\xA2\x40\x01"s}; // the chain from its 64th array on, and the whole of it
         for (unsigned i = 2; i <= length; ++i)
             objects.push_back('\xA1' + bigEndian(i, 1));
-        objects.push_back("\xA0");
+        objects.emplace_back("\xA0");
         return binaryFile(objects);
     };
     EXPECT_TRUE(decodePropertyList(chainOf(127)));

@@ -4,6 +4,7 @@
 
 #include <cerrno>
 #include <cstring>
+#include <ostream>
 #include <string>
 
 namespace {
@@ -14,6 +15,11 @@ struct Case {
     std::int64_t code;
     std::string text;
 };
+
+/// Names the case in lists of tests.
+void PrintTo(const Case& example, std::ostream* out) {
+    *out << strerrorname_np(example.error);
+}
 
 class FileErrorsTest : public testing::TestWithParam<Case> {};
 

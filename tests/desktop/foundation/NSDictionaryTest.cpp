@@ -17,12 +17,12 @@ using Dictionary = PropertyList::Dictionary;
 const Dictionary sample{
     {"name", "\xE2\x9C\x93 <a>"}, {"count", -3}, {"on", true}, {"list", Array{0.5, Dictionary()}}};
 
-} // namespace
-
 class NSDictionaryTest : public testing::Test {
 protected:
     TestDevice device_;
 };
+
+} // namespace
 
 TEST_F(NSDictionaryTest, WhatIsWrittenIsReadBack) {
     EXPECT_TRUE(writeToFileAtomically(sample, "/var/mobile/a.plist"));

@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cstdint>
 #include <filesystem>
 #include <limits>
@@ -33,8 +34,6 @@ Ref<NSUserDefaults> suiteNamed(const std::string& name) {
     return NSUserDefaults::initWithSuiteName(name);
 }
 
-} // namespace
-
 class NSUserDefaultsTest : public testing::Test {
 protected:
     [[nodiscard]] std::optional<PropertyList> contentOfFile(const std::string& suiteName) const {
@@ -53,6 +52,8 @@ protected:
 
     TestDevice device_;
 };
+
+} // namespace
 
 TEST_F(NSUserDefaultsTest, ANewSuiteHoldsNothing) {
     const auto defaults = suiteNamed(suite);
@@ -222,17 +223,17 @@ TEST_F(NSUserDefaultsTest, ANameThatIsNoFileNameKeepsNothingLasting) {
 }
 
 TEST_F(NSUserDefaultsTest, ThreadsCanShareADomain) {
-    std::vector<std::thread> threads;
-    for (int thread = 0; thread < 4; ++thread)
-        threads.emplace_back([thread] {
+    {
+        const auto writeMany = [](int thread) {
             const auto defaults = suiteNamed(suite);
             for (int i = 0; i < 25; ++i) {
                 defaults->setObject(i, std::to_string(thread) + '-' + std::to_string(i));
                 EXPECT_TRUE(defaults->synchronize());
             }
-        });
-    for (auto& thread : threads)
-        thread.join();
+        };
+        const std::array threads{std::jthread(writeMany, 0), std::jthread(writeMany, 1),
+                                 std::jthread(writeMany, 2), std::jthread(writeMany, 3)};
+    }
     EXPECT_EQ(suiteNamed(suite)->dictionaryRepresentation().size(), 100U);
     EXPECT_EQ(contentOfFile(suite), PropertyList(suiteNamed(suite)->dictionaryRepresentation()));
 }
@@ -241,7 +242,7 @@ TEST(NSUserDefaultsLifetimeTest, ASuiteObjectMayOutliveTheDevice) {
     const TemporaryFolder folder;
     Ref<NSUserDefaults> defaults;
     {
-        Device device(
+        const Device device(
             {.root = std::move(*DeviceRoot::open(folder.path())), .clock = std::make_unique<RealClock>()});
         defaults = suiteNamed(suite);
     }

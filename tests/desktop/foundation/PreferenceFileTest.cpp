@@ -15,6 +15,8 @@
 #include <vector>
 
 /// What becomes of files in a domain's place that are not what they should be, and of writes that fail.
+namespace {
+
 class PreferenceFileTest : public testing::Test {
 protected:
     [[nodiscard]] std::string host(const std::string& name) const {
@@ -45,6 +47,8 @@ protected:
     TestDevice device_;
     Ref<NSUserDefaults> defaults_ = NSUserDefaults::initWithSuiteName("a");
 };
+
+} // namespace
 
 TEST_F(PreferenceFileTest, ADamagedFileReadsAsEmptyAndIsLoggedOnceForEachFile) {
     write("a.plist", "damaged");

@@ -59,9 +59,9 @@ State stateOf(plist_t dictionary) {
         if (value == nullptr)
             break;
         state[key] = textOf(value);
-        std::free(key);
+        std::free(key); // NOLINT(*-no-malloc): libplist's
     }
-    std::free(iterator);
+    std::free(iterator); // NOLINT(*-no-malloc): libplist's
     return state;
 }
 
@@ -102,8 +102,6 @@ void spinFor(std::chrono::microseconds time) {
     while (std::chrono::steady_clock::now() < end)
         continue;
 }
-
-} // namespace
 
 class PreferenceKillTest : public testing::Test {
 protected:
@@ -157,7 +155,7 @@ protected:
     }
 
     /// \returns how many temporaries were left
-    int checkFolder() const {
+    [[nodiscard]] int checkFolder() const {
         int temporaries = 0;
         for (const auto& entry :
              std::filesystem::directory_iterator(folder_.path() + Device::preferencesPath)) {
@@ -177,6 +175,8 @@ protected:
     std::uint64_t begun_ = 0;
     std::uint64_t done_ = 0;
 };
+
+} // namespace
 
 TEST_F(PreferenceKillTest, TenThousandWritesUnderKillsLeaveAlwaysTheLastStateOrTheOneBefore) {
     SCOPED_TRACE("seed " + std::to_string(seed_));

@@ -53,9 +53,9 @@ int main(int, char** arguments) {
     auto root = DeviceRoot::open(arguments[1]);
     if (!root)
         return 1;
-    Device device({.root = std::move(*root), .clock = std::make_unique<RealClock>()});
+    const Device device({.root = std::move(*root), .clock = std::make_unique<RealClock>()});
     LogRecorder log;
     for (std::string line; std::getline(std::cin, line);)
-        std::cout << perform(line, log) << std::endl;
+        std::cout << perform(line, log) << '\n' << std::flush;
     return 0;
 }

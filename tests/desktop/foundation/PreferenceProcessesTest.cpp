@@ -12,6 +12,8 @@
 #include <string>
 
 /// Two processes that use one preference domain: this one and a peer.
+namespace {
+
 class PreferenceProcessesTest : public testing::Test {
 protected:
     [[nodiscard]] std::size_t namesInFolder() const {
@@ -24,6 +26,8 @@ protected:
     Ref<NSUserDefaults> defaults_ = NSUserDefaults::initWithSuiteName("a");
     ChildProgram peer_{PREFERENCE_PEER, {device_.hostPath("")}};
 };
+
+} // namespace
 
 TEST_F(PreferenceProcessesTest, WritesAreSeenByTheOtherProcessOnceTheyAreSynchronized) {
     ASSERT_EQ(peer_.ask("set a key theirs"), "ok");

@@ -40,7 +40,7 @@ int main(int, char** arguments) {
     if (!root)
         return 1;
     const auto last = std::stoull(arguments[2]);
-    Device device({.root = std::move(*root), .clock = std::make_unique<RealClock>()});
+    const Device device({.root = std::move(*root), .clock = std::make_unique<RealClock>()});
     const auto defaults = NSUserDefaults::initWithSuiteName(suiteName);
     const auto reached = defaults->objectForKey("number");
     auto number = reached ? static_cast<std::uint64_t>(reached->integerValue()) : 0;

@@ -1,5 +1,6 @@
 #include "PropertyListCoding.h"
 
+#include "DecimalCommaLocale.h"
 #include "ExactPropertyList.h"
 #include "PropertyListBudget.h"
 #include "RandomPropertyList.h"
@@ -8,6 +9,7 @@
 
 #include <bit>
 #include <cstdint>
+#include <cstdlib>
 #include <limits>
 #include <string>
 #include <vector>
@@ -206,6 +208,14 @@ TEST(PropertyListCodingTest, TextThatIsNoTextIsRefusedAsKeyAndAnywhereInAValue) 
         EXPECT_FALSE(canBeKept("key", Dictionary{{text, 1}}));
     }
     EXPECT_TRUE(canBeKept("key", "text"));
+}
+
+TEST(PropertyListCodingTest, NumbersAreTheSameWhereTheHostWritesADecimalComma) {
+    const DecimalCommaLocale locale;
+    ASSERT_EQ(std::strtod("0,5", nullptr), 0.5);
+    EXPECT_TRUE(survivesXML(0.5));
+    EXPECT_TRUE(survivesBinary(0.5));
+    EXPECT_EQ(std::strtod("0,5", nullptr), 0.5) << "the thread's locale was not given back";
 }
 
 TEST(PropertyListCodingTest, TenThousandRandomListsSurviveBinaryExactly) {

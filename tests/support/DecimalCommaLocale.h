@@ -1,0 +1,19 @@
+#pragma once
+
+#include "TestDevice.h"
+
+#include <locale.h>
+
+/// While it lives, the calling thread's locale writes 0.5 as 0,5. Made from the host's locale sources.
+class DecimalCommaLocale {
+public:
+    DecimalCommaLocale();
+    ~DecimalCommaLocale();
+    DecimalCommaLocale(const DecimalCommaLocale&) = delete;
+    DecimalCommaLocale& operator=(const DecimalCommaLocale&) = delete;
+
+private:
+    TemporaryFolder folder_; ///< of the compiled locale
+    locale_t locale_;
+    locale_t previous_;
+};
