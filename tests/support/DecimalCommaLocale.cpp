@@ -12,7 +12,7 @@ constexpr auto localeName = "de_DE.UTF-8";
 locale_t makeLocale(const std::string& folder) {
     ChildProgram("/usr/bin/localedef", {"-i", "de_DE", "-f", "UTF-8", folder + "/" + localeName}).wait();
     setenv("LOCPATH", folder.c_str(), 1);
-    const auto made = newlocale(LC_ALL_MASK, localeName, nullptr);
+    auto* const made = newlocale(LC_ALL_MASK, localeName, nullptr);
     unsetenv("LOCPATH");
     if (made == nullptr) {
         std::fputs("localedef cannot make a locale: are the locale sources installed?\n", stderr);
