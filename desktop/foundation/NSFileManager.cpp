@@ -169,7 +169,7 @@ std::vector<std::string> NSFileManager::enumeratorAtPath(std::string_view path) 
         return {};
     TreeListing listing;
     // A folder that goes away meanwhile ends the listing; what was found till then is the answer.
-    static_cast<void>(TreeWalk(folder->get(), listing).walk("."));
+    [[maybe_unused]] const auto walked = TreeWalk(folder->get(), listing).walk(".");
     return std::move(listing.paths());
 }
 
@@ -182,9 +182,11 @@ Result<NSFileAttributes> NSFileManager::attributesOfItemAtPath(std::string_view 
 }
 
 std::vector<std::string> NSSearchPathForDirectoriesInDomains(NSSearchPathDirectory directory) {
-    if (directory != NSSearchPathDirectory::DocumentDirectory)
-        return {};
-    return {Device::documentsPath};
+    switch (directory) {
+    case NSSearchPathDirectory::DocumentDirectory:
+        return {Device::documentsPath};
+    }
+    return {};
 }
 
 std::string NSTemporaryDirectory() {

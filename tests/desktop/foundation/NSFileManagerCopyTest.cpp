@@ -230,10 +230,10 @@ TEST_F(NSFileManagerCopyTest, NothingOutsideIsReadOrMadeWhileFoldersAndLinksChan
             renameat2(AT_FDCWD, folder.c_str(), AT_FDCWD, copied.c_str(), RENAME_EXCHANGE);
         });
         for (int i = 0; i < 500; ++i) {
-            static_cast<void>(manager.copyItemAtPath("/tree", "/copy"));
+            [[maybe_unused]] const auto result = manager.copyItemAtPath("/tree", "/copy");
             for (const auto& path : manager.enumeratorAtPath("/copy"))
                 ASSERT_FALSE(path.ends_with("secret")) << path;
-            static_cast<void>(manager.removeItemAtPath("/copy"));
+            [[maybe_unused]] const auto removed = manager.removeItemAtPath("/copy");
         }
     }
     const std::filesystem::directory_iterator names(outside.path());
