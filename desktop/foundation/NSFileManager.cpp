@@ -169,7 +169,7 @@ std::vector<std::string> NSFileManager::enumeratorAtPath(std::string_view path) 
         return {};
     TreeListing listing;
     // A folder that goes away meanwhile ends the listing; what was found till then is the answer.
-    static_cast<void>(TreeWalk(folder->get(), listing).walk("."));
+    [[maybe_unused]] const auto walked = TreeWalk(folder->get(), listing).walk(".");
     return std::move(listing.paths());
 }
 

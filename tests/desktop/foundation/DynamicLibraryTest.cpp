@@ -167,13 +167,16 @@ TEST_F(DynamicLibraryTest, IsUnloadedAtTheEndOfTheObject) {
 }
 
 TEST_F(DynamicLibraryTest, StaysLoadedUntilItsLastOwnerClosesIt) {
+    const auto openBefore = openDescriptors();
     auto first = openCounted("/lib/first");
     auto second = openCounted("/lib/first");
     first.close();
     EXPECT_EQ(unloadings, 0);
     EXPECT_EQ(numberOf(second), 1);
+    EXPECT_EQ(openDescriptors(), openBefore + 1);
     second.close();
     EXPECT_EQ(unloadings, 1);
+    EXPECT_EQ(openDescriptors(), openBefore);
 }
 
 TEST_F(DynamicLibraryTest, MovesItsOwnership) {

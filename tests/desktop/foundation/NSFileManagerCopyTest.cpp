@@ -110,10 +110,10 @@ TEST_F(NSFileManagerCopyTest, LinksToTheOutsideAreCopiedAndNotFollowed) {
 
 TEST_F(NSFileManagerCopyTest, CopiesATreeThatIsDeeperThanAPathCanBeAndThanFilesCanBeOpen) {
     makeFolder("/folder");
-    ASSERT_NO_FATAL_FAILURE(makeDeepTree("/folder", 2500));
+    ASSERT_NO_FATAL_FAILURE(makeDeepTree("/folder", std::string(20, 'd'), 300));
     const LowerLimit openFiles(RLIMIT_NOFILE, 160);
     ASSERT_TRUE(manager.copyItemAtPath("/folder", "/copy").has_value());
-    EXPECT_EQ(manager.enumeratorAtPath("/copy").size(), 2500U);
+    EXPECT_EQ(manager.enumeratorAtPath("/copy").size(), 300U);
     EXPECT_TRUE(manager.removeItemAtPath("/folder").has_value());
     EXPECT_TRUE(manager.removeItemAtPath("/copy").has_value());
 }
@@ -229,11 +229,11 @@ TEST_F(NSFileManagerCopyTest, NothingOutsideIsReadOrMadeWhileFoldersAndLinksChan
             renameat2(AT_FDCWD, folder.c_str(), AT_FDCWD, other.c_str(), RENAME_EXCHANGE);
             renameat2(AT_FDCWD, folder.c_str(), AT_FDCWD, copied.c_str(), RENAME_EXCHANGE);
         });
-        for (int i = 0; i < 500; ++i) {
-            static_cast<void>(manager.copyItemAtPath("/tree", "/copy"));
+        for (int i = 0; i < 300; ++i) {
+            [[maybe_unused]] const auto result = manager.copyItemAtPath("/tree", "/copy");
             for (const auto& path : manager.enumeratorAtPath("/copy"))
                 ASSERT_FALSE(path.ends_with("secret")) << path;
-            static_cast<void>(manager.removeItemAtPath("/copy"));
+            [[maybe_unused]] const auto removed = manager.removeItemAtPath("/copy");
         }
     }
     const std::filesystem::directory_iterator names(outside.path());

@@ -31,11 +31,11 @@ void NSFileManagerFixture::setMode(std::string_view path, mode_t mode) const {
     ASSERT_EQ(chmod(device.hostPath(path).c_str(), mode), 0);
 }
 
-void NSFileManagerFixture::makeDeepTree(std::string_view path, int levels) const {
+void NSFileManagerFixture::makeDeepTree(std::string_view path, const std::string& name, int levels) const {
     FileDescriptor folder(open(device.hostPath(path).c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
     for (int i = 0; i < levels; ++i) {
-        ASSERT_EQ(mkdirat(folder.get(), "d", 0755), 0);
-        folder = FileDescriptor(openat(folder.get(), "d", O_PATH | O_DIRECTORY | O_CLOEXEC));
+        ASSERT_EQ(mkdirat(folder.get(), name.c_str(), 0755), 0);
+        folder = FileDescriptor(openat(folder.get(), name.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
     }
 }
 

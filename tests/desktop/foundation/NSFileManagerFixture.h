@@ -21,8 +21,8 @@ protected:
     void makeFifo(std::string_view path) const;
     void setMode(std::string_view path, mode_t mode) const;
 
-    /// Makes folders named "d", each in the one before, from a folder that exists on.
-    void makeDeepTree(std::string_view path, int levels) const;
+    /// Makes folders of that name, each in the one before, from a folder that exists on.
+    void makeDeepTree(std::string_view path, const std::string& name, int levels) const;
 
     /// Whether something is there, a link by itself.
     [[nodiscard]] bool isThere(std::string_view path) const;

@@ -258,8 +258,8 @@ TEST_F(NSFileManagerTest, AttributesOfALinkAreItsOwn) {
 TEST_F(NSFileManagerTest, AttributesTellTheDates) {
     device.write("/file", "");
     const double madeAt = manager.attributesOfItemAtPath("/file")->fileCreationDate.timeIntervalSince1970();
-    const std::array<timespec, 2> times{
-        {{.tv_sec = 1000, .tv_nsec = 0}, {.tv_sec = 1234567890, .tv_nsec = 500000000}}};
+    const auto times = std::to_array<timespec>(
+        {{.tv_sec = 1000, .tv_nsec = 0}, {.tv_sec = 1234567890, .tv_nsec = 500000000}});
     ASSERT_EQ(utimensat(AT_FDCWD, device.hostPath("/file").c_str(), times.data(), 0), 0);
     const auto attributes = manager.attributesOfItemAtPath("/file");
     ASSERT_TRUE(attributes.has_value());
