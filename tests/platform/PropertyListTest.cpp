@@ -106,6 +106,7 @@ TEST(PropertyList, DescribesRealsWithAPointWhereTheHostWritesAComma) {
 TEST(PropertyList, DescribesCollectionsOverSeveralLines) {
     EXPECT_EQ(PropertyList(Array()).description(), "(\n)");
     EXPECT_EQ(PropertyList(Dictionary()).description(), "{\n}");
+    EXPECT_EQ(PropertyList(Array{NSDate{0}}).description(), "(\n    \"2001-01-01 00:00:00 +0000\"\n)");
     EXPECT_EQ(PropertyList(Array{Array{1}}).description(), "(\n        (\n        1\n    )\n)");
     const PropertyList nested =
         Dictionary{{"an array", Array{1, "plain", "two words", "a\"b\\c\nd"}}, {"k", ""}};

@@ -2,6 +2,7 @@
 
 #include "ChildProgram.h"
 
+#include <clocale>
 #include <cstdio>
 #include <cstdlib>
 
@@ -9,25 +10,24 @@ namespace {
 
 constexpr auto localeName = "de_DE.UTF-8";
 
-locale_t makeLocale(const std::string& folder) {
+/// `setlocale`, as `newlocale` never frees the list of folders it makes of LOCPATH.
+void setLocaleMadeIn(const std::string& folder) {
     ChildProgram("/usr/bin/localedef", {"-i", "de_DE", "-f", "UTF-8", folder + "/" + localeName}).wait();
     setenv("LOCPATH", folder.c_str(), 1);
-    auto* const made = newlocale(LC_ALL_MASK, localeName, nullptr);
+    const auto* const set = std::setlocale(LC_ALL, localeName);
     unsetenv("LOCPATH");
-    if (made == nullptr) {
+    if (set == nullptr) {
         std::fputs("localedef cannot make a locale: are the locale sources installed?\n", stderr);
         std::abort();
     }
-    return made;
 }
 
 } // namespace
 
-DecimalCommaLocale::DecimalCommaLocale()
-    : locale_(makeLocale(folder_.path())),
-      previous_(uselocale(locale_)) {}
+DecimalCommaLocale::DecimalCommaLocale() : previous_(std::setlocale(LC_ALL, nullptr)) {
+    setLocaleMadeIn(folder_.path());
+}
 
 DecimalCommaLocale::~DecimalCommaLocale() {
-    uselocale(previous_);
-    freelocale(locale_);
+    std::setlocale(LC_ALL, previous_.c_str());
 }

@@ -2,9 +2,9 @@
 
 #include "TestDevice.h"
 
-#include <locale.h>
+#include <string>
 
-/// While it lives, the calling thread's locale writes 0.5 as 0,5. Made from the host's locale sources.
+/// While it lives, the process's locale writes 0.5 as 0,5. Made from the host's locale sources.
 class DecimalCommaLocale {
 public:
     DecimalCommaLocale();
@@ -14,6 +14,5 @@ public:
 
 private:
     TemporaryFolder folder_; ///< of the compiled locale
-    locale_t locale_;
-    locale_t previous_;
+    std::string previous_;
 };
