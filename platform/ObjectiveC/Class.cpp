@@ -41,11 +41,13 @@ const Method* Class::instanceMethod(std::string_view selector) const {
     return nullptr;
 }
 
+Ref<NSObject> Class::allocate() const {
+    return construct_ != nullptr ? adopt(construct_()) : nullptr;
+}
+
 Ref<NSObject> Class::create() const {
-    if (construct_ == nullptr)
-        return nullptr;
-    auto object = adopt(construct_());
-    return object->init() ? object : nullptr;
+    auto object = allocate();
+    return object && object->init() ? object : nullptr;
 }
 
 const Class* NSClassFromString(std::string_view name) {

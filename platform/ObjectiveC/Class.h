@@ -53,6 +53,10 @@ public:
     /// The selectors that the class itself adds.
     [[nodiscard]] std::span<const Method> methods() const { return methods_; }
 
+    /// A new object that is still to be readied with one of its initialisers. Empty when the class cannot be
+    /// made plainly.
+    [[nodiscard]] Ref<NSObject> allocate() const;
+
     /// A new object, readied with `init`. Empty when `init` refused or when the class cannot be made plainly.
     [[nodiscard]] Ref<NSObject> create() const;
 
@@ -67,7 +71,7 @@ private:
 
     template <class T>
     static constexpr Constructor constructorOf() {
-        if constexpr (std::default_initializable<T>)
+        if constexpr (requires { new T; })
             return [] -> NSObject* { return new T; };
         else
             return nullptr;

@@ -10,6 +10,7 @@
 #include <string>
 #include <string_view>
 #include <type_traits>
+#include <vector>
 
 /// What a parameter or result of a method is, in the terms that a platform needs to carry it.
 enum class MessageType : char {
@@ -20,6 +21,7 @@ enum class MessageType : char {
     Text,    ///< a string object, or null
     Value,   ///< a property-list object, or null
     Object,  ///< any other object, or null
+    Objects, ///< an array of such objects
 };
 
 /// A method that can be called by its selector's text. Made by `method`; lives as long as the program's code.
@@ -130,6 +132,27 @@ struct MessageTraits<Ref<T>> {
     }
 };
 
+template <std::derived_from<NSObject> T>
+struct MessageTraits<std::vector<Ref<T>>> {
+    static constexpr auto type = MessageType::Objects;
+
+    /// What is not a `T` is left out.
+    static std::vector<Ref<T>> unpack(const MessageValue& value) {
+        std::vector<Ref<T>> objects;
+        if (const auto* list = std::get_if<std::vector<Ref<NSObject>>>(&value)) {
+            for (const auto& object : *list) {
+                if (auto typed = dynamicCast<T>(object))
+                    objects.push_back(std::move(typed));
+            }
+        }
+        return objects;
+    }
+
+    static MessageValue pack(const std::vector<Ref<T>>& value) {
+        return std::vector<Ref<NSObject>>(value.begin(), value.end());
+    }
+};
+
 /// How `method` calls one member function of `T`; use `method` instead.
 template <auto member, class T, class Result, class... Parameters>
 struct MemberCall {
@@ -161,8 +184,8 @@ private:
 
     template <class Parameter>
     static auto argumentAt(std::span<const MessageValue> arguments, std::size_t index) {
-        using Traits = MessageTraits<std::remove_cvref_t<Parameter>>;
-        return Traits::unpack(index < arguments.size() ? arguments[index] : MessageValue());
+        using Carrier = MessageTraits<std::remove_cvref_t<Parameter>>;
+        return Carrier::unpack(index < arguments.size() ? arguments[index] : MessageValue());
     }
 };
 

@@ -63,3 +63,13 @@ template <std::derived_from<NSObject> T, class... Arguments>
     auto object = adopt(new T(std::forward<Arguments>(arguments)...));
     return object->init() ? object : nullptr;
 }
+
+/// Makes a `T` and initialises it with another initialiser than `init`:
+/// `makeWith<UILabel>(&UILabel::initWithFrame, frame)`.
+/// \returns an empty Ref when the initialiser refused
+template <std::derived_from<NSObject> T, class Base, class... Parameters, class... Arguments>
+    requires std::derived_from<T, Base>
+[[nodiscard]] Ref<T> makeWith(bool (Base::*initialiser)(Parameters...), Arguments&&... arguments) {
+    auto object = adopt(new T);
+    return ((*object).*initialiser)(std::forward<Arguments>(arguments)...) ? object : nullptr;
+}

@@ -60,6 +60,8 @@ public:
 
     [[nodiscard]] T* operator->() const noexcept { return object_; }
 
+    // The analyser takes every object for one whose initialiser has failed.
+    // NOLINTNEXTLINE(clang-analyzer-core.uninitialized.UndefReturn)
     [[nodiscard]] T& operator*() const noexcept { return *object_; }
 
     [[nodiscard]] explicit operator bool() const noexcept { return object_ != nullptr; }

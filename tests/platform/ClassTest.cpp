@@ -61,6 +61,11 @@ TEST(Class, CreatesNothingThatNeedsArguments) {
     EXPECT_EQ(needsArgumentsClass.create(), nullptr);
 }
 
+TEST(Class, AllocatesWithoutInit) {
+    EXPECT_TRUE(dynamicCast<Refusing>(refusingClass.allocate()));
+    EXPECT_EQ(needsArgumentsClass.allocate(), nullptr);
+}
+
 TEST(Class, KnowsItsSuperclass) {
     EXPECT_EQ(dogClass.superclass(), &animalClass);
     EXPECT_EQ(animalClass.superclass(), NSClassFromString("NSObject"));

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <limits>
 #include <string>
 #include <vector>
@@ -22,6 +23,11 @@ public:
 
     Ref<Receiver> self(const Ref<Receiver>& value) { return value; }
 
+    std::vector<Ref<Receiver>> reversed(std::vector<Ref<Receiver>> values) {
+        std::ranges::reverse(values);
+        return values;
+    }
+
     void store(const std::optional<PropertyList>& value, const Ref<NSObject>& owner) {
         stored = value.has_value() && owner != nullptr;
     }
@@ -37,6 +43,7 @@ constexpr Method size = method<"size:", &Receiver::size>();
 constexpr Method name = method<"name:", &Receiver::name>();
 constexpr Method value = method<"value:", &Receiver::value>();
 constexpr Method self = method<"self:", &Receiver::self>();
+constexpr Method reversed = method<"reversed:", &Receiver::reversed>();
 constexpr Method store = method<"store:owner:", &Receiver::store>();
 
 class MethodTest : public testing::Test {
@@ -73,6 +80,16 @@ TEST_F(MethodTest, CarriesEveryKindOfValueBothWays) {
     EXPECT_EQ(call(name, {list("Töne")}), list("Töne"));
     EXPECT_EQ(call(value, {list(PropertyList::Array{1, "two"})}), list(PropertyList::Array{1, "two"}));
     EXPECT_EQ(call(self, {Ref<NSObject>(receiver)}), MessageValue(Ref<NSObject>(receiver)));
+}
+
+TEST_F(MethodTest, CarriesListsOfObjectsAndLeavesOutWhatIsOfAnotherClass) {
+    const Ref<NSObject> first = receiver;
+    const Ref<NSObject> second = make<Receiver>();
+    const Ref<NSObject> stranger = make<Stranger>();
+    using Objects = std::vector<Ref<NSObject>>;
+    EXPECT_EQ(call(reversed, {Objects{first, stranger, second}}), MessageValue(Objects{second, first}));
+    EXPECT_EQ(call(reversed, {nothing}), MessageValue(Objects()));
+    EXPECT_EQ(reversed.result, MessageType::Objects);
 }
 
 TEST_F(MethodTest, AbsentTextValuesAndObjectsStayAbsent) {

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "Foundation/PropertyList.h"
+#include "ObjectiveC/NSObject.h"
+
+#include <optional>
+#include <string_view>
+
+/// One row of a page, or the head of a group of rows, described by named properties.
+class PSSpecifier : public NSObject {
+public:
+    /// Nothing when the row has no such property.
+    [[nodiscard]] virtual std::optional<PropertyList> propertyForKey(std::string_view key) const = 0;
+
+    virtual void setProperty(const PropertyList& value, std::string_view key) = 0;
+};

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "CoreGraphics/CGGeometry.h"
+#include "ObjectiveC/NSObject.h"
+#include "UIKit/UIBezierPath.h"
+#include "UIKit/UIColor.h"
+
+#include <memory>
+
+/// The platform's half of a layer; each platform defines it.
+class CALayerPeer;
+
+/// What a view looks like: its corners, border and shadow. Made and owned by its view. Lengths are in points.
+/// A colour is taken as it looks at the moment it is set. Main thread only.
+class CALayer : public NSObject {
+public:
+    CALayer();
+
+    [[nodiscard]] double cornerRadius() const;
+    void setCornerRadius(double radius);
+
+    [[nodiscard]] double borderWidth() const;
+    void setBorderWidth(double width);
+    void setBorderColor(const Ref<UIColor>& color);
+
+    void setShadowColor(const Ref<UIColor>& color);
+    void setShadowRadius(double radius);
+    /// 0..1.
+    void setShadowOpacity(double opacity);
+    void setShadowOffset(CGSize offset);
+    /// The outline that throws the shadow, in the layer's own coordinates; without one, what the layer
+    /// paints.
+    void setShadowPath(const Ref<UIBezierPath>& path);
+
+    /// Whether what lies in the layer is cut off at its edges.
+    void setMasksToBounds(bool masks);
+
+    /// For the platform's own code.
+    [[nodiscard]] CALayerPeer& peer() const { return *peer_; }
+
+protected:
+    ~CALayer() override;
+
+private:
+    const std::unique_ptr<CALayerPeer> peer_;
+};

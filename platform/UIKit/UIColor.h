@@ -1,0 +1,20 @@
+#pragma once
+
+#include "ObjectiveC/NSObject.h"
+
+/// A colour. The system's named colours look different in light and dark appearance; every other one is the
+/// same in both. Immutable.
+class UIColor : public NSObject {
+public:
+    /// Red, green, blue and alpha in 0..1.
+    [[nodiscard]] static Ref<UIColor> colorWithRed(double red, double green, double blue, double alpha);
+
+    [[nodiscard]] static Ref<UIColor> clearColor();
+    [[nodiscard]] static Ref<UIColor> blackColor();
+    [[nodiscard]] static Ref<UIColor> whiteColor();
+    /// White 0.5.
+    [[nodiscard]] static Ref<UIColor> grayColor();
+    /// White 2/3.
+    [[nodiscard]] static Ref<UIColor> lightGrayColor();
+    [[nodiscard]] static Ref<UIColor> systemRedColor();
+};

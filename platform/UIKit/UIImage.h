@@ -1,0 +1,29 @@
+#pragma once
+
+#include "CoreGraphics/CGGeometry.h"
+#include "ObjectiveC/NSObject.h"
+
+#include <string_view>
+
+/// Whether an image is drawn in its own colours or as a shape in the tint of where it is shown. The numbers
+/// are the platform's.
+enum class UIImageRenderingMode : int { Automatic = 0, AlwaysOriginal = 1, AlwaysTemplate = 2 };
+
+/// A picture or a symbol. Immutable.
+class UIImage : public NSObject {
+public:
+    /// The system's symbol of that name; empty when there is none.
+    [[nodiscard]] static Ref<UIImage> systemImageNamed(std::string_view name);
+
+    /// The picture in a file, by device path; empty when there is none or it cannot be read. A name that ends
+    /// in "@2x" or "@3x" before its extension tells the picture's pixels per point.
+    [[nodiscard]] static Ref<UIImage> imageWithContentsOfFile(std::string_view path);
+
+    /// The same image, drawn in that mode.
+    [[nodiscard]] virtual Ref<UIImage> imageWithRenderingMode(UIImageRenderingMode mode) const = 0;
+
+    [[nodiscard]] virtual UIImageRenderingMode renderingMode() const = 0;
+
+    /// In points.
+    [[nodiscard]] virtual CGSize size() const = 0;
+};
