@@ -34,7 +34,7 @@ std::optional<DynamicLibrary> DynamicLibrary::open(std::string_view path, Bindin
     auto handle = LibraryFiles::shared().load(std::move(*file), static_cast<int>(binding) | RTLD_LOCAL);
     if (!handle)
         return std::nullopt;
-    return DynamicLibrary(std::make_unique<State>(std::move(handle)));
+    return DynamicLibrary(std::make_unique<State>(std::move(*handle)));
 }
 
 DynamicLibrary::DynamicLibrary(std::unique_ptr<State> state) : state_(std::move(state)) {}

@@ -19,15 +19,17 @@ LibraryFiles& LibraryFiles::shared() {
     return *files;
 }
 
-LibraryFiles::Handle LibraryFiles::load(RegularFile file, int flags) {
+std::expected<LibraryFiles::Handle, std::string> LibraryFiles::load(RegularFile file, int flags) {
     const std::scoped_lock lock(mutex_);
     const Identity identity(file.status().st_dev, file.status().st_ino);
     const auto entry = entries_.try_emplace(identity, std::move(file), nullptr).first;
     auto* const library = dlopen(nameFor(entry->second.file).c_str(), flags);
-    if (library != nullptr)
-        entry->second.library = library;
-    else
+    if (library == nullptr) {
+        std::string reason = dlerror(); // before the loader is asked anything else
         forgetUnlessLoaded(entry);
+        return std::unexpected(std::move(reason));
+    }
+    entry->second.library = library;
     return Handle(library);
 }
 

@@ -4,9 +4,11 @@
 
 #include <sys/types.h>
 
+#include <expected>
 #include <map>
 #include <memory>
 #include <mutex>
+#include <string>
 #include <utility>
 
 /// The library files that the host's loader has. It is led to a file by the number of an open descriptor and
@@ -24,9 +26,10 @@ public:
     /// A library as dlsym(3) takes it; owned.
     using Handle = std::unique_ptr<void, Close>;
 
-    /// Loads a library, or makes one more owner of a loaded one. Null when that fails.
+    /// Loads a library, or makes one more owner of a loaded one.
     /// \param flags those of dlopen(3)
-    [[nodiscard]] Handle load(RegularFile file, int flags);
+    /// \returns or what the loader says against it
+    [[nodiscard]] std::expected<Handle, std::string> load(RegularFile file, int flags);
 
 private:
     using Identity = std::pair<dev_t, ino_t>;

@@ -25,6 +25,9 @@ public:
     /// queue for now are left for the next call. \returns how many ran
     std::size_t runDue();
 
+    /// Drops all blocks that wait, as the end of a process does.
+    void forgetAll() { std::exchange(blocks_, {}).clear(); }
+
     /// The uptime at which the next block is due, if any waits.
     [[nodiscard]] std::optional<std::chrono::nanoseconds> nextDue() const;
 

@@ -88,6 +88,14 @@ std::string ChildProgram::ask(const std::string& line) {
     return readLine().value_or("no answer");
 }
 
+void ChildProgram::endInput() {
+    input_ = FileDescriptor();
+}
+
+void ChildProgram::endOutput() {
+    output_ = FileDescriptor();
+}
+
 void ChildProgram::kill() const {
     ::kill(process_, SIGKILL);
 }

@@ -25,6 +25,12 @@ public:
     /// Sends a line and waits for the one that answers it.
     [[nodiscard]] std::string ask(const std::string& line);
 
+    /// Ends its input.
+    void endInput();
+
+    /// Nobody reads what it writes any more.
+    void endOutput();
+
     /// Ends it as by `kill -9`. Its output so far can still be read.
     void kill() const;
 

@@ -27,6 +27,7 @@ using State = std::map<std::string, std::string>;
 
 constexpr std::uint64_t lastStep = 10'000;
 constexpr int fewestKills = 300;
+constexpr std::uint64_t batch = 5; ///< steps; the writer waits for leave before each multiple
 
 std::string textOf(plist_t node) {
     std::uint64_t size = 0;
@@ -109,12 +110,15 @@ protected:
 
     /// Lets a writer run for a while and kills it. \returns whether it lived until then
     bool runAndKill() {
-        ChildProgram writer(PREFERENCE_WRITER, {folder_.path(), std::to_string(lastStep)});
+        ChildProgram writer(PREFERENCE_WRITER,
+                            {folder_.path(), std::to_string(lastStep), std::to_string(batch)});
+        auto leave = begun_; // up to the last batch that the writer may begin
         for (auto messages = 1 + random_() % 50; messages > 0; --messages) {
             if (!hear(writer)) {
                 EXPECT_EQ(writer.wait(), 0) << "the writer ended by itself before its last step";
                 return false;
             }
+            leave = giveLeave(writer, leave);
         }
         spinFor(std::chrono::microseconds(random_() % 150));
         writer.kill();
@@ -122,6 +126,16 @@ protected:
         while (hear(writer))
             continue;
         return WIFSIGNALED(status);
+    }
+
+    /// Lets the writer go on to the batch after the one it is in. Only while steps are left, so that it is
+    /// there to hear of it. \returns the step that the last batch with leave begins with
+    [[nodiscard]] std::uint64_t giveLeave(const ChildProgram& writer, std::uint64_t leave) const {
+        const auto nextBatch = (begun_ / batch + 1) * batch;
+        if (nextBatch <= leave || nextBatch > lastStep)
+            return leave;
+        writer.sendLine("");
+        return nextBatch;
     }
 
     /// \returns false at the end of what the writer says
