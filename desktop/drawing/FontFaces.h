@@ -1,0 +1,29 @@
+#pragma once
+
+#include "FontStyle.h"
+
+#include <QFont>
+#include <QFontDatabase>
+#include <QStringList>
+#include <expected>
+#include <string>
+
+/// The faces that stand in for the platform's own: Inter for text, and Inter Display for what is larger.
+/// Needs a QGuiApplication.
+class FontFaces {
+public:
+    /// From this size on, in points, a text is set in the display face.
+    static constexpr double displaySize = 20;
+
+    /// Whether the faces are there. A host asks at its start, as any text would come out in another face.
+    /// \returns or a message for the user that names the missing families and the package that has them
+    [[nodiscard]] static std::expected<void, std::string>
+    check(const QStringList& families = QFontDatabase::families());
+
+    /// The font of a style. Qt has fonts of whole pixels only, so this one has a fixed size, and `unit` says
+    /// what its pixels stand for.
+    [[nodiscard]] static QFont font(const FontStyle& style);
+
+    /// What a pixel of a style's font is in points, so that capitals are as high as the platform's.
+    [[nodiscard]] static double unit(const FontStyle& style);
+};

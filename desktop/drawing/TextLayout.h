@@ -1,0 +1,102 @@
+#pragma once
+
+#include "FontStyle.h"
+#include "Utf16Text.h"
+
+#include <QColor>
+#include <QPointF>
+#include <QRectF>
+#include <QSizeF>
+#include <QTextLayout>
+#include <cstddef>
+#include <limits>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+class QPainter;
+
+enum class HorizontalAlignment { Left, Center, Right };
+
+/// What becomes of the last line that may be shown when there is more text than fits.
+enum class Truncation {
+    Tail, ///< it ends with an ellipsis
+    Clip  ///< it goes on, and what is too wide is not painted
+};
+
+struct TextLayoutOptions {
+    double maximumWidth = std::numeric_limits<double>::infinity(); ///< in points
+    std::size_t maximumLines = 0;                                  ///< 0 is without limit
+    HorizontalAlignment alignment = HorizontalAlignment::Left;
+    Truncation truncation = Truncation::Tail;
+    double pixelScale = 1; ///< pixels in a point; sizes are whole pixels
+};
+
+/// A text in one style, broken into lines as the platform's labels break it. Wraps between words, within a
+/// word only where it does not fit a line alone; a line feed starts a new line. Its owner makes another when
+/// text, style or room change. Positions are points from the layout's upper left corner, indexes are bytes of
+/// the UTF-8 text and stand before a character as a reader counts them (a grapheme cluster) or at the end.
+class TextLayout {
+public:
+    TextLayout(std::string_view text, const FontStyle& style, const TextLayoutOptions& options = {});
+
+    /// The widest line by all lines, up to whole pixels. An empty text is one line high and has no width.
+    [[nodiscard]] QSizeF size() const;
+
+    [[nodiscard]] std::size_t lineCount() const { return lines_.size(); }
+
+    /// Whether there is text that is not shown.
+    [[nodiscard]] bool isTruncated() const { return isTruncated_; }
+
+    /// From the top to a line's baseline.
+    [[nodiscard]] double baseline(std::size_t line) const;
+
+    /// A line's ink and side bearings by its full height. Lines are aligned within the maximum width, or
+    /// within the width of `size` where that has no limit.
+    [[nodiscard]] QRectF lineRect(std::size_t line) const;
+
+    /// Where a caret before the character at an index stands: no width, the line's height.
+    [[nodiscard]] QRectF caretRect(std::size_t index) const;
+
+    /// The index whose caret is nearest to a point.
+    [[nodiscard]] std::size_t indexAt(QPointF point) const;
+
+    /// The index of the next character, or the end.
+    [[nodiscard]] std::size_t indexAfter(std::size_t index) const;
+
+    /// The index of the previous character, or 0.
+    [[nodiscard]] std::size_t indexBefore(std::size_t index) const;
+
+    /// \param origin where the layout's upper left corner is painted
+    void paint(QPainter& painter, QPointF origin, const QColor& color) const;
+
+private:
+    struct Line {
+        std::shared_ptr<QTextLayout> layout; ///< of the paragraph, or of the line alone when it is cut short
+        int number = 0;                      ///< within the layout
+        qsizetype offset = 0;                ///< of the layout's text within the whole
+        qsizetype end = 0;                   ///< of what the line shows of the text
+
+        [[nodiscard]] QTextLine textLine() const { return layout->lineAt(number); }
+    };
+
+    void breakIntoLines();
+    void breakParagraph(qsizetype begin, qsizetype end);
+
+    /// Lays the last line out again as one that goes on to the end of its paragraph, and is cut.
+    void cutLastLine(qsizetype paragraphEnd);
+
+    [[nodiscard]] QString beginningWithRoomForEllipsis(const QString& text) const;
+    [[nodiscard]] std::shared_ptr<QTextLayout> layoutOf(const QString& text) const;
+    [[nodiscard]] double lineWidth(const Line& line) const;
+    [[nodiscard]] double boxWidth() const;
+    [[nodiscard]] double left(const Line& line) const;
+    [[nodiscard]] std::size_t lineOf(qsizetype position) const;
+
+    Utf16Text text_;
+    FontStyle style_;
+    double unit_; ///< of Qt's layouts, in points
+    TextLayoutOptions options_;
+    std::vector<Line> lines_;
+    bool isTruncated_ = false;
+};

@@ -1,0 +1,81 @@
+#include "FontFaces.h"
+
+#include "Steps.h"
+
+#include <gtest/gtest.h>
+
+#include <QFontInfo>
+#include <QFontMetricsF>
+#include <QPainterPath>
+#include <QRawFont>
+
+namespace {
+
+QRawFont faceOf(const FontStyle& style) {
+    return QRawFont::fromFont(FontFaces::font(style));
+}
+
+/// The height of a capital as the font draws it, in points.
+double capitalHeight(const FontStyle& style) {
+    QPainterPath path;
+    path.addText(0, 0, FontFaces::font(style), "H");
+    return path.boundingRect().height() * FontFaces::unit(style);
+}
+
+} // namespace
+
+TEST(FontFacesTest, TheFacesAreInstalled) {
+    const auto found = FontFaces::check();
+    EXPECT_TRUE(found.has_value()) << found.error();
+}
+
+TEST(FontFacesTest, SaysWhichFamiliesAreMissingAndWhoHasThem) {
+    const auto one = FontFaces::check({"Inter", "Courier"});
+    ASSERT_FALSE(one.has_value());
+    EXPECT_NE(one.error().find(": Inter Display ("), std::string::npos) << one.error();
+    const auto both = FontFaces::check({});
+    ASSERT_FALSE(both.has_value());
+    EXPECT_NE(both.error().find("Inter, Inter Display (Debian package fonts-inter)"), std::string::npos)
+        << both.error();
+}
+
+TEST(FontFacesTest, TextsFromTwentyPointsOnAreInTheDisplayFace) {
+    EXPECT_EQ(faceOf({.size = 19.9}).familyName(), "Inter");
+    EXPECT_EQ(faceOf({.size = 20}).familyName(), "Inter Display");
+}
+
+TEST(FontFacesTest, EachWeightHasAFaceOfItsOwn) {
+    for (const double size : {17.0, 34.0}) {
+        EXPECT_EQ(faceOf({size, FontWeight::Regular}).weight(), 400);
+        EXPECT_EQ(faceOf({size, FontWeight::Medium}).weight(), 500);
+        EXPECT_EQ(faceOf({size, FontWeight::Semibold}).weight(), 600);
+        EXPECT_EQ(faceOf({size, FontWeight::Bold}).weight(), 700);
+    }
+}
+
+TEST(FontFacesTest, CapitalsAreAsHighAsThePlatforms) {
+    for (const double size : {11.0, 13.0, 17.0, 20.0, 34.0, 100.0}) {
+        const FontStyle style{.size = size};
+        EXPECT_NEAR(capitalHeight(style), style.capHeight(), 0.003 * size) << size;
+    }
+}
+
+TEST(FontFacesTest, TextsAreNotHinted) {
+    EXPECT_EQ(FontFaces::font({}).hintingPreference(), QFont::PreferNoHinting);
+    EXPECT_EQ(QFontInfo(FontFaces::font({})).family(), "Inter");
+}
+
+TEST(FontFacesTest, AnAdvanceGrowsWithTheSizeSmoothly) {
+    const auto advance = [](double size) {
+        const FontStyle style{.size = size};
+        return QFontMetricsF(FontFaces::font(style)).horizontalAdvance("nnnnnnnnnn") * FontFaces::unit(style);
+    };
+    for (const double size : steps(9, 19, 0.5))
+        EXPECT_NEAR(advance(size + 0.5) / advance(size), (size + 0.5) / size, 0.01) << size;
+    for (const double size : steps(20, 40, 0.5))
+        EXPECT_NEAR(advance(size + 0.5) / advance(size), (size + 0.5) / size, 0.01) << size;
+}
+
+TEST(FontFacesTest, ASizeOfZeroIsNoError) {
+    EXPECT_GT(FontFaces::unit({.size = 0}), 0);
+}

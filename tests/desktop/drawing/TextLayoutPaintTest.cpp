@@ -1,0 +1,88 @@
+#include "Ink.h"
+#include "TextLayout.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+QImage paintedText(const TextLayout& layout, QPointF origin, double scale, const QColor& color = Qt::black) {
+    return painted({200, 60}, scale, [&](QPainter& painter) { layout.paint(painter, origin, color); });
+}
+
+} // namespace
+
+TEST(TextLayoutPaintTest, CapitalsStandOnTheBaselineAndAreAsHighAsCapitalsAre) {
+    for (const double scale : {1.0, 2.0, 3.0}) {
+        for (const double size : {13.0, 17.0, 34.0}) {
+            const FontStyle style{.size = size};
+            const TextLayout layout("HEH", style);
+            const auto ink = inkOf(paintedText(layout, {10, 8}, scale), 100);
+            EXPECT_NEAR(ink.bottom() + 1, (8 + layout.baseline(0)) * scale, 1.01) << size << " at " << scale;
+            EXPECT_NEAR(ink.height(), style.capHeight() * scale, 1.3) << size << " at " << scale;
+        }
+    }
+}
+
+TEST(TextLayoutPaintTest, InkIsWithinTheLine) {
+    const TextLayout layout("Settings", {.size = 17});
+    const auto ink = inkOf(paintedText(layout, {10, 8}, 3));
+    const auto line = layout.lineRect(0).translated(10, 8);
+    EXPECT_GE(ink.left(), 3 * line.left() - 1);
+    EXPECT_LE(ink.right(), 3 * line.right() + 1);
+    EXPECT_GE(ink.width(), 3 * line.width() - 12);
+    EXPECT_GE(ink.top(), 3 * line.top());
+    EXPECT_LE(ink.bottom(), 3 * line.bottom());
+}
+
+TEST(TextLayoutPaintTest, EachLineIsOnItsOwnBaseline) {
+    const TextLayout layout("H\nH", {.size = 20});
+    const auto image = paintedText(layout, {0, 0}, 2);
+    const auto secondTop = static_cast<int>(2 * layout.lineRect(1).top());
+    const auto first = inkOf(image.copy(0, 0, image.width(), secondTop), 100);
+    const auto second = inkOf(image.copy(0, secondTop, image.width(), image.height() - secondTop), 100);
+    EXPECT_NEAR(first.bottom() + 1, 2 * layout.baseline(0), 1.01);
+    EXPECT_NEAR(secondTop + second.bottom() + 1, 2 * layout.baseline(1), 1.01);
+}
+
+TEST(TextLayoutPaintTest, TheColorIsThatOfTheText) {
+    const auto image = paintedText(TextLayout("█", {.size = 30}), {0, 0}, 3, QColor(255, 0, 0, 128));
+    const auto pixel = image.pixelColor(30, 60);
+    EXPECT_NEAR(pixel.alpha(), 128, 1);
+    EXPECT_EQ(pixel.red(), 255);
+    EXPECT_EQ(pixel.green(), 0);
+}
+
+TEST(TextLayoutPaintTest, AnEllipsisIsPainted) {
+    const TextLayout cut("IIIIIIIIIIIIIIIIIIIIIIIIIII", {.size = 17},
+                         {.maximumWidth = 60, .maximumLines = 1});
+    const auto ink = inkOf(paintedText(cut, {0, 0}, 3));
+    EXPECT_LE(ink.right(), 60 * 3);
+    const auto image = paintedText(cut, {0, 0}, 3);
+    const auto dots = inkOf(image.copy(ink.right() - 20, 0, 21, image.height()));
+    EXPECT_LT(dots.height(), 9) << "dots are low, letters would be high";
+    EXPECT_GT(dots.width(), 12);
+}
+
+TEST(TextLayoutPaintTest, AClippedLineHasNoInkBesideTheRoom) {
+    const TextLayout cut("MMMMMMMMMMMMMMMMMMMM", {.size = 17},
+                         {.maximumWidth = 60, .maximumLines = 1, .truncation = Truncation::Clip});
+    const auto ink = inkOf(paintedText(cut, {10, 0}, 2));
+    EXPECT_GE(ink.right(), 2 * 69 - 4);
+    EXPECT_LT(ink.right(), 2 * 70);
+}
+
+TEST(TextLayoutPaintTest, ThePainterIsAsItWas) {
+    static_cast<void>(painted({50, 50}, 1, [](QPainter& painter) {
+        painter.setPen(Qt::green);
+        TextLayout("long enough to clip", {},
+                   {.maximumWidth = 20, .maximumLines = 1, .truncation = Truncation::Clip})
+            .paint(painter, {0, 0}, Qt::red);
+        EXPECT_EQ(painter.pen().color(), QColor(Qt::green));
+        EXPECT_FALSE(painter.hasClipping());
+    }));
+}
+
+TEST(TextLayoutPaintTest, PositionsWithinAPixelShow) {
+    const TextLayout layout("l", {.size = 17});
+    EXPECT_NE(paintedText(layout, {10, 8}, 1), paintedText(layout, {10.5, 8}, 1));
+}
