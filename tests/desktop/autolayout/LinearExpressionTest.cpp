@@ -1,0 +1,45 @@
+#include "LinearExpression.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+TEST(LinearExpression, GathersTheTermsOfAVariable) {
+    const LinearVariable x;
+    const LinearVariable y;
+    const LinearExpression sum = 2 * x + y - 16 + x * 0.5 - (y + y) + 4;
+    ASSERT_EQ(sum.terms().size(), 2U);
+    EXPECT_EQ(sum.terms()[0].variable, x);
+    EXPECT_EQ(sum.terms()[0].coefficient, 2.5);
+    EXPECT_EQ(sum.terms()[1].variable, y);
+    EXPECT_EQ(sum.terms()[1].coefficient, -1);
+    EXPECT_EQ(sum.constant(), -12);
+}
+
+TEST(LinearExpression, NegatesAllOfIt) {
+    const LinearVariable x;
+    const auto negative = -(3 * x + 5);
+    EXPECT_EQ(negative.terms()[0].coefficient, -3);
+    EXPECT_EQ(negative.constant(), -5);
+}
+
+TEST(LinearExpression, TakesItselfAsTheOther) {
+    const LinearVariable x;
+    LinearExpression doubled = x + 5;
+    const auto& same = doubled;
+    doubled += same;
+    EXPECT_EQ(doubled.terms()[0].coefficient, 2);
+    EXPECT_EQ(doubled.constant(), 10);
+    doubled -= same;
+    EXPECT_EQ(doubled.terms()[0].coefficient, 0);
+    EXPECT_EQ(doubled.constant(), 0);
+}
+
+TEST(LinearExpression, IsFiniteWhenAllItsNumbersAre) {
+    const LinearVariable x;
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    EXPECT_TRUE((x + 1e300).isFinite());
+    EXPECT_FALSE((x + infinity).isFinite());
+    EXPECT_FALSE((infinity * x).isFinite());
+    EXPECT_FALSE((std::numeric_limits<double>::quiet_NaN() * x).isFinite());
+}
