@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+
+/// What an element is to somebody who does not see it.
+enum class AccessibilityRole { None, Button, StaticText, Image, Switch, Header, Link, TextField, Slider };
+
+/// How a view tells of itself to assistive programs and to scripts.
+struct Accessibility {
+    std::string label; ///< what it is called; the view's own text when this is empty
+    std::string value; ///< what it is set to
+    AccessibilityRole role = AccessibilityRole::None;
+    bool isElement = false; ///< one thing: its subviews are not told of
+};

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "PaintList.h"
+#include "ScratchImages.h"
+#include "ShadowRenderer.h"
+
+#include <QImage>
+#include <QRegion>
+
+/// Paints paint lists. Keeps shadows and room to work in from one picture to the next; one for each picture.
+class LayerPainter {
+public:
+    /// Paints the pixels of `damage` anew. \param picture of the list's size, ARGB32 premultiplied
+    void paint(const PaintList& list, const QRegion& damage, QImage& picture);
+
+private:
+    ScratchImages scratch_;
+    ShadowRenderer shadows_;
+};

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "LayerLook.h"
+
+#include <QRect>
+#include <cstddef>
+#include <cstdint>
+
+class LayerDelegate;
+
+/// One layer of a paint list: its look, its place among the others, and the pixels that it can reach.
+struct PaintItem {
+    LayerLook look;
+    double opacity = 1;          ///< of the layer with all within it
+    std::uint64_t identity = 0;  ///< of the layer
+    std::uint64_t enclosing = 0; ///< the nearest layer around it that it is faded or cut off with; 0 for none
+    std::size_t end = 0;         ///< the index of the first item that is not within it
+    LayerDelegate* delegate = nullptr; ///< paints the contents; may be null
+    QRect clip;                        ///< what the layers around it leave of the picture
+    QRect innerClip;                   ///< what is left for what is within it
+    QRect body;                        ///< what the layer itself can reach
+    QRect extent;                      ///< the same with its shadow
+    QRect wholeExtent;                 ///< the same with all within it
+
+    /// Whether it is painted apart, and faded as a whole.
+    [[nodiscard]] bool isGroup() const { return opacity < 1; }
+
+    /// Whether it cuts off what is within it along edges that are not those of pixels.
+    [[nodiscard]] bool hasSoftMask() const { return look.masksToBounds && !look.fillsWholePixels(); }
+};

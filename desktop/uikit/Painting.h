@@ -1,0 +1,54 @@
+#pragma once
+
+#include "PaintList.h"
+#include "ScratchImages.h"
+#include "ShadowRenderer.h"
+
+#include <QImage>
+#include <QPainter>
+#include <QRegion>
+#include <cstddef>
+#include <vector>
+
+/// The painting of one picture, or of a part of it. Everything is painted at its place in pictures of the
+/// whole's size, so that the same pixels come out whatever part is painted. Made by LayerPainter.
+class Painting {
+public:
+    Painting(const PaintList& list, const QRegion& damage, QImage& picture, ScratchImages& scratch,
+             ShadowRenderer& shadows);
+
+    void paintAll();
+
+private:
+    /// A picture that layers are painted into: the whole's, or that of a group on its way into it.
+    struct Surface {
+        QImage& image;
+        QPainter painter;
+        double opacity; ///< that the group is going to be painted with
+
+        Surface(QImage& picture, double groupOpacity);
+    };
+
+    void paintItems(std::size_t first, std::size_t end, Surface& surface);
+    void paintItem(std::size_t index, Surface& surface);
+    void paintGroup(std::size_t index, Surface& surface);
+    void paintLayer(std::size_t index, Surface& surface);
+    void paintInside(std::size_t index, Surface& surface);
+    void paintMasked(std::size_t index, Surface& surface);
+    /// Brings back what was there where a mask cuts off.
+    void blendEdges(const PaintItem& item, const QRegion& edges, QImage& saved, Surface& surface);
+    void paintShadow(const PaintItem& item, Surface& surface);
+    void paintBackdrop(const PaintItem& item, Surface& surface);
+    void paintBackground(const PaintItem& item, Surface& surface);
+    void paintContents(const PaintItem& item, Surface& surface);
+    void paintBorder(const PaintItem& item, Surface& surface);
+    [[nodiscard]] QImage behind(const QRect& rect) const;
+    [[nodiscard]] QPainter& readied(Surface& surface, const PaintItem& item, const QRegion& clip) const;
+
+    const std::vector<PaintItem>& items_;
+    const QRegion& damage_;
+    ScratchImages& scratch_;
+    ShadowRenderer& shadows_;
+    QImage& picture_;
+    std::vector<Surface*> surfaces_; ///< the whole's, then those of the groups that are being painted
+};

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QImage>
+#include <cstddef>
+#include <deque>
+
+/// Pictures of one size that are needed for a while within a painting. Keeps them for the next one.
+class ScratchImages {
+public:
+    /// Drops the pictures of another size.
+    void setSize(QSize size);
+
+    /// A picture with any content, for as long as `release` has not been called as often.
+    [[nodiscard]] QImage& take();
+
+    /// Gives back the picture that was taken last.
+    void release() { --taken_; }
+
+private:
+    QSize size_;
+    std::deque<QImage> images_;
+    std::size_t taken_ = 0;
+};

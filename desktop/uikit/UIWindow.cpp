@@ -1,0 +1,75 @@
+#include "UIWindow.h"
+
+#include "ObjectiveC/Class.h"
+#include "Screen.h"
+#include "UIViewControllerPeer.h"
+#include "UIViewPeer.h"
+
+namespace {
+
+const Class classObject = Class::define<UIWindow, UIView>("UIWindow");
+
+class UIWindowPeer final : public UIViewPeer {
+public:
+    // UIViewPeer:
+    [[nodiscard]] UIWindow* window() const override { return dynamic_cast<UIWindow*>(&view()); }
+
+    [[nodiscard]] UIView* hitTest(CGPoint point) override {
+        auto* const hit = UIViewPeer::hitTest(point);
+        return hit == &view() ? nullptr : hit;
+    }
+
+    void layoutSubviews() override {
+        if (const auto& root = dynamic_cast<UIWindow&>(view()).rootViewController())
+            root->view().setFrame(view().bounds());
+    }
+};
+
+} // namespace
+
+UIWindow::UIWindow() : UIView(std::make_unique<UIWindowPeer>()) {
+    peer().setTraitOverride([](Traits& traits) { traits = Screen::current().traits(); });
+    peer().setAdditionalSafeAreaInsets(Screen::current().safeAreaInsets());
+}
+
+void UIWindow::setRootViewController(const Ref<UIViewController>& controller) {
+    if (rootViewController_) {
+        rootDisappears();
+        rootViewController_->view().peer().removeFromSuperview();
+    }
+    rootViewController_ = controller;
+    if (!controller)
+        return;
+    controller->view().setFrame(bounds());
+    addSubview(retain(&controller->view()));
+    rootAppears();
+}
+
+void UIWindow::setOnScreen(bool onScreen) {
+    isOnScreen_ = onScreen;
+    if (onScreen)
+        rootAppears();
+    else
+        rootDisappears();
+}
+
+void UIWindow::rootAppears() {
+    if (!isOnScreen_ || !rootViewController_)
+        return;
+    const auto root = rootViewController_;
+    root->peer().beginAppearance(true, false);
+    peer().layoutIfNeeded();
+    root->peer().endAppearance(false);
+}
+
+void UIWindow::rootDisappears() {
+    if (!rootViewController_)
+        return;
+    const auto root = rootViewController_;
+    root->peer().beginAppearance(false, false);
+    root->peer().endAppearance(false);
+}
+
+void UIWindow::scheduleLayout() {
+    Screen::current().scheduleLayout();
+}
