@@ -1,0 +1,54 @@
+#include "GlintImageSwitchFixture.h"
+
+#include "DesktopColor.h"
+#include "ObjectiveC/Class.h"
+#include "UIViewPeer.h"
+
+namespace {
+
+const Class counterClass =
+    Class::define<EventCounter>("EventCounter", {method<"valueChanged:", &EventCounter::valueChanged>()});
+
+bool isColor(const UIView& view, LayerProperty property, const Ref<UIColor>& color) {
+    return view.layer().peer().color(property) == DesktopColor::resolve(color, view.peer().traits());
+}
+
+} // namespace
+
+void EventCounter::valueChanged(const Ref<NSObject>& sender) {
+    ++count;
+    lastSender = sender;
+}
+
+GlintImageSwitchFixture::GlintImageSwitchFixture() {
+    screen.addWindow(window);
+    window->addSubview(control);
+    control->setFrame(CGRectMake(origin.x, origin.y, 50, 30));
+    control->addTarget(*events, "valueChanged:", UIControlEvents::ValueChanged);
+    settle();
+}
+
+void GlintImageSwitchFixture::advance(std::chrono::nanoseconds duration) {
+    Device::current().mainQueue().advance(device.clock(), duration);
+}
+
+void GlintImageSwitchFixture::settle() {
+    ASSERT_TRUE(Device::current().mainQueue().settle(device.clock(), std::chrono::minutes(1)));
+}
+
+double GlintImageSwitchFixture::shownThumbLeft() const {
+    const auto& layer = control->thumbView()->layer().peer();
+    return layer.shownToSuperlayer()(layer.shownBounds()).origin.x;
+}
+
+double GlintImageSwitchFixture::shownThumbWidth() const {
+    return control->thumbView()->layer().peer().shownBounds().size.width;
+}
+
+bool GlintImageSwitchFixture::borderIs(const Ref<UIColor>& color) const {
+    return isColor(*control->backgroundView(), LayerProperty::BorderColor, color);
+}
+
+bool GlintImageSwitchFixture::shadowIs(const Ref<UIColor>& color) const {
+    return isColor(*control->thumbView(), LayerProperty::ShadowColor, color);
+}
