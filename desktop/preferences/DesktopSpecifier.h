@@ -1,0 +1,94 @@
+#pragma once
+
+#include "Foundation/PropertyList.h"
+#include "ObjectiveC/Weak.h"
+#include "Preferences/PSSpecifier.h"
+#include "SpecifierKind.h"
+#include "UIKit/UIImage.h"
+
+#include <initializer_list>
+#include <optional>
+#include <set>
+#include <string>
+#include <string_view>
+
+/// One row of a page as the framework reads it: its properties, and whom its messages go to. Made from an
+/// item of a list, or by the host; owned by the page. The texts among its properties are already localised.
+/// A property of another type than it must have counts as absent here, and is what it is to `propertyForKey`.
+class DesktopSpecifier final : public PSSpecifier {
+public:
+    explicit DesktopSpecifier(PropertyList::Dictionary properties) : properties_(std::move(properties)) {}
+
+    /// \param target gets the row's messages; not kept alive
+    DesktopSpecifier(PropertyList::Dictionary properties, NSObject& target)
+        : properties_(std::move(properties)),
+          target_(&target) {}
+
+    [[nodiscard]] const PropertyList::Dictionary& properties() const { return properties_; }
+
+    [[nodiscard]] SpecifierKind kind() const;
+
+    /// What the list calls the kind; a name unknown here too.
+    [[nodiscard]] std::string kindName() const { return textForKey("cell"); }
+
+    /// The property "id", else "key", else "label"; empty when there is none of them.
+    [[nodiscard]] std::string identifier() const;
+
+    [[nodiscard]] std::string label() const { return textForKey("label"); }
+
+    [[nodiscard]] bool isEnabled() const { return boolForKey("enabled", true); }
+
+    /// The height that the list asks for, in points.
+    [[nodiscard]] std::optional<double> height() const;
+
+    /// A text property; empty when there is none.
+    [[nodiscard]] std::string textForKey(std::string_view key) const;
+
+    /// A property that reads as a yes or a no.
+    [[nodiscard]] bool boolForKey(std::string_view key, bool otherwise) const;
+
+    /// A property that is an array; null when it is none.
+    [[nodiscard]] const PropertyList::Array* arrayForKey(std::string_view key) const;
+
+    /// Whether a value can be a row's height in points: a number that is neither negative nor beyond reason.
+    [[nodiscard]] static bool isHeight(const PropertyList& value);
+
+    /// Whether a value reads as a yes or a no: a number or a text.
+    [[nodiscard]] static bool isYesOrNo(const PropertyList& value);
+
+    /// What is shown before the label; empty for none.
+    [[nodiscard]] const Ref<UIImage>& icon() const { return icon_; }
+
+    void setIcon(const Ref<UIImage>& icon) { icon_ = icon; }
+
+    /// Empty once the target is gone.
+    [[nodiscard]] Ref<NSObject> target() const { return target_.strong(); }
+
+    void setTarget(NSObject& target) { target_ = Weak<NSObject>(&target); }
+
+    /// The row's value: what the target answers to the message named by "get", which is by default
+    /// "readPreferenceValue:".
+    [[nodiscard]] std::optional<PropertyList> performGetter();
+
+    /// Sends the target the message named by "set", which is by default "setPreferenceValue:specifier:".
+    void performSetter(const std::optional<PropertyList>& value);
+
+    /// Sends the target the message named by "action", else by "buttonAction".
+    void performAction();
+
+    /// Whether the list names an action.
+    [[nodiscard]] bool hasAction() const;
+
+    // PSSpecifier:
+    [[nodiscard]] std::optional<PropertyList> propertyForKey(std::string_view key) const override;
+    void setProperty(const PropertyList& value, std::string_view key) override;
+
+private:
+    /// A message that the target does not answer is logged once.
+    MessageValue send(const std::string& selector, std::initializer_list<MessageValue> arguments);
+
+    PropertyList::Dictionary properties_;
+    Weak<NSObject> target_;
+    Ref<UIImage> icon_;
+    std::set<std::string> unanswered_; ///< the messages that have been logged
+};

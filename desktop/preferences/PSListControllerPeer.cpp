@@ -1,0 +1,195 @@
+#include "PSListControllerPeer.h"
+
+#include "Foundation/NSLog.h"
+#include "ObjectiveC/Class.h"
+#include "UIKit/UINavigationController.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+bool isGroup(const DesktopSpecifier& specifier) {
+    return specifier.kind() == SpecifierKind::Group;
+}
+
+Ref<UIViewController> makeDetail(const DesktopSpecifier& specifier) {
+    const auto name = specifier.textForKey("detail");
+    const auto* const named = NSClassFromString(name);
+    const auto detail = named != nullptr ? dynamicCast<UIViewController>(named->create()) : nullptr;
+    if (!detail)
+        NSLog("Row %@: 'detail' names %@, which is no class of a page.", specifier.identifier(), name);
+    return detail;
+}
+
+} // namespace
+
+PSListControllerPeer::~PSListControllerPeer() = default;
+
+PSListControllerPeer& PSListControllerPeer::of(const PSListController& page) {
+    return dynamic_cast<PSListControllerPeer&>(page.peer());
+}
+
+PSListController& PSListControllerPeer::page() const {
+    return dynamic_cast<PSListController&>(controller());
+}
+
+void PSListControllerPeer::setSpecifier(const Ref<DesktopSpecifier>& specifier) {
+    specifier_ = specifier;
+    if (specifier && !specifier->label().empty())
+        setTitle(specifier->label());
+}
+
+void PSListControllerPeer::setListTitle(const std::string& title) {
+    const auto opened = specifier_ && !specifier_->label().empty();
+    if (!opened && !title.empty())
+        setTitle(title);
+}
+
+Ref<UIView> PSListControllerPeer::makeView() {
+    rows_ = std::make_unique<SpecifierTable>(
+        SpecifierTable::Page{.sections = [this] { return sectionsOf(page().specifiers()); },
+                             .select = [this](DesktopSpecifier& specifier) { select(specifier); }});
+    return rows_->view();
+}
+
+void PSListControllerPeer::viewWillAppear(bool /*animated*/) {
+    // The list brings the page's title, which the bar shows from now on.
+    static_cast<void>(shownRows().sections());
+}
+
+void PSListControllerPeer::pageReturns(double progress) {
+    if (!keepsSelection_)
+        table().fadeSelection(progress);
+}
+
+void PSListControllerPeer::viewDidAppear(bool /*animated*/) {
+    if (!keepsSelection_)
+        table().deselectRow(false);
+}
+
+SpecifierTable& PSListControllerPeer::shownRows() {
+    static_cast<void>(view());
+    return *rows_;
+}
+
+UITableViewPeer& PSListControllerPeer::table() {
+    return shownRows().table();
+}
+
+void PSListControllerPeer::reloadSpecifiers() {
+    cachedSpecifiers_.clear();
+    auto sections = sectionsOf(page().specifiers());
+    if (rows_)
+        rows_->show(std::move(sections));
+}
+
+void PSListControllerPeer::reloadSpecifier(const PSSpecifier& specifier) {
+    if (rows_)
+        rows_->refresh(specifier);
+}
+
+void PSListControllerPeer::insertSpecifiers(const Specifiers& specifiers, std::size_t index, bool animated) {
+    const auto place = static_cast<std::ptrdiff_t>(std::min(index, cachedSpecifiers_.size()));
+    cachedSpecifiers_.insert(cachedSpecifiers_.begin() + place, specifiers.begin(), specifiers.end());
+    showKept(animated);
+}
+
+void PSListControllerPeer::removeSpecifiers(const Specifiers& specifiers, bool animated) {
+    std::erase_if(cachedSpecifiers_, [&specifiers](const Ref<PSSpecifier>& kept) {
+        return std::ranges::find(specifiers, kept) != specifiers.end();
+    });
+    showKept(animated);
+}
+
+void PSListControllerPeer::showKept(bool animated) {
+    if (!rows_)
+        return;
+    auto sections = sectionsOf(cachedSpecifiers_);
+    if (animated)
+        rows_->slideTo(std::move(sections));
+    else
+        rows_->show(std::move(sections));
+}
+
+std::vector<PSListControllerPeer::Place> PSListControllerPeer::places() {
+    std::vector<Place> found;
+    const auto& sections = shownRows().sections();
+    for (std::size_t section = 0; section < sections.size(); ++section) {
+        if (sections[section].group)
+            found.push_back({sections[section].group, {section, 0}});
+        for (std::size_t row = 0; row < sections[section].rows.size(); ++row)
+            found.push_back({sections[section].rows[row], {section, row}});
+    }
+    return found;
+}
+
+std::vector<ListRow> PSListControllerPeer::rows() {
+    view().peer().layoutIfNeeded();
+    std::vector<ListRow> told;
+    for (const auto& place : places())
+        told.push_back(rowAt(place));
+    return told;
+}
+
+ListRow PSListControllerPeer::rowAt(const Place& place) {
+    auto& specifier = *place.specifier;
+    ListRow row;
+    row.id = specifier.identifier();
+    row.label = specifier.label();
+    row.cell = specifier.kindName();
+    row.cellClass = specifier.textForKey("cellClass");
+    row.key = specifier.textForKey("key");
+    row.enabled = specifier.isEnabled();
+    if (!row.key.empty())
+        row.value = specifier.performGetter();
+    if (isGroup(specifier)) {
+        row.frame = table().rectForHeader(place.path.section);
+        row.view = table().captionView(place.path.section, TableCaptionViews::Edge::Header);
+    } else {
+        row.frame = table().rectForRow(place.path);
+        row.view = table().cellForRow(place.path);
+    }
+    row.height = row.frame.size.height;
+    return row;
+}
+
+void PSListControllerPeer::scrollRowIntoView(std::size_t index) {
+    view().peer().layoutIfNeeded();
+    const auto all = places();
+    if (index >= all.size())
+        return;
+    const auto& place = all[index];
+    if (isGroup(*place.specifier))
+        table().scrollRectToVisible(table().rectForHeader(place.path.section), false);
+    else
+        table().scrollRowToVisible(place.path, false);
+    view().peer().layoutIfNeeded();
+}
+
+void PSListControllerPeer::setValue(DesktopSpecifier& specifier, const std::optional<PropertyList>& value) {
+    specifier.performSetter(value);
+    reloadSpecifier(specifier);
+}
+
+void PSListControllerPeer::select(DesktopSpecifier& specifier) {
+    const auto kept = retain(&controller());
+    if (openDetail(specifier))
+        return;
+    specifier.performAction();
+    const auto staysInFront = appearance() == Appearance::Appearing || appearance() == Appearance::Appeared;
+    if (!keepsSelection_ && staysInFront)
+        table().deselectRow(true);
+}
+
+bool PSListControllerPeer::openDetail(DesktopSpecifier& specifier) {
+    const auto navigation = controller().navigationController();
+    if (!navigation || specifier.kind() != SpecifierKind::Link || specifier.textForKey("detail").empty())
+        return false;
+    const auto detail = makeDetail(specifier);
+    if (const auto list = dynamicCast<PSListController>(detail))
+        of(*list).setSpecifier(retain(&specifier));
+    if (detail)
+        navigation->pushViewController(detail, true);
+    return static_cast<bool>(detail);
+}

@@ -1,0 +1,92 @@
+#pragma once
+
+#include "DesktopSpecifier.h"
+#include "ListRow.h"
+#include "Preferences/PSListController.h"
+#include "SpecifierTable.h"
+#include "UIViewControllerPeer.h"
+
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+/// The desktop's half of a page of rows: keeps its specifiers and shows them in a table. Made with the page.
+class PSListControllerPeer : public UIViewControllerPeer {
+public:
+    using Specifiers = PSListController::Specifiers;
+
+    ~PSListControllerPeer() override;
+
+    /// \pre the page was made with a peer of this class, as all pages are
+    [[nodiscard]] static PSListControllerPeer& of(const PSListController& page);
+
+    [[nodiscard]] PSListController& page() const;
+
+    /// The row that the page was opened from; empty for none.
+    [[nodiscard]] const Ref<DesktopSpecifier>& specifier() const { return specifier_; }
+
+    /// The row's label becomes the page's title.
+    void setSpecifier(const Ref<DesktopSpecifier>& specifier);
+
+    [[nodiscard]] const Specifiers& cachedSpecifiers() const { return cachedSpecifiers_; }
+
+    void setCachedSpecifiers(Specifiers specifiers) { cachedSpecifiers_ = std::move(specifiers); }
+
+    /// The title of the page's list; not heeded for a page that was opened from a row with a label.
+    void setListTitle(const std::string& title);
+
+    /// Forgets the kept rows, asks the page for its rows and shows them.
+    void reloadSpecifiers();
+
+    /// Shows one row's properties and value as they are now. A row that is not shown is ignored.
+    void reloadSpecifier(const PSSpecifier& specifier);
+
+    /// Puts rows among the kept ones, before the one at `index`; beyond the end is the end.
+    void insertSpecifiers(const Specifiers& specifiers, std::size_t index, bool animated);
+
+    /// Takes rows out of the kept ones.
+    void removeSpecifiers(const Specifiers& specifiers, bool animated);
+
+    /// Every row that the page has, hidden ones and the heads of groups too, in the order of its list.
+    [[nodiscard]] std::vector<ListRow> rows();
+
+    /// Scrolls until a row of `rows` is seen, as far as it can be. A row beyond the end is ignored.
+    void scrollRowIntoView(std::size_t index);
+
+    /// Writes a row's value as a control of the row would, and shows it.
+    void setValue(DesktopSpecifier& specifier, const std::optional<PropertyList>& value);
+
+    /// Whether a row stays selected when it was tapped, as it does beside the page that it opened. Otherwise
+    /// it fades at once, or on the way back from what it opened in the page's place.
+    void setKeepsSelection(bool keeps) { keepsSelection_ = keeps; }
+
+    /// The table; made with the view.
+    [[nodiscard]] UITableViewPeer& table();
+
+    // UIViewControllerPeer:
+    [[nodiscard]] Ref<UIView> makeView() override;
+    void viewWillAppear(bool animated) override;
+    void viewDidAppear(bool animated) override;
+    void pageReturns(double progress) override;
+
+private:
+    /// Where a row of `rows` is in the table.
+    struct Place {
+        Ref<DesktopSpecifier> specifier;
+        IndexPath path; ///< of a group, its section
+    };
+
+    [[nodiscard]] SpecifierTable& shownRows();
+    [[nodiscard]] std::vector<Place> places();
+    [[nodiscard]] ListRow rowAt(const Place& place);
+    void showKept(bool animated);
+    void select(DesktopSpecifier& specifier);
+    [[nodiscard]] bool openDetail(DesktopSpecifier& specifier);
+
+    Ref<DesktopSpecifier> specifier_;
+    Specifiers cachedSpecifiers_;
+    std::unique_ptr<SpecifierTable> rows_; ///< null until the view is made
+    bool keepsSelection_ = false;
+};

@@ -1,0 +1,83 @@
+#include "PSTableCellPeer.h"
+
+#include "DesktopColor.h"
+#include "UILabelPeer.h"
+
+#include <algorithm>
+
+namespace {
+
+bool isLink(SpecifierKind kind) {
+    return kind == SpecifierKind::Link || kind == SpecifierKind::LinkList;
+}
+
+bool showsValue(const DesktopSpecifier& specifier) {
+    if (specifier.kind() == SpecifierKind::TitleValue)
+        return true;
+    return isLink(specifier.kind()) &&
+           !(specifier.textForKey("key").empty() && specifier.textForKey("get").empty());
+}
+
+SystemColor titleColor(const DesktopSpecifier& specifier) {
+    if (!specifier.isEnabled())
+        return SystemColor::TertiaryLabel;
+    if (specifier.kind() != SpecifierKind::Button)
+        return SystemColor::Label;
+    return specifier.boolForKey("isDestructive", false) ? SystemColor::Red : SystemColor::Blue;
+}
+
+std::optional<std::string> textOf(const PropertyList& value) {
+    if (const auto* const text = value.getIf<std::string>())
+        return *text;
+    return value.isNumber() ? std::optional(value.description()) : std::nullopt;
+}
+
+} // namespace
+
+PSTableCellPeer& PSTableCellPeer::of(const PSTableCell& cell) {
+    return dynamic_cast<PSTableCellPeer&>(cell.peer());
+}
+
+UITableViewCellStyle PSTableCellPeer::styleFor(const DesktopSpecifier& specifier) {
+    const auto kind = specifier.kind();
+    return isLink(kind) || kind == SpecifierKind::TitleValue ? UITableViewCellStyle::Value1
+                                                             : UITableViewCellStyle::Default;
+}
+
+void PSTableCellPeer::refresh() {
+    if (!specifier_)
+        return;
+    showTitle();
+    imageView().setImage(specifier_->icon());
+    detailTextLabel().setText(showsValue(*specifier_) ? valueText() : std::nullopt);
+    setDetailHasPriority(specifier_->boolForKey("prioritizeValueTextDisplay", false));
+    showAccessory();
+    setNeedsLayout();
+}
+
+void PSTableCellPeer::showTitle() {
+    textLabel().setText(specifier_->label());
+    textLabel().setTextColor(DesktopColor::system(titleColor(*specifier_)));
+    UILabelPeer::of(textLabel()).setNumberOfLines(specifier_->kind() == SpecifierKind::StaticText ? 0 : 1);
+}
+
+void PSTableCellPeer::showAccessory() {
+    const auto chevron =
+        isLink(specifier_->kind()) && !specifier_->boolForKey("hidesDisclosureIndicator", false);
+    setAccessoryType(chevron ? UITableViewCellAccessoryType::DisclosureIndicator
+                             : UITableViewCellAccessoryType::None);
+}
+
+std::optional<std::string> PSTableCellPeer::valueText() const {
+    const auto value = specifier_->performGetter();
+    if (!value)
+        return std::nullopt;
+    const auto* const values = specifier_->arrayForKey("validValues");
+    const auto* const titles = specifier_->arrayForKey("validTitles");
+    if (values != nullptr && titles != nullptr) {
+        const auto place = std::ranges::find(*values, *value) - values->begin();
+        if (std::cmp_less(place, std::min(values->size(), titles->size())))
+            return textOf((*titles)[static_cast<std::size_t>(place)]);
+    }
+    return textOf(*value);
+}

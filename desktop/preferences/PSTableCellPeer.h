@@ -1,0 +1,36 @@
+#pragma once
+
+#include "DesktopSpecifier.h"
+#include "PSTableCell.h"
+#include "UITableViewCellPeer.h"
+
+#include <optional>
+#include <string>
+
+/// The desktop's half of a page's cell: shows what its row's kind shows. Made with the cell.
+class PSTableCellPeer : public UITableViewCellPeer {
+public:
+    /// \pre the cell was made with a peer of this class, as all cells of pages are
+    [[nodiscard]] static PSTableCellPeer& of(const PSTableCell& cell);
+
+    /// The style that suits the row.
+    [[nodiscard]] static UITableViewCellStyle styleFor(const DesktopSpecifier& specifier);
+
+    /// Empty until the cell has been made for a row.
+    [[nodiscard]] const Ref<DesktopSpecifier>& specifier() const { return specifier_; }
+
+    void setSpecifier(const Ref<DesktopSpecifier>& specifier) { specifier_ = specifier; }
+
+    /// Shows the row's properties and value.
+    virtual void refresh();
+
+protected:
+    /// What the row's value reads as: the title that the list gives it, else the value itself.
+    [[nodiscard]] std::optional<std::string> valueText() const;
+
+private:
+    void showTitle();
+    void showAccessory();
+
+    Ref<DesktopSpecifier> specifier_;
+};

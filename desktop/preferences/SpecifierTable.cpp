@@ -1,0 +1,196 @@
+#include "SpecifierTable.h"
+
+#include "DesktopColor.h"
+#include "PSHeaderFooterView.h"
+#include "SpecifierViews.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+constexpr auto plainReuseIdentifier = "PSTableCell";
+
+std::string reuseIdentifierFor(const DesktopSpecifier& specifier) {
+    const auto kind = nameOf(specifier.kind());
+    return kind.empty() ? plainReuseIdentifier : std::string(kind);
+}
+
+NSTextAlignment alignmentOf(const DesktopSpecifier& group) {
+    const auto value = group.propertyForKey("footerAlignment");
+    const auto number = value ? value->integerValue() : 0;
+    if (number == static_cast<int>(NSTextAlignment::Center))
+        return NSTextAlignment::Center;
+    return number == static_cast<int>(NSTextAlignment::Right) ? NSTextAlignment::Right
+                                                              : NSTextAlignment::Natural;
+}
+
+bool hasSameGroups(const SpecifierTable::Sections& left, const SpecifierTable::Sections& right) {
+    return std::ranges::equal(left, right, {}, &SpecifierSection::group, &SpecifierSection::group);
+}
+
+bool isAmong(const std::vector<Ref<DesktopSpecifier>>& rows, const Ref<DesktopSpecifier>& row) {
+    return std::ranges::find(rows, row) != rows.end();
+}
+
+/// The places of the rows of `all` that `lacking` has not.
+std::vector<IndexPath> missingFrom(const SpecifierTable::Sections& lacking,
+                                   const SpecifierTable::Sections& all) {
+    std::vector<IndexPath> missing;
+    for (std::size_t section = 0; section < all.size(); ++section) {
+        const auto& rows = all[section].rows;
+        for (std::size_t row = 0; row < rows.size(); ++row) {
+            if (!isAmong(lacking[section].rows, rows[row]))
+                missing.push_back({section, row});
+        }
+    }
+    return missing;
+}
+
+} // namespace
+
+SpecifierTable::SpecifierTable(Page page) : page_(std::move(page)), view_(make<UITableView>()) {
+    view_->setBackgroundColor(DesktopColor::system(SystemColor::GroupedBackground));
+    table().setAlwaysBounceVertical(true);
+    table().setContent(this);
+}
+
+SpecifierTable::~SpecifierTable() {
+    table().setContent(nullptr);
+}
+
+const SpecifierTable::Sections& SpecifierTable::sections() const {
+    if (!sections_)
+        sections_ = page_.sections();
+    return *sections_;
+}
+
+void SpecifierTable::show(Sections sections) {
+    sections_ = std::move(sections);
+    forgetViewsOfOthers();
+    table().reloadData();
+}
+
+void SpecifierTable::slideTo(Sections sections) {
+    const auto before = this->sections();
+    if (!hasSameGroups(before, sections)) {
+        show(std::move(sections));
+        return;
+    }
+    const auto gone = missingFrom(sections, before);
+    const auto come = missingFrom(before, sections);
+    sections_ = std::move(sections);
+    forgetViewsOfOthers();
+    table().beginUpdates();
+    table().deleteRows(gone);
+    table().insertRows(come);
+    table().endUpdates();
+}
+
+void SpecifierTable::refresh(const PSSpecifier& specifier) {
+    const auto row = indexPathOf(specifier);
+    if (!row) {
+        table().reloadData();
+        return;
+    }
+    if (const auto cell = dynamicCast<PSTableCell>(table().cellForRow(*row)))
+        cell->refreshCellContentsWithSpecifier(at(*row));
+    table().beginUpdates();
+    table().endUpdates();
+}
+
+DesktopSpecifier& SpecifierTable::at(IndexPath row) const {
+    return *sections()[row.section].rows[row.row];
+}
+
+std::optional<IndexPath> SpecifierTable::indexPathOf(const PSSpecifier& specifier) const {
+    for (std::size_t section = 0; section < sections().size(); ++section) {
+        const auto& rows = sections()[section].rows;
+        const auto found = std::ranges::find(rows, &specifier, &Ref<DesktopSpecifier>::get);
+        if (found != rows.end())
+            return IndexPath{section, static_cast<std::size_t>(found - rows.begin())};
+    }
+    return std::nullopt;
+}
+
+Ref<UITableViewCell> SpecifierTable::cellForRow(IndexPath row) {
+    auto& specifier = at(row);
+    auto cell = cellOf(specifier);
+    cell->refreshCellContentsWithSpecifier(specifier);
+    return cell;
+}
+
+Ref<PSTableCell> SpecifierTable::cellOf(DesktopSpecifier& specifier) {
+    const auto identifier = reuseIdentifierFor(specifier);
+    if (specifier.textForKey("cellClass").empty()) {
+        if (auto waiting = dynamicCast<PSTableCell>(table().dequeueReusableCell(identifier)))
+            return waiting;
+        return makeCellFor(specifier, identifier);
+    }
+    auto& own = ownViews_[retain(&specifier)].cell;
+    if (!own)
+        own = makeCellFor(specifier, {});
+    return own;
+}
+
+TableCaption SpecifierTable::header(std::size_t section) {
+    const auto& group = sections()[section].group;
+    if (!group)
+        return {};
+    auto& own = ownViews_[group].header;
+    if (!own)
+        own = makeCaptionViewFor(*group, "headerCellClass");
+    TableCaption caption;
+    caption.text = group->label();
+    setView(caption, *own);
+    return caption;
+}
+
+TableCaption SpecifierTable::footer(std::size_t section) {
+    const auto& group = sections()[section].group;
+    if (!group)
+        return {};
+    auto& own = ownViews_[group].footer;
+    if (!own)
+        own = makeCaptionViewFor(*group, "footerCellClass");
+    TableCaption caption;
+    caption.text = group->textForKey("footerText");
+    caption.alignment = alignmentOf(*group);
+    setView(caption, *own);
+    return caption;
+}
+
+void SpecifierTable::setView(TableCaption& caption, const Ref<UIView>& view) const {
+    caption.view = view;
+    if (auto* const measured = dynamic_cast<PSHeaderFooterView*>(view.get()))
+        caption.height = measured->preferredHeightForWidth(view_->bounds().size.width);
+}
+
+bool SpecifierTable::isSelectable(IndexPath row) {
+    const auto& specifier = at(row);
+    if (!specifier.isEnabled())
+        return false;
+    switch (specifier.kind()) {
+    case SpecifierKind::Link:
+    case SpecifierKind::LinkList:
+    case SpecifierKind::Button:
+        return true;
+    case SpecifierKind::Switch:
+        return false;
+    default:
+        return specifier.hasAction();
+    }
+}
+
+void SpecifierTable::didSelectRow(IndexPath row) {
+    const auto specifier = retain(&at(row));
+    page_.select(*specifier);
+}
+
+void SpecifierTable::forgetViewsOfOthers() {
+    std::erase_if(ownViews_, [this](const auto& entry) {
+        return std::ranges::none_of(sections(), [&entry](const SpecifierSection& section) {
+            return section.group == entry.first || isAmong(section.rows, entry.first);
+        });
+    });
+}

@@ -1,0 +1,53 @@
+#include "SpecifierViews.h"
+
+#include "Foundation/NSLog.h"
+#include "ObjectiveC/Class.h"
+#include "PSHeaderFooterView.h"
+#include "PSSwitchTableCell.h"
+#include "PSTableCellPeer.h"
+
+namespace {
+
+constexpr auto captionReuseIdentifier = "Cell";
+
+template <class T>
+Ref<T> allocateNamed(const DesktopSpecifier& specifier, std::string_view key) {
+    const auto name = specifier.textForKey(key);
+    if (name.empty())
+        return nullptr;
+    const auto* const named = NSClassFromString(name);
+    auto object = named != nullptr ? dynamicCast<T>(named->allocate()) : nullptr;
+    if (!object)
+        NSLog("Row %@: '%@' names %@, which is no such class.", specifier.identifier(), key, name);
+    return object;
+}
+
+Ref<PSTableCell> allocateForKind(SpecifierKind kind) {
+    if (kind == SpecifierKind::Switch)
+        return adopt(new PSSwitchTableCell);
+    return adopt(new PSTableCell);
+}
+
+bool initCaptionView(UIView& view, DesktopSpecifier& group) {
+    if (auto* const caption = dynamic_cast<PSHeaderFooterView*>(&view))
+        return caption->initWithSpecifier(group);
+    if (auto* const cell = dynamic_cast<PSTableCell*>(&view))
+        return cell->initWithStyle(UITableViewCellStyle::Default, captionReuseIdentifier, group);
+    return view.init();
+}
+
+} // namespace
+
+Ref<PSTableCell> makeCellFor(DesktopSpecifier& specifier, const std::string& reuseIdentifier) {
+    const auto style = PSTableCellPeer::styleFor(specifier);
+    if (auto cell = allocateNamed<PSTableCell>(specifier, "cellClass");
+        cell && cell->initWithStyle(style, {}, specifier))
+        return cell;
+    auto cell = allocateForKind(specifier.kind());
+    return cell->initWithStyle(style, reuseIdentifier, specifier) ? cell : nullptr;
+}
+
+Ref<UIView> makeCaptionViewFor(DesktopSpecifier& group, std::string_view key) {
+    auto view = allocateNamed<UIView>(group, key);
+    return view && initCaptionView(*view, group) ? view : nullptr;
+}

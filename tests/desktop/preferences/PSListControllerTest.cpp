@@ -1,0 +1,245 @@
+#include "Foundation/NSDictionary.h"
+#include "Foundation/NSUserDefaults.h"
+#include "PageFixture.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+using namespace std::chrono_literals;
+using PSListControllerTest = PageFixture;
+using Texts = std::vector<std::string>;
+
+Texts identifiers(const std::vector<ListRow>& rows) {
+    Texts found;
+    std::ranges::transform(rows, std::back_inserter(found), &ListRow::id);
+    return found;
+}
+
+PSListController::Specifiers newRows(const Texts& ids) {
+    PSListController::Specifiers specifiers;
+    for (const auto& id : ids)
+        specifiers.emplace_back(make<DesktopSpecifier>(
+            PropertyList::Dictionary{{"cell", "PSStaticTextCell"}, {"id", id}, {"label", id}}));
+    return specifiers;
+}
+
+} // namespace
+
+TEST_F(PSListControllerTest, ShowsTheRowsOfItsBundlesList) {
+    writeList({row("PSGroupCell", "head"), row("PSStaticTextCell", "a"), row("PSLinkCell", "b")});
+    show();
+    const auto rows = peer().rows();
+    EXPECT_EQ(identifiers(rows), (Texts{"head", "a", "b"}));
+    EXPECT_EQ(rows[1].label, "Row a");
+    EXPECT_EQ(rows[1].cell, "PSStaticTextCell");
+    EXPECT_EQ(cell("a").textLabel().text(), "Row a");
+    EXPECT_EQ(page_->loads, 1U);
+    EXPECT_TRUE(log().empty());
+}
+
+TEST_F(PSListControllerTest, TellsWhereEachRowIs) {
+    writeList({row("PSStaticTextCell", "a"), row("PSGroupCell", "head"),
+               row("PSStaticTextCell", "hidden", value("height", "<integer>0</integer>")),
+               row("PSStaticTextCell", "high", value("height", "<real>90</real>") + no("enabled"))});
+    show();
+    EXPECT_EQ(listRow("a").frame, CGRectMake(16, 35, 358, 44));
+    EXPECT_EQ(listRow("hidden").height, 0);
+    EXPECT_EQ(listRow("high").height, 90);
+    EXPECT_FALSE(listRow("high").enabled);
+    EXPECT_TRUE(listRow("a").enabled);
+    EXPECT_NEAR(listRow("head").height, 38, 0.4);
+    EXPECT_TRUE(listRow("head").view);
+    EXPECT_EQ(listRow("a").value, std::nullopt);
+}
+
+TEST_F(PSListControllerTest, TakesTheTitleOfTheListOrOfTheRowItWasOpenedFrom) {
+    writeList({}, "The list");
+    show();
+    EXPECT_EQ(peer().title(), "The list");
+    const auto opened = make<ListedPage>();
+    PSListControllerPeer::of(*opened).setSpecifier(
+        make<DesktopSpecifier>(PropertyList::Dictionary{{"label", "The row"}}));
+    static_cast<void>(opened->specifiers());
+    EXPECT_EQ(PSListControllerPeer::of(*opened).title(), "The row");
+}
+
+TEST_F(PSListControllerTest, FindsRowsByIdentifier) {
+    writeList({row("PSGroupCell", "head"), keptRow("PSSwitchCell", "a"), row("PSLinkCell", "b")});
+    show();
+    EXPECT_EQ(page_->specifierForID("b"), page_->specifiers()[2]);
+    EXPECT_EQ(page_->specifierForID("c"), nullptr);
+}
+
+TEST_F(PSListControllerTest, ReadsWhatIsKeptElseTheDefault) {
+    writeList({keptRow("PSSwitchCell", "a", value("default", "<integer>7</integer>")),
+               keptRow("PSSwitchCell", "b"), row("PSSwitchCell", "c", text("key", "c") + yes("default"))});
+    show();
+    EXPECT_EQ(page_->readPreferenceValue(specifier("a")), PropertyList(7));
+    EXPECT_EQ(page_->readPreferenceValue(specifier("b")), std::nullopt);
+    EXPECT_EQ(page_->readPreferenceValue(specifier("c")), PropertyList(true));
+    page_->setPreferenceValue("kept", specifier("a"));
+    EXPECT_EQ(page_->readPreferenceValue(specifier("a")), PropertyList("kept"));
+    EXPECT_EQ(listRow("a").value, PropertyList("kept"));
+}
+
+TEST_F(PSListControllerTest, KeepsValuesOnDisk) {
+    writeList({keptRow("PSSwitchCell", "a"), keptRow("PSSwitchCell", "b", yes("default"))});
+    show();
+    peer().setValue(specifier("a"), true);
+    const auto file = std::string(Device::preferencesPath) + "/" + domain + ".plist";
+    const auto kept = dictionaryWithContentsOfFile(file);
+    EXPECT_EQ(kept, (PropertyList::Dictionary{{"a", true}}));
+    peer().setValue(specifier("a"), std::nullopt);
+    EXPECT_EQ(dictionaryWithContentsOfFile(file), PropertyList::Dictionary());
+}
+
+TEST_F(PSListControllerTest, NeverWritesDefaults) {
+    writeList({keptRow("PSSwitchCell", "a", yes("default"))});
+    show();
+    EXPECT_EQ(listRow("a").value, PropertyList(true));
+    EXPECT_EQ(NSUserDefaults::initWithSuiteName(domain)->objectForKey("a"), std::nullopt);
+}
+
+TEST_F(PSListControllerTest, PostsTheNotificationAfterEachWrite) {
+    writeList({keptRow("PSSwitchCell", "a", text("PostNotification", "com.example.changed")),
+               keptRow("PSSwitchCell", "b"),
+               row("PSSwitchCell", "c", text("PostNotification", "com.example.other"))});
+    show();
+    auto& notifications = Device::current().notifications();
+    peer().setValue(specifier("a"), true);
+    peer().setValue(specifier("a"), true);
+    peer().setValue(specifier("b"), true);
+    peer().setValue(specifier("c"), true);
+    EXPECT_EQ(notifications.take(), (Texts{"com.example.changed", "com.example.changed"}));
+}
+
+TEST_F(PSListControllerTest, RowsMayHaveTheirOwnGetterAndSetter) {
+    writeList(
+        {keptRow("PSTitleValueCell", "a", text("get", "ownValue:") + text("set", "setOwnValue:specifier:"))});
+    show();
+    EXPECT_EQ(listRow("a").value, PropertyList("own value of a"));
+    EXPECT_EQ(cell("a").detailTextLabel().text(), "own value of a");
+    peer().setValue(specifier("a"), 3);
+    EXPECT_EQ(page_->events, (Texts{"set a to 3"}));
+}
+
+TEST_F(PSListControllerTest, SettingAValueShowsIt) {
+    writeList({keptRow("PSTitleValueCell", "a")});
+    show();
+    EXPECT_EQ(cell("a").detailTextLabel().text(), std::nullopt);
+    peer().setValue(specifier("a"), "shown");
+    EXPECT_EQ(cell("a").detailTextLabel().text(), "shown");
+}
+
+TEST_F(PSListControllerTest, ReloadingARowShowsItsProperties) {
+    writeList({row("PSStaticTextCell", "a"), row("PSStaticTextCell", "b")});
+    show();
+    specifier("a").setProperty("Other", "label");
+    specifier("a").setProperty(70, "height");
+    EXPECT_EQ(cell("a").textLabel().text(), "Row a");
+    peer().reloadSpecifier(specifier("a"));
+    EXPECT_EQ(cell("a").textLabel().text(), "Other");
+    EXPECT_EQ(listRow("b").frame.origin.y, 105);
+    peer().reloadSpecifier(*make<DesktopSpecifier>(PropertyList::Dictionary{}));
+    screen_.layoutIfNeeded();
+    EXPECT_EQ(cell("a").textLabel().text(), "Other");
+}
+
+TEST_F(PSListControllerTest, ReloadingAllAsksForTheListAnew) {
+    writeList({row("PSStaticTextCell", "a")});
+    show();
+    writeList({row("PSStaticTextCell", "b"), row("PSStaticTextCell", "c")});
+    page_->reloadSpecifiers();
+    EXPECT_EQ(identifiers(peer().rows()), (Texts{"b", "c"}));
+    EXPECT_EQ(page_->loads, 2U);
+    EXPECT_EQ(cell("c").textLabel().text(), "Row c");
+}
+
+TEST_F(PSListControllerTest, RowsThatArePutInSlide) {
+    writeList({row("PSGroupCell", "head"), row("PSStaticTextCell", "a"), row("PSStaticTextCell", "b")});
+    show();
+    const auto top = listRow("b").frame.origin.y;
+    const auto& moving = cell("b").layer().peer();
+    const auto before = moving.shownValue(LayerProperty::Position)[1];
+    peer().insertSpecifiers(newRows({"x", "y"}), 2, true);
+    EXPECT_EQ(identifiers(peer().rows()), (Texts{"head", "a", "x", "y", "b"}));
+    EXPECT_EQ(listRow("b").frame.origin.y, top + 88);
+    EXPECT_EQ(moving.shownValue(LayerProperty::Position)[1], before);
+    advance(301ms);
+    EXPECT_EQ(moving.shownValue(LayerProperty::Position)[1], before + 88);
+    EXPECT_EQ(cell("x").textLabel().text(), "x");
+}
+
+TEST_F(PSListControllerTest, RowsAreTakenOut) {
+    writeList({row("PSGroupCell", "head"), row("PSStaticTextCell", "a"), row("PSStaticTextCell", "b")});
+    show();
+    const auto top = listRow("a").frame.origin.y;
+    peer().removeSpecifiers({page_->specifierForID("a")}, true);
+    advance(301ms);
+    EXPECT_EQ(identifiers(peer().rows()), (Texts{"head", "b"}));
+    EXPECT_EQ(listRow("b").frame.origin.y, top);
+    peer().removeSpecifiers({page_->specifierForID("b")}, false);
+    EXPECT_EQ(identifiers(peer().rows()), (Texts{"head"}));
+}
+
+TEST_F(PSListControllerTest, GroupsComeAndGoAtOnce) {
+    writeList({row("PSGroupCell", "head"), row("PSStaticTextCell", "a"), row("PSStaticTextCell", "b")});
+    show();
+    auto group = make<DesktopSpecifier>(PropertyList::Dictionary{{"cell", "PSGroupCell"}, {"id", "second"}});
+    peer().insertSpecifiers({group}, 2, true);
+    screen_.layoutIfNeeded();
+    EXPECT_EQ(identifiers(peer().rows()), (Texts{"head", "a", "second", "b"}));
+    EXPECT_EQ(peer().table().layout().sectionCount(), 2U);
+    peer().insertSpecifiers(newRows({"last"}), 100, true);
+    EXPECT_EQ(identifiers(peer().rows()).back(), "last");
+}
+
+TEST_F(PSListControllerTest, ScrollsRowsIntoView) {
+    std::vector<std::string> items(60);
+    for (std::size_t number = 0; number < items.size(); ++number)
+        items[number] = row("PSStaticTextCell", std::to_string(number));
+    writeList(items);
+    show();
+    EXPECT_FALSE(listRow("50").view);
+    peer().scrollRowIntoView(50);
+    ASSERT_TRUE(listRow("50").view);
+    const auto frame = peer().table().view().peer().convertToScreen(listRow("50").frame);
+    EXPECT_GT(frame.origin.y, 91);
+    EXPECT_LE(CGRectGetMaxY(frame), 844 - 34);
+    peer().scrollRowIntoView(1000);
+    EXPECT_TRUE(listRow("50").view);
+}
+
+TEST_F(PSListControllerTest, AListThatIsNotThereIsAnEmptyPage) {
+    show();
+    EXPECT_TRUE(peer().rows().empty());
+    EXPECT_FALSE(log().empty());
+}
+
+TEST_F(PSListControllerTest, ValuesAndReloadsBeforeTheViewIsThereDoNoHarm) {
+    writeList({keptRow("PSSwitchCell", "a")});
+    const auto page = make<ListedPage>();
+    page->reloadSpecifiers();
+    auto& early = PSListControllerPeer::of(*page);
+    early.setValue(dynamic_cast<DesktopSpecifier&>(*page->specifierForID("a")), true);
+    early.insertSpecifiers(newRows({"b"}), 0, true);
+    EXPECT_FALSE(early.isViewLoaded());
+    EXPECT_EQ(identifiers(early.rows()), (Texts{"b", "a"}));
+}
+
+TEST_F(PSListControllerTest, TheTableOutlivesThePage) {
+    writeList({row("PSButtonCell", "a", text("action", "tapped:"))});
+    auto page = make<ListedPage>();
+    const auto view = retain(&page->view());
+    view->setFrame(screen_.bounds());
+    window_->addSubview(view);
+    screen_.layoutIfNeeded();
+    page = nullptr;
+    screen_.layoutIfNeeded();
+    finger_.touch(TouchPhase::Began, {200, 100});
+    finger_.touch(TouchPhase::Ended, {200, 100});
+    advance(1s);
+    view->peer().removeFromSuperview();
+}

@@ -1,0 +1,123 @@
+#include "PageFixture.h"
+
+#include "Foundation/NSBundle.h"
+#include "LoadedBundles.h"
+#include "ObjectiveC/Class.h"
+
+#include <algorithm>
+
+namespace {
+
+const Class listedPageClass = Class::define<ListedPage, PSListController>(
+    "ListedPage",
+    {method<"tapped:", &ListedPage::tapped>(), method<"tappedPlainly", &ListedPage::tappedPlainly>(),
+     method<"ownValue:", &ListedPage::ownValue>(),
+     method<"setOwnValue:specifier:", &ListedPage::setOwnValue>()});
+
+std::string identifierOf(const Ref<PSSpecifier>& specifier) {
+    return dynamic_cast<DesktopSpecifier&>(*specifier).identifier();
+}
+
+} // namespace
+
+PSListController::Specifiers ListedPage::specifiers() {
+    if (cachedSpecifiers().empty()) {
+        ++loads;
+        setCachedSpecifiers(loadSpecifiersFromPlistName("Rows", *this));
+    }
+    return cachedSpecifiers();
+}
+
+void ListedPage::tapped(const Ref<PSSpecifier>& specifier) {
+    events.push_back("tapped " + identifierOf(specifier));
+    tapAction();
+}
+
+void ListedPage::tappedPlainly() {
+    events.emplace_back("tapped");
+}
+
+std::optional<PropertyList> ListedPage::ownValue(const Ref<PSSpecifier>& specifier) {
+    return "own value of " + identifierOf(specifier);
+}
+
+void ListedPage::setOwnValue(const std::optional<PropertyList>& value, const Ref<PSSpecifier>& specifier) {
+    events.push_back("set " + identifierOf(specifier) + " to " + (value ? value->description() : "nothing"));
+}
+
+PageFixture::PageFixture() {
+    screen_.addWindow(window_);
+    window_->setFrame(screen_.bounds());
+    device_.write(std::string(bundlePath) + "/Info.plist", "{}");
+    LoadedBundles::shared().addClass(listedPageClass, NSBundle::bundleWithPath(bundlePath));
+}
+
+PageFixture::~PageFixture() {
+    window_->setRootViewController(nullptr);
+    screen_.removeWindow(*window_);
+    LoadedBundles::shared().removeBundle(bundlePath);
+}
+
+void PageFixture::writeList(const std::vector<std::string>& items, const std::string& title) {
+    auto list = R"(<plist version="1.0"><dict>)" + text("title", title) + "<key>items</key><array>";
+    for (const auto& item : items)
+        list += "<dict>" + item + "</dict>";
+    device_.write(std::string(bundlePath) + "/Rows.plist", list + "</array></dict></plist>");
+}
+
+std::string PageFixture::text(const std::string& key, const std::string& text) {
+    return value(key, "<string>" + text + "</string>");
+}
+
+std::string PageFixture::yes(const std::string& key) {
+    return value(key, "<true/>");
+}
+
+std::string PageFixture::no(const std::string& key) {
+    return value(key, "<false/>");
+}
+
+std::string PageFixture::value(const std::string& key, const std::string& xml) {
+    return "<key>" + key + "</key>" + xml;
+}
+
+std::string PageFixture::row(const std::string& cell, const std::string& id, const std::string& more) {
+    return text("cell", cell) + text("id", id) + text("label", "Row " + id) + more;
+}
+
+std::string PageFixture::keptRow(const std::string& cell, const std::string& id, const std::string& more) {
+    return row(cell, id, text("key", id) + text("defaults", domain) + more);
+}
+
+void PageFixture::show() {
+    page_ = make<ListedPage>();
+    navigation_ = make<UINavigationController>();
+    navigation_->pushViewController(page_, false);
+    window_->setRootViewController(navigation_);
+    screen_.layoutIfNeeded();
+}
+
+void PageFixture::advance(std::chrono::milliseconds duration) {
+    Device::current().mainQueue().advance(device_.clock(), duration);
+}
+
+void PageFixture::tap(const std::string& id) {
+    const auto frame = peer().table().view().peer().convertToScreen(listRow(id).frame);
+    const CGPoint middle{CGRectGetMidX(frame), CGRectGetMidY(frame)};
+    finger_.touch(TouchPhase::Began, middle);
+    finger_.touch(TouchPhase::Ended, middle);
+    advance(std::chrono::milliseconds(100));
+}
+
+DesktopSpecifier& PageFixture::specifier(const std::string& id) const {
+    return dynamic_cast<DesktopSpecifier&>(*page_->specifierForID(id));
+}
+
+ListRow PageFixture::listRow(const std::string& id) const {
+    const auto rows = peer().rows();
+    return *std::ranges::find(rows, id, &ListRow::id);
+}
+
+UITableViewCell& PageFixture::cell(const std::string& id) const {
+    return dynamic_cast<UITableViewCell&>(*listRow(id).view);
+}

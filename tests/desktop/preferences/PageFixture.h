@@ -1,0 +1,77 @@
+#pragma once
+
+#include "PSListControllerPeer.h"
+#include "Screen.h"
+#include "TestDevice.h"
+#include "TouchDispatcher.h"
+#include "UIKit/UINavigationController.h"
+#include "UIWindow.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <functional>
+#include <string>
+#include <vector>
+
+/// A page of the list "Rows" of the test bundle, which writes down what happens to it.
+class ListedPage : public PSListController {
+public:
+    [[nodiscard]] Specifiers specifiers() override;
+
+    void tapped(const Ref<PSSpecifier>& specifier);
+    void tappedPlainly();
+    [[nodiscard]] std::optional<PropertyList> ownValue(const Ref<PSSpecifier>& specifier);
+    void setOwnValue(const std::optional<PropertyList>& value, const Ref<PSSpecifier>& specifier);
+
+    std::vector<std::string> events;
+    std::function<void()> tapAction = [] {}; ///< called by `tapped`
+    std::size_t loads = 0;
+};
+
+/// A device with a test bundle, whose list a test writes, and a phone's screen that shows its page.
+class PageFixture : public testing::Test {
+protected:
+    static constexpr auto bundlePath = "/var/jb/Library/PreferenceBundles/Test.bundle";
+    static constexpr auto domain = "com.example.test";
+
+    PageFixture();
+    ~PageFixture() override;
+
+    /// Writes the list "Rows" of those items, each the inside of an XML dictionary.
+    void writeList(const std::vector<std::string>& items, const std::string& title = "Rows");
+    /// An XML key with a text, a boolean or any other value.
+    [[nodiscard]] static std::string text(const std::string& key, const std::string& text);
+    [[nodiscard]] static std::string yes(const std::string& key);
+    [[nodiscard]] static std::string no(const std::string& key);
+    [[nodiscard]] static std::string value(const std::string& key, const std::string& xml);
+
+    /// The inside of a row of a kind, by its id.
+    [[nodiscard]] static std::string row(const std::string& cell, const std::string& id,
+                                         const std::string& more = {});
+    /// One that keeps its value in the domain, under its id.
+    [[nodiscard]] static std::string keptRow(const std::string& cell, const std::string& id,
+                                             const std::string& more = {});
+
+    /// Shows a new page.
+    void show();
+    void advance(std::chrono::milliseconds duration);
+    /// Taps the middle of a row.
+    void tap(const std::string& id);
+
+    [[nodiscard]] PSListControllerPeer& peer() const { return PSListControllerPeer::of(*page_); }
+
+    [[nodiscard]] DesktopSpecifier& specifier(const std::string& id) const;
+    [[nodiscard]] ListRow listRow(const std::string& id) const;
+    [[nodiscard]] UITableViewCell& cell(const std::string& id) const;
+
+    /// The lines since the last call.
+    [[nodiscard]] std::vector<std::string> log() { return device_.log().take(); }
+
+    TestDevice device_;
+    Screen screen_{{}};
+    Ref<UIWindow> window_ = make<UIWindow>();
+    Ref<ListedPage> page_;
+    Ref<UINavigationController> navigation_;
+    TouchDispatcher finger_;
+};
