@@ -1,0 +1,28 @@
+#include "DrivenShell.h"
+
+#include "UINavigationControllerPeer.h"
+
+Ref<UIViewController> DrivenShell::page() const {
+    if (shell_.app() == "home")
+        return nullptr;
+    return UINavigationControllerPeer::of(*shell_.settings()->pages()).top();
+}
+
+DrivenApplication::Outcome DrivenShell::open(const std::optional<std::string>& entry) {
+    return shell_.openEntry(entry ? std::string_view(*entry) : ownEntry);
+}
+
+DrivenApplication::Outcome DrivenShell::goBack() {
+    if (shell_.app() == "home")
+        return std::unexpected("the home screen has no navigation bar");
+    auto& pages = UINavigationControllerPeer::of(*shell_.settings()->pages());
+    if (pages.stack().size() < 2)
+        return std::unexpected("the navigation bar has no back button");
+    pages.pop(true);
+    return {};
+}
+
+DrivenApplication::Outcome DrivenShell::relaunch() {
+    shell_.relaunch();
+    return {};
+}

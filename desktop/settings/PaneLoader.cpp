@@ -1,0 +1,35 @@
+#include "PaneLoader.h"
+
+#include "EntryPage.h"
+#include "PSListControllerPeer.h"
+
+#include <utility>
+
+namespace {
+
+std::expected<Ref<UIViewController>, std::string> makeListPage(const PaneEntry& entry) {
+    return Ref<UIViewController>(make<EntryPage>(entry.name));
+}
+
+} // namespace
+
+std::expected<Ref<UIViewController>, std::string> PaneLoader::makePage(const PaneEntry& entry) {
+    auto page = entry.bundle.empty() ? makeListPage(entry) : makeBundlePage(entry);
+    if (!page)
+        return page;
+    (*page)->peer().setTitle(entry.label);
+    if (const auto list = dynamicCast<PSListController>(*page))
+        PSListControllerPeer::of(*list).setSpecifier(make<DesktopSpecifier>(entry.row, *list));
+    return page;
+}
+
+std::expected<Ref<UIViewController>, std::string> PaneLoader::makeBundlePage(const PaneEntry& entry) {
+    auto loaded = bundles_.find(entry.bundle);
+    if (loaded == bundles_.end()) {
+        auto bundle = PreferenceBundle::load(entry.bundle);
+        if (!bundle)
+            return std::unexpected(bundle.error());
+        loaded = bundles_.emplace(entry.bundle, std::move(*bundle)).first;
+    }
+    return loaded->second.makePage(entry.detail);
+}

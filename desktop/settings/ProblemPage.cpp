@@ -1,0 +1,33 @@
+#include "ProblemPage.h"
+
+#include "ObjectiveC/Class.h"
+#include "ProblemView.h"
+#include "UIViewControllerPeer.h"
+
+#include <memory>
+#include <utility>
+
+namespace {
+
+const Class classObject = Class::define<ProblemPage, UIViewController>("ProblemPage");
+
+class ProblemPagePeer final : public UIViewControllerPeer {
+public:
+    ProblemPagePeer(std::string title, std::string reason)
+        : title_(std::move(title)),
+          reason_(std::move(reason)) {}
+
+    // UIViewControllerPeer:
+    [[nodiscard]] Ref<UIView> makeView() override { return make<ProblemView>(title_, reason_); }
+
+private:
+    std::string title_;
+    std::string reason_;
+};
+
+} // namespace
+
+ProblemPage::ProblemPage(const std::string& label, const std::string& reason)
+    : UIViewController(std::make_unique<ProblemPagePeer>("Cannot Open “" + label + "”", reason)) {
+    peer().setTitle(label);
+}

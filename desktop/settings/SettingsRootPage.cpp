@@ -1,0 +1,84 @@
+#include "SettingsRootPage.h"
+
+#include "DesktopImage.h"
+#include "Foundation/NSBundle.h"
+#include "Foundation/NSString.h"
+#include "ObjectiveC/Class.h"
+#include "PSListControllerPeer.h"
+#include "Screen.h"
+
+#include <algorithm>
+#include <string>
+#include <utility>
+
+namespace {
+
+constexpr auto title = "Settings";
+constexpr double iconScale = 3; ///< the pixels per point that icons are picked for
+
+const Class classObject = Class::define<SettingsRootPage, PSListController>(
+    "SettingsRootPage", {method<"openAbout", &SettingsRootPage::openAbout>(),
+                         method<"openEntry:", &SettingsRootPage::openEntry>()});
+
+Ref<UIImage> iconIn(const std::string& folder, const std::string& name) {
+    return name.empty() ? nullptr
+                        : DesktopImage::named(stringByAppendingPathComponent(folder, name), iconScale);
+}
+
+Ref<DesktopSpecifier> makeGroup() {
+    return make<DesktopSpecifier>(PropertyList::Dictionary{{"cell", "PSGroupCell"}});
+}
+
+} // namespace
+
+SettingsRootPage::SettingsRootPage() {
+    peer().setTitle(title);
+}
+
+PSListController::Specifiers SettingsRootPage::specifiers() {
+    if (!cachedSpecifiers().empty())
+        return cachedSpecifiers();
+    const auto about = makeRow({{"label", "About"}, {"id", aboutId}, {"action", "openAbout"}},
+                               iconIn(NSBundle::mainBundle()->bundlePath(), "About.png"));
+    Specifiers specifiers{makeGroup(), about};
+    entries_ = EntryList::read();
+    if (!entries_.empty())
+        specifiers.emplace_back(makeGroup());
+    for (const auto& entry : entries_)
+        specifiers.emplace_back(
+            makeRow({{"label", entry.label}, {"id", entry.name}, {"action", "openEntry:"}},
+                    iconIn(entry.folder, entry.icon)));
+    setCachedSpecifiers(specifiers);
+    return specifiers;
+}
+
+Ref<PSSpecifier> SettingsRootPage::makeRow(PropertyList::Dictionary properties, const Ref<UIImage>& icon) {
+    properties.insert_or_assign("cell", "PSLinkCell");
+    // Beside the page that a row leads to there is nowhere to go on to.
+    properties.insert_or_assign("hidesDisclosureIndicator", Screen::current().traits().idiom == Idiom::Pad);
+    auto row = make<DesktopSpecifier>(std::move(properties), *this);
+    row->setIcon(icon);
+    return row;
+}
+
+void SettingsRootPage::showSelected(std::string_view id) {
+    auto& list = PSListControllerPeer::of(*this);
+    const auto rows = list.rows();
+    const auto shown = std::ranges::find(rows, id, &ListRow::id);
+    const auto path = shown == rows.end() ? std::nullopt : list.table().rowAt(shown->frame.origin);
+    if (path)
+        list.table().selectRow(*path);
+}
+
+void SettingsRootPage::openAbout() const {
+    if (openers_.about)
+        openers_.about();
+}
+
+void SettingsRootPage::openEntry(const Ref<PSSpecifier>& specifier) {
+    const auto id = specifier ? specifier->propertyForKey("id") : std::nullopt;
+    const auto entry = std::ranges::find_if(
+        entries_, [&id](const PaneEntry& candidate) { return id == PropertyList(candidate.name); });
+    if (entry != entries_.end() && openers_.entry)
+        openers_.entry(PaneEntry(*entry));
+}

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "HomeView.h"
+#include "PaneLoader.h"
+#include "SettingsApplication.h"
+#include "SystemBars.h"
+#include "UIWindow.h"
+
+#include <expected>
+#include <memory>
+#include <string>
+#include <string_view>
+
+/// What the user sees of the device: the home screen, and Settings once it is opened. Made by the host
+/// program or by a test, on a device and a screen; one at a time.
+class Shell {
+public:
+    Shell();
+    ~Shell();
+    Shell(const Shell&) = delete;
+    Shell& operator=(const Shell&) = delete;
+
+    /// What is in front: "home" or "Settings".
+    [[nodiscard]] std::string_view app() const { return isHome_ ? "home" : "Settings"; }
+
+    /// The application while it runs, in front or not; null while it does not.
+    [[nodiscard]] SettingsApplication* settings() const { return settings_.get(); }
+
+    [[nodiscard]] SystemBars& bars() { return bars_; }
+
+    /// Brings Settings to the front, started if it does not run.
+    void launchSettings();
+
+    /// Opens the pane of an entry, by its name or label, with Settings in front.
+    /// \returns or that there is no such entry
+    std::expected<void, std::string> openEntry(std::string_view nameOrLabel);
+
+    /// Back to the home screen; Settings runs on. What is presented above it is dismissed.
+    void goHome();
+
+    /// The way back from where the user is: to the page before, or from the first one to the home screen.
+    void goBack();
+
+    /// Ends Settings, as when its process is ended, and shows the home screen.
+    void terminateSettings();
+
+    /// Starts Settings afresh.
+    void relaunch();
+
+private:
+    void startSettings();
+    void endSettings();
+    /// Between the size of its icon and that of the screen.
+    void shrinkToIcon();
+    void fillScreen();
+    void springBack();
+    /// The finger that draws Settings up has come so far.
+    void followFinger(CGPoint translation);
+    void fingerGone(bool goesHome);
+
+    PaneLoader loader_;
+    SystemBars bars_;
+    Ref<UIWindow> homeWindow_;
+    Ref<HomeView> home_;
+    Ref<UIWindow> settingsWindow_;
+    std::unique_ptr<SettingsApplication> settings_;
+    bool isHome_ = true;
+};

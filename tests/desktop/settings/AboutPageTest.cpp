@@ -1,0 +1,59 @@
+#include "AboutPage.h"
+
+#include "PSListControllerPeer.h"
+#include "Screen.h"
+#include "TestDevice.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <string>
+
+namespace {
+
+using Texts = std::map<std::string, std::string>;
+
+/// The rows' labels, each with the value that the page answers for it.
+Texts shownBy(AboutPage& page) {
+    Texts texts;
+    for (const auto& specifier : page.specifiers()) {
+        const auto label = specifier->propertyForKey("label");
+        const auto value = page.readPreferenceValue(*specifier);
+        if (label && value)
+            texts[label->description()] = value->description();
+    }
+    return texts;
+}
+
+} // namespace
+
+TEST(AboutPageTest, TellsOfAPhone) {
+    const TestDevice device({.locale = "de_DE", .timeZone = "Europe/Berlin"});
+    const Screen screen({});
+    const auto page = make<AboutPage>();
+    EXPECT_EQ(page->peer().title(), "About");
+    EXPECT_EQ(shownBy(*page), (Texts{{"Appearance", "Light"},
+                                     {"Device", "Phone on a desktop"},
+                                     {"Language", "de_DE"},
+                                     {"Screen", "390 × 844 @3x"},
+                                     {"Time Zone", "Europe/Berlin"}}));
+}
+
+TEST(AboutPageTest, TellsOfATabletInTheDark) {
+    const TestDevice device;
+    const Screen screen({.idiom = Idiom::Pad, .style = UserInterfaceStyle::Dark, .scale = 2});
+    const auto page = make<AboutPage>();
+    EXPECT_EQ(shownBy(*page), (Texts{{"Appearance", "Dark"},
+                                     {"Device", "Tablet on a desktop"},
+                                     {"Language", "en_US"},
+                                     {"Screen", "820 × 1180 @2x"},
+                                     {"Time Zone", "UTC"}}));
+}
+
+TEST(AboutPageTest, ARowOfAnotherPageHasNoValue) {
+    const TestDevice device;
+    const Screen screen({});
+    const auto page = make<AboutPage>();
+    const auto row = make<DesktopSpecifier>(PropertyList::Dictionary{{"label", "Elsewhere"}});
+    EXPECT_EQ(page->readPreferenceValue(*row), std::nullopt);
+}
