@@ -1,0 +1,97 @@
+#include "TouchCommands.h"
+
+#include "AccessibilityElement.h"
+#include "ElementSearch.h"
+#include "JsonValues.h"
+#include "NumberText.h"
+#include "ObjectiveC/Class.h"
+#include "Screen.h"
+#include "TouchDispatcher.h"
+#include "UIViewPeer.h"
+
+#include <QJsonObject>
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace {
+
+struct PhaseName {
+    std::string_view name;
+    TouchPhase phase;
+};
+
+constexpr std::array phaseNames{
+    PhaseName{"down", TouchPhase::Began},
+    PhaseName{"move", TouchPhase::Moved},
+    PhaseName{"up", TouchPhase::Ended},
+    PhaseName{"cancel", TouchPhase::Cancelled},
+};
+
+constexpr double farthest = 100'000; // points from the screen's corner
+
+std::optional<double> coordinate(const std::string& text) {
+    const auto number = numberFromText(text);
+    return number && std::abs(*number) <= farthest ? number : std::nullopt;
+}
+
+Answer touch(TouchDispatcher& touches, const CommandTable::Arguments& arguments) {
+    const auto* const phase = std::ranges::find(phaseNames, arguments[0].text, &PhaseName::name);
+    const auto x = coordinate(arguments[1].text);
+    const auto y = coordinate(arguments[2].text);
+    if (phase == phaseNames.end())
+        return std::unexpected("a touch goes down, move, up or cancel");
+    if (!x || !y)
+        return std::unexpected("X and Y are numbers of points");
+    if (phase->phase != TouchPhase::Began && !touches.isTouching())
+        return std::unexpected("no finger is down");
+    Screen::current().layoutIfNeeded();
+    touches.touch(phase->phase, {*x, *y});
+    return QJsonObject();
+}
+
+/// The N of "#N"; 0 for anything else.
+int numberOf(const CommandLine::Word& word) {
+    return !word.quoted && word.text.starts_with('#') ? countFromText(word.text.substr(1)).value_or(0) : 0;
+}
+
+Answer tapOn(UIView& view, TouchDispatcher& touches) {
+    const auto kept = retain(&view);
+    const auto frame = view.peer().convertToScreen(view.bounds());
+    const CGPoint middle{CGRectGetMidX(frame), CGRectGetMidY(frame)};
+    QJsonObject answer{{"class", jsonOfText(view.isa().name())},
+                       {"frame", jsonOf(view.frame())},
+                       {"screenFrame", jsonOf(frame)}};
+    touches.touch(TouchPhase::Began, middle);
+    touches.touch(TouchPhase::Ended, middle);
+    return answer;
+}
+
+Ref<UIView> found(UIView& root, const std::string& label, std::optional<int> number) {
+    ElementSearch search(root, label);
+    return number ? search.numbered(*number) : search.first();
+}
+
+Answer tap(TouchDispatcher& touches, const CommandTable::Arguments& arguments) {
+    const auto number = arguments.size() > 1 ? std::optional(numberOf(arguments[1])) : std::nullopt;
+    if (arguments[0].text.empty() || number == 0)
+        return std::unexpected("usage: tap LABEL [#N], N from 1 on; a LABEL with spaces stands in quotes");
+    Screen::current().layoutIfNeeded();
+    auto* const root = viewInFront();
+    const auto view = root != nullptr ? found(*root, arguments[0].text, number) : nullptr;
+    if (!view)
+        return std::unexpected("there is no such element on the screen");
+    return tapOn(*view, touches);
+}
+
+} // namespace
+
+void addTouchCommands(CommandTable& table, TouchDispatcher& touches) {
+    table.add({.usage = "tap LABEL [#N]", .fewest = 1, .most = 2, .run = [&touches](const auto& arguments) {
+                   return tap(touches, arguments);
+               }});
+    table.add({.usage = "touch down|move|up|cancel X Y",
+               .fewest = 3,
+               .most = 3,
+               .run = [&touches](const auto& arguments) { return touch(touches, arguments); }});
+}

@@ -1,0 +1,6 @@
+#pragma once
+
+#include "CommandTable.h"
+
+/// The commands for what this device has none of: text fields, sheets, pickers. They say so.
+void addUnavailableCommands(CommandTable& table);

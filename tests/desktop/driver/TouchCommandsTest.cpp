@@ -1,0 +1,161 @@
+#include "DriverFixture.h"
+#include "Presented.h"
+#include "UIScrollViewPeer.h"
+#include "UIViewPeer.h"
+
+namespace {
+
+using TouchCommandsTest = DriverFixture;
+
+constexpr CGRect upper = CGRectMake(20, 100, 200, 44);
+constexpr CGRect lower = CGRectMake(20, 200, 200, 44);
+
+QJsonArray json(const CGRect& rect) {
+    return {rect.origin.x, rect.origin.y, rect.size.width, rect.size.height};
+}
+
+TEST_F(TouchCommandsTest, TapPressesByAccessibilityLabel) {
+    auto presses = 0;
+    const auto button = addButton(upper, "Reset Settings", presses);
+    const auto answer = ask(R"(tap "Reset Settings")");
+    EXPECT_EQ(presses, 1);
+    EXPECT_EQ(answer.value("class").toString(), "UIControl");
+    EXPECT_EQ(answer.value("frame").toArray(), json(upper));
+}
+
+TEST_F(TouchCommandsTest, TapPressesByText) {
+    auto presses = 0;
+    const auto button = addButton(upper, "", presses);
+    const auto label = addLabel(CGRectMake(0, 0, 200, 44), "Apply", *button);
+    EXPECT_EQ(ask("tap Apply").value("screenFrame").toArray(), json(upper));
+    EXPECT_EQ(presses, 1);
+}
+
+TEST_F(TouchCommandsTest, TapCountsElementsWithinEachOtherOnce) {
+    auto first = 0;
+    auto second = 0;
+    const auto upperButton = addButton(upper, "Apply", first);
+    const auto label = addLabel(CGRectMake(0, 0, 200, 44), "Apply", *upperButton);
+    const auto lowerButton = addButton(lower, "Apply", second);
+    static_cast<void>(ask("tap Apply #2"));
+    EXPECT_EQ(first, 0);
+    EXPECT_EQ(second, 1);
+    EXPECT_EQ(refusalOf("tap Apply #3"), "there is no such element on the screen");
+}
+
+TEST_F(TouchCommandsTest, TapRefusesWhatIsNotShown) {
+    auto presses = 0;
+    const auto button = addButton(upper, "Apply", presses);
+    button->peer().setHidden(true);
+    EXPECT_EQ(refusalOf("tap Apply"), "there is no such element on the screen");
+    EXPECT_EQ(refusalOf("tap apply"), "there is no such element on the screen");
+    EXPECT_EQ(presses, 0);
+}
+
+class BadTap : public DriverFixture, public testing::WithParamInterface<const char*> {};
+
+TEST_P(BadTap, IsRefused) {
+    auto presses = 0;
+    const auto button = addButton(upper, "Apply", presses);
+    EXPECT_TRUE(refusalOf(GetParam()).starts_with("usage: tap")) << GetParam();
+    EXPECT_EQ(presses, 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Lines, BadTap,
+                         testing::Values("tap", "tap \"\"", "tap Apply #0", "tap Apply #-1", "tap Apply #x",
+                                         "tap Apply 1", "tap Apply \"#1\"", "tap Apply #1 #1",
+                                         "tap Apply #1x", "tap Apply #99999999999999999999"));
+
+TEST_F(TouchCommandsTest, TapScrollsTheElementIntoView) {
+    const auto scroll = make<UIScrollView>();
+    scroll->setFrame(CGRectMake(0, 100, 390, 600));
+    scroll->peer().setContentSize({390, 3000});
+    window_->addSubview(scroll);
+    auto presses = 0;
+    const auto button = addButton(CGRectMake(20, 2500, 200, 44), "Far", presses);
+    scroll->addSubview(button);
+    const auto place = ask("tap Far").value("screenFrame").toArray();
+    static_cast<void>(ask("settle"));
+    EXPECT_EQ(presses, 1);
+    EXPECT_GE(place[1].toDouble(), 100);
+    EXPECT_LE(place[1].toDouble() + 44, 700);
+}
+
+/// Something above the application, with what is put into it.
+class Cover final : public UIView, public Presented {
+public:
+    [[nodiscard]] std::string_view kind() const override { return "menu"; }
+
+    [[nodiscard]] std::string title() const override { return "Cover"; }
+
+    [[nodiscard]] std::vector<Action> actions() const override {
+        return {{.title = "Reset", .symbol = "gear", .destructive = true, .disabled = false, .frame = upper}};
+    }
+
+    [[nodiscard]] UIView& shownView() const override { return shown_; }
+
+    void dismissPresented() override {}
+
+private:
+    UIView& shown_ = *this;
+};
+
+TEST_F(TouchCommandsTest, TapLooksInWhatIsPresentedOnly) {
+    auto below = 0;
+    const auto button = addButton(upper, "Apply", below);
+    const auto cover = make<Cover>();
+    cover->setFrame(window_->bounds());
+    window_->addSubview(cover);
+    screen_.presentations().add(*cover, *cover);
+    EXPECT_EQ(refusalOf("tap Apply"), "there is no such element on the screen");
+    auto above = 0;
+    const auto other = addButton(lower, "Apply", above);
+    cover->addSubview(other);
+    static_cast<void>(ask("tap Apply"));
+    EXPECT_EQ(below, 0);
+    EXPECT_EQ(above, 1);
+}
+
+TEST_F(TouchCommandsTest, ScreenAndBackKnowWhatIsPresented) {
+    const auto cover = make<Cover>();
+    window_->addSubview(cover);
+    screen_.presentations().add(*cover, *cover);
+    const auto presented = ask("screen").value("presented").toArray();
+    ASSERT_EQ(presented.size(), 1);
+    EXPECT_EQ(presented[0]["kind"].toString(), "menu");
+    EXPECT_EQ(presented[0]["title"].toString(), "Cover");
+    const auto action = presented[0]["actions"].toArray().at(0).toObject();
+    EXPECT_EQ(action.value("title").toString(), "Reset");
+    EXPECT_EQ(action.value("style").toString(), "destructive");
+    EXPECT_EQ(action.value("symbol").toString(), "gear");
+    EXPECT_EQ(refusalOf("back"), "the navigation bar is covered: menu");
+    EXPECT_TRUE(application_.asked_.empty());
+}
+
+TEST_F(TouchCommandsTest, TouchFollowsAFinger) {
+    auto presses = 0;
+    const auto button = addButton(upper, "Apply", presses);
+    static_cast<void>(ask("touch down 60 120"));
+    EXPECT_TRUE(button->isTracking());
+    static_cast<void>(ask("touch move 61.5 121"));
+    static_cast<void>(ask("touch up 61.5 121"));
+    EXPECT_EQ(presses, 1);
+    static_cast<void>(ask("touch down 60 120"));
+    static_cast<void>(ask("touch cancel 60 120"));
+    EXPECT_EQ(presses, 1);
+}
+
+class BadTouch : public DriverFixture, public testing::WithParamInterface<const char*> {};
+
+TEST_P(BadTouch, IsRefused) {
+    EXPECT_FALSE(refusalOf(GetParam()).empty());
+    EXPECT_FALSE(touches_.isTouching());
+}
+
+INSTANTIATE_TEST_SUITE_P(Lines, BadTouch,
+                         testing::Values("touch", "touch down", "touch down 1", "touch down 1 2 3",
+                                         "touch Down 1 2", "touch down nan 2", "touch down 1 inf",
+                                         "touch down 1e400 2", "touch down 1x 2", "touch down 1e9 2",
+                                         "touch move 1 2", "touch up 1 2", "touch cancel 1 2"));
+
+} // namespace
