@@ -1,0 +1,281 @@
+#include "DeviceWindow.h"
+
+#include "Device.h"
+#include "Screen.h"
+#include "TouchDispatcher.h"
+#include "UIScrollViewPeer.h"
+#include "WindowAccessibility.h"
+
+#include <QGuiApplication>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPalette>
+#include <QScreen>
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+
+namespace {
+
+constexpr std::chrono::milliseconds frameTime(16);
+constexpr QColor surroundings(20, 20, 22);
+constexpr double focusRingWidth = 3;      // the window's units
+constexpr double pointsPerWheelStep = 48; // of the screen
+constexpr double wheelUnitsPerStep = 120; // Qt's
+constexpr double greatestPartOfDesktop = 0.9;
+
+double textLightness() {
+    return QGuiApplication::palette().color(QPalette::WindowText).lightnessF();
+}
+
+double backgroundLightness() {
+    return QGuiApplication::palette().color(QPalette::Window).lightnessF();
+}
+
+/// One unit for a point, or fewer where the desktop has no room for that.
+QSize firstSize(CGSize screen) {
+    const QSizeF wanted(screen.width, screen.height);
+    const auto room = QSizeF(QGuiApplication::primaryScreen()->availableSize()) * greatestPartOfDesktop;
+    const auto fitted = wanted.scaled(room, Qt::KeepAspectRatio);
+    return (fitted.width() < wanted.width() ? fitted : wanted).toSize();
+}
+
+/// The time that is shown is of minutes.
+std::chrono::milliseconds untilNextMinute(const Clock& clock) {
+    constexpr double minute = 60;
+    const auto passed = std::fmod(clock.date().timeIntervalSince1970(), minute);
+    return std::chrono::ceil<std::chrono::milliseconds>(std::chrono::duration<double>(minute - passed));
+}
+
+TouchPhase phaseOf(QEventPoint::State state) {
+    switch (state) {
+    case QEventPoint::Pressed:
+        return TouchPhase::Began;
+    case QEventPoint::Released:
+        return TouchPhase::Ended;
+    default:
+        return TouchPhase::Moved;
+    }
+}
+
+/// The innermost view there that scrolls; null when there is none.
+UIScrollView* scrollViewAt(const Screen& screen, CGPoint place) {
+    auto* view = screen.hitTest(place);
+    while (view != nullptr && dynamic_cast<UIScrollView*>(view) == nullptr)
+        view = view->peer().superview();
+    return dynamic_cast<UIScrollView*>(view);
+}
+
+} // namespace
+
+DeviceWindow::DeviceWindow(Screen& screen, TouchDispatcher& touches, Options options)
+    : screen_(screen),
+      touches_(touches),
+      options_(std::move(options)),
+      compositor_(screen),
+      placement_(firstSize(screen.bounds().size), devicePixelRatio(), screen.bounds().size) {
+    setTitle("Corvex");
+    resize(firstSize(screen.bounds().size));
+    timer_.setSingleShot(true);
+    timer_.setTimerType(Qt::PreciseTimer);
+    connect(&timer_, &QTimer::timeout, this, &DeviceWindow::refresh);
+    qGuiApp->installEventFilter(this);
+    followAppearance();
+    place();
+}
+
+void DeviceWindow::place() {
+    placement_ = ScreenPlacement(size(), devicePixelRatio(), screen_.bounds().size);
+    screen_.setScale(options_.scale.value_or(placement_.pixelsPerPoint()));
+    update();
+    wake();
+}
+
+void DeviceWindow::followAppearance() {
+    if (options_.followsAppearance)
+        screen_.setStyle(backgroundLightness() < textLightness() ? UserInterfaceStyle::Dark
+                                                                 : UserInterfaceStyle::Light);
+    wake();
+}
+
+void DeviceWindow::wake() {
+    const auto isBetweenFrames = timer_.isActive() && compositor_.isAnimating();
+    if (!isBetweenFrames)
+        timer_.start(0);
+}
+
+void DeviceWindow::refresh() {
+    Device::current().mainQueue().runDue();
+    options_.showTime();
+    picture_ = &compositor_.render();
+    QRegion changed;
+    for (const auto& rect : compositor_.lastDamage())
+        changed += placement_.toWindow(rect, picture_->size());
+    if (!changed.isEmpty())
+        update(changed);
+    scheduleRefresh();
+}
+
+void DeviceWindow::scheduleRefresh() {
+    auto& device = Device::current();
+    auto wait = compositor_.isAnimating() ? frameTime : untilNextMinute(device.clock());
+    if (const auto due = device.mainQueue().nextDue()) {
+        const auto untilDue = std::max(*due - device.clock().uptime(), std::chrono::nanoseconds::zero());
+        wait = std::min(wait, std::chrono::ceil<std::chrono::milliseconds>(untilDue));
+    }
+    timer_.start(wait);
+}
+
+void DeviceWindow::resizeEvent(QResizeEvent* /*event*/) {
+    place();
+}
+
+void DeviceWindow::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    painter.setClipRegion(event->region());
+    painter.fillRect(QRect(QPoint(), size()), surroundings);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    if (picture_ != nullptr)
+        painter.drawImage(placement_.frame(), *picture_);
+    paintFocus(painter);
+}
+
+void DeviceWindow::paintFocus(QPainter& painter) const {
+    const auto element = focus_.element();
+    if (!element)
+        return;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(QGuiApplication::palette().color(QPalette::Highlight), focusRingWidth));
+    const auto half = focusRingWidth / 2;
+    const auto around = placement_.toWindow(element->frame).adjusted(-half, -half, half, half);
+    const auto ring = around.intersected(placement_.frame().adjusted(half, half, -half, -half));
+    painter.drawRoundedRect(ring, focusRingWidth, focusRingWidth);
+}
+
+void DeviceWindow::touch(TouchPhase phase, QPointF place) {
+    touches_.touch(phase, placement_.toScreen(place));
+    wake();
+}
+
+void DeviceWindow::mousePressEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton)
+        return;
+    if (focus_.element()) {
+        focus_.clear();
+        update();
+    }
+    touch(TouchPhase::Began, event->position());
+}
+
+void DeviceWindow::mouseMoveEvent(QMouseEvent* event) {
+    if (event->buttons().testFlag(Qt::LeftButton))
+        touch(TouchPhase::Moved, event->position());
+}
+
+void DeviceWindow::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton)
+        touch(TouchPhase::Ended, event->position());
+}
+
+void DeviceWindow::touchEvent(QTouchEvent* event) {
+    if (event->type() == QEvent::TouchCancel)
+        touch(TouchPhase::Cancelled, {});
+    else if (event->pointCount() > 0)
+        touch(phaseOf(event->point(0).state()), event->point(0).position());
+    event->accept();
+}
+
+void DeviceWindow::focusOutEvent(QFocusEvent* /*event*/) {
+    if (touches_.isTouching())
+        touch(TouchPhase::Cancelled, {});
+}
+
+void DeviceWindow::wheelEvent(QWheelEvent* event) {
+    auto* const scroll = scrollViewAt(screen_, placement_.toScreen(event->position()));
+    if (scroll == nullptr)
+        return;
+    const auto unit = devicePixelRatio() / placement_.pixelsPerPoint();
+    const auto distance = event->hasPixelDelta()
+                              ? QPointF(event->pixelDelta()) * unit
+                              : QPointF(event->angleDelta()) * pointsPerWheelStep / wheelUnitsPerStep;
+    scroll->peer().scrollBy({-distance.x(), -distance.y()});
+    wake();
+}
+
+void DeviceWindow::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+        focus_.move(event->key() == Qt::Key_Tab);
+        focusChanged();
+        break;
+    case Qt::Key_Space:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (const auto element = focus_.element())
+            press(*element);
+        break;
+    case Qt::Key_Escape:
+        escape();
+        break;
+    default:
+        event->ignore();
+    }
+    wake();
+}
+
+void DeviceWindow::press(const AccessibilityElement& element) {
+    scrollIntoView(*element.view);
+    const auto frame = element.view->peer().convertToScreen(element.view->bounds());
+    const CGPoint middle{CGRectGetMidX(frame), CGRectGetMidY(frame)};
+    touches_.touch(TouchPhase::Began, middle);
+    touches_.touch(TouchPhase::Ended, middle);
+    wake();
+}
+
+void DeviceWindow::focusOn(const AccessibilityElement& element) {
+    focus_.set(element.view);
+    scrollIntoView(*element.view);
+    focusChanged();
+}
+
+Ref<UIView> DeviceWindow::focusedView() const {
+    const auto element = focus_.element();
+    return element ? element->view : nullptr;
+}
+
+void DeviceWindow::focusChanged() {
+    update();
+    wake();
+    auto* const interface = dynamic_cast<WindowAccessibility*>(accessibleRoot());
+    auto* const child = interface != nullptr ? interface->focusChild() : nullptr;
+    if (child == nullptr)
+        return;
+    QAccessibleEvent event(child, QAccessible::Focus);
+    QAccessible::updateAccessibility(&event);
+}
+
+void DeviceWindow::escape() {
+    if (auto* const presented = screen_.presentations().top())
+        presented->dismissPresented();
+    else
+        options_.goBack();
+}
+
+void DeviceWindow::exposeEvent(QExposeEvent* event) {
+    QRasterWindow::exposeEvent(event);
+    const auto isOfAnotherDensity = placement_.pixelRatio() != devicePixelRatio();
+    if (isOfAnotherDensity)
+        place();
+}
+
+bool DeviceWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::ApplicationPaletteChange)
+        followAppearance();
+    return QRasterWindow::eventFilter(watched, event);
+}
+
+QAccessibleInterface* DeviceWindow::accessibleRoot() const {
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast): Qt asks constantly, and takes what is variable
+    return QAccessible::queryAccessibleInterface(const_cast<DeviceWindow*>(this));
+}

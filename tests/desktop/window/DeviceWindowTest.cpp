@@ -1,0 +1,153 @@
+#include "Presented.h"
+#include "UIScrollViewPeer.h"
+#include "WindowFixture.h"
+
+#include <QGuiApplication>
+#include <QPalette>
+#include <QWheelEvent>
+
+namespace {
+
+using DeviceWindowTest = WindowFixture;
+
+TEST_F(DeviceWindowTest, GivesTheDeviceThePixelsThatItShows) {
+    EXPECT_EQ(screen_.traits().displayScale, 0.5);
+    window_.resize(390, 844);
+    run();
+    EXPECT_EQ(screen_.traits().displayScale, 1);
+}
+
+TEST_F(DeviceWindowTest, KeepsAScaleThatWasAskedFor) {
+    DeviceWindow other(screen_, touches_,
+                       {.scale = 2, .followsAppearance = true, .goBack = [] {}, .showTime = [] {}});
+    other.resize(100, 100);
+    run();
+    EXPECT_EQ(screen_.traits().displayScale, 2);
+}
+
+TEST_F(DeviceWindowTest, HandsTheMouseOnAsAFinger) {
+    click({60, 61}); // half a unit for a point
+    EXPECT_EQ(firstPresses_, 1);
+    click({60, 111});
+    EXPECT_EQ(secondPresses_, 1);
+    click({60, 180});
+    EXPECT_EQ(firstPresses_ + secondPresses_, 2);
+}
+
+TEST_F(DeviceWindowTest, IgnoresTheOtherButtonsOfTheMouse) {
+    QMouseEvent down(QEvent::MouseButtonPress, QPointF(60, 61), QPointF(60, 61), Qt::RightButton,
+                     Qt::RightButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&window_, &down);
+    EXPECT_FALSE(touches_.isTouching());
+}
+
+TEST_F(DeviceWindowTest, LiftsTheFingerWithoutATapWhenItLosesTheKeyboard) {
+    QMouseEvent down(QEvent::MouseButtonPress, QPointF(60, 61), QPointF(60, 61), Qt::LeftButton,
+                     Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&window_, &down);
+    EXPECT_TRUE(first_->isTracking());
+    QFocusEvent lost(QEvent::FocusOut);
+    QCoreApplication::sendEvent(&window_, &lost);
+    EXPECT_FALSE(first_->isTracking());
+    EXPECT_EQ(firstPresses_, 0);
+}
+
+TEST_F(DeviceWindowTest, ScrollsWithTheWheel) {
+    const auto scroll = make<UIScrollView>();
+    scroll->setFrame(CGRectMake(0, 300, 390, 400));
+    scroll->peer().setContentSize({390, 2000});
+    content_->addSubview(scroll);
+    run();
+    const auto before = scroll->peer().contentOffset().y;
+    QWheelEvent wheel(QPointF(100, 200), QPointF(100, 200), {}, QPoint(0, -120), Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&window_, &wheel);
+    EXPECT_EQ(scroll->peer().contentOffset().y, before + 48);
+}
+
+TEST_F(DeviceWindowTest, MovesTheKeyboardRoundTheElements) {
+    EXPECT_FALSE(window_.focusedView());
+    press(Qt::Key_Tab);
+    EXPECT_EQ(window_.focusedView(), first_);
+    press(Qt::Key_Tab);
+    EXPECT_EQ(window_.focusedView(), second_);
+    press(Qt::Key_Tab);
+    EXPECT_EQ(window_.focusedView(), first_);
+    press(Qt::Key_Backtab);
+    EXPECT_EQ(window_.focusedView(), second_);
+}
+
+TEST_F(DeviceWindowTest, PressesTheElementThatTheKeyboardIsAt) {
+    press(Qt::Key_Space);
+    EXPECT_EQ(firstPresses_ + secondPresses_, 0);
+    press(Qt::Key_Tab);
+    press(Qt::Key_Tab);
+    press(Qt::Key_Space);
+    press(Qt::Key_Return);
+    EXPECT_EQ(firstPresses_, 0);
+    EXPECT_EQ(secondPresses_, 2);
+}
+
+TEST_F(DeviceWindowTest, PassesByWhatIsHidden) {
+    first_->peer().setHidden(true);
+    press(Qt::Key_Tab);
+    EXPECT_EQ(window_.focusedView(), second_);
+}
+
+TEST_F(DeviceWindowTest, GoesBackWithEscape) {
+    press(Qt::Key_Escape);
+    EXPECT_EQ(timesBack_, 1);
+}
+
+/// Something above the application, with one view in it.
+class Cover final : public UIView, public Presented {
+public:
+    [[nodiscard]] std::string_view kind() const override { return "menu"; }
+
+    [[nodiscard]] std::string title() const override { return {}; }
+
+    [[nodiscard]] std::vector<Action> actions() const override { return {}; }
+
+    [[nodiscard]] UIView& shownView() const override { return shown_; }
+
+    void dismissPresented() override { isDismissed = true; }
+
+    bool isDismissed = false;
+
+private:
+    UIView& shown_ = *this;
+};
+
+TEST_F(DeviceWindowTest, ClosesWhatIsPresentedWithEscape) {
+    const auto cover = make<Cover>();
+    screen_.presentations().add(*cover, *cover);
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(cover->isDismissed);
+    EXPECT_EQ(timesBack_, 0);
+}
+
+TEST_F(DeviceWindowTest, KeepsTheKeyboardWithinWhatIsPresented) {
+    const auto cover = make<Cover>();
+    screen_.presentations().add(*cover, *cover);
+    press(Qt::Key_Tab);
+    EXPECT_FALSE(window_.focusedView());
+}
+
+TEST_F(DeviceWindowTest, IsDarkWhenTheDesktopIs) {
+    const auto before = QGuiApplication::palette();
+    QGuiApplication::setPalette(QPalette(Qt::white, QColor(30, 30, 30)));
+    EXPECT_EQ(screen_.traits().style, UserInterfaceStyle::Dark);
+    QGuiApplication::setPalette(QPalette(Qt::black, Qt::white));
+    EXPECT_EQ(screen_.traits().style, UserInterfaceStyle::Light);
+    QGuiApplication::setPalette(before);
+}
+
+TEST_F(DeviceWindowTest, RunsTheDevicesWork) {
+    auto ran = false;
+    Device::current().mainQueue().after({}, [&ran] { ran = true; });
+    window_.wake();
+    run();
+    EXPECT_TRUE(ran);
+}
+
+} // namespace

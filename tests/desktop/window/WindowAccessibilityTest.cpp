@@ -1,0 +1,56 @@
+#include "WindowAccessibility.h"
+
+#include "UIViewPeer.h"
+#include "WindowFixture.h"
+
+namespace {
+
+class WindowAccessibilityTest : public WindowFixture {
+protected:
+    WindowAccessibilityTest() { WindowAccessibility::install(); }
+
+    [[nodiscard]] QAccessibleInterface& told() { return *QAccessible::queryAccessibleInterface(&window_); }
+};
+
+TEST_F(WindowAccessibilityTest, TellsOfTheElementsInOrder) {
+    ASSERT_EQ(told().childCount(), 2);
+    EXPECT_EQ(told().child(0)->text(QAccessible::Name), "First");
+    EXPECT_EQ(told().child(1)->text(QAccessible::Name), "Second");
+    EXPECT_EQ(told().child(1)->role(), QAccessible::Button);
+    EXPECT_EQ(told().indexOfChild(told().child(1)), 1);
+    EXPECT_EQ(told().child(2), nullptr);
+}
+
+TEST_F(WindowAccessibilityTest, TellsWhereAnElementIs) {
+    EXPECT_EQ(told().child(0)->rect(), QRect(window_.mapToGlobal(QPoint(10, 50)), QSize(100, 22)));
+}
+
+TEST_F(WindowAccessibilityTest, PressesAnElement) {
+    told().child(1)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(secondPresses_, 1);
+}
+
+TEST_F(WindowAccessibilityTest, BringsTheKeyboardToAnElement) {
+    auto* const second = told().child(1);
+    second->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+    EXPECT_EQ(window_.focusedView(), second_);
+    EXPECT_TRUE(second->state().focused);
+    EXPECT_EQ(told().focusChild(), second);
+}
+
+TEST_F(WindowAccessibilityTest, TellsOfADisabledControl) {
+    EXPECT_FALSE(told().child(0)->state().disabled);
+    dynamic_cast<UIControlPeer&>(first_->peer()).setEnabled(false);
+    EXPECT_TRUE(told().child(0)->state().disabled);
+}
+
+TEST_F(WindowAccessibilityTest, LosesAnElementThatIsGone) {
+    auto* const first = told().child(0);
+    EXPECT_TRUE(first->isValid());
+    first_->peer().removeFromSuperview();
+    EXPECT_FALSE(first->isValid());
+    EXPECT_EQ(told().childCount(), 1);
+    EXPECT_EQ(told().child(0)->text(QAccessible::Name), "Second");
+}
+
+} // namespace

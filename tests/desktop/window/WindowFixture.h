@@ -1,0 +1,43 @@
+#pragma once
+
+#include "DeviceWindow.h"
+#include "Screen.h"
+#include "TestDevice.h"
+#include "TouchDispatcher.h"
+#include "UIControlPeer.h"
+#include "UIKit/UIControl.h"
+#include "UIWindow.h"
+
+#include <gtest/gtest.h>
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+/// A phone with two buttons and a label on its screen, in a window of half its size.
+class WindowFixture : public testing::Test {
+protected:
+    WindowFixture();
+    ~WindowFixture() override;
+
+    void click(QPointF place);
+    void press(Qt::Key key);
+    /// Lets the window do what it wants to do at once.
+    static void run();
+
+    static constexpr CGRect firstFrame = CGRectMake(20, 100, 200, 44);
+    static constexpr CGRect secondFrame = CGRectMake(20, 200, 200, 44);
+
+    TestDevice device_;
+    Screen screen_{Screen::Options{}};
+    Ref<UIWindow> content_;
+    Ref<UIControl> first_;
+    Ref<UIControl> second_;
+    TouchDispatcher touches_;
+    int firstPresses_ = 0;
+    int secondPresses_ = 0;
+    int timesBack_ = 0;
+    DeviceWindow window_;
+
+private:
+    [[nodiscard]] Ref<UIControl> addButton(const CGRect& frame, const std::string& label, int& presses);
+};
