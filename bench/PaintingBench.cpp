@@ -1,0 +1,89 @@
+#include "Compositor.h"
+#include "DesktopNavigationItem.h"
+#include "DeviceInstaller.h"
+#include "DrivenShell.h"
+#include "Screen.h"
+#include "TestDevice.h"
+#include "TouchDispatcher.h"
+#include "UIViewControllerPeer.h"
+#include "UIViewPeer.h"
+
+#include <QGuiApplication>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+
+/// Measures what a frame of the master switch's animation costs against painting the pane's whole page again,
+/// in one run, on a phone at 3x. Prints both times and their ratio; fails when the ratio is above 0.25.
+
+namespace {
+
+using SteadyClock = std::chrono::steady_clock;
+using Milliseconds = std::chrono::duration<double, std::milli>;
+
+constexpr auto largestRatio = 0.25;
+constexpr auto taps = 20;
+constexpr auto framesOfTap = 18; ///< in the 0.3 seconds that the switch moves
+constexpr auto frame = std::chrono::nanoseconds(std::chrono::seconds(1)) / 60;
+
+void moveTime(TestDevice& device, std::chrono::nanoseconds time) {
+    Device::current().mainQueue().advance(device.clock(), time);
+}
+
+/// The pane's page, in front and at rest. \returns what its bar has for a title: the switch
+Ref<UIView> openPane(TestDevice& device, DrivenShell& application) {
+    const auto opened = application.open(std::nullopt);
+    if (!opened) {
+        std::fprintf(stderr, "the pane cannot be opened: %s\n", opened.error().c_str());
+        std::exit(EXIT_FAILURE);
+    }
+    moveTime(device, std::chrono::seconds(1));
+    return application.page()->peer().navigationItem().titleView();
+}
+
+void tap(TouchDispatcher& touches, const UIView& view) {
+    const auto place = view.peer().convertToScreen(view.bounds());
+    const CGPoint middle{CGRectGetMidX(place), CGRectGetMidY(place)};
+    touches.touch(TouchPhase::Began, middle);
+    touches.touch(TouchPhase::Ended, middle);
+}
+
+/// The mean time of a frame while the switch goes from one side to the other, many times.
+template <class Prepare>
+Milliseconds frameTime(Compositor& compositor, TestDevice& device, const UIView& control, Prepare prepare) {
+    TouchDispatcher touches;
+    Milliseconds sum{};
+    for (auto count = 0; count < taps; ++count) {
+        tap(touches, control);
+        for (auto index = 0; index < framesOfTap; ++index) {
+            moveTime(device, frame);
+            prepare();
+            const auto begin = SteadyClock::now();
+            compositor.render();
+            sum += SteadyClock::now() - begin;
+        }
+    }
+    return sum / (taps * framesOfTap);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(argc, argv);
+    TestDevice device;
+    if (!DeviceInstaller(DEVICE_TREE).install(Device::current().root()))
+        return EXIT_FAILURE;
+    Screen screen({.idiom = Idiom::Phone, .style = UserInterfaceStyle::Light, .scale = 3, .size = {}});
+    Shell shell;
+    DrivenShell driven(shell);
+    const auto control = openPane(device, driven);
+    Compositor compositor(screen);
+    compositor.render();
+    const auto part = frameTime(compositor, device, *control, [] {});
+    const auto whole = frameTime(compositor, device, *control, [&] { compositor.forgetPicture(); });
+    const auto ratio = part / whole;
+    std::printf("a frame of the switch: %.2f ms; of the whole page: %.2f ms; ratio %.3f (at most %.2f)\n",
+                part.count(), whole.count(), ratio, largestRatio);
+    return ratio <= largestRatio ? EXIT_SUCCESS : EXIT_FAILURE;
+}
