@@ -1,17 +1,30 @@
 # Everything a person does with this tree. The first call of a target installs what it needs and what is missing.
-.PHONY: help test lint format fuzz coverage clean
+.PHONY: help run test smoke lint format fuzz bench coverage clean
 
 help:
+	@echo "make run       build the program and open its window (without a display: a walk with pictures in out/)"
 	@echo "make test      build, and run all tests: plainly, then under the sanitizers"
+	@echo "make smoke     handle the window from outside, on a virtual display"
 	@echo "make lint      check format, static analysis, portability and the rules of the tree"
 	@echo "make format    format all C++ files"
 	@echo "make fuzz      run each fuzzer for SECONDS_EACH (default 600) seconds"
+	@echo "make bench     measure what painting a change costs against painting all"
 	@echo "make coverage  run all tests and report the lines and branches that they reach"
 	@echo "make clean     remove everything that was built"
+
+run:
+	@tools/setup build
+	@tools/run
 
 test:
 	@tools/setup build
 	@tools/test
+
+smoke:
+	@tools/setup build smoke
+	@cmake --preset desktop >/dev/null
+	@cmake --build --preset desktop -j 2 --target corvex-settings
+	@tools/window-smoke build/desktop/bin/corvex-settings
 
 lint:
 	@tools/setup build lint
@@ -24,6 +37,12 @@ format:
 fuzz:
 	@tools/setup build fuzz
 	@tools/fuzz $${SECONDS_EACH:-600}
+
+bench:
+	@tools/setup build
+	@cmake --preset desktop >/dev/null
+	@cmake --build --preset desktop -j 2 --target bench_painting
+	@build/desktop/bench/bench_painting
 
 coverage:
 	@tools/setup build coverage
