@@ -1,11 +1,11 @@
 #include "DriverFixture.h"
 
 #include "ApplicationCommands.h"
+#include "CountedButton.h"
 #include "EventCommands.h"
 #include "InspectionCommands.h"
 #include "TimeCommands.h"
 #include "TouchCommands.h"
-#include "UIControlPeer.h"
 #include "UnavailableCommands.h"
 
 DriverFixture::DriverFixture() {
@@ -35,15 +35,7 @@ std::string DriverFixture::refusalOf(const std::string& line) const {
 }
 
 Ref<UIControl> DriverFixture::addButton(const CGRect& frame, const std::string& label, int& presses) {
-    auto button = make<UIControl>();
-    button->setFrame(frame);
-    button->peer().setAccessibility(
-        {.label = label, .value = {}, .role = AccessibilityRole::Button, .isElement = true});
-    dynamic_cast<UIControlPeer&>(button->peer()).addHandler(UIControlEvents::TouchUpInside, [&presses] {
-        ++presses;
-    });
-    window_->addSubview(button);
-    return button;
+    return addCountedButton(*window_, frame, label, presses);
 }
 
 Ref<UILabel> DriverFixture::addLabel(const CGRect& frame, const std::string& text, UIView& parent) {

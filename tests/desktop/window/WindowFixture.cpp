@@ -1,5 +1,6 @@
 #include "WindowFixture.h"
 
+#include "CountedButton.h"
 #include "UIViewPeer.h"
 
 #include <QGuiApplication>
@@ -12,8 +13,8 @@ WindowFixture::WindowFixture()
                .goBack = [this] { ++timesBack_; },
                .showTime = [] {}}) {
     screen_.addWindow(content_);
-    first_ = addButton(firstFrame, "First", firstPresses_);
-    second_ = addButton(secondFrame, "Second", secondPresses_);
+    first_ = addCountedButton(*content_, firstFrame, "First", firstPresses_);
+    second_ = addCountedButton(*content_, secondFrame, "Second", secondPresses_);
     window_.resize(195, 422);
     window_.show();
     run();
@@ -21,18 +22,6 @@ WindowFixture::WindowFixture()
 
 WindowFixture::~WindowFixture() {
     screen_.removeWindow(*content_);
-}
-
-Ref<UIControl> WindowFixture::addButton(const CGRect& frame, const std::string& label, int& presses) {
-    auto button = make<UIControl>();
-    button->setFrame(frame);
-    button->peer().setAccessibility(
-        {.label = label, .value = {}, .role = AccessibilityRole::Button, .isElement = true});
-    dynamic_cast<UIControlPeer&>(button->peer()).addHandler(UIControlEvents::TouchUpInside, [&presses] {
-        ++presses;
-    });
-    content_->addSubview(button);
-    return button;
 }
 
 void WindowFixture::click(QPointF place) {

@@ -37,7 +37,4 @@ protected:
     int secondPresses_ = 0;
     int timesBack_ = 0;
     DeviceWindow window_;
-
-private:
-    [[nodiscard]] Ref<UIControl> addButton(const CGRect& frame, const std::string& label, int& presses);
 };
