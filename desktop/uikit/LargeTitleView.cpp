@@ -1,6 +1,7 @@
 #include "LargeTitleView.h"
 
 #include "DesktopFont.h"
+#include "NavigationBarLayout.h"
 #include "ObjectiveC/Class.h"
 #include "UILabelPeer.h"
 
@@ -12,8 +13,6 @@ const Class classObject = Class::define<LargeTitleView, UIView>("LargeTitleView"
 
 constexpr auto titleSize = 34.0;
 constexpr auto gapBelow = 8.0;
-constexpr auto narrowMargin = 16.0;
-constexpr auto wideMargin = 20.0;
 constexpr auto largestScale = 1.1;
 constexpr auto pullToLargest = 150.0; ///< points that the page is pulled down
 
@@ -40,7 +39,7 @@ void LargeTitleView::setOverlap(double points) {
 
 void LargeTitleView::layoutSubviews() {
     UIView::layoutSubviews();
-    const auto margin = peer().traits().compactWidth ? narrowMargin : wideMargin;
+    const auto margin = barMargin(peer().traits());
     const auto room = std::max(0.0, bounds().size.width - 2 * margin);
     const auto size = label_->peer().sizeThatFits({room, height});
     label_->peer().setBounds(CGRectMake(0, 0, std::min(size.width, room), size.height));

@@ -18,8 +18,6 @@ const Class classObject = Class::define<NavigationBarContentView, UIView>("Navig
 
 constexpr auto titleFontSize = 17.0;
 constexpr auto highestTitleView = 44.0;
-constexpr auto narrowMargin = 16.0;
-constexpr auto wideMargin = 20.0;
 constexpr auto backgroundFade = 8.0; ///< points of overlap until the background is all there
 constexpr auto titleFadeTime = std::chrono::milliseconds(200);
 
@@ -125,7 +123,7 @@ NavigationBarParts NavigationBarContentView::parts() const {
     const auto traits = peer().traits();
     NavigationBarParts parts;
     parts.bar = {bounds().size.width, rowHeight_};
-    parts.margin = traits.compactWidth ? narrowMargin : wideMargin;
+    parts.margin = barMargin(traits);
     parts.hasBackButton = static_cast<bool>(back_);
     if (back_)
         parts.backTitles = back_->titleWidths();

@@ -7,6 +7,8 @@
 
 namespace {
 
+constexpr auto narrowMargin = 16.0;
+constexpr auto wideMargin = 20.0;
 constexpr auto spacing = 8.0;
 constexpr auto titleGap = 8.0;
 
@@ -68,6 +70,10 @@ CGRect titleIn(const Room& room, const NavigationBarParts& parts) {
 }
 
 } // namespace
+
+double barMargin(const Traits& traits) {
+    return traits.compactWidth ? narrowMargin : wideMargin;
+}
 
 NavigationBarPlaces placesFor(const NavigationBarParts& parts) {
     NavigationBarPlaces places;

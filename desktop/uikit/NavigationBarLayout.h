@@ -1,15 +1,19 @@
 #pragma once
 
 #include "CoreGraphics/CGGeometry.h"
+#include "Traits.h"
 
 #include <cstddef>
 #include <optional>
 #include <vector>
 
+/// From the bar's edge to its titles and outermost buttons, in points.
+[[nodiscard]] double barMargin(const Traits& traits);
+
 /// What is to find a place in the row of a navigation bar. Lengths are in points.
 struct NavigationBarParts {
     CGSize bar;
-    double margin = 16; ///< from the bar's edge to the outermost content
+    double margin = 16; ///< as `barMargin` says
     bool hasBackButton = false;
     std::vector<double> backTitles; ///< the widths of its possible titles, the preferred first
     std::vector<double> left;       ///< the widths of the buttons' contents, the outermost first

@@ -100,3 +100,8 @@ TEST(NavigationBarLayoutTest, leftButtonsFollowTheBackButton) {
 TEST(NavigationBarLayoutTest, withoutABackButtonThereIsNone) {
     EXPECT_EQ(placesFor(phoneBar(100)).back, CGRect());
 }
+
+TEST(NavigationBarLayoutTest, theMarginFollowsTheWidthClass) {
+    EXPECT_EQ(barMargin({.compactWidth = true}), 16);
+    EXPECT_EQ(barMargin({.compactWidth = false}), 20);
+}
