@@ -21,8 +21,13 @@ BarBackgroundView::BarBackgroundView()
     blur_->layer().peer().backdrop = material;
     tint_->setBackgroundColor(DesktopColor::system(SystemColor::BarBackground));
     hairline_->setBackgroundColor(DesktopColor::system(SystemColor::BarHairline));
-    for (const auto& view : {blur_, tint_, hairline_})
+    // Masks, so that the parts keep up with an animated width.
+    for (const auto& view : {blur_, tint_}) {
+        view->setAutoresizingMask(UIViewAutoresizing::FlexibleWidth | UIViewAutoresizing::FlexibleHeight);
         addSubview(view);
+    }
+    hairline_->setAutoresizingMask(UIViewAutoresizing::FlexibleWidth | UIViewAutoresizing::FlexibleTopMargin);
+    addSubview(hairline_);
 }
 
 void BarBackgroundView::layoutSubviews() {

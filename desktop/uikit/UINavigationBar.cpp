@@ -24,7 +24,9 @@ public:
 
 UINavigationBar::UINavigationBar()
     : UIView(std::make_unique<UINavigationBarPeer>()),
-      background_(make<BarBackgroundView>()) {
+      background_(make<BarBackgroundView>()),
+      leavingBackground_(make<BarBackgroundView>()) {
+    addSubview(leavingBackground_);
     addSubview(background_);
 }
 
@@ -55,13 +57,13 @@ void UINavigationBar::show(const Ref<NavigationBarContentView>& content) {
     update();
 }
 
-void UINavigationBar::showBetween(const Ref<NavigationBarContentView>& from,
-                                  const Ref<NavigationBarContentView>& to, double progress) {
-    leaving_ = from;
-    content_ = to;
-    progress_ = progress;
-    if (to->peer().superview() != this)
-        addSubview(to);
+void UINavigationBar::showBetween(const Between& between) {
+    leaving_ = between.from;
+    content_ = between.to;
+    progress_ = between.progress;
+    isPush_ = between.isPush;
+    if (content_->peer().superview() != this)
+        addSubview(content_);
     update();
 }
 
@@ -77,16 +79,21 @@ void UINavigationBar::update() {
             content->setRowHeight(rowHeight_);
     }
     auto height = content_->height();
-    auto alpha = content_->backgroundAlpha();
-    if (leaving_) {
+    if (leaving_)
         height += (leaving_->height() - height) * (1 - progress_);
-        alpha += (leaving_->backgroundAlpha() - alpha) * (1 - progress_);
-    }
     setFrame(CGRectMake(0, top_, width_, height));
-    background_->setFrame(CGRectMake(0, -top_, width_, height + top_));
-    background_->setAlpha(alpha);
+    placeBackgrounds(height + top_);
     for (const auto& content : {leaving_, content_}) {
         if (content)
             content->setFrame(CGRectMake(0, 0, width_, content->height()));
     }
+}
+
+void UINavigationBar::placeBackgrounds(double height) {
+    const auto shown = leaving_ ? progress_ * width_ : width_;
+    const auto hidden = width_ - shown;
+    background_->setFrame(CGRectMake(isPush_ ? hidden : 0, -top_, shown, height));
+    background_->setAlpha(content_->backgroundAlpha());
+    leavingBackground_->setFrame(CGRectMake(isPush_ ? 0 : shown, -top_, hidden, height));
+    leavingBackground_->setAlpha(leaving_ ? leaving_->backgroundAlpha() : 0);
 }

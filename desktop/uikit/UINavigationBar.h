@@ -24,14 +24,23 @@ public:
     /// Shows that content and nothing else.
     void show(const Ref<NavigationBarContentView>& content);
 
-    /// Shows two contents on the way from one to the other. \param progress 0..1
-    void showBetween(const Ref<NavigationBarContentView>& from, const Ref<NavigationBarContentView>& to,
-                     double progress);
+    /// Two contents on the way from one to the other.
+    struct Between {
+        Ref<NavigationBarContentView> from;
+        Ref<NavigationBarContentView> to;
+        double progress = 1; ///< 0..1
+        bool isPush = true;  ///< whether the page of `to` slides over the other, which is uncovered if not
+    };
+
+    void showBetween(const Between& between);
 
     /// The content shown last; empty before there is one.
     [[nodiscard]] const Ref<NavigationBarContentView>& content() const { return content_; }
 
     [[nodiscard]] BarBackgroundView& background() const { return *background_; }
+
+    /// Between two contents, above the page that leaves.
+    [[nodiscard]] BarBackgroundView& leavingBackground() const { return *leavingBackground_; }
 
     /// The content's overlap has changed.
     void contentChanged();
@@ -42,11 +51,15 @@ public:
 private:
     /// Takes the height that the contents have, and the looks that follow from it.
     void update();
+    /// Each as wide as what is seen of its page.
+    void placeBackgrounds(double height);
 
     Ref<BarBackgroundView> background_;
+    Ref<BarBackgroundView> leavingBackground_;
     Ref<NavigationBarContentView> content_;
     Ref<NavigationBarContentView> leaving_; ///< empty unless between two
     double progress_ = 1;
+    bool isPush_ = true;
     double top_ = 0;
     double width_ = 0;
     double rowHeight_ = phoneRowHeight;

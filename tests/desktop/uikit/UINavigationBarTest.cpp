@@ -175,6 +175,36 @@ TEST_F(UINavigationBarTest, hasNoBackgroundUntilContentIsBeneathIt) {
     EXPECT_DOUBLE_EQ(background.alpha(), 0);
 }
 
+TEST_F(UINavigationBarTest, eachPageKeepsItsBackgroundAboveItWhileOneSlidesOverTheOther) {
+    const auto scrollView = showScrollingPage();
+    scrollView->peer().setContentOffset({0, 300});
+    const auto b = page("B");
+    navigation->pushViewController(b, true);
+    const auto& leaving = peer().bar().leavingBackground();
+    const auto& arriving = peer().bar().background();
+    EXPECT_DOUBLE_EQ(leaving.alpha(), 1);
+    EXPECT_DOUBLE_EQ(arriving.alpha(), 0);
+    advance(std::chrono::milliseconds(100));
+    const auto shown = 390 * AnimationCurve::system().progress(0.2);
+    const auto shownWidth = [](const UIView& view) {
+        return view.layer().peer().shownValue(LayerProperty::BoundsSize)[0];
+    };
+    EXPECT_NEAR(shownWidth(leaving), 390 - shown, 1e-6);
+    EXPECT_NEAR(shownWidth(arriving), shown, 1e-6);
+    for (const auto& part : leaving.peer().subviews())
+        EXPECT_NEAR(shownWidth(*part), 390 - shown, 1e-6);
+    settle();
+    EXPECT_DOUBLE_EQ(leaving.alpha(), 0);
+    EXPECT_DOUBLE_EQ(arriving.alpha(), 0);
+    EXPECT_EQ(screenFrame(arriving), CGRectMake(0, 0, 390, 91));
+    peer().pop(true);
+    EXPECT_DOUBLE_EQ(arriving.alpha(), 1);
+    EXPECT_DOUBLE_EQ(leaving.alpha(), 0);
+    settle();
+    EXPECT_DOUBLE_EQ(arriving.alpha(), 1);
+    EXPECT_EQ(screenFrame(arriving), CGRectMake(0, 0, 390, 91));
+}
+
 TEST_F(UINavigationBarTest, theLargeTitleIsScrolledUnderTheBarAndTheSmallOneTakesItsPlace) {
     peer().setPrefersLargeTitles(true);
     const auto scrollView = showScrollingPage();
