@@ -2,6 +2,7 @@
 
 #include "Foundation/NSData.h"
 #include "ObjectiveC/Class.h"
+#include "Screen.h"
 #include "SymbolLibrary.h"
 
 #include <QBuffer>
@@ -33,6 +34,10 @@ double scaleOf(std::string_view path) {
     if (stem.ends_with("@3x"))
         return 3;
     return stem.ends_with("@2x") ? 2 : 1;
+}
+
+bool namesScale(std::string_view path) {
+    return scaleOf(path) > 1;
 }
 
 std::string withSuffix(std::string_view path, std::string_view suffix) {
@@ -155,5 +160,8 @@ Ref<UIImage> UIImage::systemImageNamed(std::string_view name) {
 }
 
 Ref<UIImage> UIImage::imageWithContentsOfFile(std::string_view path) {
-    return pictureInFile(path);
+    const auto picture = pictureInFile(path);
+    if (!picture || namesScale(path))
+        return picture;
+    return DesktopImage::named(path, Screen::current().traits().displayScale);
 }

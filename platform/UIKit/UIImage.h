@@ -16,7 +16,8 @@ public:
     [[nodiscard]] static Ref<UIImage> systemImageNamed(std::string_view name);
 
     /// The picture in a file, by device path; empty when there is none or it cannot be read. A name that ends
-    /// in "@2x" or "@3x" before its extension tells the picture's pixels per point.
+    /// in "@2x" or "@3x" before its extension tells the picture's pixels per point; where one for the display
+    /// lies beside the file of the plain name, that one is taken.
     [[nodiscard]] static Ref<UIImage> imageWithContentsOfFile(std::string_view path);
 
     /// The same image, drawn in that mode.

@@ -1,11 +1,13 @@
 #include "DesktopImage.h"
 
+#include "Screen.h"
 #include "TestDevice.h"
 
 #include <gtest/gtest.h>
 
 #include <QBuffer>
 #include <QPainter>
+#include <filesystem>
 
 namespace {
 
@@ -38,6 +40,7 @@ Ref<DesktopImage> plain(QColor color, double scale = 1) {
 
 TEST(DesktopImage, IsReadFromAFileOfTheDevice) {
     const TestDevice device;
+    const Screen screen({});
     device.write("/a/icon.png", png(29, 20));
     const auto image = UIImage::imageWithContentsOfFile("/a/icon.png");
     ASSERT_TRUE(image);
@@ -63,6 +66,23 @@ TEST(DesktopImage, IsNothingWithoutAFileThatCanBeRead) {
     EXPECT_FALSE(UIImage::imageWithContentsOfFile("/cut.png"));
     EXPECT_FALSE(UIImage::imageWithContentsOfFile("/empty.png"));
     EXPECT_FALSE(UIImage::imageWithContentsOfFile("/"));
+}
+
+TEST(DesktopImage, IsReadInThePixelsPerPointOfTheDisplayWhereAFileBesideItHasThem) {
+    const TestDevice device;
+    device.write("/icon.png", png(10, 10, Qt::red));
+    device.write("/icon@2x.png", png(20, 20, Qt::green));
+    const auto color = [](double scale) {
+        const Screen screen({.scale = scale});
+        const auto image = dynamicCast<DesktopImage>(UIImage::imageWithContentsOfFile("/icon.png"));
+        EXPECT_EQ(image->size(), (CGSize{10, 10}));
+        return drawn(*image, CGRectMake(0, 0, 20, 20)).pixelColor(10, 10);
+    };
+    EXPECT_EQ(color(1), QColor(Qt::red));
+    EXPECT_EQ(color(2), QColor(Qt::green));
+    EXPECT_EQ(color(3), QColor(Qt::green));
+    ASSERT_TRUE(std::filesystem::remove(device.hostPath("/icon.png")));
+    EXPECT_FALSE(UIImage::imageWithContentsOfFile("/icon.png"));
 }
 
 TEST(DesktopImage, IsTakenInTheSizeThatSuitsTheDisplay) {
