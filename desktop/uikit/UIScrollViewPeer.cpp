@@ -160,6 +160,7 @@ void UIScrollViewPeer::keepWithinEdges() {
     if (motion_ || dragStart_)
         return;
     const auto kept = retain(&view());
+    followInsets(); // first: the edges below are those of the insets there are now
     moveTo(clamped(contentOffset()));
 }
 

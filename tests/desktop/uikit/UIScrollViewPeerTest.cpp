@@ -150,6 +150,19 @@ TEST_F(UIScrollViewPeerTest, StartsBelowTheSafeArea) {
     full->peer().removeFromSuperview();
 }
 
+TEST_F(UIScrollViewPeerTest, StaysAtTheTopWhenItLeavesTheSafeAreasEdgeAndItsContentChangesAtOnce) {
+    const auto full = make<UIScrollView>();
+    full->setFrame(screen.bounds());
+    window->addSubview(full);
+    screen.layoutIfNeeded();
+    EXPECT_EQ(full->peer().contentOffset().y, -47);
+    full->setFrame(CGRectMake(0, 57, 390, 787));
+    full->peer().setContentSize({390, 785});
+    screen.layoutIfNeeded();
+    EXPECT_EQ(full->peer().contentOffset().y, 0);
+    full->peer().removeFromSuperview();
+}
+
 TEST_F(UIScrollViewPeerTest, RectIsBroughtIntoViewByAsLittleAsNeeded) {
     struct Case {
         double top;
