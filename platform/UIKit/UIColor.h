@@ -14,6 +14,7 @@ public:
     [[nodiscard]] static Ref<UIColor> whiteColor();
     /// White 0.5.
     [[nodiscard]] static Ref<UIColor> grayColor();
+    [[nodiscard]] static Ref<UIColor> yellowColor();
     /// White 2/3.
     [[nodiscard]] static Ref<UIColor> lightGrayColor();
     [[nodiscard]] static Ref<UIColor> systemRedColor();

@@ -3,4 +3,12 @@
 #include "ObjectiveC/NSObject.h"
 
 /// What can take part in the handling of events: views and view controllers.
-class UIResponder : public NSObject {};
+class UIResponder : public NSObject {
+public:
+    /// Asks for the keyboard. \returns whether it has it now; what takes no text never has
+    virtual bool becomeFirstResponder();
+    /// Gives the keyboard up. \returns whether it is without it now
+    virtual bool resignFirstResponder();
+    /// Whether it has the keyboard.
+    [[nodiscard]] virtual bool isFirstResponder() const;
+};

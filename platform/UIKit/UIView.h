@@ -6,6 +6,7 @@
 #include "UIKit/UIColor.h"
 #include "UIKit/UIResponder.h"
 
+#include <cstddef>
 #include <functional>
 #include <memory>
 
@@ -58,6 +59,9 @@ public:
     /// Empty when none was set.
     [[nodiscard]] Ref<UIColor> backgroundColor() const;
     void setBackgroundColor(const Ref<UIColor>& color);
+    /// The colour of symbols and template images in the view and in those within it that have no tint of
+    /// their own. An empty one is the superview's.
+    void setTintColor(const Ref<UIColor>& color);
     /// 0..1, for the view with its subviews.
     [[nodiscard]] double alpha() const;
     void setAlpha(double alpha);
@@ -69,6 +73,8 @@ public:
 
     /// Puts a view above the other subviews, taking it away from its present superview.
     void addSubview(const Ref<UIView>& view);
+    /// Likewise at a place among the subviews, 0 being beneath all others. A place beyond the end is the end.
+    void insertSubview(const Ref<UIView>& view, std::size_t index);
 
     /// Places the subviews. Called before the view is drawn when its size or its subviews have changed.
     virtual void layoutSubviews();
