@@ -1,10 +1,13 @@
 #include "ObjectPeer.h"
 
+#include "LiveObjects.h"
 #include "ObjectiveC/Weak.h"
 
 #include <utility>
 
-NSObject::NSObject() : peer_(new ObjectPeer(*this)) {}
+NSObject::NSObject() : peer_(new ObjectPeer(*this)) {
+    LiveObjects::shared().add(*this);
+}
 
 NSObject::~NSObject() {
     peer_->strongCount.store(ObjectPeer::ended, std::memory_order_relaxed);
@@ -25,6 +28,7 @@ void ObjectPeer::release() noexcept {
     if (strongCount.fetch_sub(1, std::memory_order_acq_rel) != 1)
         return;
     strongCount.store(ended, std::memory_order_relaxed);
+    LiveObjects::shared().remove(*object);
     delete object;
 }
 
