@@ -46,6 +46,7 @@ enum class SystemColor {
     AlertPanel,           ///< over what is blurred behind the alert
     MenuPanel,            ///< over what is blurred behind the menu; stands out from a black page
     AlertPressedButton,   ///< opaque
+    ThickMaterial,        ///< over what is blurred behind a whole page
     ActionSheetPanel,     ///< over what is blurred behind the sheet
     ActionSheetCancelCard ///< opaque
 };

@@ -2,10 +2,13 @@
 
 #include "FontFaces.h"
 
+#include <QGlyphRun>
 #include <QPainter>
+#include <QRawFont>
 #include <QTextBoundaryFinder>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -47,6 +50,41 @@ QTextLine layOutFirstLine(QTextLayout& layout, QTextOption::WrapMode wrapMode, d
         line.setLineWidth(width);
     layout.endLayout();
     return line;
+}
+
+/// Rectangles that touch become one.
+std::vector<QRectF> joined(std::vector<QRectF> rects) {
+    constexpr double gap = 0.1; // points; less is a rounding error
+    std::ranges::sort(rects, {}, [](const QRectF& rect) { return std::pair(rect.y(), rect.x()); });
+    std::vector<QRectF> result;
+    for (const auto& rect : rects) {
+        const auto follows = !result.empty() && std::abs(result.back().y() - rect.y()) < gap &&
+                             rect.x() - result.back().right() < gap;
+        if (follows)
+            result.back().setRight(std::max(result.back().right(), rect.right()));
+        else
+            result.push_back(rect);
+    }
+    return result;
+}
+
+/// Of a character, in a line.
+struct Sides {
+    double left = 0;
+    double right = 0;
+};
+
+/// By the glyphs of the characters from `first` to `last`.
+Sides glyphSides(const QTextLine& line, int first, int last) {
+    Sides sides{std::numeric_limits<double>::infinity(), 0};
+    for (const auto& run : line.glyphRuns(first, last - first + 1)) {
+        const auto advances = run.rawFont().advancesForGlyphIndexes(run.glyphIndexes());
+        for (qsizetype index = 0; index < advances.size(); ++index) {
+            sides.left = std::min(sides.left, run.positions()[index].x());
+            sides.right = std::max(sides.right, run.positions()[index].x() + advances[index].x());
+        }
+    }
+    return sides.left < sides.right ? sides : Sides();
 }
 
 QString withoutTrailingSpaces(QString text) {
@@ -177,6 +215,36 @@ std::size_t TextLayout::indexAt(QPointF point) const {
         }
     }
     return text_.byteIndex(nearest);
+}
+
+std::vector<QRectF> TextLayout::rangeRects(std::size_t begin, std::size_t end) const {
+    std::vector<QRectF> characters;
+    const auto last = text_.position(end);
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text_.string());
+    finder.setPosition(text_.position(begin));
+    for (auto from = finder.position(); from < last; from = finder.position()) {
+        const auto next = finder.toNextBoundary();
+        if (next < 0)
+            break;
+        if (from < lines_[lineOf(from)].end)
+            characters.push_back(characterRect(from, next));
+    }
+    return joined(std::move(characters));
+}
+
+QRectF TextLayout::characterRect(qsizetype begin, qsizetype end) const {
+    const auto number = lineOf(begin);
+    const auto& line = lines_[number];
+    const auto shown = line.textLine();
+    const auto first = static_cast<int>(begin - line.offset);
+    const auto last = static_cast<int>(end - 1 - line.offset);
+    const auto [least, most] =
+        std::minmax({shown.cursorToX(first), shown.cursorToX(first, QTextLine::Trailing),
+                     shown.cursorToX(last, QTextLine::Trailing)});
+    // Where directions meet, Qt has one place for both sides of a character.
+    const auto sides = most > least ? Sides{least, most} : glyphSides(shown, first, last);
+    return {left(line) + sides.left * unit_, static_cast<double>(number) * style_.lineHeight(),
+            (sides.right - sides.left) * unit_, style_.lineHeight()};
 }
 
 std::size_t TextLayout::indexAfter(std::size_t index) const {

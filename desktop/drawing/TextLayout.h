@@ -61,6 +61,10 @@ public:
     /// The index whose caret is nearest to a point.
     [[nodiscard]] std::size_t indexAt(QPointF point) const;
 
+    /// What the characters from one index up to another take up, from left to right on each line: one
+    /// rectangle of the line's height for all that stand side by side. Those that are cut off are left out.
+    [[nodiscard]] std::vector<QRectF> rangeRects(std::size_t begin, std::size_t end) const;
+
     /// The index of the next character, or the end.
     [[nodiscard]] std::size_t indexAfter(std::size_t index) const;
 
@@ -92,6 +96,7 @@ private:
     [[nodiscard]] double boxWidth() const;
     [[nodiscard]] double left(const Line& line) const;
     [[nodiscard]] std::size_t lineOf(qsizetype position) const;
+    [[nodiscard]] QRectF characterRect(qsizetype begin, qsizetype end) const;
 
     Utf16Text text_;
     FontStyle style_;
