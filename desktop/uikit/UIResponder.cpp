@@ -1,0 +1,13 @@
+#include "UIKit/UIResponder.h"
+
+bool UIResponder::becomeFirstResponder() {
+    return false;
+}
+
+bool UIResponder::resignFirstResponder() {
+    return true;
+}
+
+bool UIResponder::isFirstResponder() const {
+    return false;
+}
