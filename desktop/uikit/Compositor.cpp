@@ -7,6 +7,7 @@
 
 const QImage& Compositor::render() {
     screen_.layoutIfNeeded();
+    screen_.firstResponder().followTime();
     PaintList now(screen_);
     if (picture_.size() == now.size()) {
         lastDamage_ = damageBetween(shown_, now);

@@ -41,6 +41,10 @@ Ref<UIColor> UIColor::grayColor() {
     return colorWithRed(0.5, 0.5, 0.5, 1);
 }
 
+Ref<UIColor> UIColor::yellowColor() {
+    return colorWithRed(1, 1, 0, 1);
+}
+
 Ref<UIColor> UIColor::lightGrayColor() {
     constexpr auto white = 2.0 / 3;
     return colorWithRed(white, white, white, 1);

@@ -29,6 +29,14 @@ public:
     [[nodiscard]] std::string title() const override;
     [[nodiscard]] std::vector<Action> actions() const override;
 
+    [[nodiscard]] std::optional<Details> details() const override { return std::nullopt; }
+
+    [[nodiscard]] bool isTransient() const override { return true; }
+
+    [[nodiscard]] bool blackensStatusBar() const override { return false; }
+
+    void keyboardHeightDidChange() override {}
+
     [[nodiscard]] UIView& shownView() const override { return *menu_; }
 
     void dismissPresented() override { close(nullptr); }

@@ -11,10 +11,13 @@ class Presentations {
 public:
     /// \param object who implements `presented`; the entry ends with it at the latest
     void add(NSObject& object, Presented& presented);
-    /// Nothing happens when it is not among them.
+    /// What has the keyboard in it has it no more. Nothing happens when it is not among them.
     void remove(const Presented& presented);
 
-    /// The topmost one last.
+    /// Begins to take away what goes when the application is left.
+    void dismissTransient() const;
+
+    /// The topmost one last; without those in windows that take no touches.
     [[nodiscard]] std::vector<Presented*> all() const;
 
     /// The topmost one; null when nothing is presented.

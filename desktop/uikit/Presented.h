@@ -1,12 +1,12 @@
 #pragma once
 
 #include "CoreGraphics/CGGeometry.h"
+#include "UIKit/UINavigationItem.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
-
-class UIView;
 
 /// Something that was presented above the application and is not yet on its way out: a menu, an alert, a
 /// sheet. Implemented by the view or controller that shows it, which enters itself in `Presentations`.
@@ -19,6 +19,34 @@ public:
         bool destructive = false;
         bool disabled = false;
         CGRect frame; ///< in points of the screen
+        bool cancels = false;
+    };
+
+    /// One entry of a list that tells the user something.
+    struct Item {
+        std::string title;
+        std::string description;
+        std::string symbol; ///< the name of its image; empty when it has none or a picture
+        Ref<UIColor> tint;  ///< empty for the tint that is around it
+        bool tappable = false;
+    };
+
+    struct Field {
+        std::string placeholder;
+        std::string text;
+        bool isFirstResponder = false;
+    };
+
+    /// What there is to tell of sheets and alerts beside what menus have too.
+    struct Details {
+        std::string controllerClass;
+        std::string detail; ///< the text below the title; empty when there is none
+        std::string symbol; ///< above the title; empty when there is none
+        std::string style;  ///< "pageSheet", "formSheet" or "alert"
+        bool swipeDismissable = false;
+        std::vector<Item> items;
+        Ref<UINavigationItem> barItem; ///< what its navigation bar shows; empty when it has none
+        std::vector<Field> fields;
     };
 
     virtual ~Presented() = default;
@@ -28,8 +56,21 @@ public:
     /// Empty when it has none.
     [[nodiscard]] virtual std::string title() const = 0;
     [[nodiscard]] virtual std::vector<Action> actions() const = 0;
+
+    /// Nothing for what is neither a sheet nor an alert.
+    [[nodiscard]] virtual std::optional<Details> details() const = 0;
+
     /// What is shown: all that belongs to it is within this view.
     [[nodiscard]] virtual UIView& shownView() const = 0;
     /// Begins to take it away, choosing nothing. Nothing happens when that has begun.
     virtual void dismissPresented() = 0;
+
+    /// Whether it goes when the application is left. Sheets and alerts are still there on the way back.
+    [[nodiscard]] virtual bool isTransient() const = 0;
+
+    /// Whether there is black behind the status bar.
+    [[nodiscard]] virtual bool blackensStatusBar() const = 0;
+
+    /// The keyboard covers another height of the screen. Runs among the changes that the keyboard animates.
+    virtual void keyboardHeightDidChange() = 0;
 };

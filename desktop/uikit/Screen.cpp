@@ -1,6 +1,7 @@
 #include "Screen.h"
 
 #include "Dispatch/MainQueue.h"
+#include "Keyboard.h"
 #include "TouchDispatcher.h"
 #include "UIViewPeer.h"
 #include "UIWindow.h"
@@ -31,11 +32,15 @@ CGSize sizeFor(const Screen::Options& options) {
 
 } // namespace
 
-Screen::Screen(const Options& options) : size_(sizeFor(options)), traits_(traitsFor(options)) {
+Screen::Screen(const Options& options)
+    : size_(sizeFor(options)),
+      traits_(traitsFor(options)),
+      keyboard_(std::make_unique<Keyboard>()) {
     currentScreen = this;
 }
 
 Screen::~Screen() {
+    firstResponder_.clear();
     windows_.clear();
     currentScreen = nullptr;
 }
@@ -67,6 +72,20 @@ void Screen::setScale(double scale) {
         return;
     traits_.displayScale = scale;
     traitsChanged();
+}
+
+void Screen::setKeyboardHeight(double height) {
+    keyboardHeight_ = height;
+    for (auto* const presented : presentations_.all())
+        presented->keyboardHeightDidChange();
+}
+
+/// Once it is known who is the first responder in the end.
+void Screen::scheduleKeyboard() {
+    MainQueue::async([] {
+        if (currentScreen != nullptr)
+            currentScreen->keyboard_->setShown(currentScreen->firstResponder_.input() != nullptr);
+    });
 }
 
 void Screen::traitsChanged() {

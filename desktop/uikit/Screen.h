@@ -1,12 +1,16 @@
 #pragma once
 
+#include "Clipboard.h"
 #include "CoreGraphics/CGGeometry.h"
+#include "FirstResponder.h"
 #include "ObjectiveC/Ref.h"
 #include "Presentations.h"
 #include "Traits.h"
 
+#include <memory>
 #include <vector>
 
+class Keyboard;
 class UIWindow;
 class UIView;
 
@@ -49,8 +53,24 @@ public:
     void addWindow(const Ref<UIWindow>& window);
     void removeWindow(const UIWindow& window);
 
+    /// How much of the screen the keyboard covers from below; 0 while there is none.
+    [[nodiscard]] double keyboardHeight() const { return keyboardHeight_; }
+
+    /// For the keyboard, among the changes that it animates: what is presented moves out of its way.
+    void setKeyboardHeight(double height);
+
     /// What is presented above the application.
     [[nodiscard]] Presentations& presentations() { return presentations_; }
+
+    /// Who gets what is typed.
+    [[nodiscard]] FirstResponder& firstResponder() { return firstResponder_; }
+
+    [[nodiscard]] Keyboard& keyboard() const { return *keyboard_; }
+
+    [[nodiscard]] Clipboard& clipboard() const { return *clipboard_; }
+
+    /// For a window, in place of the device's own. \pre it is not empty
+    void setClipboard(std::unique_ptr<Clipboard> clipboard) { clipboard_ = std::move(clipboard); }
 
     /// Lays out what needs it in all windows before the next picture.
     void layoutIfNeeded();
@@ -62,11 +82,16 @@ public:
 
 private:
     void traitsChanged();
+    void scheduleKeyboard();
 
     CGSize size_;
     Traits traits_;
     std::vector<Ref<UIWindow>> windows_;
     Presentations presentations_;
+    std::unique_ptr<Keyboard> keyboard_;
+    FirstResponder firstResponder_{[this] { scheduleKeyboard(); }};
+    std::unique_ptr<Clipboard> clipboard_ = std::make_unique<Clipboard>();
+    double keyboardHeight_ = 0;
     bool layoutIsNeeded_ = false;
     bool layoutIsScheduled_ = false;
 };

@@ -5,7 +5,9 @@
 #include "Screen.h"
 #include "UIViewPeer.h"
 
+#include <algorithm>
 #include <chrono>
+#include <utility>
 
 namespace {
 
@@ -24,6 +26,17 @@ SystemBars::SystemBars() : window_(make<UIWindow>()), bars_(make<BarsView>()) {
 
 SystemBars::~SystemBars() {
     Screen::current().removeWindow(*window_);
+}
+
+void SystemBars::refresh() {
+    const auto presented = Screen::current().presentations().all();
+    const auto isOnBlack = std::ranges::any_of(presented, &Presented::blackensStatusBar);
+    if (std::exchange(isOnBlack_, isOnBlack) != isOnBlack)
+        statusBar().peer().setTraitOverride([isOnBlack](Traits& traits) {
+            if (isOnBlack)
+                traits.style = UserInterfaceStyle::Dark;
+        });
+    bars_->refresh();
 }
 
 SystemBars::BarsView::BarsView()

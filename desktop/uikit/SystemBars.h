@@ -22,8 +22,9 @@ public:
     /// Suits the bars to what is behind them from now on, at first an application.
     void setBehind(Behind behind, bool animated) { bars_->setBehind(behind, animated); }
 
-    /// Shows the device's present time; for before each picture.
-    void refresh() { bars_->refresh(); }
+    /// Shows the device's present time, in white where a sheet has left black behind it; for before each
+    /// picture.
+    void refresh();
 
     /// The one above an application.
     [[nodiscard]] StatusBarView& statusBar() const { return bars_->statusBar(); }
@@ -62,4 +63,5 @@ private:
 
     Ref<UIWindow> window_;
     Ref<BarsView> bars_;
+    bool isOnBlack_ = false;
 };

@@ -72,6 +72,10 @@ void UIView::setBackgroundColor(const Ref<UIColor>& color) {
     peer_->setBackgroundColor(color);
 }
 
+void UIView::setTintColor(const Ref<UIColor>& color) {
+    peer_->setTintColor(color);
+}
+
 double UIView::alpha() const {
     return layer().peer().number(LayerProperty::Opacity);
 }
@@ -102,6 +106,10 @@ CALayer& UIView::layer() const {
 
 void UIView::addSubview(const Ref<UIView>& view) {
     peer_->addSubview(view);
+}
+
+void UIView::insertSubview(const Ref<UIView>& view, std::size_t index) {
+    peer_->insertSubview(view, index);
 }
 
 void UIView::layoutSubviews() {

@@ -38,3 +38,24 @@ Ref<UINavigationController> UIViewController::navigationController() const {
     }
     return nullptr;
 }
+
+void UIViewController::presentViewController(const Ref<UIViewController>& controller, bool animated,
+                                             std::function<void()> completion) {
+    peer_->present(controller, animated, std::move(completion));
+}
+
+void UIViewController::dismissViewControllerAnimated(bool animated, std::function<void()> completion) {
+    peer_->dismiss(animated, std::move(completion));
+}
+
+Ref<UIViewController> UIViewController::presentedViewController() const {
+    return peer_->presented();
+}
+
+void UIViewController::setModalPresentationStyle(UIModalPresentationStyle style) {
+    peer_->setModalPresentationStyle(style);
+}
+
+void UIViewController::setModalInPresentation(bool modal) {
+    peer_->setModalInPresentation(modal);
+}

@@ -1,6 +1,7 @@
 #include "UIViewControllerPeer.h"
 
 #include "DesktopNavigationItem.h"
+#include "Presentation.h"
 #include "Screen.h"
 #include "UIViewPeer.h"
 
@@ -9,6 +10,8 @@
 UIViewControllerPeer::UIViewControllerPeer() : navigationItem_(make<DesktopNavigationItem>()) {}
 
 UIViewControllerPeer::~UIViewControllerPeer() {
+    if (const auto presentation = std::exchange(ownPresentation_, nullptr))
+        presentation->presenterIsGone();
     navigationItem_->setObserver({});
     for (const auto& child : children_)
         child->peer().parent_ = nullptr;

@@ -3,10 +3,14 @@
 #include "ObjectiveC/Weak.h"
 #include "UIKit/UIViewController.h"
 
+#include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
 class DesktopNavigationItem;
+class Presentation;
+class PresentationView;
 
 /// The desktop's half of a view controller: its view, its place among the controllers, and what it is told
 /// when its view comes and goes. The engine's own controllers derive theirs from it.
@@ -38,6 +42,36 @@ public:
 
     void addChild(const Ref<UIViewController>& child);
     void removeFromParent();
+
+    // Controllers above controllers, as the contract says it.
+    void present(const Ref<UIViewController>& controller, bool animated, std::function<void()> completion);
+    void dismiss(bool animated, std::function<void()> completion);
+    [[nodiscard]] Ref<UIViewController> presented() const;
+
+    [[nodiscard]] UIModalPresentationStyle modalPresentationStyle() const { return modalStyle_; }
+
+    void setModalPresentationStyle(UIModalPresentationStyle style) { modalStyle_ = style; }
+
+    [[nodiscard]] bool isModalInPresentation() const { return isModal_; }
+
+    void setModalInPresentation(bool modal) { isModal_ = modal; }
+
+    /// What brings the view into a window when the controller is presented.
+    [[nodiscard]] virtual Ref<PresentationView> makePresentationView();
+
+    /// What this very controller is presented by; null while it is not.
+    [[nodiscard]] Presentation* presentation() const { return presentation_; }
+
+    /// What this very controller presents; empty for nothing.
+    [[nodiscard]] const std::shared_ptr<Presentation>& ownPresentation() const { return ownPresentation_; }
+
+    /// Takes away at once what this very controller presents; no completion is called any more.
+    void abandonPresented();
+
+    // For presentations.
+    void setPresentation(Presentation* presentation) { presentation_ = presentation; }
+
+    void forgetPresentation() { ownPresentation_.reset(); }
 
     /// Where the view is on its way to being seen or unseen.
     enum class Appearance { Disappeared, Appearing, Appeared, Disappearing };
@@ -76,11 +110,20 @@ public:
 private:
     friend class UIViewController;
 
+    /// The outermost controller around this one.
+    [[nodiscard]] UIViewController& outermost() const;
+    /// Why this controller cannot present that one now; empty when it can.
+    [[nodiscard]] std::string presentingProblem(const Ref<UIViewController>& controller) const;
+
     UIViewController* controller_ = nullptr;
     Ref<UIView> view_;
     Ref<DesktopNavigationItem> navigationItem_;
     UIViewController* parent_ = nullptr;
     std::vector<Ref<UIViewController>> children_;
     std::string title_;
+    std::shared_ptr<Presentation> ownPresentation_;
+    Presentation* presentation_ = nullptr;
+    UIModalPresentationStyle modalStyle_ = UIModalPresentationStyle::Automatic;
     Appearance appearance_ = Appearance::Disappeared;
+    bool isModal_ = false;
 };

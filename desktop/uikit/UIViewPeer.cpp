@@ -348,7 +348,28 @@ void UIViewPeer::traitsDidChange() {
         subview->peer().traitsDidChange();
 }
 
+bool UIViewPeer::isTintDimmed() const {
+    return tintDimmed_ || (superview_ != nullptr && superview_->peer().isTintDimmed());
+}
+
+void UIViewPeer::setTintDimmed(bool dimmed) {
+    if (std::exchange(tintDimmed_, dimmed) == dimmed)
+        return;
+    tintColorDidChange();
+    tellViewsOfOwnTint();
+}
+
+void UIViewPeer::tellViewsOfOwnTint() const {
+    for (const auto& subview : std::vector(subviews_)) {
+        if (subview->peer().tintColor_)
+            subview->peer().tintColorDidChange();
+        subview->peer().tellViewsOfOwnTint();
+    }
+}
+
 Ref<UIColor> UIViewPeer::tintColor() const {
+    if (isTintDimmed())
+        return DesktopColor::system(SystemColor::Gray);
     if (tintColor_)
         return tintColor_;
     return superview_ != nullptr ? superview_->peer().tintColor() : DesktopColor::system(SystemColor::Blue);

@@ -117,8 +117,15 @@ public:
     virtual void traitsDidChange();
     /// The nearest tint set at the view or above it; the system's blue when there is none.
     [[nodiscard]] Ref<UIColor> tintColor() const;
+
+    /// The one set at this view; empty when there is none.
+    [[nodiscard]] const Ref<UIColor>& ownTintColor() const { return tintColor_; }
+
     void setTintColor(const Ref<UIColor>& color);
     virtual void tintColorDidChange();
+    /// Whether this view and those within it are grey where they would be tinted, as what something modal
+    /// covers is. Not so until it is told.
+    void setTintDimmed(bool dimmed);
 
     [[nodiscard]] const Ref<UIColor>& backgroundColor() const { return backgroundColor_; }
 
@@ -191,6 +198,9 @@ private:
     void noteSafeAreaOfAll();
     void movedInTree(const UIWindow* before);
     void movedToWindow();
+    [[nodiscard]] bool isTintDimmed() const;
+    /// Of a change of their tint, which those that inherit theirs have heard of.
+    void tellViewsOfOwnTint() const;
     void resolveColors();
 
     UIView* view_ = nullptr;
@@ -209,5 +219,6 @@ private:
     UIViewContentMode contentMode_ = UIViewContentMode::ScaleToFill;
     UIViewAutoresizing autoresizingMask_ = UIViewAutoresizing::None;
     bool userInteractionEnabled_ = true;
+    bool tintDimmed_ = false;
     bool needsLayout_ = true;
 };

@@ -20,8 +20,12 @@ public:
     }
 
     void layoutSubviews() override {
-        if (const auto& root = dynamic_cast<UIWindow&>(view()).rootViewController())
-            root->view().setFrame(view().bounds());
+        const auto& root = dynamic_cast<UIWindow&>(view()).rootViewController();
+        if (!root)
+            return;
+        const auto bounds = view().bounds(); // a view that steps back for a sheet keeps its transform
+        root->view().peer().setBounds({root->view().bounds().origin, bounds.size});
+        root->view().setCenter({CGRectGetMidX(bounds), CGRectGetMidY(bounds)});
     }
 };
 
@@ -30,6 +34,11 @@ public:
 UIWindow::UIWindow() : UIView(std::make_unique<UIWindowPeer>()) {
     peer().setTraitOverride([](Traits& traits) { traits = Screen::current().traits(); });
     peer().setAdditionalSafeAreaInsets(Screen::current().safeAreaInsets());
+}
+
+UIWindow::~UIWindow() {
+    if (rootViewController_)
+        rootViewController_->peer().abandonPresented();
 }
 
 void UIWindow::setRootViewController(const Ref<UIViewController>& controller) {
@@ -66,6 +75,7 @@ void UIWindow::rootDisappears() {
     if (!rootViewController_)
         return;
     const auto root = rootViewController_;
+    root->peer().abandonPresented();
     root->peer().beginAppearance(false, false);
     root->peer().endAppearance(false);
 }

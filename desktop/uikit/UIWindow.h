@@ -8,6 +8,7 @@
 class UIWindow final : public UIView {
 public:
     UIWindow();
+    ~UIWindow() override;
 
     /// The controller whose view fills the window; may be empty. It appears while the window is on the
     /// screen.
@@ -21,7 +22,8 @@ public:
 
     [[nodiscard]] double windowLevel() const { return windowLevel_; }
 
-    /// Called by the screen when it takes the window in, and when it lets it go.
+    /// Called by the screen when it takes the window in, and when it lets it go; then all that is presented
+    /// in it is gone.
     void setOnScreen(bool onScreen);
 
     /// Has what needs it laid out before the screen's next picture.

@@ -1,6 +1,8 @@
 #include "Presentations.h"
 
 #include "ObjectiveC/NSObject.h"
+#include "Screen.h"
+#include "TestDevice.h"
 #include "UIKit/UIView.h"
 
 #include <gmock/gmock.h>
@@ -19,18 +21,35 @@ public:
 
     [[nodiscard]] std::vector<Action> actions() const override { return {}; }
 
+    [[nodiscard]] std::optional<Details> details() const override { return std::nullopt; }
+
+    [[nodiscard]] bool blackensStatusBar() const override { return false; }
+
+    void keyboardHeightDidChange() override {}
+
     [[nodiscard]] UIView& shownView() const override { return *view_; }
 
-    void dismissPresented() override {}
+    [[nodiscard]] bool isTransient() const override { return transient; }
+
+    void dismissPresented() override { ++dismissals; }
+
+    bool transient = false;
+    int dismissals = 0;
 
 private:
     Ref<UIView> view_ = make<UIView>();
 };
 
+class PresentationsTest : public testing::Test {
+protected:
+    TestDevice device;
+    Screen screen{{}};
+    Presentations& presentations = screen.presentations();
+};
+
 } // namespace
 
-TEST(PresentationsTest, listsWhatIsPresentedTheTopmostLast) {
-    Presentations presentations;
+TEST_F(PresentationsTest, listsWhatIsPresentedTheTopmostLast) {
     EXPECT_EQ(presentations.top(), nullptr);
     const auto lower = make<Sheet>();
     const auto upper = make<Sheet>();
@@ -40,8 +59,7 @@ TEST(PresentationsTest, listsWhatIsPresentedTheTopmostLast) {
     EXPECT_EQ(presentations.top(), upper.get());
 }
 
-TEST(PresentationsTest, forgetsWhatIsTakenAwayOnce) {
-    Presentations presentations;
+TEST_F(PresentationsTest, forgetsWhatIsTakenAwayOnce) {
     const auto lower = make<Sheet>();
     const auto upper = make<Sheet>();
     presentations.add(*lower, *lower);
@@ -51,12 +69,22 @@ TEST(PresentationsTest, forgetsWhatIsTakenAwayOnce) {
     EXPECT_THAT(presentations.all(), ElementsAre(upper.get()));
 }
 
-TEST(PresentationsTest, forgetsWhatIsGone) {
-    Presentations presentations;
+TEST_F(PresentationsTest, forgetsWhatIsGone) {
     {
         const auto sheet = make<Sheet>();
         presentations.add(*sheet, *sheet);
     }
     EXPECT_EQ(presentations.top(), nullptr);
     EXPECT_THAT(presentations.all(), ElementsAre());
+}
+
+TEST_F(PresentationsTest, dismissesOnlyWhatGoesWithTheApplicationsLeaving) {
+    const auto sheet = make<Sheet>();
+    const auto menu = make<Sheet>();
+    menu->transient = true;
+    presentations.add(*sheet, *sheet);
+    presentations.add(*menu, *menu);
+    presentations.dismissTransient();
+    EXPECT_EQ(sheet->dismissals, 0);
+    EXPECT_EQ(menu->dismissals, 1);
 }

@@ -3,6 +3,7 @@
 #include "CALayerPeer.h"
 #include "Screen.h"
 #include "TestDevice.h"
+#include "UIKit/UIAlertController.h"
 #include "UIViewPeer.h"
 
 #include <gtest/gtest.h>
@@ -74,6 +75,28 @@ TEST(SystemBarsTest, stayInFrontOfWindowsThatComeLaterAndLetTouchesThrough) {
     EXPECT_EQ(screen.windows().front(), window);
     EXPECT_EQ(screen.hitTest({195, 833}), view.get());
     EXPECT_EQ(screen.hitTest({50, 20}), view.get());
+}
+
+TEST(SystemBarsTest, areWhiteWhileASheetLeavesBlackBehindThem) {
+    const TestDevice device;
+    Screen screen{Screen::Options{}};
+    SystemBars bars;
+    const auto root = make<UIViewController>();
+    const auto window = make<UIWindow>();
+    window->setRootViewController(root);
+    screen.addWindow(window);
+    const auto style = [&bars] {
+        bars.refresh();
+        return bars.statusBar().peer().traits().style;
+    };
+    root->presentViewController(
+        UIAlertController::alertControllerWithTitle("A", {}, UIAlertControllerStyle::Alert), false, {});
+    EXPECT_EQ(style(), UserInterfaceStyle::Light);
+    root->dismissViewControllerAnimated(false, {});
+    root->presentViewController(make<UIViewController>(), false, {});
+    EXPECT_EQ(style(), UserInterfaceStyle::Dark);
+    root->dismissViewControllerAnimated(false, {});
+    EXPECT_EQ(style(), UserInterfaceStyle::Light);
 }
 
 TEST(SystemBarsTest, areGoneFromTheScreenAtTheirEnd) {

@@ -1,4 +1,6 @@
+#include "DesktopImage.h"
 #include "ShownScreen.h"
+#include "UIKit/UIImageView.h"
 #include "UIViewPeer.h"
 
 #include <gtest/gtest.h>
@@ -93,6 +95,61 @@ TEST(UIViewLooks, IsPaintedAgainInAnotherTintUnlessItHasItsOwn) {
     outer->peer().setTintColor(DesktopColor::fixed(red));
     EXPECT_GT(plain->layer().peer().contentVersion(), plainVersion);
     EXPECT_EQ(tinted->layer().peer().contentVersion(), tintedVersion);
+}
+
+TEST(UIViewLooks, TellsItsOwnTintFromTheOneAboveIt) {
+    const TestDevice device;
+    const auto outer = make<UIView>();
+    const auto inner = make<UIView>();
+    outer->addSubview(inner);
+    outer->setTintColor(DesktopColor::fixed(red));
+    EXPECT_EQ(resolved(outer->peer().ownTintColor()), red);
+    EXPECT_FALSE(inner->peer().ownTintColor());
+    EXPECT_EQ(resolved(inner->peer().tintColor()), red);
+}
+
+TEST(UIViewLooks, PaintsTemplateImagesInTheNearestTint) {
+    ShownScreen shown;
+    const auto outer = shown.add(CGRectMake(0, 0, 40, 40), {.alpha = 0});
+    const auto inner = ShownScreen::add(*outer, CGRectMake(0, 0, 40, 40), {.alpha = 0});
+    const auto image = make<UIImageView>();
+    image->setFrame(CGRectMake(0, 0, 40, 40));
+    QImage square(40, 40, QImage::Format_ARGB32);
+    square.fill(Qt::black);
+    const auto picture = make<DesktopImage>(square, 1.0);
+    image->setImage(picture->imageWithRenderingMode(UIImageRenderingMode::AlwaysTemplate));
+    outer->setTintColor(DesktopColor::fixed(red));
+    inner->addSubview(image);
+    EXPECT_EQ(shown.pixel(20, 20), QColor(Qt::red));
+    inner->setTintColor(DesktopColor::fixed(green));
+    EXPECT_EQ(shown.pixel(20, 20), QColor(Qt::green));
+    outer->setTintColor(DesktopColor::fixed(blue));
+    EXPECT_EQ(shown.pixel(20, 20), QColor(Qt::green));
+    inner->setTintColor(nullptr);
+    EXPECT_EQ(shown.pixel(20, 20), QColor(Qt::blue));
+    image->peer().removeFromSuperview();
+    shown.window->addSubview(image);
+    EXPECT_EQ(shown.pixel(20, 20).blue(), 255);
+    EXPECT_EQ(shown.pixel(20, 20).green(), 122);
+}
+
+TEST(UIViewLooks, IsGreyWhereItWouldBeTintedWhileItsTintIsDimmed) {
+    const TestDevice device;
+    const auto outer = make<UIView>();
+    const auto plain = make<UIView>();
+    const auto tinted = make<UIView>();
+    outer->addSubview(plain);
+    plain->addSubview(tinted);
+    tinted->peer().setTintColor(DesktopColor::fixed(green));
+    const auto grey = systemColor(SystemColor::Gray, Appearance::Light);
+    const auto version = tinted->layer().peer().contentVersion();
+    outer->peer().setTintDimmed(true);
+    EXPECT_EQ(resolved(plain->peer().tintColor()), grey);
+    EXPECT_EQ(resolved(tinted->peer().tintColor()), grey);
+    EXPECT_GT(tinted->layer().peer().contentVersion(), version);
+    outer->peer().setTintDimmed(false);
+    EXPECT_EQ(resolved(plain->peer().tintColor()), systemColor(SystemColor::Blue, Appearance::Light));
+    EXPECT_EQ(resolved(tinted->peer().tintColor()), green);
 }
 
 } // namespace

@@ -67,10 +67,10 @@ protected:
 
 TEST_F(UIViewPeerTest, KeepsSubviewsAndTheirLayersInOneOrder) {
     root_->addSubview(second_);
-    root_->peer().insertSubview(first_, 0);
-    root_->peer().insertSubview(third_, 99);
+    root_->insertSubview(first_, 0);
+    root_->insertSubview(third_, 99);
     expectOrder({first_.get(), second_.get(), third_.get()});
-    root_->peer().insertSubview(first_, 1);
+    root_->insertSubview(first_, 1);
     expectOrder({second_.get(), first_.get(), third_.get()});
     root_->peer().bringSubviewToFront(*second_);
     expectOrder({first_.get(), third_.get(), second_.get()});
