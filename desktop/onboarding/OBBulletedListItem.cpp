@@ -1,0 +1,65 @@
+#include "OBBulletedListItem.h"
+
+#include "ObjectiveC/Class.h"
+#include "UITapGestureRecognizer.h"
+#include "UIViewPeer.h"
+#include "WelcomeLabel.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+const Class classObject = Class::define<OBBulletedListItem, UIView>("OBBulletedListItem");
+
+constexpr double imageWidth = 40;
+constexpr double imageHeight = 32;
+constexpr double gapAfterImage = 16;
+constexpr double gapBelowTitle = 2;
+constexpr double textLeft = imageWidth + gapAfterImage;
+constexpr FontStyle titleStyle{.size = 17, .weight = FontWeight::Semibold};
+constexpr FontStyle descriptionStyle{.size = 15};
+
+} // namespace
+
+OBBulletedListItem::OBBulletedListItem(const Content& content)
+    : content_(content),
+      image_(make<UIImageView>()),
+      title_(welcomeLabel(content.title, titleStyle, SystemColor::Label)) {
+    image_->setImage(content.image);
+    image_->setContentMode(UIViewContentMode::ScaleAspectFit);
+    addSubview(image_);
+    addSubview(title_);
+    if (content.description.empty())
+        return;
+    description_ = welcomeLabel(content.description, descriptionStyle, SystemColor::SecondaryLabel);
+    addSubview(description_);
+}
+
+bool OBBulletedListItem::isTappable() const {
+    const auto isTap = [](const Ref<GestureRecognizer>& recognizer) {
+        return recognizer->isEnabled() && dynamicCast<UITapGestureRecognizer>(recognizer);
+    };
+    return peer().isUserInteractionEnabled() && std::ranges::any_of(peer().gestureRecognizers(), isTap);
+}
+
+double OBBulletedListItem::textHeight(double width) const {
+    const auto title = heightOf(*title_, width - textLeft);
+    return description_ ? title + gapBelowTitle + heightOf(*description_, width - textLeft) : title;
+}
+
+double OBBulletedListItem::heightForWidth(double width) const {
+    return std::max(textHeight(width), imageHeight);
+}
+
+void OBBulletedListItem::layoutSubviews() {
+    UIView::layoutSubviews();
+    const auto& size = bounds().size;
+    image_->setFrame(CGRectMake(0, (size.height - imageHeight) / 2, imageWidth, imageHeight));
+    const auto titleHeight = heightOf(*title_, size.width - textLeft);
+    const auto top = std::max(0.0, (size.height - textHeight(size.width)) / 2);
+    title_->setFrame(CGRectMake(textLeft, top, size.width - textLeft, titleHeight));
+    if (description_)
+        description_->setFrame(CGRectMake(textLeft, top + titleHeight + gapBelowTitle, size.width - textLeft,
+                                          heightOf(*description_, size.width - textLeft)));
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "OnBoardingKit/OBWelcomeController.h"
+#include "SheetContent.h"
+#include "UIViewControllerPeer.h"
+#include "WelcomeView.h"
+
+/// The desktop's half of a welcome page: its view, which is filled before it is shown. Made with the page.
+// NOLINTNEXTLINE(misc-multiple-inheritance): an interface whose answers may be left out
+class OBWelcomeControllerPeer final : public UIViewControllerPeer, public SheetContent {
+public:
+    OBWelcomeControllerPeer();
+
+    /// \pre the page was made with a peer of this class, as all welcome pages are
+    [[nodiscard]] static OBWelcomeControllerPeer& of(const OBWelcomeController& page);
+
+    [[nodiscard]] WelcomeView& welcomeView() const { return *welcomeView_; }
+
+    // UIViewControllerPeer:
+    [[nodiscard]] Ref<UIView> makeView() override;
+
+    // SheetContent:
+    [[nodiscard]] std::string sheetTitle() const override;
+    [[nodiscard]] std::string sheetDetail() const override;
+    [[nodiscard]] std::string sheetSymbol() const override;
+    [[nodiscard]] std::vector<Presented::Item> sheetItems() const override;
+
+private:
+    Ref<WelcomeView> welcomeView_;
+};
