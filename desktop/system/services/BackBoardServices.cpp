@@ -1,0 +1,16 @@
+#include "ApplicationTermination.h"
+#include "CFStringObject.h"
+
+/// Ends an application. \param report whether to write a crash report \param description may be null
+extern "C" [[gnu::visibility("default")]] void
+BKSTerminateApplicationForReasonAndReportWithDescription(CFStringRef identifier, int reason, bool report,
+                                                         CFStringRef description);
+
+void BKSTerminateApplicationForReasonAndReportWithDescription(CFStringRef identifier, int reason, bool report,
+                                                              CFStringRef description) {
+    ApplicationTermination::shared().request(
+        {.identifier = identifier != nullptr ? identifier->text : "",
+         .reason = reason,
+         .report = report,
+         .description = description != nullptr ? std::optional(description->text) : std::nullopt});
+}
