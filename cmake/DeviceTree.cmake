@@ -5,7 +5,7 @@ set(DEVICE_TREE ${CMAKE_BINARY_DIR}/share/corvex/device)
 
 # The desktop's libraries: all that a bundle finds in the program that loads it.
 set(HOST_LIBRARIES platform desktop_foundation desktop_autolayout desktop_drawing desktop_uikit desktop_preferences
-    desktop_system desktop_settings)
+    desktop_onboarding desktop_system desktop_settings)
 
 # corvex_device_files(RESULT FOLDER FILES...): copies of files of the source folder in a folder of the tree. RESULT is
 # set to what a target must depend on.
@@ -42,13 +42,22 @@ function(corvex_device_icon result svg folder name points)
     set(${result} ${once} ${at2x} ${at3x} PARENT_SCOPE)
 endfunction()
 
-# corvex_bundle(NAME SOURCES... [PARTS targets...]): code that a program loads, of sources and of libraries' objects:
-# all of them, since classes found by name are referenced from nowhere. It exports nothing, for all that leads into it
-# is the class table, and what it takes from the contract is left to the program that loads it.
+# corvex_bundle(NAME SOURCES... [PARTS targets...] [EXPORTS symbols...]): code that a program loads, of sources and of
+# libraries' objects: all of them, since classes found by name are referenced from nowhere. It exports the symbols that
+# are named alone, for what else leads into it is the class table, and what it takes from the contract is left to the
+# program that loads it.
 function(corvex_bundle name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "PARTS")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "PARTS;EXPORTS")
     list(TRANSFORM arg_PARTS REPLACE "(.+)" "$<TARGET_OBJECTS:\\1>" OUTPUT_VARIABLE objects)
-    set(exports ${PROJECT_SOURCE_DIR}/cmake/bundle.map)
+    set(exported "")
+    foreach(symbol IN LISTS arg_EXPORTS)
+        string(APPEND exported " ${symbol};")
+    endforeach()
+    if(exported)
+        set(exported "global:${exported} ")
+    endif()
+    set(exports ${CMAKE_CURRENT_BINARY_DIR}/${name}.map)
+    file(CONFIGURE OUTPUT ${exports} CONTENT "{ @exported@local: *; };\n" @ONLY)
     add_library(${name} MODULE ${arg_UNPARSED_ARGUMENTS} ${objects})
     set_target_properties(${name} PROPERTIES PREFIX "" SUFFIX "" LINKER_LANGUAGE CXX LINK_DEPENDS ${exports})
     target_link_options(${name} PRIVATE LINKER:--version-script=${exports})

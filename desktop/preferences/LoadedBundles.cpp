@@ -27,6 +27,16 @@ void LoadedBundles::removeBundle(std::string_view path) {
     std::erase_if(bundles_, [path](const auto& entry) { return entry.second->bundlePath() == path; });
 }
 
+std::vector<const Class*> LoadedBundles::classesOf(std::string_view path) const {
+    std::vector<const Class*> own;
+    for (const auto& [name, bundle] : bundles_) {
+        const auto* const stated = bundle->bundlePath() == path ? NSClassFromString(name) : nullptr;
+        if (stated != nullptr)
+            own.push_back(stated);
+    }
+    return own;
+}
+
 Ref<NSBundle> LoadedBundles::bundleOf(const Class& asked) const {
     for (const auto* stated = &asked; stated != nullptr; stated = stated->superclass()) {
         const auto found = bundles_.find(stated->name());

@@ -7,6 +7,7 @@
 #include <map>
 #include <string>
 #include <string_view>
+#include <vector>
 
 /// Which bundle each class that a bundle's code states came from. Whoever loads bundles fills it; pages find
 /// their resources through it. Main thread only.
@@ -24,6 +25,9 @@ public:
 
     /// Forgets the classes of the bundle at that path.
     void removeBundle(std::string_view path);
+
+    /// The classes that are noted as the bundle's own.
+    [[nodiscard]] std::vector<const Class*> classesOf(std::string_view path) const;
 
     /// The bundle of the class, or of the nearest class it derives from that has one; the main bundle when
     /// none has.

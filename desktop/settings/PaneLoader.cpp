@@ -1,6 +1,7 @@
 #include "PaneLoader.h"
 
 #include "EntryPage.h"
+#include "Foundation/NSLog.h"
 #include "PSListControllerPeer.h"
 
 #include <utility>
@@ -21,6 +22,16 @@ std::expected<Ref<UIViewController>, std::string> PaneLoader::makePage(const Pan
     if (const auto list = dynamicCast<PSListController>(*page))
         PSListControllerPeer::of(*list).setSpecifier(make<DesktopSpecifier>(entry.row, *list));
     return page;
+}
+
+void PaneLoader::unloadBundles() {
+    std::erase_if(bundles_, [](const auto& loaded) {
+        const auto left = loaded.second.liveObjects();
+        if (left > 0)
+            NSLog("%@ objects of the bundle %@ have outlived the application.", std::to_string(left),
+                  loaded.first);
+        return left == 0;
+    });
 }
 
 std::expected<Ref<UIViewController>, std::string> PaneLoader::makeBundlePage(const PaneEntry& entry) {

@@ -3,6 +3,7 @@
 #include "Foundation/NSDictionary.h"
 #include "Foundation/NSFileManager.h"
 #include "Foundation/NSString.h"
+#include "LiveObjects.h"
 #include "LoadedBundles.h"
 
 #include <optional>
@@ -87,6 +88,13 @@ PreferenceBundle::PreferenceBundle(Ref<NSBundle> bundle, BundleCode code, std::s
 PreferenceBundle::~PreferenceBundle() {
     if (bundle_)
         LoadedBundles::shared().removeBundle(bundle_->bundlePath());
+}
+
+std::size_t PreferenceBundle::liveObjects() const {
+    std::size_t count = 0;
+    for (const auto* const own : LoadedBundles::shared().classesOf(bundle_->bundlePath()))
+        count += LiveObjects::shared().countOf(*own);
+    return count;
 }
 
 std::expected<Ref<UIViewController>, std::string>

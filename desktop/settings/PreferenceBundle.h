@@ -5,6 +5,7 @@
 #include "ObjectiveC/Class.h"
 #include "UIKit/UIViewController.h"
 
+#include <cstddef>
 #include <expected>
 #include <string>
 #include <string_view>
@@ -28,6 +29,9 @@ public:
     ~PreferenceBundle();
 
     [[nodiscard]] const Ref<NSBundle>& bundle() const { return bundle_; }
+
+    /// How many objects of its classes are alive; while there are any, its code must stay.
+    [[nodiscard]] std::size_t liveObjects() const;
 
     /// A new page.
     /// \param className of a class of pages; "" for the class that the bundle itself names

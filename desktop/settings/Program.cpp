@@ -11,6 +11,7 @@
 #include "LogRecorder.h"
 #include "RealClock.h"
 #include "Screen.h"
+#include "TextCommands.h"
 #include "TimeCommands.h"
 #include "TouchCommands.h"
 #include "TouchDispatcher.h"
@@ -93,6 +94,7 @@ int drive(VirtualClock& clock, LogRecorder& log, const ProgramOptions& options) 
     addTouchCommands(commands, touches);
     addTimeCommands(commands, clock);
     addEventCommands(commands, log);
+    addTextCommands(commands);
     addUnavailableCommands(commands);
     DriverSession session(commands, [&clock] { Device::current().mainQueue().advance(clock, {}); });
     return session.run(stdin, stdout) ? EXIT_SUCCESS : EXIT_FAILURE;

@@ -85,6 +85,8 @@ Ref<UIViewController> SettingsApplication::makePage(const PaneEntry& entry) {
 }
 
 void SettingsApplication::show(const Ref<UIViewController>& page, bool animated) {
+    Screen::current().presentations().dismissTransient();
+    root_->dismissViewControllerAnimated(false, {}); // what the page before has presented
     page->peer().navigationItem().setLargeTitle(LargeTitle::Never);
     auto& stack = UINavigationControllerPeer::of(*pages_);
     if (hasColumns())

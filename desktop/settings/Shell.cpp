@@ -1,8 +1,11 @@
 #include "Shell.h"
 
 #include "AnimationGroup.h"
+#include "ApplicationTermination.h"
 #include "CALayerPeer.h"
+#include "DesktopApplication.h"
 #include "Device.h"
+#include "Dispatch/MainQueue.h"
 #include "EntryList.h"
 #include "HomeSwipeRecognizer.h"
 #include "ObjectiveC/Weak.h"
@@ -16,7 +19,8 @@
 
 namespace {
 
-constexpr double homeLevel = -1;    ///< behind the application
+constexpr double homeLevel = -1; ///< behind the application
+constexpr std::string_view settingsIdentifier = "com.apple.Preferences";
 constexpr double screenCorner = 47; ///< of a window on its way to the screen's edges or back, in points
 
 // A window that a finger draws up from the lower edge.
@@ -54,9 +58,13 @@ Shell::Shell() : homeWindow_(make<UIWindow>()), home_(make<HomeView>([this] { la
     home_->setAutoresizingMask(UIViewAutoresizing::FlexibleWidth | UIViewAutoresizing::FlexibleHeight);
     homeWindow_->addSubview(home_);
     screen.addWindow(homeWindow_);
+    DesktopApplication::shared().setSuspendHandler([this] { goHome(); });
+    ApplicationTermination::shared().setHandler([this](const auto& request) { end(request.identifier); });
 }
 
 Shell::~Shell() {
+    DesktopApplication::shared().setSuspendHandler({});
+    ApplicationTermination::shared().setHandler({});
     endSettings();
     Screen::current().removeWindow(*homeWindow_);
     // What still waits may be of the code that goes with the loader.
@@ -90,8 +98,8 @@ void Shell::goHome() {
     if (isHome_)
         return;
     isHome_ = true;
-    for (auto* const presented : Screen::current().presentations().all())
-        presented->dismissPresented();
+    Screen::current().firstResponder().clear();
+    Screen::current().presentations().dismissTransient();
     TouchDispatcher::cancelTouchesIn(*settingsWindow_);
     settingsWindow_->setUserInteractionEnabled(false);
     bars_.setBehind(SystemBars::Behind::Wallpaper, true);
@@ -118,12 +126,21 @@ void Shell::goBack() {
 void Shell::terminateSettings() {
     isHome_ = true;
     endSettings();
+    // All that still waits is the application's, and may be of the code that goes now.
+    Device::current().mainQueue().forgetAll();
+    loader_.unloadBundles();
     bars_.setBehind(SystemBars::Behind::Wallpaper, false);
 }
 
 void Shell::relaunch() {
     terminateSettings();
     launchSettings();
+}
+
+void Shell::end(std::string_view identifier) {
+    // Later, since who asks for its own end is still at work.
+    if (identifier == settingsIdentifier)
+        MainQueue::async([this] { terminateSettings(); });
 }
 
 void Shell::startSettings() {

@@ -41,13 +41,16 @@ public:
     /// The way back from where the user is: to the page before, or from the first one to the home screen.
     void goBack();
 
-    /// Ends Settings, as when its process is ended, and shows the home screen.
+    /// Ends Settings, as when its process is ended: its pages go, and the bundles that it has loaded. Shows
+    /// the home screen.
     void terminateSettings();
 
     /// Starts Settings afresh.
     void relaunch();
 
 private:
+    /// The system's request to end an application.
+    void end(std::string_view identifier);
     void startSettings();
     void endSettings();
     /// Between the size of its icon and that of the screen.

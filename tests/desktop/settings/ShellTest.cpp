@@ -1,14 +1,17 @@
 #include "Shell.h"
 
+#include "ApplicationTermination.h"
 #include "BundleFixture.h"
 #include "Compositor.h"
 #include "DesktopMenu.h"
 #include "EntryList.h"
+#include "LiveObjects.h"
 #include "MenuPresentation.h"
 #include "PSListControllerPeer.h"
 #include "Screen.h"
 #include "TouchDispatcher.h"
 #include "UIButton.h"
+#include "UIKit/UIApplication.h"
 #include "UINavigationControllerPeer.h"
 
 #include <chrono>
@@ -185,6 +188,90 @@ TEST_F(ShellTest, EndedSettingsStartsAfresh) {
     settle();
     EXPECT_EQ(shell->app(), "Settings");
     EXPECT_EQ(titles(), Titles{"Settings"});
+}
+
+TEST_F(ShellTest, EndedSettingsLeavesNothingOfItsPanesBehind) {
+    ASSERT_TRUE(shell->openEntry("good"));
+    settle();
+    const auto controllers = [] {
+        return LiveObjects::shared().countOf(*NSClassFromString("UIViewController"));
+    };
+    EXPECT_GT(controllers(), 0U);
+    shell->terminateSettings();
+    EXPECT_EQ(controllers(), 0U);
+    EXPECT_EQ(NSClassFromString("standInPage"), nullptr) << "its code is unloaded";
+    EXPECT_FALSE(Device::current().mainQueue().nextDue());
+    EXPECT_EQ(device.log().take(), Titles());
+}
+
+TEST_F(ShellTest, ABundleWithAnObjectLeftStaysLoaded) {
+    ASSERT_TRUE(shell->openEntry("good"));
+    settle();
+    const auto kept = UINavigationControllerPeer::of(*shell->settings()->pages()).top();
+    shell->terminateSettings();
+    EXPECT_EQ(device.log().take(), Titles{"1 objects of the bundle Good have outlived the application."});
+    EXPECT_EQ(kept->isa().name(), "standInPage");
+}
+
+TEST_F(ShellTest, TheSystemsRequestEndsSettingsOnceItsCodeHasReturned) {
+    ASSERT_TRUE(shell->openEntry("good"));
+    settle();
+    ApplicationTermination::shared().request({.identifier = "com.apple.mobilesafari"});
+    settle();
+    EXPECT_NE(shell->settings(), nullptr);
+    ApplicationTermination::shared().request({.identifier = "com.apple.Preferences"});
+    EXPECT_NE(shell->settings(), nullptr);
+    settle();
+    EXPECT_EQ(shell->settings(), nullptr);
+    EXPECT_EQ(shell->app(), "home");
+}
+
+TEST_F(ShellTest, ARequestForSettingsThatDoesNotRunDoesNothing) {
+    ApplicationTermination::shared().request({.identifier = "com.apple.Preferences"});
+    settle();
+    EXPECT_EQ(shell->app(), "home");
+}
+
+TEST_F(ShellTest, ASuspendedApplicationGoesToTheBackground) {
+    ASSERT_TRUE(shell->openEntry("good"));
+    settle();
+    UIApplication::sharedApplication()->performSelector("suspend");
+    EXPECT_EQ(shell->app(), "home");
+    settle();
+    EXPECT_NE(shell->settings(), nullptr);
+}
+
+TEST_F(ShellTest, WhatSettingsHasPresentedIsThereAgainOnTheWayBack) {
+    ASSERT_TRUE(shell->openEntry("good"));
+    settle();
+    const auto sheet = make<UIViewController>();
+    shell->settings()->pages()->presentViewController(sheet, true, {});
+    settle();
+    shell->goHome();
+    settle();
+    EXPECT_EQ(screen->presentations().top(), nullptr) << "nothing of it is on the home screen";
+    shell->launchSettings();
+    settle();
+    ASSERT_NE(screen->presentations().top(), nullptr);
+    EXPECT_EQ(screen->presentations().top()->kind(), "sheet");
+    EXPECT_EQ(shell->settings()->pages()->presentedViewController(), sheet);
+}
+
+TEST_F(ShellTest, APaneOpensInPlaceOfTheOneBeforeAndWhatThatHasPresented) {
+    ASSERT_TRUE(shell->openEntry("good"));
+    settle();
+    const auto sheet = make<UIViewController>();
+    shell->settings()->pages()->presentViewController(sheet, false, {});
+    settle();
+    ASSERT_TRUE(shell->openEntry("good"));
+    EXPECT_EQ(screen->presentations().top(), nullptr);
+    settle();
+    EXPECT_FALSE(shell->settings()->pages()->presentedViewController());
+    EXPECT_EQ(titles(), (Titles{"Settings", "good"}));
+    const auto second = make<UIViewController>();
+    shell->settings()->pages()->presentViewController(second, true, {});
+    settle();
+    EXPECT_EQ(shell->settings()->pages()->presentedViewController(), second);
 }
 
 TEST_F(ShellTest, SettingsCanBeEndedWhileItIsStillOpening) {
