@@ -25,6 +25,23 @@ const Class classObject = Class::define<cxRootListController, PSListController>(
      method<"switchChanged:", &cxRootListController::switchChanged>(),
      method<"setupButtonMenu", &cxRootListController::setupButtonMenu>(),
      method<"openController:", &cxRootListController::openController>(),
+     method<"checkAndShowChangelogIfNeeded", &cxRootListController::checkAndShowChangelogIfNeeded>(),
+     method<"saveCurrentVersion", &cxRootListController::saveCurrentVersion>(),
+     method<"showWtfChangedInThisVersion", &cxRootListController::showWtfChangedInThisVersion>(),
+     method<"addChangelogItemsToController:withImage:",
+            &cxRootListController::addChangelogItemsToController>(),
+     method<"resetSettings", &cxRootListController::resetSettings>(),
+     method<"createResetAlert", &cxRootListController::createResetAlert>(),
+     method<"createCancelAction", &cxRootListController::createCancelAction>(),
+     method<"createConfirmAction", &cxRootListController::createConfirmAction>(),
+     method<"performReset", &cxRootListController::performReset>(),
+     method<"clearUserDefaults", &cxRootListController::clearUserDefaults>(),
+     method<"removePreferenceFiles", &cxRootListController::removePreferenceFiles>(),
+     method<"finalizeReset", &cxRootListController::finalizeReset>(),
+     method<"closeSettings", &cxRootListController::closeSettings>(),
+     method<"minimizeSettings", &cxRootListController::minimizeSettings>(),
+     method<"terminateSettingsAfterDelay:", &cxRootListController::terminateSettingsAfterDelay>(),
+     method<"terminateSettingsUsingBKS", &cxRootListController::terminateSettingsUsingBKS>(),
      method<"respringButton", &cxRootListController::respringButton>(),
      method<"setRespringButton:", &cxRootListController::setRespringButton>(),
      method<"toggleSwitch", &cxRootListController::toggleSwitch>(),
@@ -32,15 +49,14 @@ const Class classObject = Class::define<cxRootListController, PSListController>(
      method<"popupViewController", &cxRootListController::popupViewController>(),
      method<"setPopupViewController:", &cxRootListController::setPopupViewController>()});
 
-/// A menu's row that sends `selector` to the page, which the row does not keep alive.
+/// A menu's row that calls the page, which the row does not keep alive.
 Ref<UIAction> makeAction(std::string_view title, const Ref<UIImage>& image, cxRootListController& page,
-                         std::string_view selector) {
-    return UIAction::actionWithTitle(
-        title, image, std::nullopt,
-        [weakPage = Weak(&page), sent = std::string(selector)](UIAction& /*action*/) {
-            if (const auto strongPage = weakPage.strong())
-                strongPage->performSelector(sent);
-        });
+                         void (cxRootListController::*call)()) {
+    return UIAction::actionWithTitle(title, image, std::nullopt,
+                                     [weakPage = Weak(&page), call](UIAction& /*action*/) {
+                                         if (const auto strongPage = weakPage.strong())
+                                             (strongPage.get()->*call)();
+                                     });
 }
 
 /// Empty where the system has no such symbol.
@@ -67,6 +83,7 @@ void cxRootListController::viewDidLoad() {
     setupPreferences();
     setupNavigationSwitch();
     setupButtonMenu();
+    checkAndShowChangelogIfNeeded();
 }
 
 void cxRootListController::setupPreferences() {
@@ -106,9 +123,10 @@ void cxRootListController::switchChanged(const Ref<GlintImageSwitch>& sender) {
 }
 
 void cxRootListController::setupButtonMenu() {
-    const auto apply = makeAction("Apply", templateSymbol("gear.badge.checkmark"), *this, "closeSettings");
-    const auto reset =
-        makeAction("Reset Settings", UIImage::systemImageNamed("gear.badge.xmark"), *this, "resetSettings");
+    const auto apply = makeAction("Apply", templateSymbol("gear.badge.checkmark"), *this,
+                                  &cxRootListController::closeSettings);
+    const auto reset = makeAction("Reset Settings", UIImage::systemImageNamed("gear.badge.xmark"), *this,
+                                  &cxRootListController::resetSettings);
     reset->setAttributes(UIMenuElementAttributes::Destructive);
     const auto item = UIBarButtonItem::initWithImage(UIImage::systemImageNamed("gear.badge"),
                                                      UIMenu::menuWithTitle("", {apply, reset}));

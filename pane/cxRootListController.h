@@ -2,14 +2,18 @@
 
 #include "Foundation/NSUserDefaults.h"
 #include "GlintImageSwitch.h"
+#include "OnBoardingKit/OBWelcomeController.h"
 #include "Preferences/PSListController.h"
+#include "UIKit/UIAlertController.h"
 #include "UIKit/UIBarButtonItem.h"
 #include "UIKit/UISwitch.h"
 
 #include <string>
 
 /// The pane's first page: the "Root" list, with the extension's master switch in the navigation bar and a
-/// menu of what concerns all settings. The principal class of the bundle, made by the Preferences framework.
+/// menu of what concerns all settings: applying them and resetting them, both of which end the Settings
+/// application. Tells once what is new in a version. The principal class of the bundle, made by the
+/// Preferences framework.
 class cxRootListController final : public PSListController {
 public:
     // PSListController:
@@ -37,6 +41,37 @@ public:
     /// and nothing opens.
     void openController(const Ref<UIControl>& sender);
 
+    /// Shows what is new unless that was done for this version.
+    void checkAndShowChangelogIfNeeded();
+    /// Notes that what is new in this version has been shown.
+    void saveCurrentVersion();
+    /// Presents a sheet with what is new, in place of an earlier one.
+    void showWtfChangedInThisVersion();
+    void addChangelogItemsToController(const Ref<OBWelcomeController>& controller, const Ref<UIImage>& image);
+
+    /// Asks whether to reset the settings.
+    void resetSettings();
+    [[nodiscard]] Ref<UIAlertController> createResetAlert();
+    [[nodiscard]] Ref<UIAlertAction> createCancelAction();
+    /// The action that resets.
+    [[nodiscard]] Ref<UIAlertAction> createConfirmAction();
+    /// Removes all settings and images, and ends Settings. There is no way back.
+    void performReset();
+    /// Every key of the suite, whether or not the pane knows it.
+    void clearUserDefaults();
+    /// The settings' file and the images. What cannot be removed is logged and left.
+    void removePreferenceFiles();
+    void finalizeReset();
+
+    /// Ends Settings, so that it starts afresh with the settings as they are: to the background at once, and
+    /// half a second later out.
+    void closeSettings();
+    void minimizeSettings();
+    /// \param delay seconds
+    void terminateSettingsAfterDelay(double delay);
+    /// Has the system end Settings; nothing happens where its service is missing.
+    void terminateSettingsUsingBKS();
+
     // Kept for whoever sets them; the page itself does not.
     [[nodiscard]] const Ref<UIBarButtonItem>& respringButton() const { return respringButton_; }
 
@@ -53,6 +88,7 @@ public:
     }
 
 private:
+    Ref<OBWelcomeController> changelogController_;
     Ref<NSUserDefaults> preferences_;
     Ref<UIBarButtonItem> respringButton_;
     Ref<UISwitch> toggleSwitch_;

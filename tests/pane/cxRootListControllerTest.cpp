@@ -2,22 +2,15 @@
 
 #include "CALayerPeer.h"
 #include "DesktopAction.h"
-#include "DesktopBarButtonItem.h"
 #include "DesktopColor.h"
 #include "DesktopImage.h"
-#include "DesktopMenu.h"
-#include "DesktopNavigationItem.h"
-#include "Foundation/NSDictionary.h"
-#include "LoadedBundles.h"
+#include "ObjectiveC/Class.h"
 #include "PreferenceStore.h"
-#include "Screen.h"
+#include "RootPageFixture.h"
 #include "SystemSounds.h"
-#include "TestDevice.h"
-#include "TouchDispatcher.h"
 #include "UIControlPeer.h"
 #include "UINavigationControllerPeer.h"
 #include "UIViewControllerPeer.h"
-#include "UIWindow.h"
 
 #include <gtest/gtest.h>
 
@@ -25,12 +18,6 @@
 #include <vector>
 
 namespace {
-
-using Log = std::vector<std::string>;
-using Sounds = std::vector<std::uint32_t>;
-
-constexpr auto bundlePath = "/var/jb/Library/PreferenceBundles/corvexPrefs.bundle";
-constexpr auto preferences = "/var/mobile/Library/Preferences/com.orvel.corvexprefs.plist";
 
 /// A button that names a page.
 class PageButton final : public UIControl {
@@ -55,73 +42,9 @@ Ref<PageButton> buttonFor(std::optional<std::string> identifier) {
     return button;
 }
 
-/// The root page on a phone's screen, in a navigation controller.
-class cxRootListControllerTest : public testing::Test {
+class cxRootListControllerTest : public RootPageFixture {
 protected:
-    cxRootListControllerTest() {
-        device.write(
-            std::string(bundlePath) + "/Root.plist",
-            R"(<plist version="1.0"><dict><key>title</key><string>Corvex</string><key>items</key><array>
-                        <dict><key>cell</key><string>PSGroupCell</string></dict>
-                        <dict><key>cell</key><string>PSSwitchCell</string><key>key</key><string>removeSOS</string>
-                        </dict></array></dict></plist>)");
-        LoadedBundles::shared().addClass(*NSClassFromString("cxRootListController"),
-                                         NSBundle::bundleWithPath(bundlePath));
-        static_cast<void>(SystemSounds::shared().take());
-    }
-
-    ~cxRootListControllerTest() override { LoadedBundles::shared().removeBundle(bundlePath); }
-
-    void show() {
-        UINavigationControllerPeer::of(*navigation).push(page, false);
-        window->setRootViewController(navigation);
-        screen.addWindow(window);
-        settle();
-    }
-
-    void settle() {
-        ASSERT_TRUE(Device::current().mainQueue().settle(device.clock(), std::chrono::minutes(1)));
-    }
-
-    [[nodiscard]] DesktopNavigationItem& item() const { return page->peer().navigationItem(); }
-
-    [[nodiscard]] Ref<GlintImageSwitch> masterSwitch() const {
-        return dynamicCast<GlintImageSwitch>(item().titleView());
-    }
-
-    [[nodiscard]] const DesktopBarButtonItem& gear() const {
-        return dynamic_cast<const DesktopBarButtonItem&>(*item().rightItems().at(0));
-    }
-
-    [[nodiscard]] const DesktopMenu& menu() const {
-        return dynamic_cast<const DesktopMenu&>(*gear().content().menu);
-    }
-
-    void store(const PropertyList& value) {
-        const auto suite = PreferenceStore::open();
-        suite->setObject(value, "kEnabled");
-        suite->synchronize();
-    }
-
-    /// What is on disk.
-    [[nodiscard]] static std::optional<PropertyList> stored(std::string_view key) {
-        const auto all = dictionaryWithContentsOfFile(preferences);
-        const auto found = all ? all->find(key) : PropertyList::Dictionary::const_iterator();
-        return all && found != all->end() ? std::optional(found->second) : std::nullopt;
-    }
-
-    void tapMasterSwitch() {
-        const auto middle = masterSwitch()->peer().convertToScreen(CGPoint{25, 15});
-        fingers.touch(TouchPhase::Began, middle);
-        fingers.touch(TouchPhase::Ended, middle);
-    }
-
-    TestDevice device;
-    Screen screen{{}};
-    TouchDispatcher fingers;
-    Ref<UIWindow> window = make<UIWindow>();
-    Ref<UINavigationController> navigation = make<UINavigationController>();
-    Ref<cxRootListController> page = make<cxRootListController>();
+    cxRootListControllerTest() : RootPageFixture(true) {}
 };
 
 } // namespace
@@ -134,11 +57,37 @@ TEST_F(cxRootListControllerTest, IsAListPageThatTheFrameworkCanMakeByName) {
 }
 
 TEST_F(cxRootListControllerTest, AnswersItsMethodsUnderTheirNames) {
-    for (const auto* selector :
-         {"specifiers", "viewDidLoad", "setupPreferences", "setupNavigationSwitch", "createNavigationSwitch",
-          "configureNavigationSwitch:", "switchChanged:", "setupButtonMenu",
-          "openController:", "respringButton", "setRespringButton:", "toggleSwitch",
-          "setToggleSwitch:", "popupViewController", "setPopupViewController:"})
+    for (const auto* selector : {"specifiers",
+                                 "viewDidLoad",
+                                 "setupPreferences",
+                                 "setupNavigationSwitch",
+                                 "createNavigationSwitch",
+                                 "configureNavigationSwitch:",
+                                 "switchChanged:",
+                                 "setupButtonMenu",
+                                 "openController:",
+                                 "checkAndShowChangelogIfNeeded",
+                                 "saveCurrentVersion",
+                                 "showWtfChangedInThisVersion",
+                                 "addChangelogItemsToController:withImage:",
+                                 "resetSettings",
+                                 "createResetAlert",
+                                 "createCancelAction",
+                                 "createConfirmAction",
+                                 "performReset",
+                                 "clearUserDefaults",
+                                 "removePreferenceFiles",
+                                 "finalizeReset",
+                                 "closeSettings",
+                                 "minimizeSettings",
+                                 "terminateSettingsAfterDelay:",
+                                 "terminateSettingsUsingBKS",
+                                 "respringButton",
+                                 "setRespringButton:",
+                                 "toggleSwitch",
+                                 "setToggleSwitch:",
+                                 "popupViewController",
+                                 "setPopupViewController:"})
         EXPECT_TRUE(page->respondsToSelector(selector)) << selector;
 }
 

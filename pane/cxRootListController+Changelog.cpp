@@ -1,0 +1,86 @@
+#include "PreferenceStore.h"
+#include "RootPrefixResolver.h"
+#include "UIKit/_UIBackdropView.h"
+#include "UIKit/_UIBackdropViewSettings.h"
+#include "cxRootListController.h"
+
+#include <array>
+
+namespace {
+
+constexpr auto currentVersion = "3.0.1";
+constexpr auto shownVersionKey = "LastVersionPopupShown"; ///< meant to be in no backup
+constexpr auto sheetTitle = "Corvex";
+constexpr auto iconPath = "/Library/PreferenceBundles/corvexPrefs.bundle/icon.png";
+constexpr auto iconInstead = "gear";
+constexpr auto itemSymbol = "checkmark.circle.fill";
+constexpr auto backdropStyle = 2;
+
+struct ChangelogItem {
+    std::string_view title;
+    std::string_view description;
+};
+
+constexpr std::array<ChangelogItem, 6> changelog{{
+    {.title = "New Backup & Restore System",
+     .description = "Added ability to create, restore, and share backups with other users. Export and import "
+                    "your settings easily!"},
+    {.title = "Enhanced Performance",
+     .description = "Faster loading times and smoother experience throughout Settings."},
+    {.title = "Better Image Handling",
+     .description = "Improved custom image loading with better memory management and faster loading times."},
+    {.title = "Improved Background System",
+     .description = "More reliable background color changes and smoother transitions."},
+    {.title = "General Improvements",
+     .description = "Bug fixes, stability improvements, and overall better user experience."},
+    {.title = "Roothide Support", .description = "Corvex now supports Roothide"},
+}};
+
+Ref<UIImage> loadIcon() {
+    const auto path = RootPrefixResolver::jailbreakRootPath(iconPath);
+    const auto icon = path ? UIImage::imageWithContentsOfFile(*path) : nullptr;
+    return icon ? icon : UIImage::systemImageNamed(iconInstead);
+}
+
+/// Beneath everything in the view.
+void addBackdrop(UIView& view) {
+    const auto backdrop =
+        _UIBackdropView::initWithFrame({}, true, _UIBackdropViewSettings::settingsForStyle(backdropStyle));
+    backdrop->setClipsToBounds(true);
+    view.insertSubview(backdrop, 0);
+}
+
+} // namespace
+
+void cxRootListController::checkAndShowChangelogIfNeeded() {
+    if (preferences_->stringForKey(shownVersionKey) == currentVersion)
+        return;
+    showWtfChangedInThisVersion();
+    saveCurrentVersion();
+}
+
+void cxRootListController::saveCurrentVersion() {
+    preferences_->setObject(currentVersion, shownVersionKey);
+    preferences_->synchronize();
+}
+
+void cxRootListController::showWtfChangedInThisVersion() {
+    if (changelogController_) {
+        changelogController_->dismissViewControllerAnimated(false, {});
+        changelogController_ = nullptr;
+    }
+    changelogController_ = OBWelcomeController::initWithTitle(sheetTitle, currentVersion, loadIcon());
+    addChangelogItemsToController(changelogController_, UIImage::systemImageNamed(itemSymbol));
+    auto& view = changelogController_->view();
+    addBackdrop(view);
+    view.setBackgroundColor(UIColor::clearColor());
+    view.setTintColor(UIColor::yellowColor());
+    changelogController_->setModalPresentationStyle(UIModalPresentationStyle::PageSheet);
+    presentViewController(changelogController_, true, {});
+}
+
+void cxRootListController::addChangelogItemsToController(const Ref<OBWelcomeController>& controller,
+                                                         const Ref<UIImage>& image) {
+    for (const auto& item : changelog)
+        controller->addBulletedListItemWithTitle(item.title, item.description, image);
+}

@@ -1,0 +1,83 @@
+#include "RootPageFixture.h"
+
+#include "Foundation/NSDictionary.h"
+#include "LoadedBundles.h"
+#include "PreferenceStore.h"
+#include "SystemSounds.h"
+#include "UINavigationControllerPeer.h"
+#include "UIViewControllerPeer.h"
+#include "UIViewPeer.h"
+
+namespace {
+
+constexpr auto preferences = "/var/mobile/Library/Preferences/com.orvel.corvexprefs.plist";
+constexpr auto list =
+    R"(<plist version="1.0"><dict><key>title</key><string>Corvex</string><key>items</key><array>
+       <dict><key>cell</key><string>PSGroupCell</string></dict>
+       <dict><key>cell</key><string>PSSwitchCell</string><key>key</key><string>removeSOS</string>
+       <key>defaults</key><string>com.orvel.corvexprefs</string></dict></array></dict></plist>)";
+
+} // namespace
+
+RootPageFixture::RootPageFixture(bool knowsWhatIsNew) {
+    device.write(std::string(bundlePath) + "/Root.plist", list);
+    LoadedBundles::shared().addClass(*NSClassFromString("cxRootListController"),
+                                     NSBundle::bundleWithPath(bundlePath));
+    if (knowsWhatIsNew)
+        store("3.0.1", "LastVersionPopupShown");
+    page = make<cxRootListController>();
+    static_cast<void>(SystemSounds::shared().take());
+}
+
+RootPageFixture::~RootPageFixture() {
+    LoadedBundles::shared().removeBundle(bundlePath);
+}
+
+void RootPageFixture::show() {
+    window->setRootViewController(navigation);
+    screen.addWindow(window);
+    UINavigationControllerPeer::of(*navigation).push(page, false);
+    settle();
+}
+
+void RootPageFixture::settle() {
+    ASSERT_TRUE(Device::current().mainQueue().settle(device.clock(), std::chrono::minutes(1)));
+}
+
+void RootPageFixture::advance(std::chrono::nanoseconds time) {
+    Device::current().mainQueue().advance(device.clock(), time);
+}
+
+DesktopNavigationItem& RootPageFixture::item() const {
+    return page->peer().navigationItem();
+}
+
+Ref<GlintImageSwitch> RootPageFixture::masterSwitch() const {
+    return dynamicCast<GlintImageSwitch>(item().titleView());
+}
+
+const DesktopBarButtonItem& RootPageFixture::gear() const {
+    return dynamic_cast<const DesktopBarButtonItem&>(*item().rightItems().at(0));
+}
+
+const DesktopMenu& RootPageFixture::menu() const {
+    return dynamic_cast<const DesktopMenu&>(*gear().content().menu);
+}
+
+void RootPageFixture::store(const PropertyList& value, std::string_view key) {
+    const auto suite = PreferenceStore::open();
+    suite->setObject(value, key);
+    suite->synchronize();
+}
+
+std::optional<PropertyList> RootPageFixture::stored(std::string_view key) {
+    const auto all = dictionaryWithContentsOfFile(preferences);
+    const auto found = all ? all->find(key) : PropertyList::Dictionary::const_iterator();
+    return all && found != all->end() ? std::optional(found->second) : std::nullopt;
+}
+
+void RootPageFixture::tapMasterSwitch() {
+    const auto middle = masterSwitch()->peer().convertToScreen(CGPoint{25, 15});
+    fingers.touch(TouchPhase::Began, middle);
+    fingers.touch(TouchPhase::Ended, middle);
+}

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "DesktopBarButtonItem.h"
+#include "DesktopMenu.h"
+#include "DesktopNavigationItem.h"
+#include "Screen.h"
+#include "TestDevice.h"
+#include "TouchDispatcher.h"
+#include "UIKit/UINavigationController.h"
+#include "UIWindow.h"
+#include "cxRootListController.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/// The root page on a phone's screen, in a navigation controller.
+class RootPageFixture : public testing::Test {
+protected:
+    using Log = std::vector<std::string>;
+    using Sounds = std::vector<std::uint32_t>;
+
+    static constexpr auto bundlePath = "/var/jb/Library/PreferenceBundles/corvexPrefs.bundle";
+
+    /// \param knowsWhatIsNew whether what is new has been shown before
+    explicit RootPageFixture(bool knowsWhatIsNew);
+    ~RootPageFixture() override;
+
+    void show();
+    void settle();
+    void advance(std::chrono::nanoseconds time);
+
+    [[nodiscard]] DesktopNavigationItem& item() const;
+    [[nodiscard]] Ref<GlintImageSwitch> masterSwitch() const;
+    [[nodiscard]] const DesktopBarButtonItem& gear() const;
+    [[nodiscard]] const DesktopMenu& menu() const;
+
+    static void store(const PropertyList& value, std::string_view key = "kEnabled");
+    /// What is on disk.
+    [[nodiscard]] static std::optional<PropertyList> stored(std::string_view key);
+
+    void tapMasterSwitch();
+
+    TestDevice device;
+    Screen screen{{}};
+    TouchDispatcher fingers;
+    Ref<UIWindow> window = make<UIWindow>();
+    Ref<UINavigationController> navigation = make<UINavigationController>();
+    Ref<cxRootListController> page;
+};

@@ -1,0 +1,6 @@
+/// Something that a library may well export.
+extern "C" int BKSOtherFunction();
+
+int BKSOtherFunction() {
+    return 0;
+}
