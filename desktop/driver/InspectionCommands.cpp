@@ -3,6 +3,7 @@
 #include "Compositor.h"
 #include "DrivenApplication.h"
 #include "JsonValues.h"
+#include "LiveObjects.h"
 #include "ObjectiveC/Class.h"
 #include "Screen.h"
 #include "ScreenReport.h"
@@ -21,6 +22,13 @@ Answer views(const std::string& name) {
     if (viewClass == nullptr || anyView == nullptr || !viewClass->isSubclassOf(*anyView))
         return std::unexpected("there is no class of views of that name");
     return QJsonObject{{"views", viewReports(*viewClass)}};
+}
+
+/// What has ended leaves none behind: a pane's classes are unknown again once it is unloaded.
+Answer live(const std::string& name) {
+    const auto* const known = NSClassFromString(name);
+    const auto count = known != nullptr ? LiveObjects::shared().countOf(*known) : 0;
+    return QJsonObject{{"known", known != nullptr}, {"count", static_cast<qint64>(count)}};
 }
 
 /// In memory first, since the encoder loses a picture's memory when the file cannot take all of it.
@@ -60,6 +68,9 @@ void addInspectionCommands(CommandTable& table, DrivenApplication& application, 
                .fewest = 1,
                .most = 1,
                .run = lookingAfterRefresh([](const auto& arguments) { return views(arguments[0].text); })});
+    table.add({.usage = "live CLASS", .fewest = 1, .most = 1, .run = [](const auto& arguments) {
+                   return live(arguments[0].text);
+               }});
     table.add({.usage = "snapshot FILE",
                .fewest = 1,
                .most = 1,

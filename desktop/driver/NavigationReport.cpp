@@ -10,8 +10,6 @@
 #include "Screen.h"
 #include "UIViewControllerPeer.h"
 
-#include <QJsonArray>
-
 namespace {
 
 QJsonValue jsonOfSymbol(const Ref<UIImage>& image) {
@@ -39,7 +37,9 @@ QJsonValue jsonOfTint(const Ref<UIColor>& color) {
     return jsonOf(DesktopColor::resolve(color, Screen::current().traits()));
 }
 
-QJsonArray itemReports(const std::vector<Ref<UIBarButtonItem>>& items) {
+} // namespace
+
+QJsonArray barItemReports(const std::vector<Ref<UIBarButtonItem>>& items) {
     QJsonArray reports;
     for (const auto& shown : items) {
         if (const auto item = dynamicCast<DesktopBarButtonItem>(shown))
@@ -51,15 +51,13 @@ QJsonArray itemReports(const std::vector<Ref<UIBarButtonItem>>& items) {
     return reports;
 }
 
-} // namespace
-
 QJsonObject navigationReport(const UIViewController& page) {
     const auto& item = page.peer().navigationItem();
     const auto& titleView = item.titleView();
     return {
         {"title", jsonOfText(item.title())},
         {"titleView", titleView ? jsonOfText(titleView->isa().name()) : QJsonValue()},
-        {"left", itemReports(item.leftItems())},
-        {"right", itemReports(item.rightItems())},
+        {"left", barItemReports(item.leftItems())},
+        {"right", barItemReports(item.rightItems())},
     };
 }

@@ -1,5 +1,7 @@
 #include "ScreenReport.h"
 
+#include "DesktopColor.h"
+#include "DesktopNavigationItem.h"
 #include "DrivenApplication.h"
 #include "JsonValues.h"
 #include "NavigationReport.h"
@@ -36,26 +38,75 @@ QJsonArray rowReports(const Ref<UIViewController>& controller) {
     return reports;
 }
 
+std::string_view styleName(const Presented::Action& action) {
+    if (action.cancels)
+        return "cancel";
+    return action.destructive ? "destructive" : "default";
+}
+
 QJsonObject actionReport(const Presented::Action& action) {
     return {
         {"title", jsonOfText(action.title)},
         {"symbol", action.symbol.empty() ? QJsonValue() : jsonOfText(action.symbol)},
-        {"style", action.destructive ? "destructive" : "default"},
+        {"style", jsonOfText(styleName(action))},
         {"enabled", !action.disabled},
         {"screenFrame", jsonOf(action.frame)},
     };
+}
+
+QJsonValue jsonOrNull(const std::string& text) {
+    return text.empty() ? QJsonValue() : jsonOfText(text);
+}
+
+QJsonArray itemReports(const std::vector<Presented::Item>& items, const UIView& shown) {
+    QJsonArray reports;
+    for (const auto& item : items)
+        reports.append(QJsonObject{
+            {"title", jsonOfText(item.title)},
+            {"description", jsonOrNull(item.description)},
+            {"symbol", jsonOrNull(item.symbol)},
+            {"tint", item.tint ? QJsonValue(jsonOf(DesktopColor::resolve(item.tint, shown.peer().traits())))
+                               : QJsonValue()},
+            {"tappable", item.tappable},
+        });
+    return reports;
+}
+
+QJsonArray fieldReports(const std::vector<Presented::Field>& fields) {
+    QJsonArray reports;
+    for (const auto& field : fields)
+        reports.append(QJsonObject{{"placeholder", jsonOrNull(field.placeholder)},
+                                   {"text", jsonOfText(field.text)},
+                                   {"firstResponder", field.isFirstResponder}});
+    return reports;
+}
+
+void addDetails(const Presented::Details& details, const UIView& shown, QJsonObject& report) {
+    const auto bar = dynamicCast<DesktopNavigationItem>(details.barItem);
+    report["class"] = jsonOfText(details.controllerClass);
+    report["detail"] = jsonOrNull(details.detail);
+    report["symbol"] = jsonOrNull(details.symbol);
+    report["style"] = jsonOfText(details.style);
+    report["swipeDismissable"] = details.swipeDismissable;
+    report["items"] = itemReports(details.items, shown);
+    report["left"] = bar ? barItemReports(bar->leftItems()) : QJsonArray();
+    report["right"] = bar ? barItemReports(bar->rightItems()) : QJsonArray();
+    report["fields"] = fieldReports(details.fields);
 }
 
 QJsonObject presentedReport(const Presented& presented) {
     QJsonArray actions;
     for (const auto& action : presented.actions())
         actions.append(actionReport(action));
-    return {
+    QJsonObject report{
         {"kind", jsonOfText(presented.kind())},
         {"class", jsonOfText(presented.shownView().isa().name())},
         {"title", jsonOfText(presented.title())},
         {"actions", actions},
     };
+    if (const auto details = presented.details())
+        addDetails(*details, presented.shownView(), report);
+    return report;
 }
 
 QJsonArray presentedReports() {

@@ -84,12 +84,33 @@ Answer tap(TouchDispatcher& touches, const CommandTable::Arguments& arguments) {
     return tapOn(*view, touches);
 }
 
+/// Draws the sheet from its upper edge to the screen's lower one.
+Answer swipeDown(TouchDispatcher& touches) {
+    constexpr double grip = 16; // points below the upper edge
+    constexpr auto steps = 10;
+    Screen::current().layoutIfNeeded();
+    const auto* const sheet = Screen::current().presentations().top();
+    if (sheet == nullptr || sheet->kind() != "sheet")
+        return std::unexpected("no sheet is presented");
+    const auto& card = sheet->shownView();
+    const auto frame = card.peer().convertToScreen(card.bounds());
+    const CGPoint from{CGRectGetMidX(frame), frame.origin.y + grip};
+    const auto way = CGRectGetMaxY(Screen::current().bounds()) - from.y;
+    touches.touch(TouchPhase::Began, from);
+    for (auto step = 1; step <= steps; ++step)
+        touches.touch(TouchPhase::Moved, {from.x, from.y + way * step / steps});
+    touches.touch(TouchPhase::Ended, {from.x, from.y + way});
+    const auto left = Screen::current().presentations().all();
+    return QJsonObject{{"dismissed", std::ranges::find(left, sheet) == left.end()}};
+}
+
 } // namespace
 
 void addTouchCommands(CommandTable& table, TouchDispatcher& touches) {
     table.add({.usage = "tap LABEL [#N]", .fewest = 1, .most = 2, .run = [&touches](const auto& arguments) {
                    return tap(touches, arguments);
                }});
+    table.add({.usage = "swipe-down", .run = [&touches](const auto&) { return swipeDown(touches); }});
     table.add({.usage = "touch down|move|up|cancel X Y",
                .fewest = 3,
                .most = 3,

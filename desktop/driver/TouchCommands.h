@@ -4,6 +4,6 @@
 
 class TouchDispatcher;
 
-/// `tap` and `touch`: a finger on the screen.
+/// `tap`, `touch` and `swipe-down`: a finger on the screen.
 /// \param touches outlives the table
 void addTouchCommands(CommandTable& table, TouchDispatcher& touches);

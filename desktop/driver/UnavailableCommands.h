@@ -2,5 +2,5 @@
 
 #include "CommandTable.h"
 
-/// The commands for what this device has none of: text fields, sheets, pickers. They say so.
+/// The commands for what this device has none of: pickers. They say so.
 void addUnavailableCommands(CommandTable& table);

@@ -47,6 +47,20 @@ TEST_F(DriverCommandsTest, LogAndNotificationsAreTakenOnce) {
     EXPECT_EQ(ask("notifications").value("events").toArray(), QJsonArray());
 }
 
+TEST_F(DriverCommandsTest, LiveCountsTheObjectsOfAClass) {
+    const auto labels = [this] { return ask("live UILabel").value("count").toInt(-1); };
+    const auto before = labels();
+    {
+        const auto label = make<UILabel>();
+        EXPECT_EQ(labels(), before + 1);
+    }
+    EXPECT_EQ(labels(), before);
+    EXPECT_TRUE(ask("live UILabel").value("known").toBool());
+    EXPECT_FALSE(ask("live NoSuchClass").value("known").toBool(true));
+    EXPECT_EQ(ask("live NoSuchClass").value("count").toInt(-1), 0);
+    EXPECT_FALSE(refusalOf("live").empty());
+}
+
 TEST_F(DriverCommandsTest, SnapshotIsAPictureOfTheScreen) {
     const auto path = device_.hostPath("/picture.png");
     window_->setBackgroundColor(UIColor::colorWithRed(1, 0, 0, 1));

@@ -4,6 +4,7 @@
 #include "CountedButton.h"
 #include "EventCommands.h"
 #include "InspectionCommands.h"
+#include "TextCommands.h"
 #include "TimeCommands.h"
 #include "TouchCommands.h"
 #include "UnavailableCommands.h"
@@ -15,6 +16,7 @@ DriverFixture::DriverFixture() {
     addTouchCommands(commands_, touches_);
     addTimeCommands(commands_, device_.clock());
     addEventCommands(commands_, device_.log());
+    addTextCommands(commands_);
     addUnavailableCommands(commands_);
 }
 

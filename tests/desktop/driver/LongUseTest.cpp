@@ -31,13 +31,16 @@ std::size_t bytesInUse() {
 
 class LongUseTest : public testing::Test {
 protected:
-    static constexpr auto rounds = 200;
+    static constexpr auto rounds = 1000;
     static constexpr std::size_t allowance = 150'000; ///< bytes; a view kept in each round takes as many
 
-    /// Opens the pane and its menu, turns the switch and goes on while things still move.
+    /// Opens the pane, reads what is new, opens the menu, turns the switch and goes on while things still
+    /// move.
     void useOnce(int round) {
         program.done("open");
         program.done(round % 3 == 0 ? "advance 0.2" : "settle");
+        if (program.screen().presentations().top() != nullptr)
+            readWhatIsNew();
         program.done("tap gear.badge");
         program.done(round % 5 == 0 ? "advance 0.1" : "settle");
         watch();
@@ -48,9 +51,28 @@ protected:
             program.done(events);
     }
 
+    void readWhatIsNew() {
+        program.done("settle");
+        EXPECT_TRUE(program.done("swipe-down").value("dismissed").toBool());
+        program.done("settle");
+    }
+
+    /// Wipes everything, which ends the application.
+    void reset() {
+        program.done("settle");
+        for (const auto* const line : {"tap gear.badge", "tap \"Reset Settings\"", "tap Confirm"}) {
+            program.done(line);
+            program.done("settle");
+        }
+        EXPECT_EQ(program.shell().settings(), nullptr);
+        EXPECT_FALSE(program.done("live cxRootListController").value("known").toBool(true));
+    }
+
     /// Ends or leaves the application, one way or another.
     void leave(int round) {
-        if (round % 4 == 0) {
+        if (round % 2 == 1) {
+            reset();
+        } else if (round % 4 == 0) {
             program.shell().goHome();
             program.done(round % 8 == 0 ? "settle" : "advance 0.1");
         }

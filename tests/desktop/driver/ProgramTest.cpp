@@ -36,6 +36,12 @@ public:
         return answer;
     }
 
+    /// Opens the pane on a device root where it never was, and takes what is new in it away.
+    void openPane() {
+        for (const auto* const line : {"open", "settle", "swipe-down", "settle"})
+            done(line);
+    }
+
     /// Where the middle of the only view of a class is, as arguments of a touch.
     [[nodiscard]] std::string middleOf(const std::string& viewClass) {
         const auto views = done("views " + viewClass).value("views").toArray();
@@ -145,6 +151,8 @@ TEST_F(ProgramTest, OpensThePaneAndGoesBack) {
     DrivenProgram program(root_);
     EXPECT_EQ(program.done("open").value("title").toString(), "Corvex");
     program.done("settle");
+    program.done("swipe-down");
+    program.done("settle");
     EXPECT_EQ(program.done("back").value("title").toString(), "Settings");
     program.done("settle");
     EXPECT_EQ(program.ask("back").value("error").toString(), "the navigation bar has no back button");
@@ -154,8 +162,7 @@ TEST_F(ProgramTest, OpensThePaneAndGoesBack) {
 
 TEST_F(ProgramTest, TheGearOpensTheMenu) {
     DrivenProgram program(root_);
-    program.done("open");
-    program.done("settle");
+    program.openPane();
     program.tapView("BarButtonView");
     program.done("settle");
     const auto presented = program.done("screen").value("presented").toArray();
@@ -171,8 +178,7 @@ TEST_F(ProgramTest, TheGearOpensTheMenu) {
 TEST_F(ProgramTest, TheMasterSwitchIsRememberedByTheNextRun) {
     {
         DrivenProgram program(root_);
-        program.done("open");
-        program.done("settle");
+        program.openPane();
         const auto before = program.done("views GlintImageSwitch").value("views").toArray().at(0);
         EXPECT_FALSE(before["properties"]["isOn"].toBool(true));
         program.tapView("GlintImageSwitch");
@@ -301,8 +307,7 @@ TEST_F(ProgramTest, SetWritesValuesThroughThePageOnly) {
 
 TEST_F(ProgramTest, TapOnARowsLabelFlipsItsSwitch) {
     DrivenProgram program(root_);
-    program.done("open");
-    program.done("settle");
+    program.openPane();
     const auto rows = program.done("screen").value("rows").toArray();
     const auto last = lastSwitch(rows);
     program.done("tap \"" + last["label"].toString().toStdString() + "\"");

@@ -17,10 +17,11 @@ constexpr auto preferences = "/var/mobile/Library/Preferences/com.orvel.corvexpr
 constexpr auto masterSwitch = "kEnabled";
 constexpr std::size_t trailLength = 60;
 
-const std::array<std::string, 18> labels{
+const std::array<std::string, 20> labels{
     "Settings", "Corvex", "About", "Language",         "gear.badge",    "Apply",
     "Rows",     "Back",   "plain", "\"Circle Icons\"", "\"Time Zone\"", "\"Reset Settings\"",
-    "Pane",     "Stack",  "First", "Nobody",           "missing",       "Nonsense"};
+    "Pane",     "Stack",  "First", "Nobody",           "missing",       "Nonsense",
+    "Confirm",  "Cancel"};
 
 const std::array<std::string, 9> entries{"",         " Corvex",  " corvexPrefs", " plain", " broken",
                                          " missing", " nothing", " odd",         " \"\""};
@@ -117,25 +118,14 @@ void RandomUser::act() {
         give(line);
         return;
     }
-    static constexpr std::array<std::pair<Deed, unsigned>, 19> deeds{{{&RandomUser::planTouch, 16},
-                                                                      {&RandomUser::planTap, 16},
-                                                                      {&RandomUser::planDrag, 10},
-                                                                      {&RandomUser::planSwipeBack, 5},
-                                                                      {&RandomUser::planSwitch, 10},
-                                                                      {&RandomUser::planMenu, 6},
-                                                                      {&RandomUser::planNamedTap, 8},
-                                                                      {&RandomUser::planOpening, 6},
-                                                                      {&RandomUser::planBack, 4},
-                                                                      {&RandomUser::planTime, 14},
-                                                                      {&RandomUser::planRest, 8},
-                                                                      {&RandomUser::planSetting, 6},
-                                                                      {&RandomUser::planLook, 4},
-                                                                      {&RandomUser::planNonsense, 3},
-                                                                      {&RandomUser::changeFile, 3},
-                                                                      {&RandomUser::changeEntries, 4},
-                                                                      {&RandomUser::leave, 4},
-                                                                      {&RandomUser::changeScreen, 3},
-                                                                      {&RandomUser::startAnew, 1}}};
+    static constexpr std::array<std::pair<Deed, unsigned>, 21> deeds{
+        {{&RandomUser::planTouch, 16},    {&RandomUser::planTap, 16},     {&RandomUser::planDrag, 10},
+         {&RandomUser::planSwipeBack, 5}, {&RandomUser::planSwitch, 10},  {&RandomUser::planMenu, 6},
+         {&RandomUser::planSheet, 10},    {&RandomUser::planReset, 4},    {&RandomUser::planNamedTap, 8},
+         {&RandomUser::planOpening, 6},   {&RandomUser::planBack, 4},     {&RandomUser::planTime, 14},
+         {&RandomUser::planRest, 8},      {&RandomUser::planSetting, 6},  {&RandomUser::planLook, 4},
+         {&RandomUser::planNonsense, 3},  {&RandomUser::changeFile, 3},   {&RandomUser::changeEntries, 4},
+         {&RandomUser::leave, 4},         {&RandomUser::changeScreen, 3}, {&RandomUser::startAnew, 1}}};
     auto chance = below(std::accumulate(deeds.begin(), deeds.end(), 0U,
                                         [](unsigned sum, const auto& deed) { return sum + deed.second; }));
     const auto* const chosen = std::ranges::find_if(deeds, [&chance](const auto& deed) {
@@ -149,7 +139,7 @@ void RandomUser::finish() {
     plan_.clear();
     if (program_.touches().isTouching())
         give("touch cancel 0 0");
-    for (const auto* const line : {"settle", "relaunch", "settle", "open", "settle"})
+    for (const auto* const line : {"settle", "relaunch", "settle", "open", "settle", "swipe-down", "settle"})
         give(line);
     const auto before = masterSwitchAtRest();
     ASSERT_TRUE(before);
@@ -276,6 +266,19 @@ void RandomUser::planMenu() {
     plan_.emplace_back("tap gear.badge");
     plan_.push_back(below(2) == 0 ? "settle" : duration());
     plan_.emplace_back(below(2) == 0 ? "tap Apply" : "tap \"Reset Settings\"");
+}
+
+void RandomUser::planSheet() {
+    plan_.push_back(below(2) == 0 ? "settle" : duration());
+    plan_.emplace_back("swipe-down");
+    plan_.push_back(below(2) == 0 ? "settle" : duration());
+}
+
+void RandomUser::planReset() {
+    for (const auto* const label : {"gear.badge", "\"Reset Settings\"", "Confirm"}) {
+        plan_.push_back("tap " + std::string(label));
+        plan_.push_back(below(5) == 0 ? duration() : "settle");
+    }
 }
 
 void RandomUser::planNamedTap() {

@@ -54,6 +54,8 @@ private:
     void planSwipeBack();
     void planSwitch();
     void planMenu();
+    void planSheet();
+    void planReset();
     void planNamedTap();
     void planOpening();
     void planBack();

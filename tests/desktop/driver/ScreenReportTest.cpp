@@ -90,8 +90,7 @@ TEST_F(ScreenReportTest, APageWithoutRowsHasNone) {
 }
 
 TEST_F(ScreenReportTest, AMenuIsPresentedWithItsRows) {
-    program.done("open");
-    program.done("settle");
+    program.openPane();
     program.done("tap gear.badge");
     program.done("settle");
     const auto presented = program.done("screen").value("presented").toArray();

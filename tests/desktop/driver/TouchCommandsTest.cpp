@@ -1,6 +1,10 @@
+#include "DesktopBarButtonItem.h"
 #include "DriverFixture.h"
 #include "Presented.h"
+#include "UIKit/UIAlertController.h"
+#include "UIKit/UINavigationController.h"
 #include "UIScrollViewPeer.h"
+#include "UIViewControllerPeer.h"
 #include "UIViewPeer.h"
 
 namespace {
@@ -92,6 +96,14 @@ public:
         return {{.title = "Reset", .symbol = "gear", .destructive = true, .disabled = false, .frame = upper}};
     }
 
+    [[nodiscard]] std::optional<Details> details() const override { return std::nullopt; }
+
+    [[nodiscard]] bool isTransient() const override { return false; }
+
+    [[nodiscard]] bool blackensStatusBar() const override { return false; }
+
+    void keyboardHeightDidChange() override {}
+
     [[nodiscard]] UIView& shownView() const override { return shown_; }
 
     void dismissPresented() override {}
@@ -157,5 +169,100 @@ INSTANTIATE_TEST_SUITE_P(Lines, BadTouch,
                                          "touch Down 1 2", "touch down nan 2", "touch down 1 inf",
                                          "touch down 1e400 2", "touch down 1x 2", "touch down 1e9 2",
                                          "touch move 1 2", "touch up 1 2", "touch cancel 1 2"));
+
+/// A window whose controller presents another one.
+class PresentingTest : public DriverFixture {
+protected:
+    PresentingTest() { window_->setRootViewController(root_); }
+
+    void present(const Ref<UIViewController>& controller) {
+        root_->presentViewController(controller, false, {});
+    }
+
+    [[nodiscard]] QJsonObject presented() const {
+        const auto all = ask("screen").value("presented").toArray();
+        EXPECT_EQ(all.size(), 1);
+        return all.at(0).toObject();
+    }
+
+    Ref<UIViewController> root_ = make<UIViewController>();
+};
+
+TEST_F(PresentingTest, SwipeDownDismissesASheetUnlessTheUserMayNot) {
+    EXPECT_EQ(refusalOf("swipe-down"), "no sheet is presented");
+    const auto sheet = make<UIViewController>();
+    sheet->setModalInPresentation(true);
+    present(sheet);
+    EXPECT_FALSE(ask("swipe-down").value("dismissed").toBool(true));
+    static_cast<void>(ask("settle"));
+    EXPECT_EQ(root_->presentedViewController(), sheet);
+    sheet->setModalInPresentation(false);
+    EXPECT_TRUE(ask("swipe-down").value("dismissed").toBool());
+    static_cast<void>(ask("settle"));
+    EXPECT_EQ(root_->presentedViewController(), nullptr);
+}
+
+TEST_F(PresentingTest, SwipeDownLeavesAlertsAlone) {
+    present(UIAlertController::alertControllerWithTitle("A", "B", UIAlertControllerStyle::Alert));
+    EXPECT_EQ(refusalOf("swipe-down"), "no sheet is presented");
+}
+
+TEST_F(PresentingTest, ScreenTellsOfASheet) {
+    const auto sheet = make<UIViewController>();
+    sheet->peer().setTitle("Notes");
+    sheet->setModalPresentationStyle(UIModalPresentationStyle::FormSheet);
+    present(sheet);
+    EXPECT_EQ(presented(), (QJsonObject{{"kind", "sheet"},
+                                        {"class", "UIViewController"},
+                                        {"title", "Notes"},
+                                        {"detail", QJsonValue()},
+                                        {"symbol", QJsonValue()},
+                                        {"style", "formSheet"},
+                                        {"swipeDismissable", true},
+                                        {"items", QJsonArray()},
+                                        {"left", QJsonArray()},
+                                        {"right", QJsonArray()},
+                                        {"actions", QJsonArray()},
+                                        {"fields", QJsonArray()}}));
+}
+
+TEST_F(PresentingTest, ScreenTellsOfTheBarOfASheet) {
+    const auto page = make<UIViewController>();
+    DesktopBarButtonItem::Content content;
+    content.title = "Done";
+    page->navigationItem().setRightBarButtonItems({make<DesktopBarButtonItem>(content)});
+    const auto sheet = make<UINavigationController>();
+    sheet->pushViewController(page, false);
+    present(sheet);
+    const auto right = presented().value("right").toArray();
+    ASSERT_EQ(right.size(), 1);
+    EXPECT_EQ(right.at(0).toObject().value("title").toString(), "Done");
+}
+
+TEST_F(PresentingTest, ScreenTellsOfAnAlertWhoseButtonsAreTapped) {
+    auto chosen = 0;
+    const auto alert =
+        UIAlertController::alertControllerWithTitle("Reset Settings", "Sure?", UIAlertControllerStyle::Alert);
+    alert->addAction(UIAlertAction::actionWithTitle("Reset", UIAlertActionStyle::Destructive,
+                                                    [&chosen](UIAlertAction&) { ++chosen; }));
+    alert->addAction(UIAlertAction::actionWithTitle("Later", UIAlertActionStyle::Default, {}));
+    alert->addAction(UIAlertAction::actionWithTitle("Cancel", UIAlertActionStyle::Cancel, {}));
+    present(alert);
+    const auto report = presented();
+    EXPECT_EQ(report.value("kind").toString(), "alert");
+    EXPECT_EQ(report.value("class").toString(), "UIAlertController");
+    EXPECT_EQ(report.value("detail").toString(), "Sure?");
+    EXPECT_EQ(report.value("style").toString(), "alert");
+    EXPECT_FALSE(report.value("swipeDismissable").toBool(true));
+    QStringList actions;
+    for (const QJsonValue action : report.value("actions").toArray())
+        actions << action.toObject().value("title").toString() + " " +
+                       action.toObject().value("style").toString();
+    EXPECT_EQ(actions, (QStringList{"Reset destructive", "Later default", "Cancel cancel"}));
+    static_cast<void>(ask("tap Reset"));
+    EXPECT_EQ(ask("screen").value("presented").toArray().size(), 0);
+    static_cast<void>(ask("settle"));
+    EXPECT_EQ(chosen, 1);
+}
 
 } // namespace

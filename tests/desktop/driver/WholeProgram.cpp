@@ -4,6 +4,7 @@
 #include "DeviceInstaller.h"
 #include "EventCommands.h"
 #include "InspectionCommands.h"
+#include "TextCommands.h"
 #include "TimeCommands.h"
 #include "TouchCommands.h"
 #include "UnavailableCommands.h"
@@ -59,6 +60,7 @@ WholeProgram::Running::Running(TestDevice& device, const Screen::Options& option
     addTouchCommands(commands, touches);
     addTimeCommands(commands, device.clock());
     addEventCommands(commands, device.log());
+    addTextCommands(commands);
     addUnavailableCommands(commands);
 }
 
@@ -94,6 +96,11 @@ QJsonObject WholeProgram::done(const std::string& line) {
     EXPECT_TRUE(answer.value("ok").toBool())
         << line << ": " << answer.value("error").toString().toStdString();
     return answer;
+}
+
+void WholeProgram::openPane() {
+    for (const auto* const line : {"open", "settle", "swipe-down", "settle"})
+        done(line);
 }
 
 bool WholeProgram::waits() {

@@ -30,6 +30,9 @@ public:
     /// The same for a command that must be possible.
     QJsonObject done(const std::string& line);
 
+    /// Opens the pane on a device where it never was, and takes what is new in it away.
+    void openPane();
+
     /// Whether work waits on the main queue.
     [[nodiscard]] static bool waits();
 

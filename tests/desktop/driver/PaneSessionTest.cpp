@@ -1,0 +1,243 @@
+// The pane from its first opening to the end of Settings, as somebody drives it from outside.
+
+#include "Foundation/NSDictionary.h"
+#include "UINavigationControllerPeer.h"
+#include "WholeProgram.h"
+
+#include <gtest/gtest.h>
+
+#include <QJsonArray>
+#include <filesystem>
+
+namespace {
+
+constexpr auto preferences = "/var/mobile/Library/Preferences/com.orvel.corvexprefs.plist";
+constexpr auto bundle = "/var/jb/Library/PreferenceBundles/corvexPrefs.bundle";
+
+class PaneSessionTest : public testing::Test {
+protected:
+    void give(std::initializer_list<const char*> lines) {
+        for (const auto* const line : lines)
+            program.done(line);
+    }
+
+    [[nodiscard]] QJsonValue screen(const char* member) { return program.done("screen").value(member); }
+
+    /// What is presented topmost; an object without members when nothing is.
+    [[nodiscard]] QJsonObject presented() {
+        const auto all = screen("presented").toArray();
+        return all.isEmpty() ? QJsonObject() : all.last().toObject();
+    }
+
+    [[nodiscard]] QJsonArray events(const char* kind) { return program.done(kind).value("events").toArray(); }
+
+    [[nodiscard]] std::string marker() const {
+        const auto kept = dictionaryWithContentsOfFile(preferences).value_or(PropertyList::Dictionary());
+        const auto found = kept.find("LastVersionPopupShown");
+        return found == kept.end() ? "(none)" : found->second.description();
+    }
+
+    [[nodiscard]] QJsonValue valueOf(const QString& rowId) {
+        for (const auto& row : screen("rows").toArray()) {
+            if (row.toObject()["id"] == rowId)
+                return row.toObject()["value"];
+        }
+        ADD_FAILURE() << "there is no row " << rowId.toStdString();
+        return {};
+    }
+
+    void keepMarker(const std::string& version) {
+        program.device().write(preferences,
+                               "<plist version=\"1.0\"><dict><key>LastVersionPopupShown</key><string>" +
+                                   version + "</string></dict></plist>");
+    }
+
+    /// Whether code of the pane is in the program.
+    [[nodiscard]] bool isLoaded() {
+        return program.done("live cxRootListController").value("known").toBool();
+    }
+
+    WholeProgram program;
+};
+
+} // namespace
+
+TEST_F(PaneSessionTest, AFreshDeviceShowsWhatIsNewOnceAndNeverAgain) {
+    EXPECT_EQ(marker(), "(none)");
+    program.done("open");
+    EXPECT_EQ(marker(), "3.0.1") << "as soon as it is presented";
+    program.done("settle");
+    const auto sheet = presented();
+    EXPECT_EQ(sheet["kind"], "sheet");
+    EXPECT_EQ(sheet["class"], "OBWelcomeController");
+    EXPECT_EQ(sheet["title"], "Corvex");
+    EXPECT_EQ(sheet["detail"], "3.0.1");
+    EXPECT_EQ(sheet["style"], "pageSheet");
+    EXPECT_EQ(sheet["symbol"], QJsonValue());
+    EXPECT_EQ(sheet["swipeDismissable"], true);
+    EXPECT_EQ(sheet["actions"], QJsonArray());
+    const auto items = sheet["items"].toArray();
+    ASSERT_EQ(items.size(), 6);
+    for (const auto& item : items)
+        EXPECT_EQ(item.toObject()["symbol"], "checkmark.circle.fill");
+    EXPECT_EQ(items[0]["title"], "New Backup & Restore System");
+    EXPECT_EQ(items[5]["description"], "Corvex now supports Roothide");
+    EXPECT_EQ(program.done("swipe-down").value("dismissed"), true);
+    program.done("settle");
+    EXPECT_EQ(screen("presented"), QJsonArray());
+    give({"relaunch", "settle", "open", "settle"});
+    EXPECT_EQ(screen("presented"), QJsonArray());
+    EXPECT_EQ(events("log"), QJsonArray());
+}
+
+TEST_F(PaneSessionTest, AnotherVersionsMarkerIsReplaced) {
+    for (const auto* const version : {"3.0.0", "3.0.2", "", "3.0.1 "}) {
+        keepMarker(version);
+        give({"relaunch", "open", "settle"});
+        EXPECT_EQ(presented()["title"], "Corvex") << version;
+        EXPECT_EQ(marker(), "3.0.1");
+    }
+    keepMarker("3.0.1");
+    give({"relaunch", "open", "settle"});
+    EXPECT_EQ(screen("presented"), QJsonArray());
+}
+
+TEST_F(PaneSessionTest, WithoutItsIconWhatIsNewHasAGear) {
+    for (const auto* const name : {"/icon.png", "/icon@2x.png", "/icon@3x.png"})
+        ASSERT_TRUE(std::filesystem::remove(program.device().hostPath(std::string(bundle) + name)));
+    give({"open", "settle"});
+    EXPECT_EQ(presented()["symbol"], "gear");
+}
+
+TEST_F(PaneSessionTest, ApplyLeavesAtOnceAndEndsSettingsHalfASecondLater) {
+    program.openPane();
+    give({"tap gear.badge", "settle", "tap Apply"});
+    // The menu closes first; its action runs then.
+    while (screen("app") == "Settings")
+        program.done("advance 0.001");
+    program.done("advance 0.498");
+    EXPECT_TRUE(isLoaded());
+    EXPECT_NE(program.shell().settings(), nullptr);
+    program.done("advance 0.002");
+    EXPECT_FALSE(isLoaded());
+    EXPECT_EQ(program.shell().settings(), nullptr);
+    EXPECT_EQ(screen("app"), "home");
+    EXPECT_EQ(program.done("live UIViewController").value("count").toInt(-1), 0);
+    EXPECT_EQ(marker(), "3.0.1") << "nothing is reset";
+}
+
+TEST_F(PaneSessionTest, TheHomeScreensIconStartsSettingsAfreshWithTheValuesOnDisk) {
+    program.openPane();
+    give({"set kcircleIcons true", "tap gear.badge", "settle", "tap Apply", "settle"});
+    EXPECT_FALSE(isLoaded());
+    program.device().write(preferences, "<plist version=\"1.0\"><dict><key>LastVersionPopupShown</key>"
+                                        "<string>3.0.1</string><key>kEnabled</key><true/></dict></plist>");
+    give({"tap Settings", "settle"});
+    EXPECT_EQ(screen("page"), "SettingsRootPage");
+    give({"tap Corvex", "settle"});
+    EXPECT_EQ(screen("presented"), QJsonArray());
+    const auto master = program.done("views GlintImageSwitch").value("views").toArray().at(0);
+    EXPECT_EQ(master["properties"]["isOn"], true);
+    EXPECT_NE(valueOf("kcircleIcons"), true) << "as it is on disk by now";
+}
+
+TEST_F(PaneSessionTest, ASecondTapOnApplyFindsNothingToTap) {
+    program.openPane();
+    give({"tap gear.badge", "settle", "tap Apply"});
+    EXPECT_EQ(program.ask("tap Apply").value("ok"), false);
+    program.done("settle");
+    EXPECT_EQ(program.shell().settings(), nullptr);
+    give({"tap Settings", "settle", "advance 5"});
+    EXPECT_NE(program.shell().settings(), nullptr) << "it was ended once";
+}
+
+TEST_F(PaneSessionTest, ApplyEndsSettingsWhileThePageStillMoves) {
+    program.openPane();
+    const auto place = program.done("views GlintImageSwitch").value("views").toArray().at(0)["screenFrame"];
+    const auto x = place[0].toDouble() + place[2].toDouble() / 2;
+    const auto y = place[1].toDouble() + place[3].toDouble() / 2;
+    const auto at = " " + std::to_string(x) + " " + std::to_string(y);
+    program.done("touch down" + at);
+    program.done("touch up" + at);
+    program.done("advance 0.02");
+    give({"tap gear.badge", "advance 0.5", "tap Apply", "settle"});
+    EXPECT_EQ(program.shell().settings(), nullptr);
+    EXPECT_FALSE(isLoaded());
+    EXPECT_TRUE(dictionaryWithContentsOfFile(preferences)->at("kEnabled").boolValue());
+}
+
+TEST_F(PaneSessionTest, ResetAsksFirstAndCancelKeepsEverything) {
+    program.openPane();
+    static_cast<void>(events("sounds"));
+    give({"set kcircleIcons true", "tap gear.badge", "settle", "tap \"Reset Settings\"", "settle"});
+    EXPECT_EQ(events("sounds"), QJsonArray{1519});
+    const auto alert = presented();
+    EXPECT_EQ(alert["kind"], "alert");
+    EXPECT_EQ(alert["title"], "Reset CX Settings");
+    EXPECT_EQ(alert["detail"], "Do you want to reset settings?");
+    const auto actions = alert["actions"].toArray();
+    ASSERT_EQ(actions.size(), 2);
+    EXPECT_EQ(actions[0]["title"], "Cancel");
+    EXPECT_EQ(actions[0]["style"], "cancel");
+    EXPECT_EQ(actions[1]["title"], "Confirm");
+    EXPECT_EQ(actions[1]["style"], "destructive");
+    EXPECT_EQ(program.ask("swipe-down").value("ok"), false) << "an alert is no sheet";
+    give({"tap Cancel", "settle", "advance 2"});
+    EXPECT_EQ(screen("presented"), QJsonArray());
+    EXPECT_EQ(screen("app"), "Settings");
+    EXPECT_TRUE(dictionaryWithContentsOfFile(preferences)->at("kcircleIcons").boolValue());
+}
+
+TEST_F(PaneSessionTest, AConfirmedResetWipesTheValuesAndEndsSettings) {
+    program.openPane();
+    give({"set kcircleIcons true", "tap gear.badge", "settle", "tap \"Reset Settings\"", "settle",
+          "tap Confirm", "settle"});
+    const auto log = events("log");
+    ASSERT_EQ(log.size(), 4);
+    EXPECT_TRUE(
+        log[0].toString().startsWith("Error removing file at path "
+                                     "/var/jb/var/mobile/Library/Preferences/com.orvel.corvexprefs.plist: "))
+        << log[0].toString().toStdString();
+    EXPECT_TRUE(log[3].toString().contains("customBackgroundImage-IMG"));
+    EXPECT_EQ(dictionaryWithContentsOfFile(preferences).value_or(PropertyList::Dictionary()),
+              PropertyList::Dictionary());
+    EXPECT_EQ(screen("app"), "home");
+    EXPECT_EQ(program.shell().settings(), nullptr);
+    EXPECT_FALSE(isLoaded());
+    give({"open", "settle"});
+    EXPECT_EQ(presented()["title"], "Corvex") << "what is new is shown again";
+}
+
+TEST_F(PaneSessionTest, ASheetThatComesInIsInTheWayOfTheGear) {
+    give({"open", "advance 0.1"});
+    EXPECT_EQ(program.ask("tap gear.badge").value("ok"), false);
+    program.done("settle");
+    EXPECT_EQ(presented()["kind"], "sheet");
+}
+
+TEST_F(PaneSessionTest, AResetWhileASheetComesInIsNotAskedForASecondTime) {
+    program.done("open");
+    program.done("advance 0.1");
+    const auto page = program.shell().settings()->pages();
+    const auto before = presented().value("class");
+    UINavigationControllerPeer::of(*page).top()->performSelector("resetSettings");
+    const auto log = events("log");
+    ASSERT_EQ(log.size(), 1);
+    EXPECT_TRUE(log[0].toString().startsWith("Attempt to present <UIAlertController: "));
+    program.done("settle");
+    EXPECT_EQ(presented()["class"], before);
+    EXPECT_EQ(marker(), "3.0.1");
+}
+
+TEST_F(PaneSessionTest, WithoutTheServiceSettingsIsOnlyLeft) {
+    const auto service = program.device().hostPath(
+        "/System/Library/PrivateFrameworks/BackBoardServices.framework/BackBoardServices");
+    ASSERT_TRUE(std::filesystem::remove(service));
+    program.openPane();
+    give({"tap gear.badge", "settle", "tap Apply", "settle", "advance 10"});
+    EXPECT_EQ(screen("app"), "home");
+    EXPECT_TRUE(isLoaded());
+    EXPECT_EQ(events("log"), QJsonArray());
+    give({"tap Settings", "settle"});
+    EXPECT_EQ(screen("page"), "cxRootListController") << "it is where it was left";
+}
