@@ -1,7 +1,10 @@
 #include "DeviceWindow.h"
 
+#include "DesktopClipboard.h"
 #include "Device.h"
 #include "Screen.h"
+#include "TextInput.h"
+#include "TextKeys.h"
 #include "TouchDispatcher.h"
 #include "UIScrollViewPeer.h"
 #include "WindowAccessibility.h"
@@ -80,6 +83,7 @@ DeviceWindow::DeviceWindow(Screen& screen, TouchDispatcher& touches, Options opt
     timer_.setTimerType(Qt::PreciseTimer);
     connect(&timer_, &QTimer::timeout, this, &DeviceWindow::refresh);
     qGuiApp->installEventFilter(this);
+    screen_.setClipboard(std::make_unique<DesktopClipboard>());
     followAppearance();
     place();
 }
@@ -108,6 +112,7 @@ void DeviceWindow::refresh() {
     Device::current().mainQueue().runDue();
     options_.showTime();
     picture_ = &compositor_.render();
+    inputMethod_.follow(screen_.firstResponder().input());
     QRegion changed;
     for (const auto& rect : compositor_.lastDamage())
         changed += placement_.toWindow(rect, picture_->size());
@@ -123,6 +128,8 @@ void DeviceWindow::scheduleRefresh() {
         const auto untilDue = std::max(*due - device.clock().uptime(), std::chrono::nanoseconds::zero());
         wait = std::min(wait, std::chrono::ceil<std::chrono::milliseconds>(untilDue));
     }
+    if (const auto untilBlink = screen_.firstResponder().untilBlink())
+        wait = std::min(wait, std::chrono::ceil<std::chrono::milliseconds>(*untilBlink));
     timer_.start(wait);
 }
 
@@ -203,25 +210,62 @@ void DeviceWindow::wheelEvent(QWheelEvent* event) {
 }
 
 void DeviceWindow::keyPressEvent(QKeyEvent* event) {
-    switch (event->key()) {
-    case Qt::Key_Tab:
-    case Qt::Key_Backtab:
-        focus_.move(event->key() == Qt::Key_Tab);
-        focusChanged();
-        break;
-    case Qt::Key_Space:
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        if (const auto element = focus_.element())
-            press(*element);
-        break;
-    case Qt::Key_Escape:
+    const auto element = focus_.element();
+    const auto presses =
+        event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab)
+        moveFocus(event->key() == Qt::Key_Tab);
+    else if (event->key() == Qt::Key_Escape)
         escape();
-        break;
-    default:
+    else if (presses && element && !element->view->isFirstResponder())
+        press(*element);
+    else if (!type(*event))
         event->ignore();
-    }
     wake();
+}
+
+/// A text that the keyboard comes to takes what is typed.
+void DeviceWindow::moveFocus(bool forward) {
+    focus_.move(forward);
+    if (const auto element = focus_.element())
+        element->view->becomeFirstResponder();
+    focusChanged();
+}
+
+bool DeviceWindow::type(const QKeyEvent& event) {
+    auto* const input = screen_.firstResponder().input();
+    return input != nullptr && typeKey(event, *input, screen_.clipboard());
+}
+
+bool DeviceWindow::event(QEvent* event) {
+    if (auto* const composed = dynamic_cast<QInputMethodEvent*>(event))
+        compose(*composed);
+    else if (auto* const query = dynamic_cast<QInputMethodQueryEvent*>(event))
+        answer(*query);
+    else
+        return QRasterWindow::event(event);
+    return true;
+}
+
+void DeviceWindow::compose(QInputMethodEvent& event) {
+    auto* const input = screen_.firstResponder().input();
+    event.setAccepted(input != nullptr);
+    if (input != nullptr)
+        InputMethod::compose(event, *input);
+    wake();
+}
+
+void DeviceWindow::answer(QInputMethodQueryEvent& event) const {
+    constexpr unsigned bits = 32;
+    for (unsigned bit = 0; bit < bits; ++bit) {
+        const auto query = static_cast<Qt::InputMethodQuery>(1U << bit);
+        const auto value = event.queries().testFlag(query)
+                               ? InputMethod::answer(query, screen_.firstResponder().input(), placement_)
+                               : QVariant();
+        if (value.isValid())
+            event.setValue(query, value);
+    }
+    event.accept();
 }
 
 void DeviceWindow::press(const AccessibilityElement& element) {
@@ -236,6 +280,7 @@ void DeviceWindow::press(const AccessibilityElement& element) {
 void DeviceWindow::focusOn(const AccessibilityElement& element) {
     focus_.set(element.view);
     scrollIntoView(*element.view);
+    element.view->becomeFirstResponder();
     focusChanged();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Compositor.h"
+#include "InputMethod.h"
 #include "KeyboardFocus.h"
 #include "ScreenPlacement.h"
 #include "TouchPhase.h"
@@ -10,6 +11,7 @@
 #include <functional>
 #include <optional>
 
+class QInputMethodQueryEvent;
 class Screen;
 class TouchDispatcher;
 
@@ -52,6 +54,7 @@ public:
     [[nodiscard]] QAccessibleInterface* accessibleRoot() const override;
 
 protected:
+    bool event(QEvent* event) override;
     void exposeEvent(QExposeEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -69,6 +72,10 @@ private:
     void refresh();
     void scheduleRefresh();
     void touch(TouchPhase phase, QPointF place);
+    void moveFocus(bool forward);
+    bool type(const QKeyEvent& event);
+    void compose(QInputMethodEvent& event);
+    void answer(QInputMethodQueryEvent& event) const;
     void escape();
     void focusChanged();
     void paintFocus(QPainter& painter) const;
@@ -80,5 +87,6 @@ private:
     const QImage* picture_ = nullptr; ///< the compositor's; null before the first
     ScreenPlacement placement_;
     KeyboardFocus focus_;
+    InputMethod inputMethod_;
     QTimer timer_;
 };

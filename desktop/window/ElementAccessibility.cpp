@@ -87,6 +87,7 @@ QAccessible::State ElementAccessibility::state() const {
     state.focused = parent_.deviceWindow().focusedView() == found->view;
     state.checkable = found->role == AccessibilityRole::Switch;
     state.checked = state.checkable && found->value == "1";
+    state.editable = found->role == AccessibilityRole::TextField;
     state.disabled = isDisabled(*found->view);
     return state;
 }

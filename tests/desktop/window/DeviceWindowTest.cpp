@@ -108,6 +108,14 @@ public:
 
     [[nodiscard]] std::vector<Action> actions() const override { return {}; }
 
+    [[nodiscard]] std::optional<Details> details() const override { return std::nullopt; }
+
+    [[nodiscard]] bool isTransient() const override { return false; }
+
+    [[nodiscard]] bool blackensStatusBar() const override { return false; }
+
+    void keyboardHeightDidChange() override {}
+
     [[nodiscard]] UIView& shownView() const override { return shown_; }
 
     void dismissPresented() override { isDismissed = true; }

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "Clipboard.h"
+
+/// The clipboard that the desktop's programs share. Made by the window; needs a QGuiApplication.
+class DesktopClipboard final : public Clipboard {
+public:
+    // Clipboard:
+    [[nodiscard]] std::string text() const override;
+    void setText(const std::string& text) override;
+};

@@ -1,0 +1,119 @@
+#include "InputMethod.h"
+
+#include "TextInput.h"
+#include "TextWindowFixture.h"
+
+#include <QCoreApplication>
+#include <QInputMethodEvent>
+
+namespace {
+
+class InputMethodTest : public TextWindowFixture {
+protected:
+    InputMethodTest() {
+        field_->setText("one two");
+        field_->becomeFirstResponder();
+    }
+
+    [[nodiscard]] TextInput& input() { return *screen_.firstResponder().input(); }
+
+    void send(const QString& preedit, const QString& commit = {}, int from = 0, int length = 0) {
+        QInputMethodEvent event(preedit, {});
+        event.setCommitString(commit, from, length);
+        QCoreApplication::sendEvent(&window_, &event);
+        EXPECT_TRUE(event.isAccepted());
+    }
+
+    QVariant ask(Qt::InputMethodQuery query) {
+        QInputMethodQueryEvent event(query);
+        QCoreApplication::sendEvent(&window_, &event);
+        return event.value(query);
+    }
+};
+
+TEST_F(InputMethodTest, ShowsWhatIsComposedAndPutsInWhatIsCommitted) {
+    send("k");
+    EXPECT_EQ(field_->text(), "one twok");
+    send("kan");
+    EXPECT_EQ(field_->text(), "one twokan");
+    EXPECT_EQ(input().editedText().composed(), (EditedText::Range{7, 10}));
+    send("", "漢");
+    EXPECT_EQ(field_->text(), "one two漢");
+    EXPECT_TRUE(input().editedText().composed().isEmpty());
+}
+
+TEST_F(InputMethodTest, TakesBackWhatIsComposed) {
+    send("kan");
+    send("");
+    EXPECT_EQ(field_->text(), "one two");
+}
+
+TEST_F(InputMethodTest, CommitsAndGoesOnComposing) {
+    send("ka");
+    send("n", "か");
+    EXPECT_EQ(field_->text(), "one twoかn");
+    EXPECT_EQ(input().editedText().composed(), (EditedText::Range{8, 9}));
+}
+
+TEST_F(InputMethodTest, ReplacesTextAroundTheCaret) {
+    send("", "three", -3, 3);
+    EXPECT_EQ(field_->text(), "one three");
+    send("", "", -6, 6);
+    EXPECT_EQ(field_->text(), "one");
+}
+
+TEST_F(InputMethodTest, TakesThePlaceOfTheSelection) {
+    input().edit([](EditedText& text) { text.selectAll(); });
+    send("x");
+    EXPECT_EQ(field_->text(), "x");
+}
+
+TEST_F(InputMethodTest, LeavesTheSelectionForAnEmptyEvent) {
+    input().edit([](EditedText& text) { text.selectAll(); });
+    send("");
+    EXPECT_EQ(field_->text(), "one two");
+    EXPECT_EQ(input().editedText().selectedText(), "one two");
+}
+
+TEST_F(InputMethodTest, PutsTheCaretWhereItIsInWhatIsComposed) {
+    QInputMethodEvent event("kan", {{QInputMethodEvent::Cursor, 1, 1, {}}});
+    QCoreApplication::sendEvent(&window_, &event);
+    EXPECT_EQ(input().editedText().caret(), 8);
+}
+
+TEST_F(InputMethodTest, AnswersWithoutWhatIsComposed) {
+    EXPECT_EQ(ask(Qt::ImEnabled), true);
+    EXPECT_EQ(ask(Qt::ImSurroundingText), "one two");
+    EXPECT_EQ(ask(Qt::ImCursorPosition), 7);
+    send("kan");
+    EXPECT_EQ(ask(Qt::ImSurroundingText), "one two");
+    EXPECT_EQ(ask(Qt::ImCursorPosition), 7);
+    EXPECT_EQ(ask(Qt::ImAnchorPosition), 7);
+}
+
+TEST_F(InputMethodTest, TellsOfTheSelection) {
+    input().edit([](EditedText& text) { text.selectWordAt(5); });
+    EXPECT_EQ(ask(Qt::ImCurrentSelection), "two");
+    EXPECT_EQ(ask(Qt::ImCursorPosition), 7);
+    EXPECT_EQ(ask(Qt::ImAnchorPosition), 4);
+}
+
+TEST_F(InputMethodTest, TellsWhereTheCaretIsInTheWindow) {
+    const auto caret = ask(Qt::ImCursorRectangle).toRectF();
+    const auto field = window_.placement().toWindow(CGRectMake(20, 300, 200, 40));
+    EXPECT_TRUE(field.contains(caret));
+    input().edit([](EditedText& text) { text.placeCaret(0); });
+    EXPECT_LT(ask(Qt::ImCursorRectangle).toRectF().left(), caret.left());
+}
+
+TEST_F(InputMethodTest, TellsWhenNobodyTakesText) {
+    field_->resignFirstResponder();
+    EXPECT_EQ(ask(Qt::ImEnabled), false);
+    EXPECT_FALSE(ask(Qt::ImSurroundingText).isValid());
+    QInputMethodEvent event("k", {});
+    QCoreApplication::sendEvent(&window_, &event);
+    EXPECT_FALSE(event.isAccepted());
+    EXPECT_EQ(field_->text(), "one two");
+}
+
+} // namespace
