@@ -3,7 +3,7 @@
 #include "ObjectiveC/Class.h"
 #include "UITapGestureRecognizer.h"
 #include "UIViewPeer.h"
-#include "WelcomeLabel.h"
+#include "WrappedLabel.h"
 
 #include <algorithm>
 #include <cmath>
@@ -25,14 +25,14 @@ constexpr FontStyle descriptionStyle{.size = 15};
 OBBulletedListItem::OBBulletedListItem(const Content& content)
     : content_(content),
       image_(make<UIImageView>()),
-      title_(welcomeLabel(content.title, titleStyle, SystemColor::Label)) {
+      title_(wrappedLabel(content.title, titleStyle, SystemColor::Label)) {
     image_->setImage(content.image);
     image_->setContentMode(UIViewContentMode::ScaleAspectFit);
     addSubview(image_);
     addSubview(title_);
     if (content.description.empty())
         return;
-    description_ = welcomeLabel(content.description, descriptionStyle, SystemColor::SecondaryLabel);
+    description_ = wrappedLabel(content.description, descriptionStyle, SystemColor::SecondaryLabel);
     addSubview(description_);
 }
 

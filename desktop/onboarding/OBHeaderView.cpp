@@ -3,7 +3,7 @@
 #include "DesktopImage.h"
 #include "ObjectiveC/Class.h"
 #include "UILabelPeer.h"
-#include "WelcomeLabel.h"
+#include "WrappedLabel.h"
 
 #include <algorithm>
 #include <cmath>
@@ -34,15 +34,13 @@ double shownHeightOf(const UIImage& image) {
 
 OBHeaderView::OBHeaderView()
     : image_(make<UIImageView>()),
-      title_(welcomeLabel({}, titleStyle, SystemColor::Label)),
-      detail_(welcomeLabel({}, detailStyle, SystemColor::SecondaryLabel)) {
+      title_(wrappedLabel({}, titleStyle, SystemColor::Label, NSTextAlignment::Center)),
+      detail_(wrappedLabel({}, detailStyle, SystemColor::SecondaryLabel, NSTextAlignment::Center)) {
     UILabelPeer::of(*title_).setNumberOfLines(titleLines);
     image_->setContentMode(UIViewContentMode::ScaleAspectFit);
     addSubview(image_);
-    for (const auto& label : {title_, detail_}) {
-        label->setTextAlignment(NSTextAlignment::Center);
-        addSubview(label);
-    }
+    addSubview(title_);
+    addSubview(detail_);
 }
 
 void OBHeaderView::setContent(const Content& content) {

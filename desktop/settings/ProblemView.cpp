@@ -1,10 +1,10 @@
 #include "ProblemView.h"
 
 #include "DesktopColor.h"
-#include "DesktopFont.h"
 #include "DesktopImage.h"
 #include "ObjectiveC/Class.h"
-#include "UILabelPeer.h"
+#include "UIViewPeer.h"
+#include "WrappedLabel.h"
 
 #include <algorithm>
 #include <array>
@@ -15,29 +15,23 @@ const Class classObject = Class::define<ProblemView, UIView>("ProblemView");
 
 constexpr auto signName = "exclamationmark.triangle";
 constexpr double signSize = 44;
-constexpr double titleSize = 22;
-constexpr double reasonSize = 15;
+constexpr FontStyle titleStyle{.size = 22, .weight = FontWeight::Bold};
+constexpr FontStyle reasonStyle{.size = 15};
 constexpr double margin = 32;
 constexpr double widestText = 420;
 constexpr double gapBelowSign = 16;
 constexpr double gapBelowTitle = 8;
 
-Ref<UILabel> makeLabel(const std::string& text, double size, FontWeight weight, SystemColor color) {
-    auto label = make<UILabel>();
-    label->setText(text);
-    label->setFont(DesktopFont::font(size, weight));
-    label->setTextColor(DesktopColor::system(color));
-    label->setTextAlignment(NSTextAlignment::Center);
-    UILabelPeer::of(*label).setNumberOfLines(0);
-    return label;
+Ref<UILabel> centredLabel(const std::string& text, const FontStyle& style, SystemColor color) {
+    return wrappedLabel(text, style, color, NSTextAlignment::Center);
 }
 
 } // namespace
 
 ProblemView::ProblemView(const std::string& title, const std::string& reason)
     : sign_(make<UIImageView>()),
-      title_(makeLabel(title, titleSize, FontWeight::Bold, SystemColor::Label)),
-      reason_(makeLabel(reason, reasonSize, FontWeight::Regular, SystemColor::SecondaryLabel)) {
+      title_(centredLabel(title, titleStyle, SystemColor::Label)),
+      reason_(centredLabel(reason, reasonStyle, SystemColor::SecondaryLabel)) {
     setBackgroundColor(DesktopColor::system(SystemColor::GroupedBackground));
     sign_->setImage(DesktopImage::symbol(signName, signSize));
     sign_->peer().setTintColor(DesktopColor::system(SystemColor::Gray));

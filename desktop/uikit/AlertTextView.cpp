@@ -1,9 +1,8 @@
 #include "AlertTextView.h"
 
-#include "DesktopFont.h"
 #include "ObjectiveC/Class.h"
-#include "UILabelPeer.h"
 #include "UIScrollViewPeer.h"
+#include "WrappedLabel.h"
 
 namespace {
 
@@ -12,31 +11,27 @@ const Class classObject = Class::define<AlertTextView, UIScrollView>("AlertTextV
 constexpr double sideMargin = 16;
 constexpr double edgeMargin = 20; ///< above and below
 constexpr double gap = 3;
-constexpr double titleSize = 17;
-constexpr double messageSize = 13;
+constexpr FontStyle titleStyle{.size = 17, .weight = FontWeight::Semibold};
+constexpr FontStyle messageStyle{.size = 13};
 
-Ref<UILabel> makeLabel(const std::string& text, double size, FontWeight weight) {
-    auto label = make<UILabel>();
-    label->setText(text);
-    label->setFont(DesktopFont::font(size, weight));
-    label->setTextAlignment(NSTextAlignment::Center);
-    UILabelPeer::of(*label).setNumberOfLines(0);
-    return label;
+Ref<UILabel> centredLabel(const std::string& text, const FontStyle& style) {
+    return wrappedLabel(text, style, SystemColor::Label, NSTextAlignment::Center);
 }
 
-double heightOf(const Ref<UILabel>& label, double width) {
-    return label ? label->peer().sizeThatFits({width - 2 * sideMargin, 0}).height : 0;
+/// In an alert as wide as that; 0 without a label.
+double heightIn(double width, const Ref<UILabel>& label) {
+    return label ? heightOf(*label, width - 2 * sideMargin) : 0;
 }
 
 } // namespace
 
 AlertTextView::AlertTextView(const std::string& title, const std::optional<std::string>& message) {
     if (!title.empty()) {
-        title_ = makeLabel(title, titleSize, FontWeight::Semibold);
+        title_ = centredLabel(title, titleStyle);
         addSubview(title_);
     }
     if (message && !message->empty()) {
-        message_ = makeLabel(*message, messageSize, FontWeight::Regular);
+        message_ = centredLabel(*message, messageStyle);
         addSubview(message_);
     }
 }
@@ -45,7 +40,7 @@ double AlertTextView::fullHeight(double width) const {
     if (!title_ && !message_)
         return 0;
     const auto between = title_ && message_ ? gap : 0;
-    return 2 * edgeMargin + heightOf(title_, width) + between + heightOf(message_, width);
+    return 2 * edgeMargin + heightIn(width, title_) + between + heightIn(width, message_);
 }
 
 void AlertTextView::layoutSubviews() {
@@ -55,7 +50,7 @@ void AlertTextView::layoutSubviews() {
     for (const auto& label : {title_, message_}) {
         if (!label)
             continue;
-        const auto height = heightOf(label, width);
+        const auto height = heightIn(width, label);
         label->setFrame(CGRectMake(sideMargin, top, width - 2 * sideMargin, height));
         top += height + gap;
     }

@@ -1,17 +1,17 @@
-#include "WelcomeLabel.h"
+#include "WrappedLabel.h"
 
 #include "DesktopColor.h"
 #include "UILabelPeer.h"
 
-#include <string>
-
-Ref<UILabel> welcomeLabel(std::string_view text, const FontStyle& style, SystemColor color) {
+Ref<UILabel> wrappedLabel(const std::string& text, const FontStyle& style, SystemColor color,
+                          NSTextAlignment alignment) {
     auto label = make<UILabel>();
     auto& peer = UILabelPeer::of(*label);
-    peer.setText(std::string(text));
+    peer.setText(text);
     peer.setFontStyle(style);
     peer.setTextColor(DesktopColor::system(color));
     peer.setNumberOfLines(0);
+    label->setTextAlignment(alignment);
     return label;
 }
 
