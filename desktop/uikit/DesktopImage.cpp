@@ -1,6 +1,7 @@
 #include "DesktopImage.h"
 
 #include "Foundation/NSData.h"
+#include "Foundation/NSFileManager.h"
 #include "ObjectiveC/Class.h"
 #include "Screen.h"
 #include "SymbolLibrary.h"
@@ -160,8 +161,7 @@ Ref<UIImage> UIImage::systemImageNamed(std::string_view name) {
 }
 
 Ref<UIImage> UIImage::imageWithContentsOfFile(std::string_view path) {
-    const auto picture = pictureInFile(path);
-    if (!picture || namesScale(path))
-        return picture;
+    if (namesScale(path) || !NSFileManager::defaultManager().fileExistsAtPath(path))
+        return pictureInFile(path);
     return DesktopImage::named(path, Screen::current().traits().displayScale);
 }

@@ -58,6 +58,7 @@ TEST(DesktopImage, HasThePixelsPerPointThatItsFileNameTells) {
 
 TEST(DesktopImage, IsNothingWithoutAFileThatCanBeRead) {
     const TestDevice device;
+    const Screen screen{{}};
     device.write("/text.png", "no picture");
     device.write("/cut.png", png(50, 50).substr(0, 40));
     device.write("/empty.png", "");
