@@ -44,18 +44,16 @@ std::string_view styleName(const Presented::Action& action) {
     return action.destructive ? "destructive" : "default";
 }
 
-QJsonObject actionReport(const Presented::Action& action) {
-    return {
-        {"title", jsonOfText(action.title)},
-        {"symbol", action.symbol.empty() ? QJsonValue() : jsonOfText(action.symbol)},
-        {"style", jsonOfText(styleName(action))},
-        {"enabled", !action.disabled},
-        {"screenFrame", jsonOf(action.frame)},
-    };
-}
-
 QJsonValue jsonOrNull(const std::string& text) {
     return text.empty() ? QJsonValue() : jsonOfText(text);
+}
+
+QJsonObject actionReport(const Presented::Action& action) {
+    return {
+        {"title", jsonOfText(action.title)},      {"symbol", jsonOrNull(action.symbol)},
+        {"style", jsonOfText(styleName(action))}, {"enabled", !action.disabled},
+        {"screenFrame", jsonOf(action.frame)},
+    };
 }
 
 QJsonArray itemReports(const std::vector<Presented::Item>& items, const UIView& shown) {
