@@ -1,6 +1,6 @@
 #include "DesktopBarButtonItem.h"
 #include "DriverFixture.h"
-#include "Presented.h"
+#include "PresentedStandIn.h"
 #include "UIKit/UIAlertController.h"
 #include "UIKit/UINavigationController.h"
 #include "UIScrollViewPeer.h"
@@ -85,37 +85,10 @@ TEST_F(TouchCommandsTest, TapScrollsTheElementIntoView) {
     EXPECT_LE(place[1].toDouble() + 44, 700);
 }
 
-/// Something above the application, with what is put into it.
-class Cover final : public UIView, public Presented {
-public:
-    [[nodiscard]] std::string_view kind() const override { return "menu"; }
-
-    [[nodiscard]] std::string title() const override { return "Cover"; }
-
-    [[nodiscard]] std::vector<Action> actions() const override {
-        return {{.title = "Reset", .symbol = "gear", .destructive = true, .disabled = false, .frame = upper}};
-    }
-
-    [[nodiscard]] std::optional<Details> details() const override { return std::nullopt; }
-
-    [[nodiscard]] bool isTransient() const override { return false; }
-
-    [[nodiscard]] bool blackensStatusBar() const override { return false; }
-
-    void keyboardHeightDidChange() override {}
-
-    [[nodiscard]] UIView& shownView() const override { return shown_; }
-
-    void dismissPresented() override {}
-
-private:
-    UIView& shown_ = *this;
-};
-
 TEST_F(TouchCommandsTest, TapLooksInWhatIsPresentedOnly) {
     auto below = 0;
     const auto button = addButton(upper, "Apply", below);
-    const auto cover = make<Cover>();
+    const auto cover = make<PresentedStandIn>();
     cover->setFrame(window_->bounds());
     window_->addSubview(cover);
     screen_.presentations().add(*cover, *cover);
@@ -129,13 +102,15 @@ TEST_F(TouchCommandsTest, TapLooksInWhatIsPresentedOnly) {
 }
 
 TEST_F(TouchCommandsTest, ScreenAndBackKnowWhatIsPresented) {
-    const auto cover = make<Cover>();
+    const auto cover = make<PresentedStandIn>();
+    cover->shownActions = {
+        {.title = "Reset", .symbol = "gear", .destructive = true, .disabled = false, .frame = upper}};
     window_->addSubview(cover);
     screen_.presentations().add(*cover, *cover);
     const auto presented = ask("screen").value("presented").toArray();
     ASSERT_EQ(presented.size(), 1);
     EXPECT_EQ(presented[0]["kind"].toString(), "menu");
-    EXPECT_EQ(presented[0]["title"].toString(), "Cover");
+    EXPECT_EQ(presented[0]["title"].toString(), "Stand-in");
     const auto action = presented[0]["actions"].toArray().at(0).toObject();
     EXPECT_EQ(action.value("title").toString(), "Reset");
     EXPECT_EQ(action.value("style").toString(), "destructive");

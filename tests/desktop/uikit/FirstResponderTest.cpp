@@ -1,4 +1,4 @@
-#include "Presented.h"
+#include "PresentedStandIn.h"
 #include "TextFieldFixture.h"
 
 #include <optional>
@@ -59,33 +59,8 @@ TEST_F(FirstResponderTest, IsNoMoreWithWhatItIsIn) {
     EXPECT_EQ(responder_.input(), nullptr);
 }
 
-/// A view that is presented with what is in it.
-class Sheet final : public UIView, public Presented {
-public:
-    [[nodiscard]] std::string_view kind() const override { return "sheet"; }
-
-    [[nodiscard]] std::string title() const override { return {}; }
-
-    [[nodiscard]] std::vector<Action> actions() const override { return {}; }
-
-    [[nodiscard]] std::optional<Details> details() const override { return std::nullopt; }
-
-    [[nodiscard]] bool isTransient() const override { return false; }
-
-    [[nodiscard]] bool blackensStatusBar() const override { return false; }
-
-    [[nodiscard]] UIView& shownView() const override { return *self_; }
-
-    void dismissPresented() override {}
-
-    void keyboardHeightDidChange() override {}
-
-private:
-    UIView* const self_ = this;
-};
-
 TEST_F(FirstResponderTest, IsNoMoreWhenWhatIsPresentedWithItIsOnItsWayOut) {
-    const auto sheet = make<Sheet>();
+    const auto sheet = make<PresentedStandIn>();
     window->addSubview(sheet);
     const auto other = addField();
     sheet->addSubview(other);

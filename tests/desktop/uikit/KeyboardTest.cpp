@@ -1,6 +1,6 @@
 #include "Keyboard.h"
 
-#include "Presented.h"
+#include "PresentedStandIn.h"
 #include "TextFieldFixture.h"
 
 #include <algorithm>
@@ -10,33 +10,6 @@
 namespace {
 
 using std::chrono::milliseconds;
-
-/// Notes the heights that it is told of.
-class Listener final : public UIView, public Presented {
-public:
-    [[nodiscard]] std::string_view kind() const override { return "sheet"; }
-
-    [[nodiscard]] std::string title() const override { return {}; }
-
-    [[nodiscard]] std::vector<Action> actions() const override { return {}; }
-
-    [[nodiscard]] std::optional<Details> details() const override { return std::nullopt; }
-
-    [[nodiscard]] bool isTransient() const override { return false; }
-
-    [[nodiscard]] bool blackensStatusBar() const override { return false; }
-
-    [[nodiscard]] UIView& shownView() const override { return *self_; }
-
-    void dismissPresented() override {}
-
-    void keyboardHeightDidChange() override { heights.push_back(Screen::current().keyboardHeight()); }
-
-    std::vector<double> heights;
-
-private:
-    UIView* const self_ = this;
-};
 
 class KeyboardTest : public TextFieldFixture {
 protected:
@@ -97,7 +70,7 @@ TEST_F(KeyboardTest, IsGoneWhenItHasSlidDown) {
 }
 
 TEST_F(KeyboardTest, StaysWhenAnotherTextTakesIt) {
-    const auto listener = make<Listener>();
+    const auto listener = make<PresentedStandIn>();
     screen.presentations().add(*listener, *listener);
     const auto other = addField();
     show();
@@ -107,10 +80,10 @@ TEST_F(KeyboardTest, StaysWhenAnotherTextTakesIt) {
     field->resignFirstResponder();
     other->becomeFirstResponder();
     settle();
-    EXPECT_EQ(listener->heights, std::vector<double>{336});
+    EXPECT_EQ(listener->keyboardHeights, std::vector<double>{336});
     other->resignFirstResponder();
     settle();
-    EXPECT_EQ(listener->heights, (std::vector<double>{336, 0}));
+    EXPECT_EQ(listener->keyboardHeights, (std::vector<double>{336, 0}));
 }
 
 TEST_F(KeyboardTest, IsInFrontOfTheApplication) {

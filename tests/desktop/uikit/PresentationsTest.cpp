@@ -1,9 +1,7 @@
 #include "Presentations.h"
 
-#include "ObjectiveC/NSObject.h"
-#include "Screen.h"
+#include "PresentedStandIn.h"
 #include "TestDevice.h"
-#include "UIKit/UIView.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -11,34 +9,6 @@
 namespace {
 
 using testing::ElementsAre;
-
-class Sheet final : public NSObject, public Presented {
-public:
-    // Presented:
-    [[nodiscard]] std::string_view kind() const override { return "sheet"; }
-
-    [[nodiscard]] std::string title() const override { return "Sheet"; }
-
-    [[nodiscard]] std::vector<Action> actions() const override { return {}; }
-
-    [[nodiscard]] std::optional<Details> details() const override { return std::nullopt; }
-
-    [[nodiscard]] bool blackensStatusBar() const override { return false; }
-
-    void keyboardHeightDidChange() override {}
-
-    [[nodiscard]] UIView& shownView() const override { return *view_; }
-
-    [[nodiscard]] bool isTransient() const override { return transient; }
-
-    void dismissPresented() override { ++dismissals; }
-
-    bool transient = false;
-    int dismissals = 0;
-
-private:
-    Ref<UIView> view_ = make<UIView>();
-};
 
 class PresentationsTest : public testing::Test {
 protected:
@@ -51,8 +21,8 @@ protected:
 
 TEST_F(PresentationsTest, listsWhatIsPresentedTheTopmostLast) {
     EXPECT_EQ(presentations.top(), nullptr);
-    const auto lower = make<Sheet>();
-    const auto upper = make<Sheet>();
+    const auto lower = make<PresentedStandIn>();
+    const auto upper = make<PresentedStandIn>();
     presentations.add(*lower, *lower);
     presentations.add(*upper, *upper);
     EXPECT_THAT(presentations.all(), ElementsAre(lower.get(), upper.get()));
@@ -60,8 +30,8 @@ TEST_F(PresentationsTest, listsWhatIsPresentedTheTopmostLast) {
 }
 
 TEST_F(PresentationsTest, forgetsWhatIsTakenAwayOnce) {
-    const auto lower = make<Sheet>();
-    const auto upper = make<Sheet>();
+    const auto lower = make<PresentedStandIn>();
+    const auto upper = make<PresentedStandIn>();
     presentations.add(*lower, *lower);
     presentations.add(*upper, *upper);
     presentations.remove(*lower);
@@ -71,7 +41,7 @@ TEST_F(PresentationsTest, forgetsWhatIsTakenAwayOnce) {
 
 TEST_F(PresentationsTest, forgetsWhatIsGone) {
     {
-        const auto sheet = make<Sheet>();
+        const auto sheet = make<PresentedStandIn>();
         presentations.add(*sheet, *sheet);
     }
     EXPECT_EQ(presentations.top(), nullptr);
@@ -79,8 +49,8 @@ TEST_F(PresentationsTest, forgetsWhatIsGone) {
 }
 
 TEST_F(PresentationsTest, dismissesOnlyWhatGoesWithTheApplicationsLeaving) {
-    const auto sheet = make<Sheet>();
-    const auto menu = make<Sheet>();
+    const auto sheet = make<PresentedStandIn>();
+    const auto menu = make<PresentedStandIn>();
     menu->transient = true;
     presentations.add(*sheet, *sheet);
     presentations.add(*menu, *menu);

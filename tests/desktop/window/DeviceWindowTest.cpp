@@ -1,4 +1,4 @@
-#include "Presented.h"
+#include "PresentedStandIn.h"
 #include "UIScrollViewPeer.h"
 #include "WindowFixture.h"
 
@@ -99,43 +99,16 @@ TEST_F(DeviceWindowTest, GoesBackWithEscape) {
     EXPECT_EQ(timesBack_, 1);
 }
 
-/// Something above the application, with one view in it.
-class Cover final : public UIView, public Presented {
-public:
-    [[nodiscard]] std::string_view kind() const override { return "menu"; }
-
-    [[nodiscard]] std::string title() const override { return {}; }
-
-    [[nodiscard]] std::vector<Action> actions() const override { return {}; }
-
-    [[nodiscard]] std::optional<Details> details() const override { return std::nullopt; }
-
-    [[nodiscard]] bool isTransient() const override { return false; }
-
-    [[nodiscard]] bool blackensStatusBar() const override { return false; }
-
-    void keyboardHeightDidChange() override {}
-
-    [[nodiscard]] UIView& shownView() const override { return shown_; }
-
-    void dismissPresented() override { isDismissed = true; }
-
-    bool isDismissed = false;
-
-private:
-    UIView& shown_ = *this;
-};
-
 TEST_F(DeviceWindowTest, ClosesWhatIsPresentedWithEscape) {
-    const auto cover = make<Cover>();
+    const auto cover = make<PresentedStandIn>();
     screen_.presentations().add(*cover, *cover);
     press(Qt::Key_Escape);
-    EXPECT_TRUE(cover->isDismissed);
+    EXPECT_EQ(cover->dismissals, 1);
     EXPECT_EQ(timesBack_, 0);
 }
 
 TEST_F(DeviceWindowTest, KeepsTheKeyboardWithinWhatIsPresented) {
-    const auto cover = make<Cover>();
+    const auto cover = make<PresentedStandIn>();
     screen_.presentations().add(*cover, *cover);
     press(Qt::Key_Tab);
     EXPECT_FALSE(window_.focusedView());
