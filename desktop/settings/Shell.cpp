@@ -128,6 +128,7 @@ void Shell::terminateSettings() {
     endSettings();
     // All that still waits is the application's, and may be of the code that goes now.
     Device::current().mainQueue().forgetAll();
+    Screen::current().applicationHasEnded();
     loader_.unloadBundles();
     bars_.setBehind(SystemBars::Behind::Wallpaper, false);
 }

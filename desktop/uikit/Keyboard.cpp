@@ -34,6 +34,14 @@ void Keyboard::setShown(bool shown) {
     AnimationGroup::run(course, [this] { slide(); }, hidden);
 }
 
+void Keyboard::hideAtOnce() {
+    isShown_ = false;
+    if (!window_)
+        return;
+    AnimationGroup::runWithoutAnimation([this] { slide(); });
+    window_->peer().setHidden(true);
+}
+
 void Keyboard::makeWindow() {
     auto& screen = Screen::current();
     const auto height = KeyboardLayout::height(screen.traits().idiom);

@@ -10,6 +10,9 @@ public:
     /// Slides in or out from where it is, and with it goes what must not be covered.
     void setShown(bool shown);
 
+    /// It is gone at once, for when an application ends and with it what follows a slide.
+    void hideAtOnce();
+
     [[nodiscard]] bool isShown() const { return isShown_; }
 
     /// Empty before it is first shown.

@@ -139,6 +139,12 @@ void Screen::scheduleLayout() {
     });
 }
 
+void Screen::applicationHasEnded() {
+    if (std::exchange(layoutIsScheduled_, false))
+        scheduleLayout();
+    keyboard_->hideAtOnce();
+}
+
 UIView* Screen::hitTest(CGPoint point) const {
     for (auto index = windows_.size(); index-- > 0;) {
         const auto& window = *windows_[index];

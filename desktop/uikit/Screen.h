@@ -77,6 +77,10 @@ public:
     /// Has `layoutIfNeeded` called by the main queue.
     void scheduleLayout();
 
+    /// For the end of an application, after which the main queue has forgotten all that waited: has the
+    /// layout that is still needed queued anew, and takes the keyboard away.
+    void applicationHasEnded();
+
     /// The frontmost view there that takes touches; null when none does.
     [[nodiscard]] UIView* hitTest(CGPoint point) const;
 

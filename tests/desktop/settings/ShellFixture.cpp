@@ -1,0 +1,55 @@
+#include "ShellFixture.h"
+
+#include "EntryList.h"
+#include "UINavigationControllerPeer.h"
+#include "UIViewPeer.h"
+
+void ShellFixture::SetUp() {
+    install("Good", "standInPage", builtCode("StandInPage"));
+    writeEntry("good", "Good");
+    writeEntry("missing", "Missing");
+    start(Idiom::Phone);
+}
+
+void ShellFixture::start(Idiom idiom) {
+    shell.reset();
+    screen.reset();
+    screen.emplace(Screen::Options{.idiom = idiom});
+    shell.emplace();
+    screen->layoutIfNeeded();
+}
+
+void ShellFixture::writeEntry(const std::string& name, const std::string& bundle) const {
+    device.write(std::string(EntryList::folder) + "/" + name + ".plist",
+                 "<plist version=\"1.0\"><dict><key>entry</key><dict><key>bundle</key><string>" + bundle +
+                     "</string></dict></dict></plist>");
+}
+
+void ShellFixture::openPane(const std::string& name) {
+    ASSERT_TRUE(shell->openEntry(name));
+    settle();
+}
+
+void ShellFixture::settle() {
+    EXPECT_TRUE(Device::current().mainQueue().settle(device.clock(), std::chrono::seconds(10)));
+}
+
+void ShellFixture::advance(std::chrono::milliseconds time) {
+    Device::current().mainQueue().advance(device.clock(), time);
+}
+
+ShellFixture::Titles ShellFixture::titles() const {
+    Titles all;
+    for (const auto& page : UINavigationControllerPeer::of(*shell->settings()->pages()).stack())
+        all.push_back(page->peer().title());
+    return all;
+}
+
+Ref<UIViewController> ShellFixture::topPage() const {
+    return UINavigationControllerPeer::of(*shell->settings()->pages()).top();
+}
+
+CGRect ShellFixture::frameOfSettings() const {
+    const auto& view = shell->settings()->rootViewController()->view();
+    return view.peer().convertToScreen(view.bounds());
+}
