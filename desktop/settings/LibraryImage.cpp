@@ -8,7 +8,7 @@
 #include <utility>
 
 /// The header of the running program, as it was linked.
-extern "C" const Elf64_Ehdr __ehdr_start; // NOLINT(*-reserved-identifier,cert-dcl*): the linker's name
+extern "C" const Elf64_Ehdr __ehdr_start; // NOLINT(*-reserved-identifier): the linker's name
 
 namespace {
 
