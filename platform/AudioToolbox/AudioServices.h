@@ -3,4 +3,4 @@
 #include <cstdint>
 
 /// Plays one of the system's short sounds or taps of the finger, by number. Returns at once.
-void AudioServicesPlaySystemSound(std::uint32_t sound);
+extern "C" void AudioServicesPlaySystemSound(std::uint32_t sound);
