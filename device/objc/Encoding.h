@@ -1,0 +1,66 @@
+#pragma once
+
+#include "CoreGraphics/CGGeometry.h"
+#include "Runtime.h"
+
+#include <string>
+#include <string_view>
+
+/// How Objective-C writes a type down. Specialised for each type that crosses the border.
+template <class Raw>
+inline constexpr std::string_view encodingOf = {};
+
+template <>
+inline constexpr std::string_view encodingOf<void> = "v";
+template <>
+inline constexpr std::string_view encodingOf<bool> = "B";
+template <>
+inline constexpr std::string_view encodingOf<unsigned char> = "C"; // GNU's BOOL
+template <>
+inline constexpr std::string_view encodingOf<std::uint32_t> = "I";
+template <>
+inline constexpr std::string_view encodingOf<std::int64_t> = "q";
+template <>
+inline constexpr std::string_view encodingOf<std::uint64_t> = "Q";
+template <>
+inline constexpr std::string_view encodingOf<float> = "f";
+template <>
+inline constexpr std::string_view encodingOf<double> = "d";
+template <>
+inline constexpr std::string_view encodingOf<id> = "@";
+template <>
+inline constexpr std::string_view encodingOf<objc_class*> = "#";
+template <>
+inline constexpr std::string_view encodingOf<SEL> = ":";
+template <>
+inline constexpr std::string_view encodingOf<const char*> = "r*";
+template <>
+inline constexpr std::string_view encodingOf<void*> = "^v";
+template <>
+inline constexpr std::string_view encodingOf<const void*> = "r^v";
+template <>
+inline constexpr std::string_view encodingOf<id*> = "^@";
+template <>
+inline constexpr std::string_view encodingOf<CGPoint> = "{CGPoint=dd}";
+template <>
+inline constexpr std::string_view encodingOf<CGSize> = "{CGSize=dd}";
+template <>
+inline constexpr std::string_view encodingOf<CGRect> = "{CGRect={CGPoint=dd}{CGSize=dd}}";
+
+/// A block, as it is passed to the frameworks.
+struct BlockObject;
+using BlockRef = const BlockObject*;
+
+template <>
+inline constexpr std::string_view encodingOf<BlockRef> = "@?";
+
+/// The types of a whole method: its result, the two that every method has, and its parameters.
+template <class RawResult, class... RawParameters>
+[[nodiscard]] std::string methodEncoding() {
+    static_assert(!encodingOf<RawResult>.empty() && (!encodingOf<RawParameters>.empty() && ...),
+                  "a type of the method has no encoding");
+    std::string types(encodingOf<RawResult>);
+    types += "@:";
+    (types.append(encodingOf<RawParameters>), ...);
+    return types;
+}

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "ObjectiveC/NSObject.h"
+#include "Runtime.h"
+
+/// Objective-C objects and the C++ objects that are their other halves. Either may come first: an object that
+/// C++ makes gets its Objective-C half when that is first needed, and an Objective-C object gets a C++ one,
+/// of the nearest class that the class table knows, when C++ first sees it. Then they stay together until
+/// `dealloc`. Any thread.
+
+/// The Objective-C half. Not before the object's constructors have run: its class follows from its type.
+[[nodiscard]] id objectOf(const NSObject& object);
+
+/// The same for one that may be missing.
+[[nodiscard]] inline id objectOf(const NSObject* object) {
+    return object != nullptr ? objectOf(*object) : nullptr;
+}
+
+/// The C++ half. Null for null, and while an object's end goes on.
+[[nodiscard]] NSObject* instanceOf(id object);
+
+/// The C++ half as a `T`, with one more owner; empty when it is none.
+template <class T>
+[[nodiscard]] Ref<T> instanceAs(id object) {
+    return retain(dynamic_cast<T*>(instanceOf(object)));
+}
+
+/// The same for an object that C++ takes over with one ownership, such as the result of an initialiser.
+template <class T>
+[[nodiscard]] Ref<T> adoptInstance(id object) {
+    auto instance = instanceAs<T>(object);
+    objc_release(object);
+    return instance;
+}
+
+/// The object to associate what is attached to a C++ object with. It still has it while the C++ object ends.
+[[nodiscard]] id keeperOfAttachedValues(const NSObject& object);
+
+/// From now on objects of that class are ours: the place for its C++ half is in the object.
+void markPublished(objc_class* published);
+
+/// The nearest class of the object that the frameworks define, when its own is published by us; null when its
+/// own class is the frameworks' already.
+[[nodiscard]] objc_class* frameworkClassBehind(id object);
+
+/// Ends the C++ half. For the `dealloc` of published classes.
+void endInstance(id object);
+
+/// The name of the instance variable that refers to the C++ half.
+inline constexpr auto instanceVariableName = "_corvexInstance";

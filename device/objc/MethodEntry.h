@@ -1,0 +1,15 @@
+#pragma once
+
+#include "ObjectiveC/Method.h"
+#include "Runtime.h"
+
+#include <string>
+
+/// The methods of the class table as Objective-C methods.
+
+/// The function that Objective-C calls for methods of that result and those parameters; null when there are
+/// more than two parameters. It finds the method by the receiver and the selector that it is called with.
+[[nodiscard]] IMP methodEntry(const Method& method);
+
+/// How Objective-C writes the method's types down.
+[[nodiscard]] std::string encodingOfMethod(const Method& method);
