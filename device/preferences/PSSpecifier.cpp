@@ -1,0 +1,22 @@
+#include "Preferences/PSSpecifier.h"
+
+#include "FrameworkClass.h"
+
+namespace {
+
+class SystemSpecifier final : public PSSpecifier {
+public:
+    [[nodiscard]] std::optional<PropertyList> propertyForKey(std::string_view key) const override {
+        const AutoreleasePool pool;
+        return send<"-[PSSpecifier propertyForKey:]", std::optional<PropertyList>>(*this, key);
+    }
+
+    void setProperty(const PropertyList& value, std::string_view key) override {
+        const AutoreleasePool pool;
+        send<"-[PSSpecifier setProperty:forKey:]", void>(*this, value, key);
+    }
+};
+
+const FrameworkClassOf<SystemSpecifier> frameworkClass("PSSpecifier");
+
+} // namespace

@@ -1,0 +1,30 @@
+#include "UIKit/UIImage.h"
+
+#include "FrameworkClass.h"
+
+namespace {
+
+class SystemImage final : public UIImage {
+public:
+    [[nodiscard]] Ref<UIImage> imageWithRenderingMode(UIImageRenderingMode mode) const override {
+        return send<"-[UIImage imageWithRenderingMode:]", Ref<UIImage>>(*this, mode);
+    }
+
+    [[nodiscard]] UIImageRenderingMode renderingMode() const override {
+        return send<"-[UIImage renderingMode]", UIImageRenderingMode>(*this);
+    }
+
+    [[nodiscard]] CGSize size() const override { return send<"-[UIImage size]", CGSize>(*this); }
+};
+
+const FrameworkClassOf<SystemImage> frameworkClass("UIImage");
+
+} // namespace
+
+Ref<UIImage> UIImage::systemImageNamed(std::string_view name) {
+    return sendToClass<"+[UIImage systemImageNamed:]", Ref<UIImage>>(name);
+}
+
+Ref<UIImage> UIImage::imageWithContentsOfFile(std::string_view path) {
+    return sendToClass<"+[UIImage imageWithContentsOfFile:]", Ref<UIImage>>(path);
+}

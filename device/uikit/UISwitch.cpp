@@ -1,0 +1,11 @@
+#include "UIKit/UISwitch.h"
+
+#include "FrameworkClass.h"
+
+namespace {
+
+const FrameworkClassOf<UISwitch, UIControl> frameworkClass("UISwitch");
+
+} // namespace
+
+UISwitch::UISwitch() = default;

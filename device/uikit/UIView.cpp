@@ -1,0 +1,111 @@
+#include "UIKit/UIView.h"
+
+#include "FrameworkClass.h"
+#include "UIViewPeer.h"
+
+namespace {
+
+const FrameworkClassOf<NSCoder> coderClass("NSCoder");
+
+const FrameworkClassOf<UIView, UIResponder>
+    frameworkClass("UIView", {initialiser<"-[UIView initWithFrame:]", &UIView::initWithFrame>(),
+                              initialiser<"-[UIView initWithCoder:]", &UIView::initWithCoder>(),
+                              overridable<"-[UIView layoutSubviews]", &UIView::layoutSubviews>()});
+
+} // namespace
+
+UIView::UIView() = default;
+UIView::~UIView() = default;
+
+UIView::UIView(std::unique_ptr<UIViewPeer> peer) : peer_(std::move(peer)) {}
+
+bool UIView::init() {
+    return initWithFrame({});
+}
+
+bool UIView::initWithFrame(const CGRect& frame) {
+    return initialise<"-[UIView initWithFrame:]">(*this, frame);
+}
+
+bool UIView::initWithCoder(NSCoder& coder) {
+    return initialise<"-[UIView initWithCoder:]">(*this, coder);
+}
+
+CGRect UIView::frame() const {
+    return send<"-[UIView frame]", CGRect>(*this);
+}
+
+void UIView::setFrame(const CGRect& frame) {
+    send<"-[UIView setFrame:]", void>(*this, frame);
+}
+
+CGRect UIView::bounds() const {
+    return send<"-[UIView bounds]", CGRect>(*this);
+}
+
+CGPoint UIView::center() const {
+    return send<"-[UIView center]", CGPoint>(*this);
+}
+
+void UIView::setCenter(CGPoint center) {
+    send<"-[UIView setCenter:]", void>(*this, center);
+}
+
+Ref<UIColor> UIView::backgroundColor() const {
+    return send<"-[UIView backgroundColor]", Ref<UIColor>>(*this);
+}
+
+void UIView::setBackgroundColor(const Ref<UIColor>& color) {
+    send<"-[UIView setBackgroundColor:]", void>(*this, color);
+}
+
+void UIView::setTintColor(const Ref<UIColor>& color) {
+    send<"-[UIView setTintColor:]", void>(*this, color);
+}
+
+double UIView::alpha() const {
+    return send<"-[UIView alpha]", double>(*this);
+}
+
+void UIView::setAlpha(double alpha) {
+    send<"-[UIView setAlpha:]", void>(*this, alpha);
+}
+
+void UIView::setContentMode(UIViewContentMode mode) {
+    send<"-[UIView setContentMode:]", void>(*this, mode);
+}
+
+void UIView::setClipsToBounds(bool clips) {
+    send<"-[UIView setClipsToBounds:]", void>(*this, clips);
+}
+
+void UIView::setUserInteractionEnabled(bool enabled) {
+    send<"-[UIView setUserInteractionEnabled:]", void>(*this, enabled);
+}
+
+void UIView::setAutoresizingMask(UIViewAutoresizing mask) {
+    send<"-[UIView setAutoresizingMask:]", void>(*this, mask);
+}
+
+CALayer& UIView::layer() const {
+    return *send<"-[UIView layer]", Ref<CALayer>>(*this);
+}
+
+void UIView::addSubview(const Ref<UIView>& view) {
+    send<"-[UIView addSubview:]", void>(*this, view);
+}
+
+void UIView::insertSubview(const Ref<UIView>& view, std::size_t index) {
+    send<"-[UIView insertSubview:atIndex:]", void>(*this, view, static_cast<std::int64_t>(index));
+}
+
+void UIView::layoutSubviews() {
+    sendToBase<"-[UIView layoutSubviews]", void>(*this);
+}
+
+void UIView::animateWithDuration(double duration, double delay, UIViewAnimationOptions options,
+                                 const std::function<void()>& animations,
+                                 std::function<void(bool finished)> completion) {
+    sendToClass<"+[UIView animateWithDuration:delay:options:animations:completion:]", void>(
+        duration, delay, options, animations, completion);
+}
