@@ -1,0 +1,118 @@
+// What GNUstep's Foundation lacks of the frameworks', and what the tests want to see.
+#import "Journal.h"
+#import "StandIns.h"
+
+void NSLog(NSString *format, ...) {
+    NSAutoreleasePool *pool = [NSAutoreleasePool new];
+    va_list list;
+    va_start(list, format);
+    NSString *line = [[[NSString alloc] initWithFormat:format arguments:list] autorelease];
+    va_end(list);
+    addToJournal([[@"log: " stringByAppendingString:line] UTF8String]);
+    [pool release];
+}
+
+// The preferences of each suite, for as long as the process lives.
+@interface SuiteDefaults : NSUserDefaults { NSMutableDictionary *values; }
+@end
+
+static NSMutableDictionary *suites;
+
+@implementation SuiteDefaults
+- (id)initWithSuite:(NSString *)name {
+    if (suites == nil)
+        suites = [NSMutableDictionary new];
+    if ([suites objectForKey:name] == nil)
+        [suites setObject:[NSMutableDictionary dictionary] forKey:name];
+    values = [[suites objectForKey:name] retain];
+    return self;
+}
+- (id)objectForKey:(NSString *)key { return [values objectForKey:key]; }
+- (NSString *)stringForKey:(NSString *)key {
+    id value = [values objectForKey:key];
+    if ([value isKindOfClass:[NSNumber class]])
+        return [value stringValue];
+    return [value isKindOfClass:[NSString class]] ? value : nil;
+}
+- (void)setObject:(id)value forKey:(NSString *)key {
+    record(self, _cmd, @"%@ %@", describe(value), describe(key));
+    [values setObject:value forKey:key];
+}
+- (void)removeObjectForKey:(NSString *)key {
+    record(self, _cmd, @"%@", describe(key));
+    [values removeObjectForKey:key];
+}
+- (NSDictionary *)dictionaryRepresentation { return [[values copy] autorelease]; }
+- (void)removePersistentDomainForName:(NSString *)name {
+    record(self, _cmd, @"%@", describe(name));
+    [[suites objectForKey:name] removeAllObjects];
+}
+- (BOOL)synchronize {
+    record(self, _cmd, @"");
+    return YES;
+}
+- (void)dealloc {
+    [values release];
+    values = nil;
+    [super dealloc];
+}
+@end
+
+@interface NSUserDefaults (StandIn)
+- (id)initWithSuiteName:(NSString *)name;
+@end
+
+@implementation NSUserDefaults (StandIn)
+- (id)initWithSuiteName:(NSString *)name {
+    record(self, _cmd, @"%@", describe(name));
+    [self release];
+    return [[SuiteDefaults alloc] initWithSuite:name];
+}
+@end
+
+void forgetSuites(void) {
+    DESTROY(suites);
+}
+
+@interface NSFileHandle (StandIn)
+- (BOOL)writeData:(NSData *)data error:(NSError **)error;
+- (BOOL)closeAndReturnError:(NSError **)error;
+@end
+
+static BOOL failed(NSError **error) {
+    if (error)
+        *error = [NSError errorWithDomain:NSCocoaErrorDomain code:NSFileWriteUnknownError userInfo:nil];
+    return NO;
+}
+
+@implementation NSFileHandle (StandIn)
+- (BOOL)writeData:(NSData *)data error:(NSError **)error {
+    @try {
+        [self writeData:data];
+    } @catch (NSException *exception) {
+        return failed(error);
+    }
+    return YES;
+}
+- (BOOL)closeAndReturnError:(NSError **)error {
+    @try {
+        [self closeFile];
+    } @catch (NSException *exception) {
+        return failed(error);
+    }
+    return YES;
+}
+@end
+
+@interface NSFileManager (StandIn)
+- (NSURL *)temporaryDirectory;
+- (NSArray *)URLsForDirectory:(NSUInteger)directory inDomains:(NSUInteger)domains;
+@end
+
+@implementation NSFileManager (StandIn)
+- (NSURL *)temporaryDirectory { return [NSURL fileURLWithPath:NSTemporaryDirectory()]; }
+- (NSArray *)URLsForDirectory:(NSUInteger)directory inDomains:(NSUInteger)domains {
+    record(self, _cmd, @"%lu %lu", (unsigned long)directory, (unsigned long)domains);
+    return [NSArray arrayWithObject:[NSURL fileURLWithPath:@"/var/mobile/Documents"]];
+}
+@end

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "CoreGraphics/CGGeometry.h"
+#include "Runtime.h"
+
+/// What the frameworks do to the pane, done by Objective-C code: its messages are the compiler's own. Objects
+/// are autoreleased unless it says otherwise.
+extern "C" {
+/// With `init`, `initWithFrame:` and `initWithCoder:`. The caller owes a release; null when there is no such
+/// class or the initialiser refused.
+id newByName(const char* className);
+id newWithFrame(const char* className, CGRect frame);
+id newWithCoder(const char* className);
+id newCell(const char* className, std::int64_t style, id reuseIdentifier, id specifier);
+
+/// Loads a controller's view when it has none.
+id viewOf(id controller);
+id specifiersOf(id page);
+/// The array that the page's class inherits a place for.
+id keptSpecifiersOf(id page);
+id readValueOf(id page, id specifier);
+void setValueOf(id page, id value, id specifier);
+/// Null when the page's class has no bundle that the framework could tell.
+const char* bundlePathOf(id page);
+
+id titleViewOf(id controller);
+id menuActionOf(id controller, unsigned index);
+id presentedBy(id controller);
+/// Runs what a menu's row is for.
+void choose(id action);
+/// Takes the alert away that a controller has presented, and runs what one of its buttons is for.
+void answerAlertOf(id controller, unsigned index);
+
+/// Runs the completions of animations.
+void finishAnimations();
+/// A finger comes down, moves or is lifted at that place of a control; the control's own class is asked.
+bool touchDown(id control, double x);
+bool touchMoved(id control, double x);
+void touchUp(id control, double x);
+void touchCancelled(id control);
+void setTracking(id control, bool tracking);
+void layOut(id view);
+
+/// A message by the text of its selector, with objects, as target and action send them.
+id perform(id receiver, const char* selector, id argument);
+/// The same through the types that the class was published with, and answered as a number.
+long invokeForInteger(id receiver, const char* selector, id argument);
+void invokeWithDouble(id receiver, const char* selector, double argument);
+/// Any method's types, as Objective-C writes them, without what a platform adds; null when there is no such
+/// method.
+const char* typesOf(const char* className, const char* selector);
+/// The names of the methods that a class adds to its superclass, ended by null.
+const char** selectorsOf(const char* className);
+
+id number(double value);
+id text(const char* utf8);
+id emptySpecifier();
+
+/// How many objects of exactly that class are alive.
+long aliveOf(const char* className);
+/// The preferences of all suites are gone.
+void forgetSuites();
+}

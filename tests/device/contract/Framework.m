@@ -1,0 +1,164 @@
+#import "StandIns.h"
+
+#import <Foundation/NSDebug.h>
+#import <objc/runtime.h>
+
+id newByName(const char *className) {
+    return [objc_getClass(className) new];
+}
+
+id newWithFrame(const char *className, CGRect frame) {
+    return [[objc_getClass(className) alloc] initWithFrame:frame];
+}
+
+id newWithCoder(const char *className) {
+    NSCoder *coder = [[NSCoder new] autorelease];
+    return [(UIView *)[objc_getClass(className) alloc] initWithCoder:coder];
+}
+
+id newCell(const char *className, long style, id reuseIdentifier, id specifier) {
+    return [[objc_getClass(className) alloc] initWithStyle:style reuseIdentifier:reuseIdentifier specifier:specifier];
+}
+
+id viewOf(UIViewController *controller) {
+    return [controller view];
+}
+
+id specifiersOf(PSListController *page) {
+    return [page specifiers];
+}
+
+id keptSpecifiersOf(PSListController *page) {
+    return [page keptSpecifiers];
+}
+
+id readValueOf(PSListController *page, PSSpecifier *specifier) {
+    return [page readPreferenceValue:specifier];
+}
+
+void setValueOf(PSListController *page, id value, PSSpecifier *specifier) {
+    [page setPreferenceValue:value specifier:specifier];
+}
+
+const char *bundlePathOf(PSListController *page) {
+    return [[[page bundle] bundlePath] UTF8String];
+}
+
+id titleViewOf(UIViewController *controller) {
+    return controller->navigationItem->titleView;
+}
+
+id menuActionOf(UIViewController *controller, unsigned index) {
+    UIBarButtonItem *item = [controller->navigationItem->rightBarButtonItems objectAtIndex:0];
+    return [item->menu->children objectAtIndex:index];
+}
+
+id presentedBy(UIViewController *controller) {
+    return controller->presented;
+}
+
+void choose(UIAction *action) {
+    callBlockWithObject(action->handler, action);
+}
+
+void answerAlertOf(UIViewController *controller, unsigned index) {
+    UIAlertController *alert = [[controller->presented retain] autorelease];
+    UIAlertAction *action = [alert->actions objectAtIndex:index];
+    DESTROY(controller->presented);
+    if (action->handler)
+        callBlockWithObject(action->handler, action);
+}
+
+static UITouch *touchAt(double x) {
+    UITouch *touch = [[UITouch new] autorelease];
+    touch->place.x = x;
+    return touch;
+}
+
+BOOL touchDown(UIControl *control, double x) {
+    return [control beginTrackingWithTouch:touchAt(x) withEvent:[[UIEvent new] autorelease]];
+}
+
+BOOL touchMoved(UIControl *control, double x) {
+    return [control continueTrackingWithTouch:touchAt(x) withEvent:nil];
+}
+
+void touchUp(UIControl *control, double x) {
+    [control endTrackingWithTouch:touchAt(x) withEvent:nil];
+}
+
+void touchCancelled(UIControl *control) {
+    [control cancelTrackingWithEvent:nil];
+}
+
+void setTracking(UIControl *control, BOOL tracking) {
+    control->tracking = tracking;
+}
+
+void layOut(UIView *view) {
+    [view layoutSubviews];
+}
+
+id perform(id receiver, const char *selector, id argument) {
+    return [receiver performSelector:sel_registerName(selector) withObject:argument];
+}
+
+static NSInvocation *invocationFor(id receiver, const char *selector, void *argument) {
+    SEL name = sel_registerName(selector);
+    NSMethodSignature *signature = [receiver methodSignatureForSelector:name];
+    NSInvocation *invocation = [NSInvocation invocationWithMethodSignature:signature];
+    [invocation setSelector:name];
+    [invocation setTarget:receiver];
+    if ([signature numberOfArguments] > 2)
+        [invocation setArgument:argument atIndex:2];
+    [invocation invoke];
+    return invocation;
+}
+
+long invokeForInteger(id receiver, const char *selector, id argument) {
+    long answer = 0;
+    [invocationFor(receiver, selector, &argument) getReturnValue:&answer];
+    return answer;
+}
+
+void invokeWithDouble(id receiver, const char *selector, double argument) {
+    invocationFor(receiver, selector, &argument);
+}
+
+const char *typesOf(const char *className, const char *selector) {
+    Class class = objc_getClass(className);
+    BOOL isClassMethod = selector[0] == '+';
+    Method method = isClassMethod ? class_getClassMethod(class, sel_registerName(selector + 1))
+                                  : class_getInstanceMethod(class, sel_registerName(selector));
+    return method ? method_getTypeEncoding(method) : NULL;
+}
+
+const char **selectorsOf(const char *className) {
+    unsigned count = 0;
+    Method *methods = class_copyMethodList(objc_getClass(className), &count);
+    NSMutableData *names = [NSMutableData dataWithLength:(count + 1) * sizeof(char *)];
+    for (unsigned i = 0; i < count; ++i)
+        ((const char **)[names mutableBytes])[i] = sel_getName(method_getName(methods[i]));
+    free(methods);
+    return [names mutableBytes];
+}
+
+id number(double value) {
+    return [NSNumber numberWithDouble:value];
+}
+
+id text(const char *utf8) {
+    return [NSString stringWithUTF8String:utf8];
+}
+
+id emptySpecifier(void) {
+    return [[PSSpecifier new] autorelease];
+}
+
+long aliveOf(const char *className) {
+    return GSDebugAllocationCount(objc_getClass(className));
+}
+
+__attribute__((constructor)) static void countObjects(void) {
+    GSDebugAllocationActive(YES);
+}

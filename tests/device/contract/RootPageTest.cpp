@@ -1,0 +1,376 @@
+#include "Framework.h"
+#include "Instances.h"
+#include "Journal.h"
+#include "PreferenceStore.h"
+#include "PropertyListObject.h"
+#include "SystemStandIns.h"
+#include "Text.h"
+#include "UIKit/UINavigationController.h"
+#include "cxRootListController.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace {
+
+using Lines = std::vector<std::string>;
+
+/// The bundle's page, made and asked as the Preferences framework makes and asks it.
+class RootPageTest : public testing::Test {
+protected:
+    RootPageTest() { setServicesLibrary(SERVICES_LIBRARY); }
+
+    ~RootPageTest() override {
+        instance().dismissViewControllerAnimated(false, {}); // what is presented may keep the page alive
+        objc_release(page);
+        forgetSuites();
+        setServicesLibrary({});
+    }
+
+    /// \param knowsWhatIsNew whether that has been shown before
+    void load(bool knowsWhatIsNew = true) const {
+        if (knowsWhatIsNew)
+            store("3.0.1", "LastVersionPopupShown");
+        viewOf(page);
+    }
+
+    static void store(const PropertyList& value, std::string_view key) {
+        PreferenceStore::open()->setObject(value, key);
+        takeJournal();
+    }
+
+    [[nodiscard]] static std::optional<PropertyList> stored(std::string_view key) {
+        return PreferenceStore::open()->objectForKey(key);
+    }
+
+    [[nodiscard]] cxRootListController& instance() const {
+        return dynamic_cast<cxRootListController&>(*instanceOf(page));
+    }
+
+    /// The lines of the journal that hold any of the texts.
+    [[nodiscard]] static Lines journalOf(std::initializer_list<std::string_view> texts) {
+        Lines lines = takeJournal();
+        std::erase_if(lines, [&](const std::string& line) {
+            return std::ranges::none_of(texts, [&](std::string_view text) { return line.contains(text); });
+        });
+        return lines;
+    }
+
+    const id page = newByName("cxRootListController");
+};
+
+} // namespace
+
+TEST_F(RootPageTest, IsMadeByNameAsASubclassOfTheFrameworksPage) {
+    EXPECT_STREQ(class_getName(class_getSuperclass(object_getClass(page))), "PSListController");
+    EXPECT_NE(dynamic_cast<cxRootListController*>(instanceOf(page)), nullptr);
+}
+
+TEST_F(RootPageTest, SpecifiersAreLoadedOnceAndAreTheInheritedArrayItself) {
+    EXPECT_EQ(keptSpecifiersOf(page), nullptr);
+    auto* const specifiers = specifiersOf(page);
+    EXPECT_EQ(
+        takeJournal(),
+        Lines{"-[cxRootListController loadSpecifiersFromPlistName:target:] \"Root\" cxRootListController"});
+    ASSERT_NE(specifiers, nullptr);
+    EXPECT_EQ(specifiers, keptSpecifiersOf(page));
+    EXPECT_EQ(specifiersOf(page), specifiers);
+    EXPECT_TRUE(takeJournal().empty());
+    ASSERT_EQ(instance().specifiers().size(), 2U);
+    EXPECT_EQ(instance().specifiers()[1]->propertyForKey("id"), PropertyList("row"));
+    EXPECT_EQ(aliveOf("PSSpecifier"), 2);
+}
+
+TEST_F(RootPageTest, RowsAreReadAndWrittenByTheFramework) {
+    auto* const specifier = emptySpecifier();
+    instanceAs<PSSpecifier>(specifier)->setProperty(0.5, "value");
+    EXPECT_EQ(propertyListOf(readValueOf(page, specifier)), PropertyList(0.5));
+    setValueOf(page, number(2), specifier);
+    EXPECT_EQ(takeJournal(), (Lines{"-[PSSpecifier setProperty:forKey:] 0.5 \"value\"",
+                                    "-[cxRootListController readPreferenceValue:] PSSpecifier",
+                                    "-[cxRootListController setPreferenceValue:specifier:] 2 PSSpecifier"}));
+    EXPECT_TRUE(instance().cachedSpecifiers().empty());
+}
+
+TEST_F(RootPageTest, ARowIsFoundByItsIdentifier) {
+    specifiersOf(page);
+    EXPECT_TRUE(instance().specifierForID("row"));
+    EXPECT_FALSE(instance().specifierForID("other"));
+}
+
+TEST_F(RootPageTest, TellsTheFrameworkTheBundleThatItsCodeIsIn) {
+    const std::string_view program = SERVICES_LIBRARY; // which is built beside this one
+    EXPECT_EQ(bundlePathOf(page), program.substr(0, program.rfind('/')));
+}
+
+TEST_F(RootPageTest, LoadingTheViewDoesOneThingAfterTheOther) {
+    load();
+    EXPECT_EQ(journalOf({"viewDidLoad", "initWithSuiteName", "-[GlintImageSwitch initWithFrame:]",
+                         "setTitleView", "setRightBarButtonItems", "present"}),
+              (Lines{"-[cxRootListController viewDidLoad]",
+                     "-[NSUserDefaults initWithSuiteName:] \"com.orvel.corvexprefs\"",
+                     "-[GlintImageSwitch initWithFrame:] {{0, 0}, {50, 30}}",
+                     "-[UINavigationItem setTitleView:] GlintImageSwitch",
+                     "-[UINavigationItem setRightBarButtonItems:] [UIBarButtonItem]"}));
+}
+
+TEST_F(RootPageTest, TheMasterSwitchIsInTheBarWithAllItsProperties) {
+    store(true, "kEnabled");
+    load();
+    const auto shown = instanceAs<GlintImageSwitch>(titleViewOf(page));
+    ASSERT_TRUE(shown);
+    EXPECT_TRUE(shown->isOn());
+    EXPECT_TRUE(shown->isRounded());
+    EXPECT_EQ(shown->center(), (CGPoint{160, 354}));
+    const auto description = [&](const char* property) {
+        return textOf(perform(perform(objectOf(*shown), property, nullptr), "description", nullptr));
+    };
+    EXPECT_EQ(description("thumbTintColor"), "rgba(0.19, 0.23, 0.33, 1)");
+    EXPECT_EQ(description("onThumbTintColor"), "rgba(0.19, 0.23, 0.33, 1)");
+    EXPECT_EQ(description("activeColor"), "rgba(0.07, 0.09, 0.11, 1)");
+    EXPECT_EQ(description("inactiveColor"), "rgba(0.07, 0.09, 0.11, 1)");
+    EXPECT_EQ(description("onTintColor"), "rgba(0.45, 0.58, 0.67, 1)");
+    EXPECT_EQ(description("borderColor"), "clear");
+    EXPECT_EQ(description("shadowColor"), "black");
+    for (const auto* property : {"thumbImage", "onImage", "offImage"})
+        EXPECT_EQ(perform(objectOf(*shown), property, nullptr), nullptr) << property;
+    for (const auto* property : {"onLabel", "offLabel", "backgroundView", "thumbView"})
+        EXPECT_NE(perform(objectOf(*shown), property, nullptr), nullptr) << property;
+}
+
+TEST_F(RootPageTest, AChangedValueReachesThePageAndIsStored) {
+    load();
+    auto* const control = titleViewOf(page);
+    takeJournal();
+    EXPECT_TRUE(touchDown(control, 10));
+    touchUp(control, 10);
+    EXPECT_EQ(stored("kEnabled"), PropertyList(true));
+    EXPECT_EQ(journalOf({"sendActions", "SuiteDefaults"}),
+              (Lines{"-[GlintImageSwitch sendActionsForControlEvents:] 4096",
+                     "-[SuiteDefaults setObject:forKey:] 1 \"kEnabled\"", "-[SuiteDefaults synchronize]"}));
+    finishAnimations();
+    touchDown(control, 10);
+    touchUp(control, 10);
+    EXPECT_EQ(stored("kEnabled"), PropertyList(false));
+}
+
+TEST_F(RootPageTest, TheTargetIsThePageItself) {
+    load();
+    EXPECT_EQ(journalOf({"addTarget"}), Lines{("-[GlintImageSwitch addTarget:action:forControlEvents:] "
+                                               "cxRootListController switchChanged: 4096")});
+}
+
+TEST_F(RootPageTest, TheMenuIsBuiltInOrder) {
+    load();
+    EXPECT_EQ(
+        journalOf({"systemImage", "RenderingMode", "UIAction", "UIMenu", "UIBarButtonItem "}),
+        (Lines{
+            "+[UIImage systemImageNamed:] \"gear.badge.checkmark\"", "-[UIImage imageWithRenderingMode:] 2",
+            ("+[UIAction actionWithTitle:image:identifier:handler:] \"Apply\" <gear.badge.checkmark 2> nil "
+             "handler"),
+            "+[UIImage systemImageNamed:] \"gear.badge.xmark\"",
+            ("+[UIAction actionWithTitle:image:identifier:handler:] \"Reset Settings\" <gear.badge.xmark 0> "
+             "nil handler"),
+            "-[UIAction setAttributes:] 2", "+[UIImage systemImageNamed:] \"gear.badge\"",
+            "+[UIMenu menuWithTitle:children:] \"\" [UIAction, UIAction]",
+            "-[UIBarButtonItem initWithImage:menu:] <gear.badge 0> UIMenu",
+            "-[UIBarButtonItem setTintColor:] systemRed"}));
+}
+
+TEST_F(RootPageTest, ApplySuspendsTheApplicationAndEndsItHalfASecondLater) {
+    load();
+    takeJournal();
+    choose(menuActionOf(page, 0));
+    EXPECT_EQ(takeJournal(), (Lines{"-[UIApplication suspend]", "main queue: after 500000000"}));
+    EXPECT_EQ(runWaitingWork(), 1U);
+    EXPECT_EQ(
+        takeJournal(),
+        (Lines{"dlopen /System/Library/PrivateFrameworks/BackBoardServices.framework/BackBoardServices 1",
+               "terminate com.apple.Preferences 1 0 null", "dlclose"}));
+}
+
+TEST_F(RootPageTest, WithoutTheServiceNothingIsEnded) {
+    setServicesLibrary({});
+    perform(page, "terminateSettingsUsingBKS", nullptr);
+    EXPECT_EQ(
+        takeJournal(),
+        Lines{"dlopen /System/Library/PrivateFrameworks/BackBoardServices.framework/BackBoardServices 1"});
+}
+
+TEST_F(RootPageTest, TheDelayIsTheOneThatIsAskedFor) {
+    invokeWithDouble(page, "terminateSettingsAfterDelay:", 2.5);
+    EXPECT_EQ(takeJournal(), Lines{"main queue: after 2500000000"});
+    runWaitingWork();
+}
+
+TEST_F(RootPageTest, ThePageStaysAliveUntilTheEndIsDone) {
+    auto* const other = newByName("cxRootListController");
+    perform(other, "closeSettings", nullptr);
+    objc_release(other);
+    EXPECT_EQ(aliveOf("cxRootListController"), 2);
+    runWaitingWork();
+    EXPECT_EQ(aliveOf("cxRootListController"), 1);
+}
+
+TEST_F(RootPageTest, ResetAsksFirst) {
+    load();
+    takeJournal();
+    choose(menuActionOf(page, 1));
+    EXPECT_EQ(
+        takeJournal(),
+        (Lines{"sound 1519",
+               ("+[UIAlertController alertControllerWithTitle:message:preferredStyle:] \"Reset CX Settings\" "
+                "\"Do you want to reset settings?\" 1"),
+               "+[UIAlertAction actionWithTitle:style:handler:] \"Cancel\" 1",
+               "-[UIAlertController addAction:] \"Cancel\"",
+               "+[UIAlertAction actionWithTitle:style:handler:] \"Confirm\" 2 handler",
+               "-[UIAlertController addAction:] \"Confirm\"",
+               "-[cxRootListController presentViewController:animated:completion:] UIAlertController 1"}));
+}
+
+TEST_F(RootPageTest, ConfirmingRemovesAllSettingsReloadsAndEndsSettings) {
+    store("kept by nobody", "unknown key");
+    load();
+    choose(menuActionOf(page, 1));
+    takeJournal();
+    answerAlertOf(page, 1);
+    auto lines = takeJournal();
+    EXPECT_EQ(
+        (Lines{lines.begin(), lines.begin() + 3}),
+        (Lines{"-[SuiteDefaults removeObjectForKey:] \"LastVersionPopupShown\"",
+               "-[SuiteDefaults removeObjectForKey:] \"unknown key\"", "-[SuiteDefaults synchronize]"}));
+    const auto removals = std::ranges::count_if(lines, [](const std::string& line) {
+        return line.starts_with("log: Error removing file at path /var/jb/");
+    });
+    EXPECT_EQ(removals, 4);
+    EXPECT_EQ((Lines{lines.end() - 3, lines.end()}),
+              (Lines{"-[cxRootListController reloadSpecifiers]", "-[UIApplication suspend]",
+                     "main queue: after 500000000"}));
+    EXPECT_EQ(stored("unknown key"), std::nullopt);
+    runWaitingWork();
+}
+
+TEST_F(RootPageTest, OpensThePageThatTheSenderNames) {
+    auto* const navigation = newByName("UINavigationController");
+    instanceAs<UINavigationController>(navigation)
+        ->pushViewController(instanceAs<UIViewController>(page), false);
+    takeJournal();
+    auto* const button = newByName("TweakButton");
+    perform(button, "setIdentifier:", text("OpenedPage"));
+    takeJournal();
+    perform(page, "openController:", button);
+    EXPECT_EQ(takeJournal(),
+              (Lines{"sound 1519", "-[UINavigationController pushViewController:animated:] OpenedPage 1"}));
+    objc_release(button);
+    objc_release(navigation);
+    EXPECT_EQ(aliveOf("OpenedPage"), 0);
+}
+
+TEST_F(RootPageTest, ANameThatNoPageHasIsLogged) {
+    auto* const button = newByName("TweakButton");
+    takeJournal();
+    perform(page, "openController:", button);
+    perform(button, "setIdentifier:", text("NoSuchPage"));
+    perform(page, "openController:", button);
+    EXPECT_EQ(takeJournal(), (Lines{"sound 1519", "log: Error: Class (null) could not be initialized.",
+                                    "sound 1519", "log: Error: Class NoSuchPage could not be initialized."}));
+    objc_release(button);
+}
+
+TEST_F(RootPageTest, WhatIsNewIsShownOnceOnASheet) {
+    load(false);
+    auto lines = takeJournal();
+    const auto begin = std::ranges::find(
+        lines, "-[OBWelcomeController initWithTitle:detailText:icon:] \"Corvex\" \"3.0.1\" <gear 0>");
+    ASSERT_NE(begin, lines.end());
+    lines.erase(lines.begin(), begin + 1);
+    ASSERT_EQ(lines.size(), 20U);
+    EXPECT_EQ(lines[0], "+[UIImage systemImageNamed:] \"checkmark.circle.fill\"");
+    EXPECT_EQ(lines[6],
+              ("-[OBWelcomeController addBulletedListItemWithTitle:description:image:] \"Roothide Support\" "
+               "\"Corvex now supports Roothide\" <checkmark.circle.fill 0>"));
+    EXPECT_EQ(
+        (Lines{lines.begin() + 7, lines.end()}),
+        (Lines{"-[UIView initWithFrame:] {{0, 0}, {0, 0}}", "-[OBWelcomeController viewDidLoad]",
+               "+[_UIBackdropViewSettings settingsForStyle:] 2",
+               ("-[_UIBackdropView initWithFrame:autosizesToFitSuperview:settings:] {{0, 0}, {0, 0}} 1 "
+                "_UIBackdropViewSettings"),
+               "-[_UIBackdropView initWithFrame:] {{0, 0}, {0, 0}}", "-[_UIBackdropView setClipsToBounds:] 1",
+               "-[UIView insertSubview:atIndex:] _UIBackdropView 0", "-[UIView setBackgroundColor:] clear",
+               "-[UIView setTintColor:] yellow", "-[OBWelcomeController setModalPresentationStyle:] 1",
+               "-[cxRootListController presentViewController:animated:completion:] OBWelcomeController 1",
+               "-[SuiteDefaults setObject:forKey:] \"3.0.1\" \"LastVersionPopupShown\"",
+               "-[SuiteDefaults synchronize]"}));
+    EXPECT_EQ(stored("LastVersionPopupShown"), PropertyList("3.0.1"));
+}
+
+TEST_F(RootPageTest, AnotherSheetTakesTheFirstOnesPlace) {
+    load(false);
+    auto* const first = presentedBy(page);
+    takeJournal();
+    perform(page, "showWtfChangedInThisVersion", nullptr);
+    EXPECT_EQ(takeJournal().front(), "-[OBWelcomeController dismissViewControllerAnimated:completion:] 0");
+    EXPECT_NE(presentedBy(page), first);
+}
+
+TEST_F(RootPageTest, WhatIsKeptForOthersIsKept) {
+    load();
+    {
+        const AutoreleasePool pool;
+        auto* const item = newByName("UISwitch");
+        perform(page, "setToggleSwitch:", item);
+        objc_release(item);
+        EXPECT_EQ(perform(page, "toggleSwitch", nullptr), item);
+        perform(page, "setToggleSwitch:", nullptr);
+        EXPECT_EQ(perform(page, "toggleSwitch", nullptr), nullptr);
+    }
+    EXPECT_EQ(aliveOf("UISwitch"), 0);
+}
+
+TEST_F(RootPageTest, AnObjectOfAnotherClassArrivesAsNone) {
+    perform(page, "setToggleSwitch:", emptySpecifier());
+    EXPECT_EQ(perform(page, "toggleSwitch", nullptr), nullptr);
+}
+
+TEST(RootPageEndTest, NothingIsLeftAliveOfAPageThatHasDoneAll) {
+    {
+        const AutoreleasePool pool;
+        auto* const page = newByName("cxRootListController");
+        viewOf(page);
+        specifiersOf(page);
+        touchDown(titleViewOf(page), 10);
+        touchUp(titleViewOf(page), 40);
+        finishAnimations();
+        choose(menuActionOf(page, 0));
+        choose(menuActionOf(page, 1));
+        answerAlertOf(page, 1);
+        runWaitingWork();
+        objc_release(page);
+        forgetSuites();
+    }
+    for (const auto* name : {"cxRootListController",
+                             "GlintImageSwitch",
+                             "UIView",
+                             "UIControl",
+                             "UIImageView",
+                             "UILabel",
+                             "CALayer",
+                             "UIColor",
+                             "UIImage",
+                             "UIBezierPath",
+                             "UIAction",
+                             "UIMenu",
+                             "UIBarButtonItem",
+                             "UINavigationItem",
+                             "UIAlertController",
+                             "UIAlertAction",
+                             "OBWelcomeController",
+                             "_UIBackdropView",
+                             "_UIBackdropViewSettings",
+                             "PSSpecifier",
+                             "SuiteDefaults",
+                             "UITouch",
+                             "UIEvent"})
+        EXPECT_EQ(aliveOf(name), 0) << name;
+}
