@@ -1,0 +1,18 @@
+# cmake -D MESSAGE=regex -P ExpectFailure.cmake -- COMMAND...: succeeds when the command fails and says so.
+set(command)
+math(EXPR last "${CMAKE_ARGC} - 1")
+foreach(i RANGE ${last})
+    if(is_command)
+        list(APPEND command "${CMAKE_ARGV${i}}")
+    elseif(CMAKE_ARGV${i} STREQUAL "--")
+        set(is_command TRUE)
+    endif()
+endforeach()
+
+execute_process(COMMAND ${command} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
+if(result EQUAL 0)
+    message(FATAL_ERROR "succeeded, which it should not:\n${output}")
+endif()
+if(NOT output MATCHES "${MESSAGE}")
+    message(FATAL_ERROR "failed (${result}), but does not say \"${MESSAGE}\":\n${output}")
+endif()

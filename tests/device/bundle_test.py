@@ -1,0 +1,101 @@
+"""bundle_test.py: the bundle's folder and its code, as other programs read them; and what verify-device notices.
+
+In the environment: VERIFY, BUNDLE, CODE (a small bundle to spoil), STUBS (its list), EXPORTS (what it exports).
+"""
+
+import os
+import plistlib
+import struct
+import subprocess
+import sys
+import tempfile
+import unittest
+from pathlib import Path
+
+CODE, STUBS, EXPORTS = Path(os.environ["CODE"]), Path(os.environ["STUBS"]), os.environ["EXPORTS"].split(":")
+BUNDLE = Path(os.environ["BUNDLE"])
+
+
+def verify(code=CODE, stubs=STUBS, exports=EXPORTS, classes=()):
+    command = [os.environ["VERIFY"], str(code), "--stubs", str(stubs), "--exports", *exports, "--classes", *classes]
+    return subprocess.run(command, text=True, capture_output=True)
+
+
+class VerifyDeviceTest(unittest.TestCase):
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.folder = Path(folder.name)
+
+    def spoilt(self, offset, change):
+        """The code with one byte of its arm64 half changed."""
+        code = bytearray(CODE.read_bytes())
+        code[struct.unpack_from(">I", code, 16)[0] + offset] ^= change
+        path = self.folder / "code"
+        path.write_bytes(code)
+        return path
+
+    def other_stubs(self, before, after):
+        path = self.folder / "stubs.txt"
+        path.write_text(STUBS.read_text().replace(before, after))
+        return path
+
+    def assert_breach(self, text, run):
+        self.assertEqual(run.returncode, 1, run.stderr)
+        self.assertIn(text, run.stdout)
+
+    def test_what_is_sound_is_accepted(self):
+        run = verify(classes=["ChainRecord"])
+        self.assertEqual((run.returncode, run.stdout, run.stderr), (0, "", ""))
+
+    def test_an_import_that_is_not_listed(self):
+        run = verify(stubs=self.other_stubs("symbol _strcmp\n", ""))
+        self.assert_breach("arm64e: imports _strcmp from libchain, which the stubs do not list", run)
+
+    def test_another_library(self):
+        run = verify(stubs=self.other_stubs("/usr/lib/libchain", "/usr/lib/libother"))
+        self.assert_breach("arm64: loads ['/usr/lib/libchain.dylib'], where the stubs list ['/usr/lib/libother.dylib']", run)
+        self.assert_breach("imports _memcpy from libchain", run)
+
+    def test_exports(self):
+        self.assert_breach("arm64: exports _runChecks", verify(exports=EXPORTS[1:]))
+        self.assert_breach("arm64e: does not export _missing", verify(exports=[*EXPORTS, "_missing"]))
+
+    def test_a_class_that_it_does_not_have(self):
+        self.assert_breach("arm64: does not name the class cxMissing", verify(classes=["cxMissing"]))
+
+    def test_a_change_after_signing(self):
+        self.assert_breach("arm64: has a wrong hash of page 4", verify(code=self.spoilt(0x4000, 1)))
+
+    def test_names_that_any_library_may_answer(self):
+        self.assert_breach("arm64: has the flags ['DYLDLINK', 'NOUNDEFS']", verify(code=self.spoilt(24, 0x80)))
+
+    def test_what_cannot_be_read(self):
+        self.assert_breach("llvm-lipo cannot read it", verify(code=STUBS))
+
+    def test_one_architecture(self):
+        path = self.folder / "code"
+        subprocess.run(["llvm-lipo-22", "-thin", "arm64", "-output", str(path), str(CODE)], check=True)
+        self.assert_breach("has the architectures ['arm64']", verify(code=path))
+
+
+class BundleTest(unittest.TestCase):
+    def test_its_files(self):
+        names = sorted(path.name for path in BUNDLE.iterdir())
+        self.assertEqual(names, ["Info.plist", "Root.plist", "corvexPrefs", "icon.png", "icon@2x.png", "icon@3x.png"])
+
+    def test_what_it_says_of_itself(self):
+        info = plistlib.loads((BUNDLE / "Info.plist").read_bytes())
+        self.assertEqual(info["CFBundleExecutable"], "corvexPrefs")
+        self.assertEqual(info["NSPrincipalClass"], "cxRootListController")
+        self.assertEqual(info["MinimumOSVersion"], "15.0")
+        self.assertEqual(info["CFBundleSupportedPlatforms"], ["iPhoneOS"])
+
+    def test_its_pictures_are_in_three_scales(self):
+        for name, width in [("icon.png", 29), ("icon@2x.png", 58), ("icon@3x.png", 87)]:
+            content = (BUNDLE / name).read_bytes()
+            self.assertEqual(struct.unpack_from(">II", content, 16), (width, width))
+
+
+if __name__ == "__main__":
+    sys.exit(unittest.main())

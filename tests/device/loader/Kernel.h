@@ -1,0 +1,20 @@
+#pragma once
+
+#include <stddef.h>
+#include <stdint.h>
+
+/// The few calls of the Linux kernel on AArch64 that a program without a C library needs.
+class Kernel {
+public:
+    /// Ends the process.
+    [[noreturn]] static void exit(int status);
+
+    /// Writes a text to the standard error.
+    static void write(const char* text);
+
+    /// A file's bytes in memory; null when there is no such file.
+    [[nodiscard]] static const uint8_t* mapFile(const char* path, size_t size);
+
+    /// Memory that may be read, written and run; null when there is none.
+    [[nodiscard]] static uint8_t* allocate(size_t size);
+};
