@@ -1,10 +1,13 @@
 # Everything a person does with this tree. The first call of a target installs what it needs and what is missing.
-.PHONY: help run test smoke lint format fuzz bench coverage clean
+.PHONY: help run test smoke device package device-test lint format fuzz bench coverage clean
 
 help:
 	@echo "make run       build the program and open its window (without a display: a walk with pictures in out/)"
-	@echo "make test      build, and run all tests: plainly, then under the sanitizers"
+	@echo "make test      build, and run all tests: the desktop's, then the device's, under the sanitizers too"
 	@echo "make smoke     handle the window from outside, on a virtual display"
+	@echo "make device    build the bundle for the device, in build/device/corvexPrefs.bundle"
+	@echo "make package   build the package that installs it, build/device/corvexprefs_VERSION_iphoneos-arm64.deb"
+	@echo "make device-test  the device's tests alone: other programs read both; its half runs over another runtime"
 	@echo "make lint      check format, static analysis, portability and the rules of the tree"
 	@echo "make format    format all C++ files"
 	@echo "make fuzz      run each fuzzer for SECONDS_EACH (default 600) seconds"
@@ -17,8 +20,8 @@ run:
 	@tools/run
 
 test:
-	@tools/setup build
-	@tools/test
+	@tools/setup build test device contract
+	@tools/test desktop desktop-sanitize device device-contract device-contract-sanitize
 
 smoke:
 	@tools/setup build smoke
@@ -26,8 +29,20 @@ smoke:
 	@cmake --build --preset desktop -j 2 --target corvex-settings
 	@tools/window-smoke build/desktop/bin/corvex-settings
 
+device:
+	@tools/setup build device
+	@tools/device device_bundle
+
+package:
+	@tools/setup build device
+	@tools/device device_package
+
+device-test:
+	@tools/setup build device contract
+	@tools/test device device-contract device-contract-sanitize
+
 lint:
-	@tools/setup build lint
+	@tools/setup build test device contract lint
 	@tools/lint
 
 format:
@@ -45,7 +60,7 @@ bench:
 	@build/desktop/bench/bench_painting
 
 coverage:
-	@tools/setup build coverage
+	@tools/setup build test coverage
 	@tools/coverage
 
 clean:

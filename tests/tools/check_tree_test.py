@@ -28,11 +28,11 @@ class CheckTreeTest(unittest.TestCase):
         if built and target.suffix == ".cpp":
             self.built.append({"directory": str(self.root), "file": path})
 
-    def check(self):
+    def check(self, *databases):
         commands = self.root / "compile_commands.json"
         commands.write_text(json.dumps(self.built))
         done = subprocess.run(
-            [sys.executable, CHECK_TREE, self.root, commands], capture_output=True, text=True, check=False
+            [sys.executable, CHECK_TREE, self.root, commands, *databases], capture_output=True, text=True, check=False
         )
         self.assertEqual(done.returncode, 1 if done.stdout else 0, done.stderr)
         return done.stdout.splitlines()
@@ -49,6 +49,13 @@ class CheckTreeTest(unittest.TestCase):
     def test_a_test_file_that_is_not_built_is_named(self):
         self.write("tests/core/StoreTest.cpp", built=False)
         self.assertEqual(self.check(), ["tests/core/StoreTest.cpp:1: is not in the build"])
+
+    def test_a_source_may_be_in_any_of_the_builds(self):
+        self.write("device/objc/Box.cpp", built=False)
+        self.assertEqual(self.check(), ["device/objc/Box.cpp:1: is not in the build"])
+        other = self.root / "other.json"
+        other.write_text(json.dumps([{"directory": str(self.root), "file": "device/objc/Box.cpp"}]))
+        self.assertEqual(self.check(other), [])
 
     def test_a_pane_folder_may_not_include_the_desktop(self):
         self.write("desktop/foundation/Device.h")
