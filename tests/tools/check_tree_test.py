@@ -99,6 +99,32 @@ class CheckTreeTest(unittest.TestCase):
             ],
         )
 
+    def test_the_devices_half_includes_the_contract_and_its_own_parts(self):
+        self.write("platform/UIKit/UIView.h")
+        self.write("device/objc/Message.h")
+        self.write("desktop/uikit/Screen.h")
+        self.write("device/uikit/UIView.cpp", '#include "UIKit/UIView.h"\n#include "Message.h"\n#include "Screen.h"\n')
+        self.assertEqual(self.check(), ["device/uikit/UIView.cpp:3: device/ may not include Screen.h"])
+
+    def test_the_system_is_called_where_that_is_the_files_use(self):
+        self.write("device/system/DynamicLibrary.cpp", "#include <dlfcn.h>\n")
+        self.write("device/uikit/UIView.cpp", "#include <dlfcn.h>\n")
+        self.assertEqual(self.check(), ["device/uikit/UIView.cpp:1: device/ may not include dlfcn.h"])
+
+    def test_only_the_runtimes_two_files_and_the_class_record_know_what_they_are_compiled_for(self):
+        for path in ["device/bundle/ClassRecord.h", "device/objc/Runtime.h", "device/objc/Runtime.cpp"]:
+            self.write(path, "#ifdef __APPLE__\n#endif\n")
+        self.assertEqual(self.check(), [])
+        self.write("device/objc/Box.cpp", "#ifdef __APPLE__\n#endif\n")
+        self.assertEqual(
+            self.check(), ["device/objc/Box.cpp:1: the same code is compiled for every platform: no #if here"]
+        )
+
+    def test_the_devices_half_has_no_exceptions_but_its_tools_have(self):
+        self.write("device/objc/Box.cpp", "void a() { throw 1; }\n")
+        self.write("device/tools/Refusal.cpp", "#include <fstream>\nvoid a() { throw 1; }\n")
+        self.assertEqual(self.check(), ["device/objc/Box.cpp:1: the device has no exceptions"])
+
     def test_the_desktop_may_use_them(self):
         self.write("desktop/foundation/Device.cpp", "thread_local int a;\n#include <syslog.h>\n")
         self.assertEqual(self.check(), [])
@@ -106,6 +132,8 @@ class CheckTreeTest(unittest.TestCase):
     def test_a_dead_link_in_a_document_is_named(self):
         self.write("docs/driving.md", "see [this](missing.md#top) and [that](https://example.org)\n")
         self.assertEqual(self.check(), ["docs/driving.md:1: links to missing.md, which is not there"])
+        self.write("device/README.md", "[x](gone.md)\n")
+        self.assertIn("device/README.md:1: links to gone.md, which is not there", self.check())
 
 
 if __name__ == "__main__":
