@@ -53,15 +53,15 @@ void addBackdrop(UIView& view) {
 } // namespace
 
 void cxRootListController::checkAndShowChangelogIfNeeded() {
-    if (preferences_->stringForKey(shownVersionKey) == currentVersion)
+    if (preferences().stringForKey(shownVersionKey) == currentVersion)
         return;
     showWtfChangedInThisVersion();
     saveCurrentVersion();
 }
 
 void cxRootListController::saveCurrentVersion() {
-    preferences_->setObject(currentVersion, shownVersionKey);
-    preferences_->synchronize();
+    preferences().setObject(currentVersion, shownVersionKey);
+    preferences().synchronize();
 }
 
 void cxRootListController::showWtfChangedInThisVersion() {
@@ -81,6 +81,8 @@ void cxRootListController::showWtfChangedInThisVersion() {
 
 void cxRootListController::addChangelogItemsToController(const Ref<OBWelcomeController>& controller,
                                                          const Ref<UIImage>& image) {
+    if (!controller)
+        return;
     for (const auto& item : changelog)
         controller->addBulletedListItemWithTitle(item.title, item.description, image);
 }

@@ -70,7 +70,7 @@ void cxRootListController::performReset() {
 }
 
 void cxRootListController::clearUserDefaults() {
-    PreferenceStore::removeAll(*preferences_);
+    PreferenceStore::removeAll(preferences());
 }
 
 // The folder of the images stays.

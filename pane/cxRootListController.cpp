@@ -90,6 +90,12 @@ void cxRootListController::setupPreferences() {
     preferences_ = PreferenceStore::open();
 }
 
+NSUserDefaults& cxRootListController::preferences() {
+    if (!preferences_)
+        setupPreferences();
+    return *preferences_;
+}
+
 void cxRootListController::setupNavigationSwitch() {
     const auto navigationSwitch = createNavigationSwitch();
     configureNavigationSwitch(navigationSwitch);
@@ -107,19 +113,21 @@ Ref<GlintImageSwitch> cxRootListController::createNavigationSwitch() {
 
 // The track looks the same whether or not a finger is on it; that is meant.
 void cxRootListController::configureNavigationSwitch(const Ref<GlintImageSwitch>& navigationSwitch) {
+    if (!navigationSwitch)
+        return;
     navigationSwitch->setThumbTintColor(UIColor::colorWithRed(0.19, 0.23, 0.33, 1.0));
     navigationSwitch->setActiveColor(UIColor::colorWithRed(0.07, 0.09, 0.11, 1.0));
     navigationSwitch->setInactiveColor(UIColor::colorWithRed(0.07, 0.09, 0.11, 1.0));
     navigationSwitch->setOnTintColor(UIColor::colorWithRed(0.45, 0.58, 0.67, 1.0));
     navigationSwitch->setBorderColor(UIColor::clearColor());
     navigationSwitch->setShadowColor(UIColor::blackColor());
-    const auto enabled = preferences_->objectForKey(masterSwitchKey);
+    const auto enabled = preferences().objectForKey(masterSwitchKey);
     navigationSwitch->setOn(enabled && enabled->boolValue());
 }
 
 void cxRootListController::switchChanged(const Ref<GlintImageSwitch>& sender) {
-    preferences_->setObject(sender->isOn(), masterSwitchKey);
-    preferences_->synchronize();
+    preferences().setObject(sender && sender->isOn(), masterSwitchKey);
+    preferences().synchronize();
 }
 
 void cxRootListController::setupButtonMenu() {
@@ -136,8 +144,8 @@ void cxRootListController::setupButtonMenu() {
 
 void cxRootListController::openController(const Ref<UIControl>& sender) {
     AudioServicesPlaySystemSound(openingSound);
-    const auto identifier =
-        MessageTraits<std::optional<std::string>>::unpack(sender->performSelector("identifier"));
+    const auto answer = sender ? sender->performSelector("identifier") : MessageValue();
+    const auto identifier = MessageTraits<std::optional<std::string>>::unpack(answer);
     const auto controller = makeController(identifier.value_or(""));
     if (!controller) {
         NSLog("Error: Class %@ could not be initialized.", identifier);

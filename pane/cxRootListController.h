@@ -31,14 +31,14 @@ public:
     [[nodiscard]] Ref<GlintImageSwitch> createNavigationSwitch();
     /// Gives the switch its colours and the stored value. Colours come first: setting one may repaint.
     void configureNavigationSwitch(const Ref<GlintImageSwitch>& navigationSwitch);
-    /// Stores the master switch's value.
+    /// Stores the master switch's value; none counts as off.
     void switchChanged(const Ref<GlintImageSwitch>& sender);
 
     /// Makes the menu and puts it into the navigation bar.
     void setupButtonMenu();
 
     /// Opens the page whose class name the sender's `identifier` is. A name that no page class has is logged,
-    /// and nothing opens.
+    /// as is the lack of one or of a sender, and nothing opens.
     void openController(const Ref<UIControl>& sender);
 
     /// Shows what is new unless that was done for this version.
@@ -88,6 +88,9 @@ public:
     }
 
 private:
+    /// Opened when they are first needed, should nobody have set them up.
+    [[nodiscard]] NSUserDefaults& preferences();
+
     Ref<OBWelcomeController> changelogController_;
     Ref<NSUserDefaults> preferences_;
     Ref<UIBarButtonItem> respringButton_;

@@ -240,6 +240,23 @@ TEST_F(cxRootListControllerTest, AButtonThatNamesNoPageTapsAndLogsOnce) {
     }
 }
 
+TEST_F(cxRootListControllerTest, NothingInThePlaceOfAnObjectIsHarmless) {
+    PreferenceStore::open()->setObject(true, "kEnabled");
+    page->performSelector("openController:", {MessageValue()});
+    EXPECT_EQ(SystemSounds::shared().take(), Sounds{1519});
+    EXPECT_EQ(device.log().take(), Log{"Error: Class (null) could not be initialized."});
+    page->performSelector("configureNavigationSwitch:", {MessageValue()});
+    page->performSelector("addChangelogItemsToController:withImage:", {MessageValue(), MessageValue()});
+    page->performSelector("switchChanged:", {MessageValue()});
+    EXPECT_EQ(PreferenceStore::open()->objectForKey("kEnabled"), PropertyList(false));
+}
+
+TEST_F(cxRootListControllerTest, ThePreferencesAreOpenedByWhateverNeedsThemFirst) {
+    PreferenceStore::open()->setObject(true, "kEnabled");
+    page->clearUserDefaults();
+    EXPECT_EQ(PreferenceStore::open()->objectForKey("kEnabled"), std::nullopt);
+}
+
 TEST_F(cxRootListControllerTest, IsTheTargetOfItsButtonsByTheActionsName) {
     show();
     page->performSelector("openController:", {Ref<NSObject>(buttonFor("OpenedPage"))});
