@@ -43,9 +43,13 @@ void layOut(id view);
 
 /// A message by the text of its selector, with objects, as target and action send them.
 id perform(id receiver, const char* selector, id argument);
+id performWithTwo(id receiver, const char* selector, id first, id second);
 /// The same through the types that the class was published with, and answered as a number.
 long invokeForInteger(id receiver, const char* selector, id argument);
 void invokeWithDouble(id receiver, const char* selector, double argument);
+/// `second` for methods of two parameters.
+void invokeWithBooleans(id receiver, const char* selector, bool first, bool second);
+bool invokeForBoolean(id receiver, const char* selector);
 /// Any method's types, as Objective-C writes them, without what a platform adds; null when there is no such
 /// method.
 const char* typesOf(const char* className, const char* selector);

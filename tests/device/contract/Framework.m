@@ -103,7 +103,11 @@ id perform(id receiver, const char *selector, id argument) {
     return [receiver performSelector:sel_registerName(selector) withObject:argument];
 }
 
-static NSInvocation *invocationFor(id receiver, const char *selector, void *argument) {
+id performWithTwo(id receiver, const char *selector, id first, id second) {
+    return [receiver performSelector:sel_registerName(selector) withObject:first withObject:second];
+}
+
+static NSInvocation *invocationWithTwo(id receiver, const char *selector, void *argument, void *second) {
     SEL name = sel_registerName(selector);
     NSMethodSignature *signature = [receiver methodSignatureForSelector:name];
     NSInvocation *invocation = [NSInvocation invocationWithMethodSignature:signature];
@@ -111,8 +115,15 @@ static NSInvocation *invocationFor(id receiver, const char *selector, void *argu
     [invocation setTarget:receiver];
     if ([signature numberOfArguments] > 2)
         [invocation setArgument:argument atIndex:2];
+    if ([signature numberOfArguments] > 3)
+        [invocation setArgument:second atIndex:3];
     [invocation invoke];
     return invocation;
+}
+
+static NSInvocation *invocationFor(id receiver, const char *selector, void *argument) {
+    void *nothing = NULL;
+    return invocationWithTwo(receiver, selector, argument, &nothing);
 }
 
 long invokeForInteger(id receiver, const char *selector, id argument) {
@@ -123,6 +134,17 @@ long invokeForInteger(id receiver, const char *selector, id argument) {
 
 void invokeWithDouble(id receiver, const char *selector, double argument) {
     invocationFor(receiver, selector, &argument);
+}
+
+void invokeWithBooleans(id receiver, const char *selector, BOOL first, BOOL second) {
+    invocationWithTwo(receiver, selector, &first, &second);
+}
+
+BOOL invokeForBoolean(id receiver, const char *selector) {
+    id nothing = nil;
+    BOOL answer = NO;
+    [invocationFor(receiver, selector, &nothing) getReturnValue:&answer];
+    return answer;
 }
 
 const char *typesOf(const char *className, const char *selector) {
