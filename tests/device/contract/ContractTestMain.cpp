@@ -1,6 +1,8 @@
 #include "ClassPublisher.h"
+#include "Framework.h"
 #include "Journal.h"
 #include "Runtime.h"
+#include "SystemStandIns.h"
 
 #include <gtest/gtest.h>
 
@@ -9,15 +11,19 @@
 namespace {
 
 /// Each test has an autorelease pool, as whatever runs on a device's main thread has, and a journal of its
-/// own.
-class PoolOfEachTest final : public testing::EmptyTestEventListener {
+/// own. What it has begun and left to be done ends with it.
+class StateOfEachTest final : public testing::EmptyTestEventListener {
 public:
     void OnTestStart(const testing::TestInfo& /*test*/) override {
         pool_.emplace();
         takeJournal();
     }
 
-    void OnTestEnd(const testing::TestInfo& /*test*/) override { pool_.reset(); }
+    void OnTestEnd(const testing::TestInfo& /*test*/) override {
+        finishAnimations();
+        runWaitingWork();
+        pool_.reset();
+    }
 
 private:
     std::optional<AutoreleasePool> pool_;
@@ -40,6 +46,6 @@ extern "C" const char* __lsan_default_options() {
 int main(int count, char** arguments) {
     testing::InitGoogleTest(&count, arguments);
     publishClasses();
-    testing::UnitTest::GetInstance()->listeners().Append(new PoolOfEachTest);
+    testing::UnitTest::GetInstance()->listeners().Append(new StateOfEachTest);
     return RUN_ALL_TESTS();
 }
