@@ -2,7 +2,6 @@
 
 #include "Runtime.h"
 
-#include <functional>
 #include <memory>
 
 /// What a box holds; ends with the box.

@@ -10,7 +10,6 @@ struct objc_object;
 struct objc_class;
 struct objc_selector;
 struct objc_ivar;
-struct objc_method;
 
 using id = objc_object*;
 using SEL = const objc_selector*;
@@ -33,7 +32,6 @@ ObjcBool class_addIvar(objc_class* to, const char* name, std::size_t size, std::
                        const char* types);
 ObjcBool class_addMethod(objc_class* to, SEL selector, IMP implementation, const char* types);
 objc_ivar* class_getInstanceVariable(objc_class* of, const char* name);
-objc_method* class_getInstanceMethod(objc_class* of, SEL selector);
 IMP class_getMethodImplementation(objc_class* of, SEL selector);
 std::ptrdiff_t ivar_getOffset(objc_ivar* ivar);
 objc_class* object_getClass(id object);

@@ -20,11 +20,6 @@ id call(id receiver, const char* selector) {
     return reinterpret_cast<ObjectFunction>(messageFunction(receiver, name))(receiver, name);
 }
 
-struct Association {
-    id value = nullptr;
-    std::uintptr_t policy = 0;
-};
-
 /// All weak references and associations.
 struct Tables {
     static Tables& shared() {
@@ -34,13 +29,8 @@ struct Tables {
 
     std::recursive_mutex mutex;
     std::unordered_map<id, std::set<id*>> weakSlots;
-    std::unordered_map<id, std::map<const void*, Association>> associations;
+    std::unordered_map<id, std::map<const void*, id>> associations; ///< each with an owner's count
 };
-
-void releaseAssociated(const Association& association) {
-    if (association.policy != 0)
-        objc_release(association.value);
-}
 
 } // namespace
 
@@ -60,14 +50,14 @@ bool takeOwnerAway(id object, bool (*isLast)(id), bool (*takeAway)(id)) {
 
 void releaseAssociations(id owner) {
     auto& tables = Tables::shared();
-    std::map<const void*, Association> released;
+    std::map<const void*, id> released;
     {
         const std::scoped_lock lock(tables.mutex);
         if (auto found = tables.associations.extract(owner); !found.empty())
             released = std::move(found.mapped());
     }
-    for (const auto& [key, association] : released)
-        releaseAssociated(association);
+    for (const auto& [key, value] : released)
+        objc_release(value);
 }
 }
 
@@ -140,18 +130,17 @@ id objc_getAssociatedObject(id owner, const void* key) {
     if (owned == tables.associations.end())
         return nullptr;
     const auto found = owned->second.find(key);
-    return found != owned->second.end() ? found->second.value : nullptr;
+    return found != owned->second.end() ? found->second : nullptr;
 }
 
 void objc_setAssociatedObject(id owner, const void* key, id value, std::uintptr_t policy) {
     constexpr std::uintptr_t copies = 3;
-    const Association added{.value = call(value, (policy & copies) == copies ? "copy" : "retain"),
-                            .policy = policy};
-    Association replaced;
+    const id added = call(value, (policy & copies) == copies ? "copy" : "retain");
+    id replaced = nullptr;
     {
         auto& tables = Tables::shared();
         const std::scoped_lock lock(tables.mutex);
         replaced = std::exchange(tables.associations[owner][key], added);
     }
-    releaseAssociated(replaced);
+    objc_release(replaced);
 }

@@ -79,7 +79,6 @@ const std::vector<Effect> effects{
       "-[cxRootListController reloadSpecifiers]", "-[UIApplication suspend]"}},
     {"clearUserDefaults",
      {"-[SuiteDefaults removeObjectForKey:] \"kEnabled\"", "-[SuiteDefaults synchronize]"}},
-    {"removePreferenceFiles", {}},
     {"finalizeReset",
      {"-[cxRootListController reloadSpecifiers]", "-[UIApplication suspend]", "main queue: after 500000000"}},
     {"closeSettings", {"-[UIApplication suspend]", "main queue: after 500000000"}},
@@ -107,7 +106,7 @@ const std::vector<Accessors> accessors{
 const std::map<std::string, std::set<std::string>> calledByName{
     {"cxRootListController",
      {"configureNavigationSwitch:", "switchChanged:", "openController:",
-      "addChangelogItemsToController:withImage:", "terminateSettingsAfterDelay:"}},
+      "addChangelogItemsToController:withImage:", "removePreferenceFiles", "terminateSettingsAfterDelay:"}},
     {"GlintImageSwitch",
      {"isOn", "setOn:", "setOn:animated:", "showOnAnimated:", "showOffAnimated:", "isRounded",
       "setRounded:", "onLabel", "offLabel", "backgroundView", "thumbView"}}};
