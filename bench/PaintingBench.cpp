@@ -1,12 +1,12 @@
-#include "Compositor.h"
-#include "DesktopNavigationItem.h"
 #include "DeviceInstaller.h"
 #include "DrivenShell.h"
-#include "Screen.h"
 #include "TestDevice.h"
-#include "TouchDispatcher.h"
-#include "UIViewControllerPeer.h"
-#include "UIViewPeer.h"
+#include "controllers/DesktopNavigationItem.h"
+#include "controllers/UIViewControllerPeer.h"
+#include "screen/Compositor.h"
+#include "screen/Screen.h"
+#include "screen/TouchDispatcher.h"
+#include "views/UIViewPeer.h"
 
 #include <QGuiApplication>
 #include <chrono>

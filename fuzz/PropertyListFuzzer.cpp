@@ -1,5 +1,5 @@
 #include "ExactPropertyList.h"
-#include "PropertyListCoding.h"
+#include "propertylists/PropertyListCoding.h"
 
 #include <cstddef>
 #include <cstdint>

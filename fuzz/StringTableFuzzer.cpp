@@ -1,5 +1,5 @@
 #include "Foundation/NSString.h"
-#include "StringTable.h"
+#include "texts/StringTable.h"
 
 #include <unicode/unistr.h>
 

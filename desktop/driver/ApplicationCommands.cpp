@@ -3,7 +3,7 @@
 #include "DrivenApplication.h"
 #include "JsonValues.h"
 #include "PSListControllerPeer.h"
-#include "Screen.h"
+#include "screen/Screen.h"
 
 #include <QJsonObject>
 

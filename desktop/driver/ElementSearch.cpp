@@ -1,11 +1,11 @@
 #include "ElementSearch.h"
 
-#include "AccessibilityElement.h"
-#include "Screen.h"
 #include "UIKit/UIControl.h"
-#include "UIScrollViewPeer.h"
-#include "UITableViewCell.h"
-#include "UIViewPeer.h"
+#include "accessibility/AccessibilityElement.h"
+#include "screen/Screen.h"
+#include "scrolling/UIScrollViewPeer.h"
+#include "tables/UITableViewCell.h"
+#include "views/UIViewPeer.h"
 
 #include <algorithm>
 #include <cmath>

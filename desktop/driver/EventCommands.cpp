@@ -2,9 +2,9 @@
 
 #include "Device.h"
 #include "JsonValues.h"
-#include "LogRecorder.h"
 #include "SystemSounds.h"
 #include "UrlOpener.h"
+#include "system/LogRecorder.h"
 
 #include <QJsonArray>
 #include <QJsonObject>

@@ -1,13 +1,13 @@
 #include "InspectionCommands.h"
 
-#include "Compositor.h"
 #include "DrivenApplication.h"
 #include "JsonValues.h"
-#include "LiveObjects.h"
 #include "ObjectiveC/Class.h"
-#include "Screen.h"
 #include "ScreenReport.h"
 #include "ViewReport.h"
+#include "objects/LiveObjects.h"
+#include "screen/Compositor.h"
+#include "screen/Screen.h"
 
 #include <QBuffer>
 #include <QFile>

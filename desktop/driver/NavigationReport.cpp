@@ -1,14 +1,14 @@
 #include "NavigationReport.h"
 
-#include "DesktopBarButtonItem.h"
 #include "DesktopColor.h"
 #include "DesktopImage.h"
-#include "DesktopMenu.h"
-#include "DesktopNavigationItem.h"
 #include "JsonValues.h"
 #include "ObjectiveC/Class.h"
-#include "Screen.h"
-#include "UIViewControllerPeer.h"
+#include "controllers/DesktopBarButtonItem.h"
+#include "controllers/DesktopNavigationItem.h"
+#include "controllers/UIViewControllerPeer.h"
+#include "menus/DesktopMenu.h"
+#include "screen/Screen.h"
 
 namespace {
 

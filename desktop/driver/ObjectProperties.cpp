@@ -4,8 +4,8 @@
 #include "DesktopImage.h"
 #include "JsonValues.h"
 #include "ObjectiveC/Class.h"
-#include "UIControlPeer.h"
-#include "UIViewPeer.h"
+#include "controls/UIControlPeer.h"
+#include "views/UIViewPeer.h"
 
 #include <cctype>
 

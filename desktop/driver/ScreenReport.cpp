@@ -1,14 +1,14 @@
 #include "ScreenReport.h"
 
 #include "DesktopColor.h"
-#include "DesktopNavigationItem.h"
 #include "DrivenApplication.h"
 #include "JsonValues.h"
 #include "NavigationReport.h"
 #include "ObjectiveC/Class.h"
 #include "PSListControllerPeer.h"
-#include "Screen.h"
-#include "UITableViewPeer.h"
+#include "controllers/DesktopNavigationItem.h"
+#include "screen/Screen.h"
+#include "tables/UITableViewPeer.h"
 
 #include <QJsonArray>
 

@@ -1,7 +1,7 @@
 #include "TextCommands.h"
 
-#include "Screen.h"
-#include "TextInput.h"
+#include "screen/Screen.h"
+#include "typing/TextInput.h"
 
 #include <QJsonObject>
 

@@ -3,7 +3,7 @@
 #include "Device.h"
 #include "JsonValues.h"
 #include "NumberText.h"
-#include "VirtualClock.h"
+#include "time/VirtualClock.h"
 
 #include <QJsonObject>
 #include <chrono>

@@ -1,13 +1,13 @@
 #include "TouchCommands.h"
 
-#include "AccessibilityElement.h"
 #include "ElementSearch.h"
 #include "JsonValues.h"
 #include "NumberText.h"
 #include "ObjectiveC/Class.h"
-#include "Screen.h"
-#include "TouchDispatcher.h"
-#include "UIViewPeer.h"
+#include "accessibility/AccessibilityElement.h"
+#include "screen/Screen.h"
+#include "screen/TouchDispatcher.h"
+#include "views/UIViewPeer.h"
 
 #include <QJsonObject>
 #include <algorithm>

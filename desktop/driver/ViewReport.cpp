@@ -4,9 +4,9 @@
 #include "LayerReport.h"
 #include "ObjectProperties.h"
 #include "ObjectiveC/Class.h"
-#include "Screen.h"
-#include "UIViewPeer.h"
-#include "UIWindow.h"
+#include "screen/Screen.h"
+#include "screen/UIWindow.h"
+#include "views/UIViewPeer.h"
 
 #include <vector>
 

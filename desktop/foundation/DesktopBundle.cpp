@@ -5,7 +5,7 @@
 #include "Foundation/NSDictionary.h"
 #include "Foundation/NSLog.h"
 #include "Foundation/NSString.h"
-#include "LanguageNames.h"
+#include "texts/LanguageNames.h"
 
 #include <fcntl.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Foundation/NSBundle.h"
-#include "StringTable.h"
+#include "texts/StringTable.h"
 
 #include <map>
 #include <mutex>

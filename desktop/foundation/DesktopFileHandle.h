@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Foundation/NSFileHandle.h"
-#include "RegularFile.h"
+#include "files/RegularFile.h"
 
 #include <optional>
 #include <utility>

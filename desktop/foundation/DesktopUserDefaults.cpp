@@ -2,7 +2,7 @@
 
 #include "Device.h"
 #include "Foundation/NSLog.h"
-#include "PropertyListCoding.h"
+#include "propertylists/PropertyListCoding.h"
 
 #include <utility>
 

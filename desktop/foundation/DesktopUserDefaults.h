@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Foundation/NSUserDefaults.h"
-#include "PreferenceDomains.h"
+#include "preferences/PreferenceDomains.h"
 
 #include <memory>
 #include <mutex>

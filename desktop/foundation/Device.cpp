@@ -3,7 +3,8 @@
 #include "DesktopBundle.h"
 #include "Foundation/NSFileManager.h"
 #include "Foundation/NSLog.h"
-#include "PreferenceDomains.h"
+#include "preferences/PreferenceDomains.h"
+#include "preferences/PreferenceFolder.h"
 
 #include <unicode/timezone.h>
 
@@ -43,7 +44,7 @@ Device::Device(Options options)
     if (currentDevice != nullptr)
         endProgram("a second device was made while there is one");
     currentDevice = this;
-    for (const auto* path : {documentsPath, temporaryPath, preferencesPath}) {
+    for (const auto* path : {documentsPath, temporaryPath, PreferenceFolder::path}) {
         if (const auto made = NSFileManager::defaultManager().createDirectoryAtPath(path, true); !made)
             NSLog("The device lacks one of its folders: %@", made.error());
     }

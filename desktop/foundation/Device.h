@@ -1,10 +1,10 @@
 #pragma once
 
-#include "Clock.h"
-#include "DarwinNotifications.h"
-#include "DeviceRoot.h"
 #include "Foundation/NSBundle.h"
-#include "MainQueueScheduler.h"
+#include "files/DeviceRoot.h"
+#include "system/DarwinNotifications.h"
+#include "time/Clock.h"
+#include "time/MainQueueScheduler.h"
 
 #include <memory>
 #include <string>
@@ -53,7 +53,6 @@ public:
     /// The user's folders, as device paths without a "/" at the end.
     static constexpr auto documentsPath = "/var/mobile/Documents";
     static constexpr auto temporaryPath = "/var/mobile/tmp";
-    static constexpr auto preferencesPath = "/var/mobile/Library/Preferences";
 
 private:
     std::shared_ptr<const DeviceRoot> root_; ///< preference domains keep it when they outlive the device

@@ -1,8 +1,8 @@
 #include "System/DynamicLibrary.h"
 
 #include "Device.h"
-#include "LibraryFiles.h"
-#include "RegularFile.h"
+#include "files/RegularFile.h"
+#include "system/LibraryFiles.h"
 
 #include <dlfcn.h>
 #include <fcntl.h>

@@ -1,7 +1,7 @@
 #include "Foundation/NSData.h"
 
 #include "Device.h"
-#include "RegularFile.h"
+#include "files/RegularFile.h"
 
 #include <fcntl.h>
 

@@ -1,10 +1,10 @@
 #include "Foundation/NSDictionary.h"
 
-#include "AtomicFile.h"
 #include "Device.h"
-#include "PropertyListBudget.h"
-#include "PropertyListCoding.h"
-#include "RegularFile.h"
+#include "files/AtomicFile.h"
+#include "files/RegularFile.h"
+#include "propertylists/PropertyListBudget.h"
+#include "propertylists/PropertyListCoding.h"
 
 #include <fcntl.h>
 

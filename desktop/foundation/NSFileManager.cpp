@@ -1,13 +1,13 @@
 #include "Foundation/NSFileManager.h"
 
 #include "Device.h"
-#include "FileErrors.h"
-#include "FolderListing.h"
 #include "Foundation/NSString.h"
-#include "RegularFile.h"
-#include "TreeCopy.h"
-#include "TreeListing.h"
-#include "TreeRemoval.h"
+#include "files/FileErrors.h"
+#include "files/FolderListing.h"
+#include "files/RegularFile.h"
+#include "files/TreeCopy.h"
+#include "files/TreeListing.h"
+#include "files/TreeRemoval.h"
 
 #include <sys/stat.h>
 

@@ -1,9 +1,9 @@
 #include "OBBulletedListItem.h"
 
 #include "ObjectiveC/Class.h"
-#include "UITapGestureRecognizer.h"
-#include "UIViewPeer.h"
-#include "WrappedLabel.h"
+#include "touches/UITapGestureRecognizer.h"
+#include "views/UIViewPeer.h"
+#include "views/WrappedLabel.h"
 
 #include <algorithm>
 #include <cmath>
@@ -37,8 +37,9 @@ OBBulletedListItem::OBBulletedListItem(const Content& content)
 }
 
 bool OBBulletedListItem::isTappable() const {
-    const auto isTap = [](const Ref<GestureRecognizer>& recognizer) {
-        return recognizer->isEnabled() && dynamicCast<UITapGestureRecognizer>(recognizer);
+    const auto isTap = [](const Ref<AttachedRecognizer>& recognizer) {
+        const auto tap = dynamicCast<UITapGestureRecognizer>(recognizer);
+        return tap && tap->isEnabled();
     };
     return peer().isUserInteractionEnabled() && std::ranges::any_of(peer().gestureRecognizers(), isTap);
 }

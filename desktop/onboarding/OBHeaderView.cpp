@@ -2,8 +2,8 @@
 
 #include "DesktopImage.h"
 #include "ObjectiveC/Class.h"
-#include "UILabelPeer.h"
-#include "WrappedLabel.h"
+#include "views/UILabelPeer.h"
+#include "views/WrappedLabel.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,8 +1,8 @@
 #include "OBWelcomeControllerPeer.h"
 
 #include "DesktopImage.h"
-#include "Screen.h"
-#include "UIViewPeer.h"
+#include "screen/Screen.h"
+#include "views/UIViewPeer.h"
 
 namespace {
 

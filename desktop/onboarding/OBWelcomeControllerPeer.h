@@ -1,9 +1,9 @@
 #pragma once
 
 #include "OnBoardingKit/OBWelcomeController.h"
-#include "SheetContent.h"
-#include "UIViewControllerPeer.h"
 #include "WelcomeView.h"
+#include "controllers/UIViewControllerPeer.h"
+#include "presentation/SheetContent.h"
 
 /// The desktop's half of a welcome page: its view, which is filled before it is shown. Made with the page.
 // NOLINTNEXTLINE(misc-multiple-inheritance): an interface whose answers may be left out

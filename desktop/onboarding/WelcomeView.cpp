@@ -2,7 +2,7 @@
 
 #include "DesktopColor.h"
 #include "ObjectiveC/Class.h"
-#include "UIScrollViewPeer.h"
+#include "scrolling/UIScrollViewPeer.h"
 
 #include <algorithm>
 

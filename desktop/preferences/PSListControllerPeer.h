@@ -4,7 +4,7 @@
 #include "ListRow.h"
 #include "Preferences/PSListController.h"
 #include "SpecifierTable.h"
-#include "UIViewControllerPeer.h"
+#include "controllers/UIViewControllerPeer.h"
 
 #include <cstddef>
 #include <memory>

@@ -2,7 +2,7 @@
 
 #include "ObjectiveC/Class.h"
 #include "PSTableCellPeer.h"
-#include "UISwitchPeer.h"
+#include "controls/UISwitchPeer.h"
 
 #include <memory>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Preferences/PSSpecifier.h"
-#include "UITableViewCell.h"
+#include "tables/UITableViewCell.h"
 
 #include <memory>
 #include <string>

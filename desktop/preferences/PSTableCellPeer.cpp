@@ -1,7 +1,7 @@
 #include "PSTableCellPeer.h"
 
 #include "DesktopColor.h"
-#include "UILabelPeer.h"
+#include "views/UILabelPeer.h"
 
 #include <algorithm>
 

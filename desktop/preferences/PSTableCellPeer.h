@@ -2,7 +2,7 @@
 
 #include "DesktopSpecifier.h"
 #include "PSTableCell.h"
-#include "UITableViewCellPeer.h"
+#include "tables/UITableViewCellPeer.h"
 
 #include <optional>
 #include <string>

@@ -2,9 +2,9 @@
 
 #include "PSTableCell.h"
 #include "SpecifierSections.h"
-#include "TableContent.h"
-#include "UITableView.h"
-#include "UITableViewPeer.h"
+#include "tables/TableContent.h"
+#include "tables/UITableView.h"
+#include "tables/UITableViewPeer.h"
 
 #include <functional>
 #include <map>

@@ -4,8 +4,8 @@
 #include "Device.h"
 #include "Foundation/Format.h"
 #include "ObjectiveC/Class.h"
-#include "Screen.h"
-#include "UIViewControllerPeer.h"
+#include "controllers/UIViewControllerPeer.h"
+#include "screen/Screen.h"
 
 #include <array>
 #include <string>

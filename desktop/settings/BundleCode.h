@@ -1,6 +1,6 @@
 #pragma once
 
-#include "LibraryFiles.h"
+#include "system/LibraryFiles.h"
 
 #include <expected>
 #include <string>

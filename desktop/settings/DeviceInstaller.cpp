@@ -1,8 +1,8 @@
 #include "DeviceInstaller.h"
 
-#include "AtomicFile.h"
-#include "FolderListing.h"
-#include "RegularFile.h"
+#include "files/AtomicFile.h"
+#include "files/FolderListing.h"
+#include "files/RegularFile.h"
 
 #include <sys/stat.h>
 

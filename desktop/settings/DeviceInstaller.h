@@ -1,6 +1,6 @@
 #pragma once
 
-#include "DeviceRoot.h"
+#include "files/DeviceRoot.h"
 
 #include <cstddef>
 #include <expected>

@@ -1,6 +1,6 @@
 #include "DrivenShell.h"
 
-#include "UINavigationControllerPeer.h"
+#include "navigation/UINavigationControllerPeer.h"
 
 Ref<UIViewController> DrivenShell::page() const {
     if (shell_.app() == "home")

@@ -3,8 +3,8 @@
 #include "DesktopFont.h"
 #include "DesktopImage.h"
 #include "ObjectiveC/Class.h"
-#include "Screen.h"
-#include "UIControlPeer.h"
+#include "controls/UIControlPeer.h"
+#include "screen/Screen.h"
 
 #include <memory>
 #include <utility>

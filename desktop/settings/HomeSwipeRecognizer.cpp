@@ -1,6 +1,6 @@
 #include "HomeSwipeRecognizer.h"
 
-#include "UIViewPeer.h"
+#include "views/UIViewPeer.h"
 
 #include <utility>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "UIScreenEdgePanGestureRecognizer.h"
+#include "touches/UIScreenEdgePanGestureRecognizer.h"
 
 #include <functional>
 

@@ -4,7 +4,7 @@
 #include "Foundation/NSBundle.h"
 #include "Foundation/NSString.h"
 #include "ObjectiveC/Class.h"
-#include "UIViewPeer.h"
+#include "views/UIViewPeer.h"
 
 #include <memory>
 #include <string>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "RegularFile.h"
+#include "files/RegularFile.h"
 
 #include <elf.h>
 

@@ -3,8 +3,8 @@
 #include "Foundation/NSDictionary.h"
 #include "Foundation/NSFileManager.h"
 #include "Foundation/NSString.h"
-#include "LiveObjects.h"
 #include "LoadedBundles.h"
+#include "objects/LiveObjects.h"
 
 #include <optional>
 #include <utility>

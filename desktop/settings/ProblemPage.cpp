@@ -2,7 +2,7 @@
 
 #include "ObjectiveC/Class.h"
 #include "ProblemView.h"
-#include "UIViewControllerPeer.h"
+#include "controllers/UIViewControllerPeer.h"
 
 #include <memory>
 #include <utility>

@@ -3,8 +3,8 @@
 #include "DesktopColor.h"
 #include "DesktopImage.h"
 #include "ObjectiveC/Class.h"
-#include "UIViewPeer.h"
-#include "WrappedLabel.h"
+#include "views/UIViewPeer.h"
+#include "views/WrappedLabel.h"
 
 #include <algorithm>
 #include <array>

@@ -8,17 +8,17 @@
 #include "DriverSession.h"
 #include "EventCommands.h"
 #include "InspectionCommands.h"
-#include "LogRecorder.h"
-#include "RealClock.h"
-#include "Screen.h"
 #include "TextCommands.h"
 #include "TimeCommands.h"
 #include "TouchCommands.h"
-#include "TouchDispatcher.h"
 #include "UnavailableCommands.h"
 #include "UrlOpener.h"
-#include "VirtualClock.h"
 #include "WindowAccessibility.h"
+#include "screen/Screen.h"
+#include "screen/TouchDispatcher.h"
+#include "system/LogRecorder.h"
+#include "time/RealClock.h"
+#include "time/VirtualClock.h"
 
 #include <QDesktopServices>
 #include <QGuiApplication>

@@ -1,15 +1,15 @@
 #include "SettingsApplication.h"
 
 #include "AboutPage.h"
-#include "DesktopNavigationItem.h"
 #include "Dispatch/MainQueue.h"
 #include "Foundation/NSLog.h"
 #include "ObjectiveC/Weak.h"
 #include "PSListControllerPeer.h"
 #include "ProblemPage.h"
-#include "Screen.h"
 #include "SplitController.h"
-#include "UINavigationControllerPeer.h"
+#include "controllers/DesktopNavigationItem.h"
+#include "navigation/UINavigationControllerPeer.h"
+#include "screen/Screen.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include "Foundation/NSString.h"
 #include "ObjectiveC/Class.h"
 #include "PSListControllerPeer.h"
-#include "Screen.h"
+#include "screen/Screen.h"
 
 #include <algorithm>
 #include <string>

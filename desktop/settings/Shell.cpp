@@ -3,16 +3,16 @@
 #include "AnimationGroup.h"
 #include "ApplicationTermination.h"
 #include "CALayerPeer.h"
-#include "DesktopApplication.h"
 #include "Device.h"
 #include "Dispatch/MainQueue.h"
 #include "EntryList.h"
 #include "HomeSwipeRecognizer.h"
 #include "ObjectiveC/Weak.h"
-#include "Screen.h"
-#include "TouchDispatcher.h"
-#include "UINavigationControllerPeer.h"
-#include "UIViewPeer.h"
+#include "navigation/UINavigationControllerPeer.h"
+#include "screen/DesktopApplication.h"
+#include "screen/Screen.h"
+#include "screen/TouchDispatcher.h"
+#include "views/UIViewPeer.h"
 
 #include <algorithm>
 #include <chrono>

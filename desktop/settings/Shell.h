@@ -3,8 +3,8 @@
 #include "HomeView.h"
 #include "PaneLoader.h"
 #include "SettingsApplication.h"
-#include "SystemBars.h"
-#include "UIWindow.h"
+#include "screen/SystemBars.h"
+#include "screen/UIWindow.h"
 
 #include <expected>
 #include <memory>

@@ -2,8 +2,8 @@
 
 #include "DesktopColor.h"
 #include "ObjectiveC/Class.h"
-#include "UIViewControllerPeer.h"
-#include "UIViewPeer.h"
+#include "controllers/UIViewControllerPeer.h"
+#include "views/UIViewPeer.h"
 
 #include <memory>
 #include <utility>

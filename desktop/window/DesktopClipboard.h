@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Clipboard.h"
+#include "typing/Clipboard.h"
 
 /// The clipboard that the desktop's programs share. Made by the window; needs a QGuiApplication.
 class DesktopClipboard final : public Clipboard {

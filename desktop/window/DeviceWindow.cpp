@@ -2,12 +2,12 @@
 
 #include "DesktopClipboard.h"
 #include "Device.h"
-#include "Screen.h"
-#include "TextInput.h"
 #include "TextKeys.h"
-#include "TouchDispatcher.h"
-#include "UIScrollViewPeer.h"
 #include "WindowAccessibility.h"
+#include "screen/Screen.h"
+#include "screen/TouchDispatcher.h"
+#include "scrolling/UIScrollViewPeer.h"
+#include "typing/TextInput.h"
 
 #include <QGuiApplication>
 #include <QMouseEvent>

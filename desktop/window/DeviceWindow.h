@@ -1,10 +1,10 @@
 #pragma once
 
-#include "Compositor.h"
 #include "InputMethod.h"
 #include "KeyboardFocus.h"
 #include "ScreenPlacement.h"
-#include "TouchPhase.h"
+#include "screen/Compositor.h"
+#include "touches/TouchPhase.h"
 
 #include <QRasterWindow>
 #include <QTimer>

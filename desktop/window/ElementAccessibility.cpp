@@ -1,8 +1,8 @@
 #include "ElementAccessibility.h"
 
 #include "DeviceWindow.h"
-#include "UIControlPeer.h"
 #include "WindowAccessibility.h"
+#include "controls/UIControlPeer.h"
 
 #include <algorithm>
 

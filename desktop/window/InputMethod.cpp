@@ -1,7 +1,7 @@
 #include "InputMethod.h"
 
 #include "ScreenPlacement.h"
-#include "TextInput.h"
+#include "typing/TextInput.h"
 
 #include <QGuiApplication>
 #include <QInputMethod>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "EditedText.h"
+#include "typing/EditedText.h"
 
 #include <QVariant>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "AccessibilityElement.h"
 #include "ObjectiveC/Weak.h"
+#include "accessibility/AccessibilityElement.h"
 
 #include <optional>
 

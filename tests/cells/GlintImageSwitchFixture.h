@@ -1,10 +1,10 @@
 #pragma once
 
 #include "GlintImageSwitch.h"
-#include "Screen.h"
 #include "TestDevice.h"
-#include "TouchDispatcher.h"
-#include "UIWindow.h"
+#include "screen/Screen.h"
+#include "screen/TouchDispatcher.h"
+#include "screen/UIWindow.h"
 
 #include <gtest/gtest.h>
 

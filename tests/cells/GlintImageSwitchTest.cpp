@@ -2,7 +2,7 @@
 #include "DesktopColor.h"
 #include "GlintImageSwitchFixture.h"
 #include "ObjectiveC/Class.h"
-#include "UIViewPeer.h"
+#include "views/UIViewPeer.h"
 
 #include <QPainterPath>
 

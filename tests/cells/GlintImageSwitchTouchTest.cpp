@@ -1,6 +1,6 @@
 #include "CALayerPeer.h"
 #include "GlintImageSwitchFixture.h"
-#include "UIViewPeer.h"
+#include "views/UIViewPeer.h"
 
 using GlintImageSwitchTouchTest = GlintImageSwitchFixture;
 using std::chrono::milliseconds;

@@ -3,8 +3,8 @@
 // one.
 
 #include "Device.h"
-#include "RealClock.h"
 #include "RootPrefixResolver.h"
+#include "time/RealClock.h"
 
 #include <dlfcn.h>
 

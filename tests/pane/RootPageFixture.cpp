@@ -4,9 +4,9 @@
 #include "LoadedBundles.h"
 #include "PreferenceStore.h"
 #include "SystemSounds.h"
-#include "UINavigationControllerPeer.h"
-#include "UIViewControllerPeer.h"
-#include "UIViewPeer.h"
+#include "controllers/UIViewControllerPeer.h"
+#include "navigation/UINavigationControllerPeer.h"
+#include "views/UIViewPeer.h"
 
 namespace {
 

@@ -1,14 +1,14 @@
 #pragma once
 
-#include "DesktopBarButtonItem.h"
-#include "DesktopMenu.h"
-#include "DesktopNavigationItem.h"
-#include "Screen.h"
 #include "TestDevice.h"
-#include "TouchDispatcher.h"
 #include "UIKit/UINavigationController.h"
-#include "UIWindow.h"
+#include "controllers/DesktopBarButtonItem.h"
+#include "controllers/DesktopNavigationItem.h"
 #include "cxRootListController.h"
+#include "menus/DesktopMenu.h"
+#include "screen/Screen.h"
+#include "screen/TouchDispatcher.h"
+#include "screen/UIWindow.h"
 
 #include <gtest/gtest.h>
 

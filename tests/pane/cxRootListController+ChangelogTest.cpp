@@ -4,10 +4,10 @@
 #include "OnBoardingKit/OBWelcomeController.h"
 #include "PreferenceStore.h"
 #include "RootPageFixture.h"
-#include "SheetContent.h"
 #include "UIKit/_UIBackdropView.h"
-#include "UIViewControllerPeer.h"
-#include "UIViewPeer.h"
+#include "controllers/UIViewControllerPeer.h"
+#include "presentation/SheetContent.h"
+#include "views/UIViewPeer.h"
 
 #include <QBuffer>
 #include <QImage>

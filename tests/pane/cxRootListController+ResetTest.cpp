@@ -1,12 +1,12 @@
 #include "ApplicationTermination.h"
 #include "CoreFoundation/CFString.h"
-#include "DesktopAction.h"
-#include "DesktopApplication.h"
-#include "LibraryFiles.h"
 #include "PreferenceStore.h"
 #include "RootPageFixture.h"
 #include "SystemSounds.h"
-#include "UIViewControllerPeer.h"
+#include "controllers/UIViewControllerPeer.h"
+#include "menus/DesktopAction.h"
+#include "screen/DesktopApplication.h"
+#include "system/LibraryFiles.h"
 
 #include <filesystem>
 #include <fstream>

@@ -1,16 +1,16 @@
 #include "cxRootListController.h"
 
 #include "CALayerPeer.h"
-#include "DesktopAction.h"
 #include "DesktopColor.h"
 #include "DesktopImage.h"
 #include "ObjectiveC/Class.h"
 #include "PreferenceStore.h"
 #include "RootPageFixture.h"
 #include "SystemSounds.h"
-#include "UIControlPeer.h"
-#include "UINavigationControllerPeer.h"
-#include "UIViewControllerPeer.h"
+#include "controllers/UIViewControllerPeer.h"
+#include "controls/UIControlPeer.h"
+#include "menus/DesktopAction.h"
+#include "navigation/UINavigationControllerPeer.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 #include "ObjectiveC/AttachedValues.h"
 
-#include "LogRecorder.h"
 #include "LoggedObject.h"
 #include "ObjectiveC/Weak.h"
+#include "system/LogRecorder.h"
 
 #include <gtest/gtest.h>
 

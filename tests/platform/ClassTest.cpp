@@ -1,7 +1,7 @@
 #include "ObjectiveC/Class.h"
 
-#include "LogRecorder.h"
 #include "ObjectiveC/ClassTable.h"
+#include "system/LogRecorder.h"
 
 #include <gtest/gtest.h>
 

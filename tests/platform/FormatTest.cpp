@@ -1,7 +1,7 @@
 #include "Foundation/Format.h"
 
 #include "Foundation/NSLog.h"
-#include "LogRecorder.h"
+#include "system/LogRecorder.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include "LogRecorder.h"
 #include "ObjectiveC/Class.h"
+#include "system/LogRecorder.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "UIControlPeer.h"
 #include "UIKit/UIControl.h"
+#include "controls/UIControlPeer.h"
 
 #include <string>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Presented.h"
-#include "Screen.h"
 #include "UIKit/UIView.h"
+#include "screen/Presented.h"
+#include "screen/Screen.h"
 
 #include <optional>
 #include <string>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Device.h"
-#include "LogRecorder.h"
+#include "system/LogRecorder.h"
 
 #include <string>
 #include <string_view>

@@ -1,5 +1,5 @@
 #include "ApplicationTermination.h"
-#include "CFStringObject.h"
+#include "objects/CFStringObject.h"
 
 /// Ends an application. \param report whether to write a crash report \param description may be null
 extern "C" [[gnu::visibility("default")]] void

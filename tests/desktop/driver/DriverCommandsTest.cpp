@@ -1,8 +1,8 @@
 #include "Dispatch/MainQueue.h"
 #include "DriverFixture.h"
 #include "Foundation/NSLog.h"
-#include "UIControlPeer.h"
-#include "UIViewPeer.h"
+#include "controls/UIControlPeer.h"
+#include "views/UIViewPeer.h"
 
 #include <QImage>
 

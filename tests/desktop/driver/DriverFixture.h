@@ -1,14 +1,14 @@
 #pragma once
 
 #include "CommandTable.h"
-#include "Compositor.h"
 #include "DrivenApplication.h"
-#include "Screen.h"
 #include "TestDevice.h"
-#include "TouchDispatcher.h"
 #include "UIKit/UIControl.h"
 #include "UIKit/UILabel.h"
-#include "UIWindow.h"
+#include "screen/Compositor.h"
+#include "screen/Screen.h"
+#include "screen/TouchDispatcher.h"
+#include "screen/UIWindow.h"
 
 #include <gtest/gtest.h>
 

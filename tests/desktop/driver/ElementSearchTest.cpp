@@ -1,8 +1,8 @@
 #include "ElementSearch.h"
 
 #include "DriverFixture.h"
-#include "UIScrollViewPeer.h"
-#include "UIViewPeer.h"
+#include "scrolling/UIScrollViewPeer.h"
+#include "views/UIViewPeer.h"
 
 namespace {
 

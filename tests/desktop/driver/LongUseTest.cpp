@@ -1,9 +1,9 @@
 // What is opened and closed over and over leaves nothing behind.
 
 #include "ObjectiveC/Weak.h"
-#include "UINavigationControllerPeer.h"
-#include "UIViewPeer.h"
 #include "WholeProgram.h"
+#include "navigation/UINavigationControllerPeer.h"
+#include "views/UIViewPeer.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 // The pane from its first opening to the end of Settings, as somebody drives it from outside.
 
 #include "Foundation/NSDictionary.h"
-#include "UINavigationControllerPeer.h"
 #include "WholeProgram.h"
+#include "navigation/UINavigationControllerPeer.h"
 
 #include <gtest/gtest.h>
 

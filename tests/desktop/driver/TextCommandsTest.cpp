@@ -1,7 +1,7 @@
 #include "DriverFixture.h"
-#include "TextInput.h"
 #include "UIKit/UITextField.h"
-#include "UITextFieldPeer.h"
+#include "text/UITextFieldPeer.h"
+#include "typing/TextInput.h"
 
 #include <vector>
 

@@ -1,11 +1,11 @@
-#include "DesktopBarButtonItem.h"
 #include "DriverFixture.h"
 #include "PresentedStandIn.h"
 #include "UIKit/UIAlertController.h"
 #include "UIKit/UINavigationController.h"
-#include "UIScrollViewPeer.h"
-#include "UIViewControllerPeer.h"
-#include "UIViewPeer.h"
+#include "controllers/DesktopBarButtonItem.h"
+#include "controllers/UIViewControllerPeer.h"
+#include "scrolling/UIScrollViewPeer.h"
+#include "views/UIViewPeer.h"
 
 namespace {
 

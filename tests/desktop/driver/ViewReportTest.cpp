@@ -3,7 +3,7 @@
 #include "AffineTransform.h"
 #include "DriverFixture.h"
 #include "ObjectiveC/Class.h"
-#include "UIViewPeer.h"
+#include "views/UIViewPeer.h"
 
 namespace {
 

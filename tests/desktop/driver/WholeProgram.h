@@ -1,12 +1,12 @@
 #pragma once
 
-#include "Compositor.h"
 #include "DrivenShell.h"
 #include "DriverSession.h"
-#include "Screen.h"
 #include "Shell.h"
 #include "TestDevice.h"
-#include "TouchDispatcher.h"
+#include "screen/Compositor.h"
+#include "screen/Screen.h"
+#include "screen/TouchDispatcher.h"
 
 #include <QJsonObject>
 #include <memory>

@@ -2,9 +2,9 @@
 
 #include "ChildProgram.h"
 #include "EnvironmentVariable.h"
-#include "PrivateBus.h"
-#include "SignalListener.h"
 #include "TestDevice.h"
+#include "system/PrivateBus.h"
+#include "system/SignalListener.h"
 
 #include <gtest/gtest.h>
 #include <sys/wait.h>

@@ -1,7 +1,7 @@
 #include "Foundation/NSDictionary.h"
 
-#include "PropertyListCoding.h"
 #include "TestDevice.h"
+#include "propertylists/PropertyListCoding.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>

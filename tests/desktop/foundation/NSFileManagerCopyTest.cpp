@@ -1,5 +1,5 @@
-#include "Meanwhile.h"
 #include "NSFileManagerFixture.h"
+#include "files/Meanwhile.h"
 
 #include <sys/stat.h>
 

@@ -1,6 +1,6 @@
 #include "NSFileManagerFixture.h"
 
-#include "FileDescriptor.h"
+#include "files/FileDescriptor.h"
 
 #include <sys/fsuid.h>
 #include <sys/stat.h>

@@ -1,6 +1,6 @@
-#include "FileDescriptor.h"
-#include "Meanwhile.h"
 #include "NSFileManagerFixture.h"
+#include "files/FileDescriptor.h"
+#include "files/Meanwhile.h"
 
 #include <fcntl.h>
 #include <unistd.h>

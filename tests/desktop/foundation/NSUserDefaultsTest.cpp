@@ -2,10 +2,11 @@
 
 #include "Device.h"
 #include "ExactPropertyList.h"
-#include "PropertyListCoding.h"
 #include "RandomPropertyList.h"
-#include "RealClock.h"
 #include "TestDevice.h"
+#include "preferences/PreferenceFolder.h"
+#include "propertylists/PropertyListCoding.h"
+#include "time/RealClock.h"
 
 #include <gtest/gtest.h>
 
@@ -27,7 +28,7 @@ using Dictionary = PropertyList::Dictionary;
 const std::string suite = "org.example.suite";
 
 std::string filePath(const std::string& suiteName) {
-    return Device::preferencesPath + ("/" + suiteName) + ".plist";
+    return PreferenceFolder::path + ("/" + suiteName) + ".plist";
 }
 
 Ref<NSUserDefaults> suiteNamed(const std::string& name) {
@@ -219,7 +220,7 @@ TEST_F(NSUserDefaultsTest, ANameThatIsNoFileNameKeepsNothingLasting) {
         EXPECT_EQ(device_.log().take().size(), 1U) << name;
         EXPECT_EQ(defaults->objectForKey("key"), PropertyList(1)) << name;
     }
-    EXPECT_TRUE(std::filesystem::is_empty(device_.hostPath(Device::preferencesPath)));
+    EXPECT_TRUE(std::filesystem::is_empty(device_.hostPath(PreferenceFolder::path)));
 }
 
 TEST_F(NSUserDefaultsTest, ThreadsCanShareADomain) {

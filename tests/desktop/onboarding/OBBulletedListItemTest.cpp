@@ -1,7 +1,7 @@
 #include "OBBulletedListItem.h"
 
-#include "UILongPressGestureRecognizer.h"
 #include "WelcomeFixture.h"
+#include "touches/UILongPressGestureRecognizer.h"
 
 namespace {
 

@@ -1,16 +1,16 @@
 #pragma once
 
-#include "Compositor.h"
 #include "DesktopColor.h"
 #include "DesktopImage.h"
 #include "OBWelcomeControllerPeer.h"
-#include "Screen.h"
 #include "TestDevice.h"
-#include "UILabelPeer.h"
-#include "UIScrollViewPeer.h"
-#include "UITapGestureRecognizer.h"
-#include "UIViewPeer.h"
-#include "UIWindow.h"
+#include "screen/Compositor.h"
+#include "screen/Screen.h"
+#include "screen/UIWindow.h"
+#include "scrolling/UIScrollViewPeer.h"
+#include "touches/UITapGestureRecognizer.h"
+#include "views/UILabelPeer.h"
+#include "views/UIViewPeer.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 #include "WelcomeView.h"
 
-#include "TouchDispatcher.h"
 #include "UIKit/_UIBackdropView.h"
 #include "WelcomeFixture.h"
+#include "screen/TouchDispatcher.h"
 
 #include <chrono>
 

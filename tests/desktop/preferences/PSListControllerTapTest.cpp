@@ -1,8 +1,8 @@
 #include "CALayerPeer.h"
 #include "ObjectiveC/Class.h"
 #include "PageFixture.h"
-#include "UINavigationControllerPeer.h"
-#include "UITableViewCellPeer.h"
+#include "navigation/UINavigationControllerPeer.h"
+#include "tables/UITableViewCellPeer.h"
 
 #include <cmath>
 

@@ -1,6 +1,7 @@
 #include "Foundation/NSDictionary.h"
 #include "Foundation/NSUserDefaults.h"
 #include "PageFixture.h"
+#include "preferences/PreferenceFolder.h"
 
 #include <algorithm>
 #include <iterator>
@@ -88,7 +89,7 @@ TEST_F(PSListControllerTest, KeepsValuesOnDisk) {
     writeList({keptRow("PSSwitchCell", "a"), keptRow("PSSwitchCell", "b", yes("default"))});
     show();
     peer().setValue(specifier("a"), true);
-    const auto file = std::string(Device::preferencesPath) + "/" + domain + ".plist";
+    const auto file = std::string(PreferenceFolder::path) + "/" + domain + ".plist";
     const auto kept = dictionaryWithContentsOfFile(file);
     EXPECT_EQ(kept, (PropertyList::Dictionary{{"a", true}}));
     peer().setValue(specifier("a"), std::nullopt);

@@ -1,7 +1,7 @@
 #include "Foundation/NSUserDefaults.h"
 #include "PSControlTableCell.h"
 #include "PageFixture.h"
-#include "UISwitchPeer.h"
+#include "controls/UISwitchPeer.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include "PSHeaderFooterView.h"
 #include "PSTableCellPeer.h"
 #include "PageFixture.h"
-#include "UILabelPeer.h"
+#include "views/UILabelPeer.h"
 
 namespace {
 

@@ -1,11 +1,11 @@
 #pragma once
 
 #include "PSListControllerPeer.h"
-#include "Screen.h"
 #include "TestDevice.h"
-#include "TouchDispatcher.h"
 #include "UIKit/UINavigationController.h"
-#include "UIWindow.h"
+#include "screen/Screen.h"
+#include "screen/TouchDispatcher.h"
+#include "screen/UIWindow.h"
 
 #include <gtest/gtest.h>
 

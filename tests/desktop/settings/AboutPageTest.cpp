@@ -1,8 +1,8 @@
 #include "AboutPage.h"
 
 #include "PSListControllerPeer.h"
-#include "Screen.h"
 #include "TestDevice.h"
+#include "screen/Screen.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 
 #include "EntryFixture.h"
 #include "PSListControllerPeer.h"
-#include "Screen.h"
+#include "screen/Screen.h"
 
 #include <filesystem>
 

@@ -1,10 +1,10 @@
 #include "HomeSwipeRecognizer.h"
 
-#include "Screen.h"
 #include "TestDevice.h"
-#include "TouchDispatcher.h"
-#include "UIViewPeer.h"
-#include "UIWindow.h"
+#include "screen/Screen.h"
+#include "screen/TouchDispatcher.h"
+#include "screen/UIWindow.h"
+#include "views/UIViewPeer.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
 #include "HomeView.h"
 
-#include "Screen.h"
 #include "TestDevice.h"
-#include "UIControlPeer.h"
-#include "UIWindow.h"
+#include "controls/UIControlPeer.h"
+#include "screen/Screen.h"
+#include "screen/UIWindow.h"
 
 #include <gtest/gtest.h>
 

@@ -4,8 +4,8 @@
 #include "ObjectiveC/Class.h"
 #include "PSListControllerPeer.h"
 #include "PreferenceBundle.h"
-#include "Screen.h"
-#include "UIWindow.h"
+#include "screen/Screen.h"
+#include "screen/UIWindow.h"
 
 #include <filesystem>
 

@@ -1,9 +1,9 @@
 #include "ProblemPage.h"
 
-#include "Screen.h"
 #include "TestDevice.h"
-#include "UIViewControllerPeer.h"
-#include "UIViewPeer.h"
+#include "controllers/UIViewControllerPeer.h"
+#include "screen/Screen.h"
+#include "views/UIViewPeer.h"
 
 #include <gtest/gtest.h>
 

@@ -3,9 +3,9 @@
 #include "EntryFixture.h"
 #include "ObjectiveC/Class.h"
 #include "PSListControllerPeer.h"
-#include "Screen.h"
-#include "UINavigationControllerPeer.h"
-#include "UIWindow.h"
+#include "navigation/UINavigationControllerPeer.h"
+#include "screen/Screen.h"
+#include "screen/UIWindow.h"
 
 #include <optional>
 

@@ -3,10 +3,10 @@
 #include "EntryFixture.h"
 #include "PSListControllerPeer.h"
 #include "PreferenceBundle.h"
-#include "Screen.h"
-#include "TouchDispatcher.h"
-#include "UITableViewCellPeer.h"
-#include "UIWindow.h"
+#include "screen/Screen.h"
+#include "screen/TouchDispatcher.h"
+#include "screen/UIWindow.h"
+#include "tables/UITableViewCellPeer.h"
 
 #include <QByteArray>
 #include <optional>

@@ -1,8 +1,8 @@
 #include "ShellFixture.h"
 
 #include "EntryList.h"
-#include "UINavigationControllerPeer.h"
-#include "UIViewPeer.h"
+#include "navigation/UINavigationControllerPeer.h"
+#include "views/UIViewPeer.h"
 
 void ShellFixture::SetUp() {
     install("Good", "standInPage", builtCode("StandInPage"));

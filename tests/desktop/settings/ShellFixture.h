@@ -1,9 +1,9 @@
 #pragma once
 
 #include "BundleFixture.h"
-#include "Screen.h"
 #include "Shell.h"
-#include "TouchDispatcher.h"
+#include "screen/Screen.h"
+#include "screen/TouchDispatcher.h"
 
 #include <chrono>
 #include <optional>

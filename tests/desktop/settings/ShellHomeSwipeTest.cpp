@@ -1,8 +1,8 @@
 // The finger that draws Settings up from the screen's lower edge.
 
 #include "ShellFixture.h"
-#include "UIButton.h"
-#include "UIViewPeer.h"
+#include "controls/UIButton.h"
+#include "views/UIViewPeer.h"
 
 #include <cmath>
 

@@ -1,12 +1,12 @@
 // The end of the Settings application.
 
 #include "ApplicationTermination.h"
-#include "Keyboard.h"
-#include "LiveObjects.h"
 #include "ShellFixture.h"
 #include "UIKit/UITextField.h"
-#include "UIViewPeer.h"
-#include "UIWindow.h"
+#include "keyboard/Keyboard.h"
+#include "objects/LiveObjects.h"
+#include "screen/UIWindow.h"
+#include "views/UIViewPeer.h"
 
 namespace {
 

@@ -1,13 +1,13 @@
 #include "Shell.h"
 
-#include "Compositor.h"
-#include "DesktopMenu.h"
 #include "EntryList.h"
-#include "MenuPresentation.h"
 #include "PSListControllerPeer.h"
 #include "ShellFixture.h"
 #include "UIKit/UIApplication.h"
-#include "UINavigationControllerPeer.h"
+#include "menus/DesktopMenu.h"
+#include "menus/MenuPresentation.h"
+#include "navigation/UINavigationControllerPeer.h"
+#include "screen/Compositor.h"
 
 namespace {
 

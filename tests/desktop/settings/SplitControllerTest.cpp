@@ -1,10 +1,10 @@
 #include "SplitController.h"
 
-#include "Screen.h"
 #include "TestDevice.h"
-#include "UIViewControllerPeer.h"
-#include "UIViewPeer.h"
-#include "UIWindow.h"
+#include "controllers/UIViewControllerPeer.h"
+#include "screen/Screen.h"
+#include "screen/UIWindow.h"
+#include "views/UIViewPeer.h"
 
 #include <gtest/gtest.h>
 

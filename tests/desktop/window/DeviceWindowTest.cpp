@@ -1,6 +1,6 @@
 #include "PresentedStandIn.h"
-#include "UIScrollViewPeer.h"
 #include "WindowFixture.h"
+#include "scrolling/UIScrollViewPeer.h"
 
 #include <QGuiApplication>
 #include <QPalette>

@@ -1,7 +1,7 @@
 #include "InputMethod.h"
 
-#include "TextInput.h"
 #include "TextWindowFixture.h"
+#include "typing/TextInput.h"
 
 #include <QCoreApplication>
 #include <QInputMethodEvent>

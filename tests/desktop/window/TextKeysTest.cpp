@@ -1,7 +1,7 @@
 #include "TextKeys.h"
 
-#include "Clipboard.h"
-#include "TextInput.h"
+#include "typing/Clipboard.h"
+#include "typing/TextInput.h"
 
 #include <gtest/gtest.h>
 

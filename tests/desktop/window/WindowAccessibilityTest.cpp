@@ -1,7 +1,7 @@
 #include "WindowAccessibility.h"
 
-#include "UIViewPeer.h"
 #include "WindowFixture.h"
+#include "views/UIViewPeer.h"
 
 namespace {
 

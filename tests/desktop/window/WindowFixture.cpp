@@ -1,7 +1,7 @@
 #include "WindowFixture.h"
 
 #include "CountedButton.h"
-#include "UIViewPeer.h"
+#include "views/UIViewPeer.h"
 
 #include <QGuiApplication>
 

@@ -1,12 +1,12 @@
 #pragma once
 
 #include "DeviceWindow.h"
-#include "Screen.h"
 #include "TestDevice.h"
-#include "TouchDispatcher.h"
-#include "UIControlPeer.h"
 #include "UIKit/UIControl.h"
-#include "UIWindow.h"
+#include "controls/UIControlPeer.h"
+#include "screen/Screen.h"
+#include "screen/TouchDispatcher.h"
+#include "screen/UIWindow.h"
 
 #include <gtest/gtest.h>
 

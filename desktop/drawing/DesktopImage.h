@@ -1,0 +1,58 @@
+#pragma once
+
+#include "ColorComponents.h"
+#include "SymbolOutline.h"
+#include "UIKit/UIImage.h"
+
+#include <QImage>
+#include <QPainterPath>
+#include <string>
+#include <string_view>
+#include <variant>
+
+class QPainter;
+
+/// A picture of pixels, or a symbol's outline at a point size. Immutable.
+class DesktopImage final : public UIImage {
+public:
+    /// \param scale pixels per point
+    DesktopImage(QImage picture, double scale);
+    DesktopImage(std::string symbolName, QPainterPath outline, CGSize size);
+
+    /// A symbol at a point size and weight; empty when there is none of that name.
+    [[nodiscard]] static Ref<DesktopImage> symbol(std::string_view name, double pointSize,
+                                                  SymbolWeight weight = SymbolWeight::Regular);
+
+    /// The picture in the device's file `path`, or beside it with "@2x" or "@3x", whichever suits the scale
+    /// best.
+    [[nodiscard]] static Ref<DesktopImage> named(std::string_view path, double displayScale);
+
+    /// The same for a path that has to be there itself, and that is taken as it is when it names a scale.
+    [[nodiscard]] static Ref<DesktopImage> withContentsOfFile(std::string_view path, double displayScale);
+
+    /// Empty for a picture.
+    [[nodiscard]] const std::string& symbolName() const { return symbolName_; }
+
+    /// Whether the image is drawn in the tint.
+    [[nodiscard]] bool isTemplate() const;
+
+    /// Draws into the rectangle, in points.
+    void draw(QPainter& painter, const CGRect& rect, const ColorComponents& tint) const;
+
+    // UIImage:
+    [[nodiscard]] Ref<UIImage> imageWithRenderingMode(UIImageRenderingMode mode) const override;
+
+    [[nodiscard]] UIImageRenderingMode renderingMode() const override { return mode_; }
+
+    [[nodiscard]] CGSize size() const override { return size_; }
+
+private:
+    using Content = std::variant<QImage, QPainterPath>;
+
+    DesktopImage(Content content, std::string symbolName, CGSize size, UIImageRenderingMode mode);
+
+    Content content_;
+    std::string symbolName_;
+    CGSize size_;
+    UIImageRenderingMode mode_ = UIImageRenderingMode::Automatic;
+};

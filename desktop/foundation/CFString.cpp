@@ -1,9 +1,0 @@
-#include "CoreFoundation/CFString.h"
-
-#include "CFStringObject.h"
-
-CFString::CFString(std::string_view text) : object_(new CFStringObject{std::string(text)}) {}
-
-CFString::~CFString() {
-    delete object_;
-}

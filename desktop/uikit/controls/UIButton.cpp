@@ -1,0 +1,20 @@
+#include "controls/UIButton.h"
+
+#include "ObjectiveC/Class.h"
+#include "controls/UIButtonPeer.h"
+
+namespace {
+
+const Class classObject = Class::define<UIButton, UIControl>("UIButton");
+
+} // namespace
+
+UIButton::UIButton() : UIButton(std::make_unique<UIButtonPeer>()) {}
+
+UIButton::UIButton(std::unique_ptr<UIButtonPeer> peer) : UIControl(std::move(peer)) {
+    this->peer().viewMade();
+}
+
+UIButtonPeer& UIButton::peer() const {
+    return dynamic_cast<UIButtonPeer&>(UIControl::peer());
+}

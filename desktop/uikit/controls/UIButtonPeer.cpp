@@ -1,0 +1,141 @@
+#include "controls/UIButtonPeer.h"
+
+#include "AnimationGroup.h"
+#include "DesktopColor.h"
+#include "views/UIImageViewPeer.h"
+#include "views/UILabelPeer.h"
+
+#include <algorithm>
+#include <chrono>
+#include <utility>
+
+namespace {
+
+constexpr FontStyle systemStyle{.size = 15};
+/// Buttons are never smaller, so that a finger finds them.
+constexpr double leastSide = 30;
+constexpr double pressedAlpha = 0.2;
+constexpr std::chrono::milliseconds releaseTime{250};
+
+} // namespace
+
+UIButtonPeer::UIButtonPeer() : titleLabel_(make<UILabel>()), imageView_(make<UIImageView>()) {}
+
+void UIButtonPeer::viewMade() {
+    titleLabel_->setUserInteractionEnabled(false);
+    titleLabel_->setTextAlignment(NSTextAlignment::Center);
+    imageView_->setUserInteractionEnabled(false);
+    imageView_->setContentMode(UIViewContentMode::ScaleAspectFit);
+    addSubview(imageView_);
+    addSubview(titleLabel_);
+    UILabelPeer::of(*titleLabel_).setFontStyle(systemStyle);
+    updateColors();
+}
+
+void UIButtonPeer::setTitle(const std::optional<std::string>& title) {
+    titleLabel_->setText(title);
+    contentDidChange();
+}
+
+void UIButtonPeer::setImage(const Ref<UIImage>& image) {
+    imageView_->setImage(image);
+    contentDidChange();
+}
+
+void UIButtonPeer::setFontStyle(const FontStyle& style) {
+    UILabelPeer::of(*titleLabel_).setFontStyle(style);
+    contentDidChange();
+}
+
+void UIButtonPeer::setContentInsets(const UIEdgeInsets& insets) {
+    contentInsets_ = insets;
+    contentDidChange();
+}
+
+void UIButtonPeer::setTitleColor(const Ref<UIColor>& color) {
+    titleColor_ = color;
+    updateColors();
+}
+
+void UIButtonPeer::stateDidChange() {
+    updateColors();
+    updatePressedLook();
+}
+
+void UIButtonPeer::updateColors() {
+    const auto disabled = DesktopColor::system(SystemColor::TertiaryLabel);
+    const auto enabled = titleColor_ ? titleColor_ : tintColor();
+    titleLabel_->setTextColor(isEnabled() ? enabled : disabled);
+    const auto imageTint = isEnabled() ? Ref<UIColor>() : disabled;
+    imageView_->peer().setTintColor(imageTint);
+}
+
+void UIButtonPeer::updatePressedLook() {
+    if (std::exchange(isPale_, isHighlighted()) == isHighlighted())
+        return;
+    const auto change = [this] {
+        titleLabel_->setAlpha(isPale_ ? pressedAlpha : 1);
+        imageView_->setAlpha(isPale_ ? pressedAlpha : 1);
+    };
+    if (isPale_)
+        AnimationGroup::runWithoutAnimation(change);
+    else
+        AnimationGroup::run({.duration = releaseTime}, change, {});
+}
+
+CGSize UIButtonPeer::imageSize() const {
+    const auto image = imageView_->image();
+    return image ? image->size() : CGSize();
+}
+
+CGSize UIButtonPeer::titleSize() const {
+    return titleLabel_->peer().sizeThatFits({});
+}
+
+CGSize UIButtonPeer::sizeThatFits(CGSize /*room*/) const {
+    const auto image = imageSize();
+    const auto title = titleSize();
+    return {std::max(leastSide, contentInsets_.left + image.width + title.width + contentInsets_.right),
+            std::max(leastSide,
+                     contentInsets_.top + std::max(image.height, title.height) + contentInsets_.bottom)};
+}
+
+std::optional<double> UIButtonPeer::intrinsicWidth() const {
+    return sizeThatFits({}).width;
+}
+
+std::optional<double> UIButtonPeer::intrinsicHeight() const {
+    return sizeThatFits({}).height;
+}
+
+void UIButtonPeer::layoutSubviews() {
+    const auto room = UIEdgeInsetsInsetRect(view().bounds(), contentInsets_);
+    const auto image = imageSize();
+    auto title = titleSize();
+    title.width = std::clamp(title.width, 0.0, std::max(0.0, room.size.width - image.width));
+    const auto left = room.origin.x + (room.size.width - image.width - title.width) / 2;
+    imageView_->setFrame(CGRectMake(left, CGRectGetMidY(room) - image.height / 2, image.width, image.height));
+    titleLabel_->setFrame(
+        CGRectMake(left + image.width, CGRectGetMidY(room) - title.height / 2, title.width, title.height));
+}
+
+void UIButtonPeer::tintColorDidChange() {
+    updateColors();
+    UIControlPeer::tintColorDidChange();
+}
+
+Accessibility UIButtonPeer::accessibility() const {
+    auto told = UIControlPeer::accessibility();
+    if (told.label.empty())
+        told.label = shownText().value_or("");
+    return told;
+}
+
+std::optional<std::string> UIButtonPeer::shownText() const {
+    return titleLabel_->text();
+}
+
+void UIButtonPeer::contentDidChange() {
+    setNeedsConstraintLayout();
+    setNeedsLayout();
+}

@@ -1,0 +1,47 @@
+#include "UIKit/UIControl.h"
+
+#include "ObjectiveC/Class.h"
+#include "controls/UIControlPeer.h"
+
+#include <string>
+#include <utility>
+
+namespace {
+
+const Class classObject = Class::define<UIControl, UIView>("UIControl");
+const Class eventClass = Class::define<UIEvent>("UIEvent");
+const Class touchClass = Class::define<UITouch>("UITouch");
+
+UIControlPeer& peerOf(UIControl& control) {
+    return dynamic_cast<UIControlPeer&>(control.peer());
+}
+
+} // namespace
+
+UIControl::UIControl() : UIView(std::make_unique<UIControlPeer>()) {}
+
+UIControl::UIControl(std::unique_ptr<UIViewPeer> peer) : UIView(std::move(peer)) {}
+
+void UIControl::addTarget(NSObject& target, std::string_view selector, UIControlEvents events) {
+    peerOf(*this).addTarget(target, std::string(selector), events);
+}
+
+void UIControl::sendActionsForControlEvents(UIControlEvents events) {
+    peerOf(*this).sendActions(events, nullptr);
+}
+
+bool UIControl::isTracking() const {
+    return dynamic_cast<const UIControlPeer&>(peer()).isTracking();
+}
+
+bool UIControl::beginTrackingWithTouch(UITouch& /*touch*/, UIEvent* /*event*/) {
+    return true;
+}
+
+bool UIControl::continueTrackingWithTouch(UITouch& /*touch*/, UIEvent* /*event*/) {
+    return true;
+}
+
+void UIControl::endTrackingWithTouch(UITouch& /*touch*/, UIEvent* /*event*/) {}
+
+void UIControl::cancelTrackingWithEvent(UIEvent* /*event*/) {}

@@ -1,0 +1,133 @@
+#include "keyboard/KeyboardKey.h"
+
+#include "DesktopColor.h"
+#include "DesktopImage.h"
+#include "ObjectiveC/Class.h"
+#include "TextLayout.h"
+#include "controls/UIControlPeer.h"
+
+#include <QPainter>
+
+namespace {
+
+using Action = KeyboardLayout::Action;
+
+const Class classObject = Class::define<KeyboardKey, UIControl>("KeyboardKey");
+
+constexpr double cornerRadius = 5;
+constexpr double shadowHeight = 1;
+constexpr double letterSize = 25;
+constexpr double capitalSize = 22.5;
+constexpr double wordSize = 16;
+constexpr double symbolSize = 19;
+
+struct Palette {
+    QColor letterKey;
+    QColor otherKey;
+    QColor shadow;
+    QColor text;
+};
+
+Palette paletteFor(const Traits& traits) {
+    if (traits.style == UserInterfaceStyle::Dark)
+        return {.letterKey = {107, 107, 107},
+                .otherKey = {71, 71, 71},
+                .shadow = {29, 29, 29},
+                .text = Qt::white};
+    return {
+        .letterKey = Qt::white, .otherKey = {171, 176, 186}, .shadow = {137, 138, 141}, .text = Qt::black};
+}
+
+bool isWide(const KeyboardLayout::Key& key) {
+    return key.action != Action::Type || key.text == " ";
+}
+
+/// What is written on a key.
+std::string labelOf(const KeyboardKey& key) {
+    const auto& text = key.key().text;
+    if (text == " ")
+        return "space";
+    return key.isShifted() && !isWide(key.key()) ? QString::fromStdString(text).toUpper().toStdString()
+                                                 : text;
+}
+
+std::string symbolOf(const KeyboardKey& key) {
+    switch (key.key().action) {
+    case Action::Shift:
+        return key.isShifted() ? "shift.fill" : "shift";
+    case Action::Delete:
+        return "delete.left";
+    default:
+        return {};
+    }
+}
+
+double textSizeOf(const KeyboardKey& key) {
+    if (isWide(key.key()))
+        return wordSize;
+    return key.isShifted() ? capitalSize : letterSize;
+}
+
+class KeyPeer final : public UIControlPeer {
+public:
+    // UIControlPeer:
+    void stateDidChange() override { setNeedsDisplay(); }
+
+    // UIViewPeer:
+    void drawLayer(QPainter& painter, const CGRect& bounds, const Traits& traits) override {
+        const auto gap = KeyboardLayout::gap(traits.idiom);
+        const QRectF shape(bounds.origin.x + gap.across, bounds.origin.y + gap.down,
+                           bounds.size.width - 2 * gap.across, bounds.size.height - 2 * gap.down);
+        const auto palette = paletteFor(traits);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(palette.shadow);
+        painter.drawRoundedRect(shape.translated(0, shadowHeight), cornerRadius, cornerRadius);
+        painter.setBrush(isBright() ? palette.letterKey : palette.otherKey);
+        painter.drawRoundedRect(shape, cornerRadius, cornerRadius);
+        drawLabel(painter, shape, palette.text, traits);
+    }
+
+private:
+    [[nodiscard]] const KeyboardKey& key() const { return dynamic_cast<const KeyboardKey&>(control()); }
+
+    /// Keys that type are bright; a finger turns that round.
+    [[nodiscard]] bool isBright() const {
+        const auto action = key().key().action;
+        const auto bright = action == Action::Type || (action == Action::Shift && key().isShifted());
+        return bright != isHighlighted();
+    }
+
+    void drawLabel(QPainter& painter, const QRectF& shape, const QColor& color, const Traits& traits) const {
+        if (const auto symbol = DesktopImage::symbol(symbolOf(key()), symbolSize)) {
+            const auto size = symbol->size();
+            symbol->draw(painter,
+                         CGRectMake(shape.center().x() - size.width / 2, shape.center().y() - size.height / 2,
+                                    size.width, size.height),
+                         {color.redF(), color.greenF(), color.blueF(), color.alphaF()});
+            return;
+        }
+        const TextLayout label(labelOf(key()), FontStyle{.size = textSizeOf(key())},
+                               {.pixelScale = traits.displayScale});
+        const auto size = label.size();
+        label.paint(painter, shape.center() - QPointF(size.width() / 2, size.height() / 2), color);
+    }
+};
+
+} // namespace
+
+KeyboardKey::KeyboardKey(const KeyboardLayout::Key& key, Pressed pressed)
+    : UIControl(std::make_unique<KeyPeer>()),
+      key_(key),
+      pressed_(std::move(pressed)) {
+    const auto event =
+        key.action == Action::Delete ? UIControlEvents::TouchDown : UIControlEvents::TouchUpInside;
+    dynamic_cast<UIControlPeer&>(peer()).addHandler(event, [this] { pressed_(key_); });
+    peer().setAccessibility(
+        {.label = labelOf(*this), .value = {}, .role = AccessibilityRole::Button, .isElement = true});
+}
+
+void KeyboardKey::setShifted(bool shifted) {
+    isShifted_ = shifted;
+    peer().setNeedsDisplay();
+}

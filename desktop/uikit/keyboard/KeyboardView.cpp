@@ -1,0 +1,113 @@
+#include "keyboard/KeyboardView.h"
+
+#include "AnimationGroup.h"
+#include "DesktopColor.h"
+#include "ObjectiveC/Class.h"
+#include "screen/Screen.h"
+#include "typing/TextInput.h"
+#include "views/UIViewPeer.h"
+
+#include <QPainter>
+#include <functional>
+
+namespace {
+
+using Action = KeyboardLayout::Action;
+using Page = KeyboardLayout::Page;
+
+const Class classObject = Class::define<KeyboardView, UIView>("KeyboardView");
+
+constexpr double homeStrip = 20; ///< at the screen's lower edge, where a finger draws applications away
+
+void edit(const std::function<void(EditedText&)>& change) {
+    if (auto* const input = Screen::current().firstResponder().input())
+        input->edit(change);
+}
+
+/// Paints what is behind the keys, and takes touches that miss them.
+class KeyboardViewPeer final : public UIViewPeer {
+public:
+    // UIViewPeer:
+    void drawLayer(QPainter& painter, const CGRect& bounds, const Traits& traits) override {
+        const auto isDark = traits.style == UserInterfaceStyle::Dark;
+        painter.fillRect(QRectF(0, 0, bounds.size.width, bounds.size.height),
+                         isDark ? QColor(43, 43, 43) : QColor(209, 211, 217));
+    }
+
+    [[nodiscard]] bool pointInside(CGPoint point) const override {
+        return UIViewPeer::pointInside(point) && point.y < view().bounds().size.height - homeStrip;
+    }
+};
+
+} // namespace
+
+KeyboardView::KeyboardView() : UIView(std::make_unique<KeyboardViewPeer>()) {}
+
+void KeyboardView::reset() {
+    const auto* const input = Screen::current().firstResponder().input();
+    showPage(Page::Letters);
+    setShifted(input != nullptr && input->editedText().string().isEmpty());
+}
+
+void KeyboardView::layoutSubviews() {
+    UIView::layoutSubviews();
+    if (!std::equal_to()(laidOutWidth_, bounds().size.width))
+        showPage(page_);
+}
+
+void KeyboardView::showPage(Page page) {
+    page_ = page;
+    laidOutWidth_ = bounds().size.width;
+    AnimationGroup::runWithoutAnimation([this] {
+        for (const auto& key : std::exchange(keys_, {}))
+            key->peer().removeFromSuperview();
+        for (const auto& key : KeyboardLayout::keys(page_, peer().traits().idiom, laidOutWidth_)) {
+            keys_.push_back(make<KeyboardKey>(key, [this](const auto& pressed) { press(pressed); }));
+            keys_.back()->setFrame(key.frame);
+            addSubview(keys_.back());
+        }
+    });
+    setShifted(isShifted_);
+}
+
+void KeyboardView::setShifted(bool shifted) {
+    isShifted_ = shifted;
+    for (const auto& key : keys_)
+        key->setShifted(shifted && page_ == Page::Letters);
+}
+
+void KeyboardView::press(const KeyboardLayout::Key& key) {
+    const auto kept = retain(this);
+    switch (key.action) {
+    case Action::Type:
+        type(key.text);
+        break;
+    case Action::Shift:
+        setShifted(!isShifted_);
+        break;
+    case Action::Delete:
+        edit([](EditedText& text) { text.deleteBackward(); });
+        break;
+    case Action::Return:
+        edit([](EditedText& text) { text.endComposing(); });
+        break;
+    case Action::ShowLetters:
+        showPage(Page::Letters);
+        break;
+    case Action::ShowNumbers:
+        showPage(Page::Numbers);
+        break;
+    case Action::ShowSymbols:
+        showPage(Page::Symbols);
+        break;
+    }
+}
+
+void KeyboardView::type(const std::string& text) {
+    const auto typed = QString::fromStdString(text);
+    edit([written = isShifted_ && page_ == Page::Letters ? typed.toUpper() : typed](EditedText& edited) {
+        edited.endComposing();
+        edited.insert(written);
+    });
+    setShifted(false);
+}

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "keyboard/KeyboardKey.h"
+
+#include <vector>
+
+/// The on-screen keyboard: types into the first responder. Made and placed by `Keyboard`.
+class KeyboardView final : public UIView {
+public:
+    KeyboardView();
+
+    /// Begins anew: with letters, large ones where there is no text yet.
+    void reset();
+
+    [[nodiscard]] const std::vector<Ref<KeyboardKey>>& keys() const { return keys_; }
+
+    [[nodiscard]] bool isShifted() const { return isShifted_; }
+
+    // UIView:
+    void layoutSubviews() override;
+
+private:
+    void showPage(KeyboardLayout::Page page);
+    void setShifted(bool shifted);
+    void press(const KeyboardLayout::Key& key);
+    void type(const std::string& text);
+
+    std::vector<Ref<KeyboardKey>> keys_;
+    KeyboardLayout::Page page_ = KeyboardLayout::Page::Letters;
+    double laidOutWidth_ = 0;
+    bool isShifted_ = false;
+};

@@ -1,0 +1,6 @@
+#include "keyboard/Keyboard.h"
+#include "screen/Screen.h"
+
+std::unique_ptr<ScreenKeyboard> Screen::makeKeyboard() {
+    return std::make_unique<Keyboard>();
+}

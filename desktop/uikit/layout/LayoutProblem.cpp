@@ -1,0 +1,213 @@
+#include "layout/LayoutProblem.h"
+
+#include "Foundation/NSLog.h"
+#include "views/UIViewPeer.h"
+#include "views/ViewLayout.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr double fittingPriority = 50;
+
+bool isHorizontal(LayoutAttribute attribute) {
+    using enum LayoutAttribute;
+    return attribute == Left || attribute == Right || attribute == CenterX || attribute == Width;
+}
+
+UIEdgeInsets insetsOf(const UIView& view, LayoutGuide guide) {
+    if (guide == LayoutGuide::SafeArea)
+        return view.peer().safeAreaInsets();
+    if (guide == LayoutGuide::Margins)
+        return view.peer().layoutRules().margins;
+    return {};
+}
+
+double toPixel(double value, double scale) {
+    return std::round(value * scale) / scale;
+}
+
+} // namespace
+
+bool LayoutProblem::isHost(const UIView& view) {
+    const auto& peer = view.peer();
+    return peer.isFrameGiven() && std::ranges::any_of(peer.subviews(), [](const auto& subview) {
+               return !subview->peer().isFrameGiven();
+           });
+}
+
+LayoutProblem::LayoutProblem(UIView& host, const HostSize& size) : host_(host) {
+    collect(host);
+    addHostSize(size);
+    for (const auto* view : views_) {
+        if (!isPlacedAsAWhole(*view))
+            addConstraints(*view);
+    }
+    for (const auto* view : views_) {
+        if (!isPlacedAsAWhole(*view))
+            view->peer().addOwnConstraints(*this);
+    }
+    addIntrinsicSizes();
+    wrapTexts();
+}
+
+bool LayoutProblem::isPlacedAsAWhole(const UIView& view) const {
+    return &view != &host_ && view.peer().isFrameGiven();
+}
+
+void LayoutProblem::collect(UIView& view) {
+    views_.push_back(&view);
+    const auto& unknowns = unknowns_[&view];
+    if (isPlacedAsAWhole(view)) {
+        addGivenFrame(view, unknowns);
+        return;
+    }
+    for (const auto& subview : view.peer().subviews())
+        collect(*subview);
+}
+
+void LayoutProblem::addHostSize(const HostSize& size) {
+    const auto& unknowns = unknowns_[&host_];
+    const auto addLength = [this](const LinearVariable& length, const std::optional<double>& given) {
+        add({length, LinearRelation::GreaterOrEqual, 0});
+        if (given)
+            add({length, LinearRelation::Equal, *given});
+        else
+            add({length, LinearRelation::Equal, 0, fittingPriority});
+    };
+    addLength(unknowns.width, size.width);
+    addLength(unknowns.height, size.height);
+}
+
+void LayoutProblem::addGivenFrame(const UIView& view, const Unknowns& unknowns) {
+    const auto frame = view.frame();
+    add({unknowns.left, LinearRelation::Equal, frame.origin.x});
+    add({unknowns.top, LinearRelation::Equal, frame.origin.y});
+    add({unknowns.width, LinearRelation::Equal, frame.size.width});
+    add({unknowns.height, LinearRelation::Equal, frame.size.height});
+}
+
+void LayoutProblem::add(const LinearConstraint& constraint) {
+    if (!solver_.addConstraint(constraint))
+        NSLog("Unable to simultaneously satisfy constraints of %@; one of them is left out.",
+              host_.description());
+}
+
+void LayoutProblem::addConstraints(const UIView& view) {
+    for (const auto& constraint : view.peer().layoutRules().constraints) {
+        const auto& terms = constraint->terms();
+        const auto first = expression(terms.first);
+        const auto second = terms.second ? expression(*terms.second) : LinearExpression();
+        if (first && second)
+            add({*first, terms.relation, *second * terms.factor + terms.constant, terms.priority});
+    }
+}
+
+void LayoutProblem::addIntrinsicSizes() {
+    for (const auto* view : views_) {
+        if (!view->peer().isFrameGiven())
+            addIntrinsicSize(view->peer(), unknowns_.at(view));
+    }
+}
+
+void LayoutProblem::addIntrinsicSize(const UIViewPeer& view, const Unknowns& unknowns) {
+    const auto addLength = [this](const LinearVariable& length, const std::optional<double>& intrinsic,
+                                  const ContentPriorities& priorities) {
+        add({length, LinearRelation::GreaterOrEqual, 0});
+        if (!intrinsic)
+            return;
+        const auto keep = [this](const LinearConstraint& constraint) {
+            if (const auto added = solver_.addConstraint(constraint))
+                intrinsicSizes_.push_back(*added);
+        };
+        keep({length, LinearRelation::GreaterOrEqual, *intrinsic, priorities.compression});
+        keep({length, LinearRelation::LessOrEqual, *intrinsic, priorities.hugging});
+    };
+    addLength(unknowns.width, view.intrinsicWidth(), view.layoutRules().horizontal);
+    addLength(unknowns.height, view.intrinsicHeight(), view.layoutRules().vertical);
+}
+
+/// A text of several lines has its height from the width that it gets, so it is asked again once that is
+/// known.
+void LayoutProblem::wrapTexts() {
+    auto changed = false;
+    for (const auto* view : views_) {
+        if (!view->peer().isFrameGiven() &&
+            view->peer().takeLayoutWidth(solver_.value(unknowns_.at(view).width)))
+            changed = true;
+    }
+    if (!changed)
+        return;
+    for (const auto constraint : std::exchange(intrinsicSizes_, {}))
+        static_cast<void>(solver_.removeConstraint(constraint));
+    addIntrinsicSizes();
+}
+
+std::optional<LinearExpression> LayoutProblem::originInHost(const UIView& view, bool horizontal) const {
+    LinearExpression origin;
+    for (const auto* at = &view; at != &host_; at = at->peer().superview()) {
+        const auto found = at != nullptr ? unknowns_.find(at) : unknowns_.end();
+        if (found == unknowns_.end())
+            return std::nullopt;
+        origin += horizontal ? found->second.left : found->second.top;
+    }
+    return origin;
+}
+
+std::optional<LayoutProblem::Extent> LayoutProblem::extent(const UIView& view, LayoutGuide guide,
+                                                           bool horizontal) const {
+    auto origin = originInHost(view, horizontal);
+    if (!origin)
+        return std::nullopt;
+    const auto& unknowns = unknowns_.at(&view);
+    const auto insets = insetsOf(view, guide);
+    const auto before = horizontal ? insets.left : insets.top;
+    const auto after = horizontal ? insets.right : insets.bottom;
+    return Extent{.begin = *origin + before,
+                  .length = LinearExpression(horizontal ? unknowns.width : unknowns.height) - before - after};
+}
+
+std::optional<LinearExpression> LayoutProblem::expression(const LayoutAnchor& anchor) const {
+    const auto view = anchor.view.strong();
+    const auto found = view ? extent(*view, anchor.guide, isHorizontal(anchor.attribute)) : std::nullopt;
+    if (!found)
+        return std::nullopt;
+    switch (anchor.attribute) {
+    case LayoutAttribute::Left:
+    case LayoutAttribute::Top:
+        return found->begin;
+    case LayoutAttribute::Right:
+    case LayoutAttribute::Bottom:
+        return found->begin + found->length;
+    case LayoutAttribute::CenterX:
+    case LayoutAttribute::CenterY:
+        return found->begin + found->length * 0.5;
+    case LayoutAttribute::Width:
+    case LayoutAttribute::Height:
+        break;
+    }
+    return found->length;
+}
+
+CGRect LayoutProblem::solvedFrame(const Unknowns& unknowns) const {
+    return CGRectMake(solver_.value(unknowns.left), solver_.value(unknowns.top),
+                      solver_.value(unknowns.width), solver_.value(unknowns.height));
+}
+
+void LayoutProblem::apply() const {
+    const auto scale = host_.peer().traits().displayScale;
+    for (auto* view : views_) {
+        if (view == &host_ || view->peer().isFrameGiven())
+            continue;
+        const auto frame = solvedFrame(unknowns_.at(view));
+        const auto left = toPixel(frame.origin.x, scale);
+        const auto top = toPixel(frame.origin.y, scale);
+        view->setFrame(CGRectMake(left, top, toPixel(CGRectGetMaxX(frame), scale) - left,
+                                  toPixel(CGRectGetMaxY(frame), scale) - top));
+    }
+}
+
+CGSize LayoutProblem::hostSize() const {
+    return solvedFrame(unknowns_.at(&host_)).size;
+}

@@ -1,0 +1,82 @@
+#include "navigation/NavigationPageView.h"
+
+#include "DesktopColor.h"
+#include "ObjectiveC/Class.h"
+#include "views/UIViewPeer.h"
+
+#include <QLinearGradient>
+#include <QPainter>
+
+namespace {
+
+const Class classObject = Class::define<NavigationPageView, UIView>("NavigationPageView");
+
+constexpr auto greatestDim = 0.1;
+constexpr auto shadowWidth = 10.0;
+constexpr auto shadowOpacity = 0.3;
+
+/// Darkens towards the page's edge.
+class EdgeShadowPeer final : public UIViewPeer {
+public:
+    // UIViewPeer:
+    void drawLayer(QPainter& painter, const CGRect& bounds, const Traits& /*traits*/) override {
+        const auto& size = bounds.size;
+        QLinearGradient shade(0, 0, size.width, 0);
+        constexpr auto steps = 4;
+        for (auto step = 0; step <= steps; ++step) { // rises with the square, as the edge of a blur does
+            const auto part = static_cast<double>(step) / steps;
+            shade.setColorAt(part,
+                             QColor::fromRgbF(0, 0, 0, static_cast<float>(shadowOpacity * part * part)));
+        }
+        painter.fillRect(QRectF(0, 0, size.width, size.height), shade);
+    }
+};
+
+class EdgeShadowView final : public UIView {
+public:
+    EdgeShadowView() : UIView(std::make_unique<EdgeShadowPeer>()) { setUserInteractionEnabled(false); }
+};
+
+} // namespace
+
+NavigationPageView::NavigationPageView(const Ref<UIView>& page)
+    : page_(page),
+      dimming_(make<UIView>()),
+      shadow_(make<EdgeShadowView>()) {
+    dimming_->setUserInteractionEnabled(false);
+    dimming_->setBackgroundColor(UIColor::blackColor());
+    dimming_->setAlpha(0);
+    shadow_->setAlpha(0);
+    for (const auto& view : {shadow_, page_, dimming_})
+        addSubview(view);
+}
+
+void NavigationPageView::layoutSubviews() {
+    UIView::layoutSubviews();
+    page_->setFrame(bounds());
+    dimming_->setFrame(bounds());
+    shadow_->setFrame(CGRectMake(-shadowWidth, 0, shadowWidth, bounds().size.height));
+}
+
+void NavigationPageView::placeAlone() {
+    place(0, 0, 0);
+}
+
+void NavigationPageView::placeAbove(double away) {
+    place(away, 1 - away, 0);
+}
+
+void NavigationPageView::placeBeneath(double covered) {
+    place(-parallax * covered, 0, greatestDim * covered);
+}
+
+void NavigationPageView::place(double shift, double shadow, double dim) {
+    peer().setTransform(AffineTransform::translation(shift * bounds().size.width, 0));
+    shadow_->setAlpha(shadow);
+    dimming_->setAlpha(dim);
+}
+
+void NavigationPageView::releasePage() {
+    if (page_->peer().superview() == this)
+        page_->peer().removeFromSuperview();
+}

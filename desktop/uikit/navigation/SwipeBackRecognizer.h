@@ -1,0 +1,25 @@
+#pragma once
+
+#include "ObjectiveC/Weak.h"
+#include "UIKit/UIViewController.h"
+#include "touches/UIScreenEdgePanGestureRecognizer.h"
+
+class UINavigationControllerPeer;
+
+/// The finger that draws a page aside, back to the one before. Made by the navigation controller.
+class SwipeBackRecognizer final : public UIScreenEdgePanGestureRecognizer {
+public:
+    /// \param navigation whose peer is a UINavigationControllerPeer
+    explicit SwipeBackRecognizer(UIViewController& navigation);
+
+    // GestureRecognizer:
+    [[nodiscard]] bool shouldBegin() override;
+
+private:
+    void follow();
+    /// How much of the width the finger has drawn the page aside.
+    [[nodiscard]] double progress() const;
+    [[nodiscard]] bool isEnough() const;
+
+    Weak<UIViewController> navigation_;
+};

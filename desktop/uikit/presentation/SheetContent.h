@@ -1,0 +1,23 @@
+#pragma once
+
+#include "screen/Presented.h"
+
+#include <string>
+#include <vector>
+
+/// What the content of a sheet tells of itself to scripts, beyond its navigation bar and its text fields. A
+/// controller's peer derives from it; the sheet that the controller is presented in asks, and so it does when
+/// the controller is the top of a navigation controller that is presented.
+class SheetContent {
+public:
+    virtual ~SheetContent() = default;
+
+    /// The title in the content; empty when there is none. Then the navigation bar's counts.
+    [[nodiscard]] virtual std::string sheetTitle() const = 0;
+    /// The text below the title; empty when there is none.
+    [[nodiscard]] virtual std::string sheetDetail() const = 0;
+    /// The name of the symbol above the title; empty when there is none.
+    [[nodiscard]] virtual std::string sheetSymbol() const = 0;
+    /// The list below them.
+    [[nodiscard]] virtual std::vector<Presented::Item> sheetItems() const = 0;
+};

@@ -1,0 +1,221 @@
+#include "presentation/SheetPresentationView.h"
+
+#include "CALayerPeer.h"
+#include "DesktopColor.h"
+#include "ObjectiveC/Class.h"
+#include "controllers/DesktopNavigationItem.h"
+#include "controllers/UIViewControllerPeer.h"
+#include "controls/UIControlPeer.h"
+#include "navigation/UINavigationControllerPeer.h"
+#include "presentation/Presentation.h"
+#include "presentation/SheetContent.h"
+#include "presentation/SheetPanGestureRecognizer.h"
+#include "screen/Screen.h"
+#include "screen/UIWindow.h"
+#include "scrolling/ScrollMotion.h"
+
+#include <algorithm>
+
+namespace {
+
+const Class classObject = Class::define<SheetPresentationView, PresentationView>("SheetPresentationView");
+
+/// How far cards that resist are drawn at the most, as a part of their way out.
+constexpr double modalGive = 0.25;
+constexpr double upwardGive = 0.015;
+constexpr std::chrono::milliseconds springBackTime{300};
+
+} // namespace
+
+SheetPresentationView::SheetPresentationView(UIViewController& controller)
+    : PresentationView(controller),
+      backing_(make<UIView>()),
+      dimming_(make<UIControl>()),
+      card_(make<UIView>()),
+      style_(controller.peer().modalPresentationStyle()) {
+    backing_->setBackgroundColor(UIColor::blackColor());
+    backing_->setAutoresizingMask(UIViewAutoresizing::FlexibleWidth | UIViewAutoresizing::FlexibleHeight);
+    dimming_->setBackgroundColor(DesktopColor::system(SystemColor::ModalDimming));
+    card_->setClipsToBounds(true);
+    card_->layer().setCornerRadius(SheetGeometry::cornerRadius);
+    card_->layer().peer().continuousCorners = true;
+    addSubview(dimming_);
+    addSubview(card_);
+    card_->addSubview(retain(&controller.view()));
+    card_->peer().addGestureRecognizer(make<SheetPanGestureRecognizer>(*this));
+    dynamic_cast<UIControlPeer&>(dimming_->peer()).addHandler(UIControlEvents::TouchUpInside, [this] {
+        if (geometry().idiom == Idiom::Pad)
+            dismissPresented();
+    });
+}
+
+// What it covers.
+
+void SheetPresentationView::didCover() {
+    const auto covered = beneath();
+    card_->layer().peer().roundBottom = geometry().idiom == Idiom::Pad;
+    if (style_ == UIModalPresentationStyle::FormSheet)
+        card_->peer().setTraitOverride([](Traits& traits) { traits.compactWidth = true; });
+    if (!mayStepBack() || !geometry().coveredStepsBack())
+        return;
+    auto& window = *peer().window();
+    backing_->setFrame(window.bounds());
+    window.peer().insertSubview(backing_, 0);
+    coveredCorner_ = covered->layer().cornerRadius();
+    coveredClips_ = covered->layer().peer().masksToBounds;
+    covered->setClipsToBounds(true);
+    covered->layer().peer().continuousCorners = true;
+}
+
+void SheetPresentationView::willUncover() {
+    if (backing_->peer().superview() == nullptr)
+        return;
+    const auto covered = beneath();
+    backing_->peer().removeFromSuperview();
+    AnimationGroup::runWithoutAnimation([&] {
+        covered->peer().setTransform({});
+        covered->layer().setCornerRadius(coveredCorner_);
+        covered->setClipsToBounds(coveredClips_);
+    });
+}
+
+bool SheetPresentationView::blackensStatusBar() const {
+    return backing_->peer().superview() != nullptr;
+}
+
+// Where everything is.
+
+SheetGeometry SheetPresentationView::geometry() const {
+    return {.idiom = peer().traits().idiom,
+            .size = bounds().size,
+            .safeArea = peer().safeAreaInsets(),
+            .keyboardHeight = Screen::current().keyboardHeight()};
+}
+
+void SheetPresentationView::layoutSubviews() {
+    PresentationView::layoutSubviews();
+    dimming_->setFrame(bounds());
+    placeCard();
+    place();
+}
+
+void SheetPresentationView::placeCard() {
+    auto frame = geometry().cardFrame(style_);
+    frame.origin.y -= stretch_;
+    if (geometry().idiom == Idiom::Phone)
+        frame.size.height += stretch_;
+    card_->peer().setBounds({{}, frame.size});
+    card_->setCenter({CGRectGetMidX(frame), CGRectGetMidY(frame)});
+    for (const auto& view : card_->peer().subviews())
+        view->setFrame(card_->bounds());
+}
+
+void SheetPresentationView::setOpenness(double openness) {
+    openness_ = openness;
+    if (std::exchange(stretch_, 0) != 0)
+        placeCard();
+    place();
+}
+
+void SheetPresentationView::place() {
+    const auto places = geometry();
+    const auto away = 1 - openness_;
+    const auto wayOut = places.wayOut(card_->layer().peer().untransformedFrame());
+    dimming_->setAlpha(openness_);
+    card_->peer().setTransform(AffineTransform::translation(0, away * wayOut));
+    const auto covered = beneath();
+    if (!covered || backing_->peer().superview() == nullptr)
+        return;
+    covered->peer().setTransform(places.steppedBack(covered->layer().peer().untransformedFrame(), openness_));
+    covered->layer().setCornerRadius(coveredCorner_ +
+                                     openness_ * (SheetGeometry::cornerRadius - coveredCorner_));
+}
+
+AnimationGroup::Course SheetPresentationView::openingCourse() const {
+    return {.duration = std::chrono::round<std::chrono::nanoseconds>(
+                std::chrono::duration<double>(AnimationCurve::systemDuration)),
+            .curve = AnimationCurve::system()};
+}
+
+// The finger.
+
+bool SheetPresentationView::isModal() const {
+    const auto shown = controller();
+    return !shown || shown->peer().isModalInPresentation();
+}
+
+void SheetPresentationView::drag(double distance) {
+    const auto wayOut = geometry().wayOut(geometry().cardFrame(style_));
+    const auto banded = [wayOut](double part, double by) { return ScrollMotion::banded(by, part * wayOut); };
+    AnimationGroup::runWithoutAnimation([&] {
+        const auto down = distance > 0 && isModal() ? banded(modalGive, distance) : std::max(0.0, distance);
+        openness_ = 1 - down / wayOut;
+        stretch_ = distance < 0 ? banded(upwardGive, -distance) : 0;
+        placeCard();
+        place();
+        card_->peer().layoutIfNeeded();
+    });
+}
+
+void SheetPresentationView::letGo(double distance, double speed) {
+    const auto wayOut = geometry().wayOut(geometry().cardFrame(style_));
+    if (!isModal() && SheetGeometry::letGoDismisses(distance / wayOut, speed / wayOut)) {
+        dismissPresented();
+        return;
+    }
+    AnimationGroup::run({.duration = springBackTime, .curve = AnimationCurve::easeOut()},
+                        [this] { setOpenness(1); }, {});
+}
+
+void SheetPresentationView::dismissPresented() {
+    const auto shown = controller();
+    if (shown && !isModal() && shown->peer().presentation() != nullptr)
+        shown->peer().presentation()->dismiss(true, {});
+}
+
+// What it tells of itself.
+
+Ref<UIViewController> SheetPresentationView::page() const {
+    auto shown = controller();
+    if (const auto navigation = dynamicCast<UINavigationController>(shown)) {
+        if (auto top = UINavigationControllerPeer::of(*navigation).top())
+            return top;
+    }
+    return shown;
+}
+
+const SheetContent* SheetPresentationView::content() const {
+    const auto shown = page();
+    return shown ? dynamic_cast<const SheetContent*>(&shown->peer()) : nullptr;
+}
+
+Ref<UINavigationItem> SheetPresentationView::barItem() const {
+    const auto shown = page();
+    return shown != controller() ? retain<UINavigationItem>(&shown->navigationItem()) : nullptr;
+}
+
+std::string SheetPresentationView::title() const {
+    const auto shown = page();
+    auto title = content() != nullptr ? content()->sheetTitle() : std::string();
+    if (title.empty() && shown)
+        title = shown->peer().navigationItem().title();
+    return title;
+}
+
+std::optional<Presented::Details> SheetPresentationView::details() const {
+    const auto shown = controller();
+    Details details{.controllerClass = shown ? shown->isa().name() : "",
+                    .detail = {},
+                    .symbol = {},
+                    .style = style_ == UIModalPresentationStyle::FormSheet ? "formSheet" : "pageSheet",
+                    .swipeDismissable = !isModal(),
+                    .items = {},
+                    .barItem = barItem(),
+                    .fields = fields()};
+    if (const auto* const told = content()) {
+        details.detail = told->sheetDetail();
+        details.symbol = told->sheetSymbol();
+        details.items = told->sheetItems();
+    }
+    return details;
+}

@@ -1,0 +1,138 @@
+#include "screen/StatusBarView.h"
+
+#include "DesktopColor.h"
+#include "DesktopFont.h"
+#include "Device.h"
+#include "Foundation/NSDateFormatter.h"
+#include "ObjectiveC/Class.h"
+#include "screen/StatusGlyphs.h"
+#include "views/UIViewPeer.h"
+
+#include <QPainter>
+#include <QRegularExpression>
+#include <QString>
+
+namespace {
+
+const Class classObject = Class::define<StatusBarView, UIView>("StatusBarView");
+
+constexpr auto phoneTextSize = 16.0;
+constexpr auto phoneMiddle = 26.0;     ///< of time and glyphs, from the screen's upper edge
+constexpr auto phoneTimeCenter = 57.0; ///< from the leading edge
+constexpr auto phoneTrailing = 27.0;   ///< from the glyphs to the trailing edge
+constexpr auto padTextSize = 12.0;
+constexpr auto padMargin = 20.0;
+constexpr auto padSpacing = 6.0;
+constexpr auto outlineOpacity = 0.35;
+constexpr auto longestTime = 80.0;
+
+/// Draws the glyphs in the label's colour, from the trailing edge on.
+class StatusGlyphsPeer final : public UIViewPeer {
+public:
+    // UIViewPeer:
+    void drawLayer(QPainter& painter, const CGRect& bounds, const Traits& traits) override {
+        auto color = DesktopColor::resolve(DesktopColor::system(SystemColor::Label), traits).toQColor();
+        const auto fill = [&painter, &color](double x, const QPainterPath& shape) {
+            painter.fillPath(shape.translated(x, 0), color);
+        };
+        auto x = bounds.size.width - StatusGlyphs::batteryWidth;
+        fill(x, StatusGlyphs::batteryCharge());
+        const auto wireless = x - StatusGlyphs::spacing - StatusGlyphs::wirelessWidth;
+        fill(traits.idiom == Idiom::Phone ? wireless : 0, StatusGlyphs::wireless());
+        if (traits.idiom == Idiom::Phone)
+            fill(wireless - StatusGlyphs::spacing - StatusGlyphs::signalWidth, StatusGlyphs::signal());
+        color.setAlphaF(static_cast<float>(outlineOpacity));
+        fill(x, StatusGlyphs::batteryOutline());
+    }
+};
+
+class StatusGlyphsView final : public UIView {
+public:
+    StatusGlyphsView() : UIView(std::make_unique<StatusGlyphsPeer>()) {}
+};
+
+Ref<UILabel> makeLabel(double size) {
+    auto label = make<UILabel>();
+    label->setFont(DesktopFont::font(size, FontWeight::Semibold));
+    return label;
+}
+
+/// From the first digit to the last.
+std::string withoutHalfOfDay(const std::string& time) {
+    const auto text = QString::fromStdString(time);
+    const QRegularExpression digits(R"(\d.*\d)", QRegularExpression::UseUnicodePropertiesOption);
+    const auto found = digits.match(text);
+    return found.hasMatch() ? found.captured().toStdString() : time;
+}
+
+} // namespace
+
+StatusBarView::StatusBarView()
+    : time_(make<UILabel>()),
+      date_(makeLabel(padTextSize)),
+      charge_(makeLabel(padTextSize)),
+      glyphs_(make<StatusGlyphsView>()) {
+    setUserInteractionEnabled(false);
+    time_->setTextAlignment(NSTextAlignment::Center);
+    charge_->setText("100%");
+    for (const auto& view : std::initializer_list<Ref<UIView>>{time_, date_, charge_, glyphs_})
+        addSubview(view);
+    refresh();
+}
+
+std::string StatusBarView::time() const {
+    return time_->text().value_or("");
+}
+
+void StatusBarView::refresh() {
+    const auto formatter = NSDateFormatter::dateFormatter();
+    const auto now = Device::current().clock().date();
+    formatter->setTimeStyle(NSDateFormatterStyle::Short);
+    const auto time = withoutHalfOfDay(formatter->stringFromDate(now));
+    formatter->setDateFormat("EEE MMM d");
+    const auto date = formatter->stringFromDate(now);
+    if (time == this->time() && date == date_->text())
+        return;
+    time_->setText(time);
+    date_->setText(date);
+    peer().setNeedsLayout();
+}
+
+void StatusBarView::layoutSubviews() {
+    UIView::layoutSubviews();
+    const auto isPhone = peer().traits().idiom == Idiom::Phone;
+    date_->peer().setHidden(isPhone);
+    charge_->peer().setHidden(isPhone);
+    time_->setFont(DesktopFont::font(isPhone ? phoneTextSize : padTextSize, FontWeight::Semibold));
+    if (isPhone)
+        layoutPhone();
+    else
+        layoutPad();
+}
+
+void StatusBarView::layoutPhone() {
+    const auto height = time_->peer().sizeThatFits({}).height;
+    time_->setFrame(
+        CGRectMake(phoneTimeCenter - longestTime / 2, phoneMiddle - height / 2, longestTime, height));
+    constexpr auto width = StatusGlyphs::signalWidth + StatusGlyphs::wirelessWidth +
+                           StatusGlyphs::batteryWidth + 2 * StatusGlyphs::spacing;
+    glyphs_->setFrame(CGRectMake(bounds().size.width - phoneTrailing - width,
+                                 phoneMiddle - StatusGlyphs::height / 2, width, StatusGlyphs::height));
+}
+
+void StatusBarView::layoutPad() {
+    const auto middle = bounds().size.height / 2;
+    const auto place = [middle](UILabel& label, double x) {
+        const auto size = label.peer().sizeThatFits({});
+        label.setFrame(CGRectMake(x, middle - size.height / 2, size.width, size.height));
+        return x + size.width;
+    };
+    place(*date_, place(*time_, padMargin) + padSpacing);
+    const auto chargeWidth = charge_->peer().sizeThatFits({}).width;
+    const auto batteryLeft = bounds().size.width - padMargin - StatusGlyphs::batteryWidth;
+    const auto chargeLeft = batteryLeft - StatusGlyphs::spacing - chargeWidth;
+    place(*charge_, chargeLeft);
+    const auto glyphsLeft = chargeLeft - padSpacing - StatusGlyphs::wirelessWidth;
+    glyphs_->setFrame(CGRectMake(glyphsLeft, middle - StatusGlyphs::height / 2,
+                                 bounds().size.width - padMargin - glyphsLeft, StatusGlyphs::height));
+}

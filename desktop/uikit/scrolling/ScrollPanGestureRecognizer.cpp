@@ -1,0 +1,30 @@
+#include "scrolling/ScrollPanGestureRecognizer.h"
+
+#include "ObjectiveC/Class.h"
+#include "scrolling/UIScrollViewPeer.h"
+
+namespace {
+
+const Class classObject =
+    Class::define<ScrollPanGestureRecognizer, UIPanGestureRecognizer>("UIScrollViewPanGestureRecognizer");
+
+} // namespace
+
+bool ScrollPanGestureRecognizer::shouldBegin() {
+    if (scroll_.isMoving())
+        return true;
+    if (!scroll_.canScrollAlong(movement()))
+        return false;
+    const auto content = touch() != nullptr && touch()->isDelivered() ? touch()->view() : nullptr;
+    return !content || content.get() == view() || scroll_.touchesShouldCancelIn(*content);
+}
+
+std::chrono::nanoseconds ScrollPanGestureRecognizer::contentTouchDelay() const {
+    return scroll_.delaysContentTouches() ? contentDelay : std::chrono::nanoseconds::zero();
+}
+
+void ScrollPanGestureRecognizer::touchBegan(DesktopTouch& touch) {
+    UIPanGestureRecognizer::touchBegan(touch);
+    if (scroll_.isMoving())
+        begin();
+}

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "touches/UIPanGestureRecognizer.h"
+
+class UIScrollViewPeer;
+
+/// The pan that moves a scroll view's contents. Begins at once in contents that move, so that the touch stops
+/// them. Made and kept by the scroll view's peer.
+class ScrollPanGestureRecognizer final : public UIPanGestureRecognizer {
+public:
+    /// How long contents wait for a touch.
+    static constexpr std::chrono::milliseconds contentDelay{150};
+
+    explicit ScrollPanGestureRecognizer(UIScrollViewPeer& scroll) : scroll_(scroll) {}
+
+    // GestureRecognizer:
+    [[nodiscard]] bool shouldBegin() override;
+    [[nodiscard]] std::chrono::nanoseconds contentTouchDelay() const override;
+
+protected:
+    // GestureRecognizer:
+    void touchBegan(DesktopTouch& touch) override;
+
+private:
+    UIScrollViewPeer& scroll_; ///< as long as the recogniser has a view
+};

@@ -1,0 +1,20 @@
+#include "scrolling/UIScrollView.h"
+
+#include "ObjectiveC/Class.h"
+#include "scrolling/UIScrollViewPeer.h"
+
+namespace {
+
+const Class classObject = Class::define<UIScrollView, UIView>("UIScrollView");
+
+} // namespace
+
+UIScrollView::UIScrollView() : UIScrollView(std::make_unique<UIScrollViewPeer>()) {}
+
+UIScrollView::UIScrollView(std::unique_ptr<UIScrollViewPeer> peer) : UIView(std::move(peer)) {
+    this->peer().viewMade();
+}
+
+UIScrollViewPeer& UIScrollView::peer() const {
+    return dynamic_cast<UIScrollViewPeer&>(UIView::peer());
+}

@@ -1,0 +1,145 @@
+#pragma once
+
+#include "scrolling/ScrollMotion.h"
+#include "scrolling/ScrollPanGestureRecognizer.h"
+#include "scrolling/UIScrollView.h"
+#include "views/UIViewPeer.h"
+
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+class ScrollIndicators;
+
+/// The desktop's half of a scroll view: where its contents stand, which is its bounds' origin, and how they
+/// move. A derived peer overrides the hooks; overrides of the `UIViewPeer` functions call their base.
+class UIScrollViewPeer : public UIViewPeer {
+public:
+    UIScrollViewPeer();
+    ~UIScrollViewPeer() override;
+
+    [[nodiscard]] CGSize contentSize() const { return contentSize_; }
+
+    /// Contents at rest that would stand beyond an edge then move within it at once.
+    void setContentSize(CGSize size);
+
+    [[nodiscard]] CGPoint contentOffset() const;
+    /// Ends the motion there is, and moves there at once or in a short time; nothing holds the offset within
+    /// the edges. A drag goes on from there.
+    void setContentOffset(CGPoint offset, bool animated = false);
+
+    [[nodiscard]] const UIEdgeInsets& contentInset() const { return contentInset_; }
+
+    void setContentInset(const UIEdgeInsets& inset);
+    /// The content inset and what the safe area adds to it above and below. The contents start at minus that.
+    [[nodiscard]] UIEdgeInsets adjustedContentInset() const;
+
+    /// The least and the greatest offset at which nothing is drawn beyond an edge.
+    [[nodiscard]] CGPoint minimumOffset() const;
+    [[nodiscard]] CGPoint maximumOffset() const;
+
+    /// Moves by as little as brings the rectangle, of the contents, into view.
+    void scrollRectToVisible(const CGRect& rect, bool animated);
+    /// Moves the offset at once by what a wheel or a touch pad says, within the edges.
+    void scrollBy(CGPoint distance);
+
+    /// Whether fingers move the contents. On.
+    void setScrollEnabled(bool enabled);
+
+    /// Whether contents that fit are moved nevertheless, and spring back. Off.
+    void setAlwaysBounceVertical(bool bounces) { alwaysBounceVertical_ = bounces; }
+
+    /// Whether the contents may be drawn beyond the edges. On.
+    void setBounces(bool bounces) { bounces_ = bounces; }
+
+    /// Whether contents wait for a touch that may become a drag. On.
+    void setDelaysContentTouches(bool delays) { delaysContentTouches_ = delays; }
+
+    [[nodiscard]] bool delaysContentTouches() const { return delaysContentTouches_; }
+
+    void setShowsIndicators(bool shows);
+
+    [[nodiscard]] UIPanGestureRecognizer& panGestureRecognizer() const { return *pan_; }
+
+    /// Whether a finger moves the contents.
+    [[nodiscard]] bool isDragging() const { return dragStart_.has_value(); }
+
+    /// Whether the contents move by themselves.
+    [[nodiscard]] bool isMoving() const { return motion_.has_value(); }
+
+    /// Whether a drag by that much would move anything, by its greater part.
+    [[nodiscard]] bool canScrollAlong(CGPoint movement) const;
+
+    /// For others than the derived peer: called whenever the offset has changed.
+    void addScrollHandler(std::function<void()> handler);
+    /// Likewise, when a finger that dragged is lifted: after `willEndDragging`, with what came of its target.
+    void addReleaseHandler(std::function<void(CGPoint& target)> handler);
+
+    // Hooks.
+    /// Whether a drag takes the touch from `content`, which has had it. Not from a control, nor from what is
+    /// within one.
+    [[nodiscard]] virtual bool touchesShouldCancelIn(const UIView& content) const;
+
+    virtual void didScroll() {}
+
+    virtual void willBeginDragging() {}
+
+    /// The finger was lifted. \param velocity of the offset, points a second
+    /// \param target where the contents will come to rest; may be changed
+    virtual void willEndDragging(CGPoint /*velocity*/, CGPoint& /*target*/) {}
+
+    /// The contents have come to rest after a drag or an animated change.
+    virtual void didEndScrolling() {}
+
+    // UIViewPeer:
+    void layoutSubviews() override;
+    void safeAreaInsetsDidChange() override;
+    void didMoveToWindow() override;
+    [[nodiscard]] PropertyList::Dictionary inspectedProperties() const override;
+
+private:
+    friend class UIScrollView;
+
+    struct Motion {
+        ScrollMotion x;
+        ScrollMotion y;
+        std::chrono::nanoseconds begin; ///< uptime
+    };
+
+    void viewMade();
+    void moveTo(CGPoint offset);
+    void panned();
+    void beginDrag();
+    void drag();
+    void endDrag(CGPoint velocity);
+    void start(const ScrollMotion& x, const ScrollMotion& y);
+    void scheduleTick();
+    void tick();
+    void comeToRest();
+    void stopMotion();
+    void keepWithinEdges();
+    void followInsets();
+    [[nodiscard]] CGPoint clamped(CGPoint offset) const;
+    [[nodiscard]] bool scrollsHorizontally() const;
+    [[nodiscard]] bool scrollsVertically() const;
+    [[nodiscard]] CGPoint banded(CGPoint offset) const;
+    [[nodiscard]] CGPoint unbanded(CGPoint offset) const;
+
+    CGSize contentSize_;
+    UIEdgeInsets contentInset_;
+    UIEdgeInsets followedInset_; ///< the adjusted inset that the offset was last brought in line with
+    CGSize followedSize_;        ///< likewise the view's size
+    Ref<ScrollPanGestureRecognizer> pan_;
+    std::unique_ptr<ScrollIndicators> indicators_;
+    std::optional<CGPoint> dragStart_; ///< the offset, were there no resistance, that the drag began with
+    std::optional<Motion> motion_;
+    std::vector<std::function<void()>> scrollHandlers_;
+    std::vector<std::function<void(CGPoint& target)>> releaseHandlers_;
+    unsigned ticking_ = 0; ///< which motion the ticks are for
+    bool scrollEnabled_ = true;
+    bool alwaysBounceVertical_ = false;
+    bool bounces_ = true;
+    bool delaysContentTouches_ = true;
+};

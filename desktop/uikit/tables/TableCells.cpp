@@ -1,0 +1,55 @@
+#include "tables/TableCells.h"
+
+#include "tables/UITableViewCellPeer.h"
+
+#include <algorithm>
+#include <utility>
+
+Ref<UITableViewCell> TableCells::at(IndexPath row) const {
+    const auto found = shown_.find(row);
+    return found != shown_.end() ? found->second : nullptr;
+}
+
+std::optional<IndexPath> TableCells::rowOf(const UITableViewCell& cell) const {
+    const auto found = std::ranges::find(shown_, &cell, [](const auto& entry) { return entry.second.get(); });
+    return found != shown_.end() ? std::optional(found->first) : std::nullopt;
+}
+
+Ref<UITableViewCell> TableCells::takeWaiting(std::string_view identifier) {
+    const auto found = waiting_.find(identifier);
+    if (found == waiting_.end())
+        return nullptr;
+    auto cell = std::move(found->second);
+    waiting_.erase(found);
+    cell->prepareForReuse();
+    return cell;
+}
+
+void TableCells::keepOnly(const std::set<IndexPath>& rows) {
+    std::erase_if(shown_, [this, &rows](const auto& entry) {
+        const auto leaves = !rows.contains(entry.first);
+        if (leaves)
+            retire(entry.second);
+        return leaves;
+    });
+}
+
+std::vector<Ref<UITableViewCell>> TableCells::move(const TableEdits& edits) {
+    std::vector<Ref<UITableViewCell>> leaving;
+    Cells moved;
+    for (const auto& [row, cell] : std::exchange(shown_, {})) {
+        const auto after = edits.after(row);
+        if (after && !edits.isReloaded(row))
+            moved.emplace(*after, cell);
+        else
+            leaving.push_back(cell);
+    }
+    shown_ = std::move(moved);
+    return leaving;
+}
+
+void TableCells::retire(const Ref<UITableViewCell>& cell) {
+    cell->peer().removeFromSuperview();
+    if (!cell->reuseIdentifier().empty())
+        waiting_.emplace(cell->reuseIdentifier(), cell);
+}

@@ -1,0 +1,135 @@
+#pragma once
+
+#include "scrolling/UIScrollViewPeer.h"
+#include "tables/TableCaptionViews.h"
+#include "tables/TableCells.h"
+#include "tables/TableContent.h"
+#include "tables/TableEdits.h"
+#include "tables/TableHeights.h"
+#include "tables/TableLayout.h"
+#include "tables/UITableView.h"
+
+#include <cstddef>
+#include <optional>
+#include <set>
+#include <string_view>
+#include <vector>
+
+/// The desktop's half of a table: makes cells for the rows near the screen, places them, and follows the
+/// fingers on them. Made with the table.
+class UITableViewPeer : public UIScrollViewPeer {
+public:
+    /// \pre the table was made with a peer of this class, as all tables are
+    [[nodiscard]] static UITableViewPeer& of(const UITableView& table);
+
+    /// \param content outlives the table or takes itself away; null for none
+    void setContent(TableContent* content);
+
+    /// Shows everything anew, with nothing selected.
+    void reloadData();
+
+    /// A cell made before that is no more in use; empty when there is none of that identifier.
+    [[nodiscard]] Ref<UITableViewCell> dequeueReusableCell(std::string_view identifier) {
+        return cells_.takeWaiting(identifier);
+    }
+
+    // Changes between the first begin and the last end go together, and slide. Without any, heights are asked
+    // anew. Rows taken out or reloaded are named by their places before the changes, rows put in by those
+    // after. When the content's rows do not agree in number, a log line says so and all is shown anew.
+    void beginUpdates() { ++updateDepth_; }
+
+    void endUpdates();
+    void insertRows(const std::vector<IndexPath>& rows);
+    void deleteRows(const std::vector<IndexPath>& rows);
+    void reloadRows(const std::vector<IndexPath>& rows);
+
+    // Where things are, in the table's content.
+    [[nodiscard]] const TableLayout& layout();
+    /// \pre there is such a row or section
+    [[nodiscard]] CGRect rectForRow(IndexPath row);
+    [[nodiscard]] CGRect rectForHeader(std::size_t section);
+    [[nodiscard]] CGRect rectForFooter(std::size_t section);
+    /// The row whose rectangle is there; nothing beside the cards.
+    [[nodiscard]] std::optional<IndexPath> rowAt(CGPoint point);
+
+    /// Of rows near the screen; empty for others.
+    [[nodiscard]] Ref<UITableViewCell> cellForRow(IndexPath row) const { return cells_.at(row); }
+
+    [[nodiscard]] std::optional<IndexPath> rowOf(const UITableViewCell& cell) const {
+        return cells_.rowOf(cell);
+    }
+
+    [[nodiscard]] const TableCells::Cells& cells() const { return cells_.shown(); }
+
+    /// Of sections near the screen that have one; empty for others.
+    [[nodiscard]] Ref<UIView> captionView(std::size_t section, TableCaptionViews::Edge edge) const {
+        return captions_.view(section, edge);
+    }
+
+    /// Scrolls no further than it takes to see the whole row, or its top.
+    void scrollRowToVisible(IndexPath row, bool animated);
+
+    [[nodiscard]] std::optional<IndexPath> selectedRow() const { return selected_; }
+
+    /// The content hears nothing of either.
+    void selectRow(IndexPath row);
+    void deselectRow(bool animated);
+    /// How much of the selection's look is gone, from 0 to 1; the row stays selected.
+    void fadeSelection(double faded);
+
+    // A finger on a cell; called by the cells.
+    void cellTouched(const UITableViewCell& cell);
+    void cellReleased(const UITableViewCell& cell);
+    void cellTouchCancelled();
+
+    // UIScrollViewPeer:
+    void didScroll() override;
+
+    // UIViewPeer:
+    void layoutSubviews() override;
+    void traitsDidChange() override;
+
+private:
+    using Rows = std::set<IndexPath>;
+    using Cells = std::vector<Ref<UITableViewCell>>;
+
+    [[nodiscard]] TableMetrics metrics() const;
+    /// Asks for the heights when they may have changed.
+    void refreshLayout();
+    void askHeights();
+    void takeLayout();
+    void tile();
+    /// The rows that need a cell when the screen's top is there.
+    [[nodiscard]] Rows nearRows(double top) const;
+    [[nodiscard]] std::set<std::size_t> nearSections() const;
+    void makeCells(const Rows& rows);
+    [[nodiscard]] Ref<UITableViewCell> makeCell(IndexPath row);
+    /// Of the rows whose height follows from their cell. \returns whether any is another than was thought
+    [[nodiscard]] bool measure(const Rows& rows);
+    void placeAll();
+    void place(IndexPath row, const UITableViewCell& cell) const;
+    [[nodiscard]] CGRect cardRect(const TableLayout::Span& span) const;
+    void setHighlighted(std::optional<IndexPath> row);
+
+    [[nodiscard]] bool editsAgree(const TableEdits& edits) const;
+    void applyEdits(const TableEdits& edits);
+    /// Makes what comes near the screen, where it was before. \returns the cells of rows that are put in
+    [[nodiscard]] Cells makeEnteringCells(const TableEdits& edits, const TableLayout& before);
+    [[nodiscard]] CGRect rectBefore(IndexPath row, const TableEdits& edits, const TableLayout& before) const;
+    void cutOffWhatComesAndGoes(const TableEdits& edits, const TableLayout& before);
+    void slide(const Cells& entering, const Cells& leaving);
+    void slideEnded(const Cells& leaving);
+
+    TableContent* content_ = nullptr;
+    TableHeights heights_;
+    TableLayout layout_;
+    TableCells cells_;
+    TableCaptionViews captions_;
+    TableEdits edits_;
+    std::optional<IndexPath> selected_;
+    std::optional<IndexPath> highlighted_;
+    double laidOutWidth_ = -1;
+    bool heightsAreOld_ = true;
+    int updateDepth_ = 0;
+    int slides_ = 0; ///< animations that still need cells that are no more near the screen
+};

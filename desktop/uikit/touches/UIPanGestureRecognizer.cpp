@@ -1,0 +1,68 @@
+#include "touches/UIPanGestureRecognizer.h"
+
+#include "ObjectiveC/Class.h"
+
+#include <cmath>
+
+namespace {
+
+const Class classObject = Class::define<UIPanGestureRecognizer, GestureRecognizer>("UIPanGestureRecognizer");
+
+/// What is older tells nothing of the speed.
+constexpr std::chrono::milliseconds speedWindow{100};
+
+} // namespace
+
+CGPoint UIPanGestureRecognizer::translation() const {
+    return {movement().x - slopUsed_.x, movement().y - slopUsed_.y};
+}
+
+CGPoint UIPanGestureRecognizer::movement() const {
+    return {location().x - start_.x, location().y - start_.y};
+}
+
+CGPoint UIPanGestureRecognizer::velocity() const {
+    if (samples_.size() < 2)
+        return {};
+    const auto& first = samples_.front();
+    const auto& last = samples_.back();
+    const auto seconds = std::chrono::duration<double>(last.time - first.time).count();
+    if (seconds <= 0)
+        return {};
+    return {(last.place.x - first.place.x) / seconds, (last.place.y - first.place.y) / seconds};
+}
+
+void UIPanGestureRecognizer::touchBegan(DesktopTouch& touch) {
+    start_ = touch.place();
+    record(touch);
+}
+
+void UIPanGestureRecognizer::touchMoved(DesktopTouch& touch) {
+    record(touch);
+    if (state() != State::Possible) {
+        change();
+        return;
+    }
+    const auto distance = std::hypot(movement().x, movement().y);
+    if (distance < slop)
+        return;
+    slopUsed_ = {movement().x * slop / distance, movement().y * slop / distance};
+    begin();
+}
+
+void UIPanGestureRecognizer::touchEnded(DesktopTouch& touch) {
+    record(touch);
+    end();
+    fail();
+}
+
+void UIPanGestureRecognizer::didReset() {
+    slopUsed_ = {};
+    samples_.clear();
+}
+
+void UIPanGestureRecognizer::record(const DesktopTouch& touch) {
+    samples_.push_back({touch.place(), touch.time()});
+    while (samples_.front().time < touch.time() - speedWindow)
+        samples_.pop_front();
+}

@@ -1,0 +1,37 @@
+#include "UIKit/UILabel.h"
+
+#include "DesktopFont.h"
+#include "ObjectiveC/Class.h"
+#include "views/UILabelPeer.h"
+
+#include <utility>
+
+namespace {
+
+const Class classObject = Class::define<UILabel, UIView>("UILabel");
+
+} // namespace
+
+UILabel::UILabel() : UILabel(std::make_unique<UILabelPeer>()) {}
+
+UILabel::UILabel(std::unique_ptr<UIViewPeer> peer) : UIView(std::move(peer)) {}
+
+std::optional<std::string> UILabel::text() const {
+    return UILabelPeer::of(*this).text();
+}
+
+void UILabel::setText(const std::optional<std::string>& text) {
+    UILabelPeer::of(*this).setText(text);
+}
+
+void UILabel::setFont(const Ref<UIFont>& font) {
+    UILabelPeer::of(*this).setFontStyle(DesktopFont::styleOf(font));
+}
+
+void UILabel::setTextColor(const Ref<UIColor>& color) {
+    UILabelPeer::of(*this).setTextColor(color);
+}
+
+void UILabel::setTextAlignment(NSTextAlignment alignment) {
+    UILabelPeer::of(*this).setTextAlignment(alignment);
+}

@@ -1,0 +1,216 @@
+#include "views/UILabelPeer.h"
+
+#include "DesktopColor.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace {
+
+constexpr double noLimit = std::numeric_limits<double>::infinity();
+
+/// What a height may fall short of a line's and still show it, in points: heights are rounded to pixels.
+constexpr double lineTolerance = 0.5;
+
+HorizontalAlignment horizontal(NSTextAlignment alignment) {
+    switch (alignment) {
+    case NSTextAlignment::Center:
+        return HorizontalAlignment::Center;
+    case NSTextAlignment::Right:
+        return HorizontalAlignment::Right;
+    case NSTextAlignment::Left:
+    case NSTextAlignment::Natural:
+        break;
+    }
+    return HorizontalAlignment::Left;
+}
+
+/// A smaller text is not smaller in exact proportion, so it is aimed a pixel lower and measured again.
+constexpr int shrinkingAttempts = 4;
+
+} // namespace
+
+UILabelPeer::UILabelPeer() : textColor_(DesktopColor::system(SystemColor::Label)) {
+    setUserInteractionEnabled(false);
+}
+
+UILabelPeer& UILabelPeer::of(UILabel& label) {
+    return dynamic_cast<UILabelPeer&>(label.peer());
+}
+
+const UILabelPeer& UILabelPeer::of(const UILabel& label) {
+    return dynamic_cast<const UILabelPeer&>(label.peer());
+}
+
+void UILabelPeer::setText(const std::optional<std::string>& text) {
+    if (text_ == text)
+        return;
+    text_ = text;
+    changed();
+}
+
+void UILabelPeer::setFontStyle(const FontStyle& style) {
+    if (fontStyle_ == style)
+        return;
+    fontStyle_ = style;
+    changed();
+}
+
+void UILabelPeer::setTextColor(const Ref<UIColor>& color) {
+    textColor_ = color ? color : DesktopColor::system(SystemColor::Label);
+    setNeedsDisplay();
+}
+
+void UILabelPeer::setTextAlignment(NSTextAlignment alignment) {
+    if (textAlignment_ == alignment)
+        return;
+    textAlignment_ = alignment;
+    changed();
+}
+
+void UILabelPeer::setNumberOfLines(std::size_t lines) {
+    if (numberOfLines_ == lines)
+        return;
+    numberOfLines_ = lines;
+    changed();
+}
+
+void UILabelPeer::setTruncation(Truncation truncation) {
+    truncation_ = truncation;
+    changed();
+}
+
+void UILabelPeer::setMinimumScaleFactor(double factor) {
+    minimumScaleFactor_ = factor;
+    changed();
+}
+
+void UILabelPeer::setPreferredMaxLayoutWidth(double width) {
+    if (preferredMaxLayoutWidth_ == width)
+        return;
+    preferredMaxLayoutWidth_ = width;
+    setNeedsConstraintLayout();
+}
+
+void UILabelPeer::changed() {
+    laid_.reset();
+    setNeedsDisplay();
+    setNeedsConstraintLayout();
+    setNeedsConstraintLayout();
+}
+
+CGSize UILabelPeer::textSize(double width) const {
+    const auto& text = text_.value_or(std::string());
+    if (text.empty())
+        return {};
+    const TextLayout layout(text, fontStyle_,
+                            {.maximumWidth = width,
+                             .maximumLines = numberOfLines_,
+                             .truncation = truncation_,
+                             .pixelScale = traits().displayScale});
+    return {layout.size().width(), layout.size().height()};
+}
+
+CGSize UILabelPeer::sizeThatFits(CGSize room) const {
+    return textSize(numberOfLines_ != 1 && room.width > 0 ? room.width : noLimit);
+}
+
+std::optional<double> UILabelPeer::intrinsicWidth() const {
+    return sizeThatFits({preferredMaxLayoutWidth_, 0}).width;
+}
+
+std::optional<double> UILabelPeer::intrinsicHeight() const {
+    return sizeThatFits({preferredMaxLayoutWidth_, 0}).height;
+}
+
+bool UILabelPeer::takeLayoutWidth(double width) {
+    const auto changes = numberOfLines_ != 1 && preferredMaxLayoutWidth_ != width;
+    if (changes)
+        setPreferredMaxLayoutWidth(width);
+    return changes;
+}
+
+std::size_t UILabelPeer::lineLimit(const FontStyle& style, double height) const {
+    const auto fitting = std::max(1.0, std::floor((height + lineTolerance) / style.lineHeight()));
+    if (numberOfLines_ != 0 && static_cast<double>(numberOfLines_) <= fitting)
+        return numberOfLines_;
+    return static_cast<std::size_t>(fitting);
+}
+
+FontStyle UILabelPeer::styleFitting(double width, double scale) const {
+    if (minimumScaleFactor_ >= 1 || numberOfLines_ != 1)
+        return fontStyle_;
+    const auto& text = text_.value_or(std::string());
+    auto style = fontStyle_;
+    const auto smallest = fontStyle_.size * minimumScaleFactor_;
+    for (auto attempt = 0; attempt < shrinkingAttempts && style.size > smallest; ++attempt) {
+        const auto needed = TextLayout(text, style, {.pixelScale = scale}).size().width();
+        if (needed <= width)
+            break;
+        style.size = std::max(smallest, style.size * (width - 1 / scale) / needed);
+    }
+    return style;
+}
+
+const TextLayout& UILabelPeer::layoutFor(CGSize size, double scale) const {
+    if (!laid_ || laid_->size != size || laid_->scale != scale) {
+        const auto style = styleFitting(size.width, scale);
+        const TextLayoutOptions options{.maximumWidth = size.width,
+                                        .maximumLines = lineLimit(style, size.height),
+                                        .alignment = horizontal(textAlignment_),
+                                        .truncation = truncation_,
+                                        .pixelScale = scale};
+        laid_.emplace(Laid{size, scale, TextLayout(text_.value_or(std::string()), style, options)});
+    }
+    return laid_->layout;
+}
+
+double UILabelPeer::top(const TextLayout& layout, double height, double scale) {
+    return std::floor((height - layout.size().height()) / 2 * scale) / scale;
+}
+
+double UILabelPeer::firstBaseline() const {
+    const auto size = view().bounds().size;
+    const auto scale = traits().displayScale;
+    const auto& layout = layoutFor(size, scale);
+    return top(layout, size.height, scale) + layout.baseline(0);
+}
+
+bool UILabelPeer::isTruncated() const {
+    return layoutFor(view().bounds().size, traits().displayScale).isTruncated();
+}
+
+Accessibility UILabelPeer::accessibility() const {
+    auto accessibility = UIViewPeer::accessibility();
+    if (accessibility.role == AccessibilityRole::None)
+        accessibility.role = AccessibilityRole::StaticText;
+    accessibility.isElement = true;
+    return accessibility;
+}
+
+std::optional<std::string> UILabelPeer::shownText() const {
+    return text_;
+}
+
+PropertyList::Dictionary UILabelPeer::inspectedProperties() const {
+    const auto color = DesktopColor::resolve(textColor_, traits());
+    PropertyList::Array components;
+    for (const auto component : {color.red, color.green, color.blue, color.alpha})
+        components.emplace_back(component);
+    return {{"text", text_.value_or(std::string())},
+            {"textColor", components},
+            {"fontSize", fontStyle_.size},
+            {"fontWeight", static_cast<int>(fontStyle_.weight)},
+            {"textAlignment", static_cast<int>(textAlignment_)},
+            {"numberOfLines", static_cast<std::int64_t>(numberOfLines_)}};
+}
+
+void UILabelPeer::drawLayer(QPainter& painter, const CGRect& bounds, const Traits& traits) {
+    if (CGRectIsEmpty(bounds))
+        return;
+    const auto& layout = layoutFor(bounds.size, traits.displayScale);
+    const QPointF origin(bounds.origin.x,
+                         bounds.origin.y + top(layout, bounds.size.height, traits.displayScale));
+    layout.paint(painter, origin, DesktopColor::resolve(textColor_, traits).toQColor());
+}

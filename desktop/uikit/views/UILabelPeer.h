@@ -1,0 +1,96 @@
+#pragma once
+
+#include "ColorComponents.h"
+#include "FontStyle.h"
+#include "TextLayout.h"
+#include "UIKit/UILabel.h"
+#include "views/UIViewPeer.h"
+
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <string>
+
+/// The desktop's half of a label: its text, how it is set, and its lines. Made with the label.
+class UILabelPeer : public UIViewPeer {
+public:
+    UILabelPeer();
+
+    /// \pre the label was made with a peer of this class, as all labels are
+    [[nodiscard]] static UILabelPeer& of(UILabel& label);
+    [[nodiscard]] static const UILabelPeer& of(const UILabel& label);
+
+    [[nodiscard]] const std::optional<std::string>& text() const { return text_; }
+
+    void setText(const std::optional<std::string>& text);
+
+    /// Regular and 17 points until another is set.
+    [[nodiscard]] const FontStyle& fontStyle() const { return fontStyle_; }
+
+    void setFontStyle(const FontStyle& style);
+
+    /// The system's label colour until another is set; never empty.
+    [[nodiscard]] const Ref<UIColor>& textColor() const { return textColor_; }
+
+    void setTextColor(const Ref<UIColor>& color);
+
+    [[nodiscard]] NSTextAlignment textAlignment() const { return textAlignment_; }
+
+    void setTextAlignment(NSTextAlignment alignment);
+
+    /// 1 until another is set; 0 is without limit. What is too high for the bounds is cut short as well.
+    [[nodiscard]] std::size_t numberOfLines() const { return numberOfLines_; }
+
+    void setNumberOfLines(std::size_t lines);
+
+    void setTruncation(Truncation truncation);
+
+    /// How small a text of one line may be made to fit the bounds' width, as a part of its size; 1 keeps the
+    /// size.
+    void setMinimumScaleFactor(double factor);
+
+    /// The width that a text of several lines is wrapped to for the intrinsic height; 0 for none.
+    [[nodiscard]] double preferredMaxLayoutWidth() const { return preferredMaxLayoutWidth_; }
+
+    void setPreferredMaxLayoutWidth(double width);
+
+    /// From the bounds' top to the first line's baseline, in points.
+    [[nodiscard]] double firstBaseline() const;
+    /// Whether there is text that the bounds have no room for.
+    [[nodiscard]] bool isTruncated() const;
+
+    // UIViewPeer:
+    [[nodiscard]] CGSize sizeThatFits(CGSize room) const override;
+    [[nodiscard]] std::optional<double> intrinsicWidth() const override;
+    [[nodiscard]] std::optional<double> intrinsicHeight() const override;
+    bool takeLayoutWidth(double width) override;
+    [[nodiscard]] Accessibility accessibility() const override;
+    [[nodiscard]] std::optional<std::string> shownText() const override;
+    [[nodiscard]] PropertyList::Dictionary inspectedProperties() const override;
+    void drawLayer(QPainter& painter, const CGRect& bounds, const Traits& traits) override;
+
+private:
+    /// The layout that was painted last, and what it was made for.
+    struct Laid {
+        CGSize size;
+        double scale;
+        TextLayout layout;
+    };
+
+    void changed();
+    [[nodiscard]] CGSize textSize(double width) const;
+    [[nodiscard]] std::size_t lineLimit(const FontStyle& style, double height) const;
+    [[nodiscard]] FontStyle styleFitting(double width, double scale) const;
+    [[nodiscard]] const TextLayout& layoutFor(CGSize size, double scale) const;
+    [[nodiscard]] static double top(const TextLayout& layout, double height, double scale);
+
+    std::optional<std::string> text_;
+    FontStyle fontStyle_;
+    Ref<UIColor> textColor_;
+    NSTextAlignment textAlignment_ = NSTextAlignment::Natural;
+    std::size_t numberOfLines_ = 1;
+    Truncation truncation_ = Truncation::Tail;
+    double minimumScaleFactor_ = 1;
+    double preferredMaxLayoutWidth_ = 0;
+    mutable std::optional<Laid> laid_;
+};

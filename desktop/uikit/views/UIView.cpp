@@ -1,0 +1,126 @@
+#include "UIKit/UIView.h"
+
+#include "AnimationGroup.h"
+#include "ObjectiveC/Class.h"
+#include "views/UIViewPeer.h"
+
+#include <utility>
+
+namespace {
+
+const Class responderClass = Class::define<UIResponder>("UIResponder");
+const Class viewClass = Class::define<UIView, UIResponder>("UIView");
+
+constexpr bool has(UIViewAnimationOptions options, UIViewAnimationOptions flag) {
+    return (static_cast<unsigned>(options) & static_cast<unsigned>(flag)) != 0;
+}
+
+std::chrono::nanoseconds nanoseconds(double seconds) {
+    return std::chrono::round<std::chrono::nanoseconds>(std::chrono::duration<double>(seconds));
+}
+
+} // namespace
+
+UIView::UIView() : UIView(std::make_unique<UIViewPeer>()) {}
+
+UIView::UIView(std::unique_ptr<UIViewPeer> peer) : peer_(std::move(peer)) {
+    peer_->view_ = this;
+}
+
+UIView::~UIView() = default;
+
+bool UIView::init() {
+    return initWithFrame({});
+}
+
+bool UIView::initWithFrame(const CGRect& frame) {
+    if (!UIResponder::init())
+        return false;
+    setFrame(frame);
+    return true;
+}
+
+bool UIView::initWithCoder(NSCoder& /*coder*/) {
+    return UIResponder::init();
+}
+
+CGRect UIView::frame() const {
+    return layer().peer().frame();
+}
+
+void UIView::setFrame(const CGRect& frame) {
+    peer_->setFrame(frame);
+}
+
+CGRect UIView::bounds() const {
+    return layer().peer().bounds();
+}
+
+CGPoint UIView::center() const {
+    return layer().peer().position();
+}
+
+void UIView::setCenter(CGPoint center) {
+    peer_->setCenter(center);
+}
+
+Ref<UIColor> UIView::backgroundColor() const {
+    return peer_->backgroundColor();
+}
+
+void UIView::setBackgroundColor(const Ref<UIColor>& color) {
+    peer_->setBackgroundColor(color);
+}
+
+void UIView::setTintColor(const Ref<UIColor>& color) {
+    peer_->setTintColor(color);
+}
+
+double UIView::alpha() const {
+    return layer().peer().number(LayerProperty::Opacity);
+}
+
+void UIView::setAlpha(double alpha) {
+    layer().peer().setNumber(LayerProperty::Opacity, alpha);
+}
+
+void UIView::setContentMode(UIViewContentMode mode) {
+    peer_->setContentMode(mode);
+}
+
+void UIView::setClipsToBounds(bool clips) {
+    layer().setMasksToBounds(clips);
+}
+
+void UIView::setUserInteractionEnabled(bool enabled) {
+    peer_->setUserInteractionEnabled(enabled);
+}
+
+void UIView::setAutoresizingMask(UIViewAutoresizing mask) {
+    peer_->setAutoresizingMask(mask);
+}
+
+CALayer& UIView::layer() const {
+    return peer_->layer();
+}
+
+void UIView::addSubview(const Ref<UIView>& view) {
+    peer_->addSubview(view);
+}
+
+void UIView::insertSubview(const Ref<UIView>& view, std::size_t index) {
+    peer_->insertSubview(view, index);
+}
+
+void UIView::layoutSubviews() {
+    peer_->layoutSubviews();
+}
+
+void UIView::animateWithDuration(double duration, double delay, UIViewAnimationOptions options,
+                                 const std::function<void()>& animations,
+                                 std::function<void(bool finished)> completion) {
+    AnimationGroup::run({.duration = nanoseconds(duration),
+                         .delay = nanoseconds(delay),
+                         .fromCurrentState = has(options, UIViewAnimationOptions::BeginFromCurrentState)},
+                        animations, std::move(completion));
+}

@@ -1,0 +1,312 @@
+#include "DesktopColor.h"
+#include "DesktopFont.h"
+#include "alerts/AlertView.h"
+#include "alerts/UIAlertControllerPeer.h"
+#include "presentation/PresentationFixture.h"
+#include "scrolling/UIScrollViewPeer.h"
+#include "views/UILabelPeer.h"
+
+namespace {
+
+using enum UIAlertActionStyle;
+using std::chrono::milliseconds;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class UIAlertControllerTest : public PresentationFixture {
+protected:
+    using PresentationFixture::PresentationFixture;
+
+    Ref<UIAlertAction> action(const std::string& title, UIAlertActionStyle style = Default) {
+        return UIAlertAction::actionWithTitle(
+            title, style, [this, title](UIAlertAction&) { log.push_back("chose " + title); });
+    }
+
+    Ref<UIAlertController> alert(const std::vector<Ref<UIAlertAction>>& actions,
+                                 const std::optional<std::string>& title = "Reset Settings",
+                                 const std::optional<std::string>& message = "Are you sure?") {
+        auto alert =
+            UIAlertController::alertControllerWithTitle(title, message, UIAlertControllerStyle::Alert);
+        for (const auto& one : actions)
+            alert->addAction(one);
+        return alert;
+    }
+
+    Ref<UIAlertController> usual() { return alert({action("Reset", Destructive), action("Cancel", Cancel)}); }
+
+    static CGPoint middle(const CGRect& rect) { return {CGRectGetMidX(rect), CGRectGetMidY(rect)}; }
+
+    CGPoint button(std::size_t index) { return middle(top()->actions().at(index).frame); }
+};
+
+class PadAlertTest : public UIAlertControllerTest {
+protected:
+    PadAlertTest() : UIAlertControllerTest(Screen::Options{.idiom = Idiom::Pad, .scale = 2}) {}
+};
+
+const UILabel& labelOf(const AlertButtonView& button) {
+    return dynamic_cast<const UILabel&>(*button.peer().subviews().back());
+}
+
+AlertView& viewOf(const Ref<UIAlertController>& alert) {
+    return dynamic_cast<AlertView&>(alert->view());
+}
+
+} // namespace
+
+TEST_F(UIAlertControllerTest, tellsOfItself) {
+    present(usual());
+    EXPECT_EQ(top()->kind(), "alert");
+    EXPECT_EQ(top()->title(), "Reset Settings");
+    EXPECT_EQ(top()->details()->controllerClass, "UIAlertController");
+    EXPECT_EQ(top()->details()->detail, "Are you sure?");
+    EXPECT_EQ(top()->details()->style, "alert");
+    EXPECT_FALSE(top()->details()->swipeDismissable);
+    const auto actions = top()->actions();
+    ASSERT_EQ(actions.size(), 2U);
+    EXPECT_EQ(actions[0].title, "Cancel");
+    EXPECT_TRUE(actions[0].cancels);
+    EXPECT_EQ(actions[1].title, "Reset");
+    EXPECT_TRUE(actions[1].destructive);
+    EXPECT_FALSE(actions[1].cancels);
+}
+
+TEST_F(UIAlertControllerTest, isInTheMiddleOfTheScreenWithItsButtonsAtItsEnd) {
+    present(usual());
+    const auto frame = screenFrame(top()->shownView());
+    EXPECT_EQ(frame.size.width, 270);
+    EXPECT_EQ(frame.origin.x, 60);
+    EXPECT_NEAR(CGRectGetMidY(frame), 422, 0.5);
+    EXPECT_EQ(top()->actions()[0].frame.origin.x, 60);
+    EXPECT_EQ(top()->actions()[1].frame.origin.x, 195);
+    EXPECT_NEAR(CGRectGetMaxY(top()->actions()[0].frame), CGRectGetMaxY(frame), 1e-6);
+}
+
+TEST_F(UIAlertControllerTest, emphasisesWhatCancelsAndNothingElse) {
+    const auto shown = alert({action("OK"), action("Erase", Destructive), action("Cancel", Cancel)});
+    present(shown);
+    screen.layoutIfNeeded();
+    std::vector<FontWeight> weights;
+    for (const auto& one : viewOf(shown).buttons())
+        weights.push_back(UILabelPeer::of(labelOf(*one)).fontStyle().weight);
+    EXPECT_THAT(weights, ElementsAre(FontWeight::Regular, FontWeight::Regular, FontWeight::Semibold));
+    const auto lone = alert({action("OK")});
+    EXPECT_EQ(UILabelPeer::of(labelOf(*viewOf(lone).buttons()[0])).fontStyle().weight, FontWeight::Regular);
+}
+
+TEST_F(UIAlertControllerTest, colorsButtonsByTheTintAndWhatDestroysRed) {
+    const auto shown = usual();
+    present(shown);
+    const auto color = [](const AlertButtonView& one) {
+        return DesktopColor::resolve(UILabelPeer::of(labelOf(one)).textColor(), one.peer().traits());
+    };
+    EXPECT_EQ(color(*viewOf(shown).buttons()[0]), systemColor(SystemColor::Blue, Appearance::Light));
+    EXPECT_EQ(color(*viewOf(shown).buttons()[1]), systemColor(SystemColor::Red, Appearance::Light));
+}
+
+TEST_F(UIAlertControllerTest, theHandlerRunsWhenTheAlertIsGone) {
+    present(usual(), true);
+    settle();
+    takeLog();
+    tap(button(1));
+    EXPECT_EQ(top(), nullptr);
+    advance(milliseconds(249));
+    EXPECT_THAT(takeLog(), IsEmpty());
+    EXPECT_NE(navigation->presentedViewController(), nullptr);
+    settle();
+    EXPECT_THAT(takeLog(), ElementsAre("chose Reset"));
+    EXPECT_EQ(navigation->presentedViewController(), nullptr);
+}
+
+TEST_F(UIAlertControllerTest, theHandlerMayPresentAgain) {
+    const auto next = alert({action("OK")}, "Done");
+    present(
+        alert({UIAlertAction::actionWithTitle("Go", Default, [&](UIAlertAction&) { present(next, true); })}));
+    tap(button(0));
+    settle();
+    EXPECT_EQ(navigation->presentedViewController(), next);
+}
+
+TEST_F(UIAlertControllerTest, aButtonWithoutAHandlerTakesItAway) {
+    present(alert({UIAlertAction::actionWithTitle("OK", Default, {})}));
+    tap(button(0));
+    settle();
+    EXPECT_EQ(navigation->presentedViewController(), nullptr);
+}
+
+TEST_F(UIAlertControllerTest, dismissingByCodeRunsNoHandler) {
+    present(usual());
+    dismissBy(*navigation, true);
+    settle();
+    EXPECT_EQ(log.back(), "dismissed");
+}
+
+TEST_F(UIAlertControllerTest, aFingerSlidesFromButtonToButtonAndChoosesWhereItIsLifted) {
+    present(usual());
+    takeLog();
+    touches.touch(TouchPhase::Began, button(1));
+    touches.touch(TouchPhase::Moved, button(0));
+    const auto cancel = button(0);
+    lift(cancel);
+    settle();
+    EXPECT_THAT(log, testing::Contains("chose Cancel"));
+    present(usual());
+    takeLog();
+    touches.touch(TouchPhase::Began, middle(screenFrame(top()->shownView())));
+    touches.touch(TouchPhase::Moved, button(1));
+    lift(button(1));
+    settle();
+    EXPECT_THAT(log, testing::Contains("chose Reset"));
+}
+
+TEST_F(UIAlertControllerTest, touchesElsewhereChooseNothing) {
+    present(usual());
+    takeLog();
+    const auto frame = screenFrame(top()->shownView());
+    for (const auto place : {CGPoint{20, 100}, CGPoint{195, 800}, CGPoint{195, frame.origin.y + 10}})
+        tap(place);
+    touches.touch(TouchPhase::Began, button(0));
+    touches.touch(TouchPhase::Moved, {20, 100});
+    lift({20, 100});
+    settle();
+    EXPECT_THAT(takeLog(), IsEmpty());
+    EXPECT_NE(top(), nullptr);
+}
+
+TEST_F(UIAlertControllerTest, aSecondChoiceWhileItLeavesCountsNot) {
+    present(usual());
+    takeLog();
+    const auto cancel = button(0);
+    const auto reset = button(1);
+    auto* const presented = top();
+    tap(reset);
+    tap(cancel);
+    presented->dismissPresented();
+    settle();
+    EXPECT_THAT(takeLog(), ElementsAre("chose Reset"));
+}
+
+TEST_F(UIAlertControllerTest, dismissedFromOutsideItChoosesWhatCancels) {
+    present(alert({action("OK")}));
+    top()->dismissPresented();
+    settle();
+    EXPECT_NE(top(), nullptr);
+    dismissBy(*navigation, false);
+    present(usual());
+    top()->dismissPresented();
+    settle();
+    EXPECT_EQ(log.back(), "chose Cancel");
+}
+
+TEST_F(UIAlertControllerTest, aSecondButtonThatCancelsIsRefused) {
+    const auto shown = alert({action("No", Cancel), action("Never", Cancel), action("OK")});
+    EXPECT_EQ(device.log().take().size(), 1U);
+    present(shown);
+    EXPECT_EQ(top()->actions().size(), 2U);
+}
+
+TEST_F(UIAlertControllerTest, aButtonThatIsAddedLaterIsShown) {
+    const auto shown = alert({action("OK")});
+    present(shown);
+    shown->addAction(action("More"));
+    screen.layoutIfNeeded();
+    ASSERT_EQ(top()->actions().size(), 2U);
+    EXPECT_EQ(top()->actions()[1].frame.size.width, 135);
+}
+
+TEST_F(UIAlertControllerTest, fadesInFromALargerSizeAndOutAtItsOwn) {
+    present(usual(), true);
+    const auto& layer = top()->shownView().layer().peer();
+    EXPECT_DOUBLE_EQ(layer.shownValue(LayerProperty::Opacity)[0], 0);
+    EXPECT_DOUBLE_EQ(layer.shownValue(LayerProperty::Transform)[0], 1.2);
+    settle();
+    EXPECT_DOUBLE_EQ(layer.shownValue(LayerProperty::Opacity)[0], 1);
+    EXPECT_DOUBLE_EQ(layer.shownValue(LayerProperty::Transform)[0], 1);
+    tap(button(0));
+    advance(milliseconds(125));
+    EXPECT_NEAR(layer.shownValue(LayerProperty::Opacity)[0], 0.5, 1e-6);
+    EXPECT_DOUBLE_EQ(layer.shownValue(LayerProperty::Transform)[0], 1);
+}
+
+TEST_F(UIAlertControllerTest, isTheSameWhenItIsPresentedAgain) {
+    const auto shown = usual();
+    present(shown);
+    const auto frame = screenFrame(shown->view());
+    for (auto round = 0; round < 2; ++round) {
+        dismissBy(*navigation, true);
+        settle();
+        present(shown, true);
+        settle();
+        EXPECT_EQ(screenFrame(shown->view()), frame);
+        EXPECT_DOUBLE_EQ(shown->view().alpha(), 1);
+        EXPECT_FALSE(shown->view().peer().isHidden());
+    }
+}
+
+TEST_F(UIAlertControllerTest, longTextsScrollWithinTheScreen) {
+    std::string message;
+    for (auto line = 0; line < 90; ++line)
+        message += "A message that goes on and on.\n";
+    present(alert({action("OK"), action("Cancel", Cancel)}, "Long", message));
+    const auto frame = screenFrame(top()->shownView());
+    EXPECT_GE(frame.origin.y, 47 + 20);
+    EXPECT_LE(CGRectGetMaxY(frame), 844 - 34 - 20);
+    EXPECT_NEAR(CGRectGetMaxY(top()->actions()[0].frame), CGRectGetMaxY(frame), 1e-6);
+    const auto& texts = dynamic_cast<UIScrollView&>(*top()->shownView().peer().subviews()[2]);
+    EXPECT_DOUBLE_EQ(texts.peer().contentOffset().y, 0);
+    drag({195, 500}, {195, 300});
+    lift({195, 300});
+    settle();
+    EXPECT_GT(texts.peer().contentOffset().y, 100);
+    EXPECT_NE(top(), nullptr);
+}
+
+TEST_F(UIAlertControllerTest, staysAboveTheKeyboard) {
+    present(usual());
+    screen.setKeyboardHeight(336);
+    EXPECT_NEAR(CGRectGetMidY(screenFrame(top()->shownView())), (844 - 336) / 2.0, 0.5);
+    screen.setKeyboardHeight(0);
+    EXPECT_NEAR(CGRectGetMidY(screenFrame(top()->shownView())), 422, 0.5);
+}
+
+TEST_F(UIAlertControllerTest, isPresentedAboveASheetWhichStays) {
+    const auto sheet = page("B");
+    present(sheet);
+    presentOn(*sheet, usual());
+    EXPECT_EQ(shownFrame(sheetOf(sheet).shownView()), CGRectMake(0, 57, 390, 787));
+    EXPECT_EQ(screen.presentations().all().size(), 2U);
+    tap(button(1));
+    settle();
+    EXPECT_EQ(navigation->presentedViewController(), sheet);
+    EXPECT_EQ(log.back(), "chose Reset");
+}
+
+TEST_F(UIAlertControllerTest, aSheetAboveItMovesNothingAside) {
+    const auto shown = usual();
+    present(shown);
+    const auto frame = shownFrame(shown->view());
+    presentOn(*shown, page("B"));
+    EXPECT_EQ(shownFrame(shown->view()), frame);
+}
+
+TEST_F(PadAlertTest, isInTheMiddleOfTheTablet) {
+    present(usual());
+    const auto frame = screenFrame(top()->shownView());
+    EXPECT_EQ(frame.origin.x, 275);
+    EXPECT_NEAR(CGRectGetMidY(frame), 590, 0.5);
+}
+
+TEST_F(UIAlertControllerTest, leavesNothingAliveWhateverItsHandlersHold) {
+    Weak<UIViewController> watched;
+    {
+        const auto shown = alert({});
+        const auto closing = UIAlertAction::actionWithTitle(
+            "OK", Default, [weak = Weak<UIViewController>(shown)](UIAlertAction&) {});
+        shown->addAction(closing);
+        watched = Weak<UIViewController>(shown);
+        present(shown);
+    }
+    tap(button(0));
+    settle();
+    EXPECT_EQ(watched.strong(), nullptr);
+}

@@ -1,0 +1,98 @@
+#include "controls/UIButtonPeer.h"
+
+#include "DesktopColor.h"
+#include "DesktopImage.h"
+#include "screen/TouchFixture.h"
+#include "views/UILabelPeer.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+
+class UIButtonPeerTest : public TouchFixture {
+protected:
+    UIButtonPeerTest() {
+        button->peer().setTitle("Cancel");
+        button->setFrame(CGRectMake(100, 200, 100, 40));
+        window->addSubview(button);
+        screen.layoutIfNeeded();
+    }
+
+    [[nodiscard]] double shownAlpha() const {
+        return button->peer().titleLabel().layer().peer().shownValue(LayerProperty::Opacity)[0];
+    }
+
+    Ref<UIButton> button = make<UIButton>();
+};
+
+TEST_F(UIButtonPeerTest, IsPaleWhilePressed) {
+    down(150, 220);
+    EXPECT_EQ(shownAlpha(), 0.2);
+    up(150, 220);
+    EXPECT_DOUBLE_EQ(shownAlpha(), 0.2);
+    advance(125ms);
+    EXPECT_NEAR(shownAlpha(), 0.6, 1e-3);
+    advance(125ms);
+    EXPECT_EQ(shownAlpha(), 1);
+}
+
+TEST_F(UIButtonPeerTest, ActsWhenTheFingerIsLiftedOnItsTitle) {
+    auto actions = 0;
+    button->peer().addHandler(UIControlEvents::TouchUpInside, [&] { ++actions; });
+    tap(150, 220);
+    EXPECT_EQ(actions, 1);
+}
+
+TEST_F(UIButtonPeerTest, IsNeverSmallerThanAFingerFinds) {
+    button->peer().setTitle("i");
+    EXPECT_EQ(button->peer().sizeThatFits({}), (CGSize{30, 30}));
+    button->peer().setTitle("A rather long title");
+    const auto title = button->peer().titleLabel().peer().sizeThatFits({});
+    EXPECT_EQ(button->peer().intrinsicWidth(), title.width);
+    EXPECT_EQ(button->peer().intrinsicHeight(), 30);
+    button->peer().setFontStyle({.size = 17});
+    button->peer().setContentInsets({.top = 7, .left = 12, .bottom = 7, .right = 12});
+    const auto larger = button->peer().titleLabel().peer().sizeThatFits({});
+    EXPECT_GT(larger.width, title.width);
+    EXPECT_NEAR(*button->peer().intrinsicHeight(), 34.33, 0.01);
+    EXPECT_EQ(button->peer().intrinsicWidth(), larger.width + 24);
+}
+
+TEST_F(UIButtonPeerTest, ImageStandsBeforeTheTitleAndBothInTheMiddle) {
+    button->peer().setImage(DesktopImage::symbol("gear", 20));
+    screen.layoutIfNeeded();
+    const auto image = button->peer().imageView().frame();
+    const auto title = button->peer().titleLabel().frame();
+    EXPECT_GT(image.size.width, 10);
+    EXPECT_DOUBLE_EQ(CGRectGetMaxX(image), title.origin.x);
+    EXPECT_NEAR((image.origin.x + CGRectGetMaxX(title)) / 2, 50, 1e-9);
+    EXPECT_NEAR(CGRectGetMidY(image), 20, 1e-9);
+    EXPECT_NEAR(CGRectGetMidY(title), 20, 1e-9);
+}
+
+TEST_F(UIButtonPeerTest, TitleIsInTheTintUnlessDisabled) {
+    const auto color = [&] {
+        return DesktopColor::resolve(UILabelPeer::of(button->peer().titleLabel()).textColor(),
+                                     screen.traits());
+    };
+    const auto of = [&](SystemColor role) {
+        return DesktopColor::resolve(DesktopColor::system(role), screen.traits());
+    };
+    EXPECT_EQ(color(), of(SystemColor::Blue));
+    window->peer().setTintColor(DesktopColor::system(SystemColor::Green));
+    EXPECT_EQ(color(), of(SystemColor::Green));
+    button->peer().setTitleColor(DesktopColor::system(SystemColor::Red));
+    EXPECT_EQ(color(), of(SystemColor::Red));
+    button->peer().setEnabled(false);
+    EXPECT_EQ(color(), of(SystemColor::TertiaryLabel));
+    button->peer().setEnabled(true);
+    EXPECT_EQ(color(), of(SystemColor::Red));
+}
+
+TEST_F(UIButtonPeerTest, TellsItsTitle) {
+    EXPECT_EQ(button->peer().accessibility().label, "Cancel");
+    EXPECT_EQ(button->peer().accessibility().role, AccessibilityRole::Button);
+    EXPECT_EQ(button->peer().shownText(), "Cancel");
+}
+
+} // namespace

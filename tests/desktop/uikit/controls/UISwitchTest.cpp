@@ -1,0 +1,150 @@
+#include "AnimationGroup.h"
+#include "TestDevice.h"
+#include "controls/UISwitchPeer.h"
+#include "screen/Screen.h"
+#include "screen/TouchDispatcher.h"
+#include "screen/UIWindow.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+
+namespace {
+
+using namespace std::chrono_literals;
+
+/// A switch at (100, 100), and a finger.
+class UISwitchTest : public testing::Test {
+protected:
+    UISwitchTest() {
+        screen_.addWindow(window_);
+        window_->setFrame(screen_.bounds());
+        window_->addSubview(switch_);
+        peer().sizeToFit();
+        switch_->setCenter({125.5, 115.5});
+        peer().addHandler(UIControlEvents::ValueChanged, [this] { ++changes_; });
+        screen_.layoutIfNeeded();
+    }
+
+    ~UISwitchTest() override { screen_.removeWindow(*window_); }
+
+    [[nodiscard]] UISwitchPeer& peer() const { return UISwitchPeer::of(*switch_); }
+
+    void down(double x) { finger_.touch(TouchPhase::Began, {x, 115}); }
+
+    void move(double x) { finger_.touch(TouchPhase::Moved, {x, 115}); }
+
+    void up(double x) { finger_.touch(TouchPhase::Ended, {x, 115}); }
+
+    void advance(std::chrono::milliseconds duration) {
+        Device::current().mainQueue().advance(device_.clock(), duration);
+    }
+
+    [[nodiscard]] CGRect thumb() const { return peer().subviews().back()->frame(); }
+
+    TestDevice device_;
+    Screen screen_{{}};
+    Ref<UIWindow> window_ = make<UIWindow>();
+    Ref<UISwitch> switch_ = make<UISwitch>();
+    TouchDispatcher finger_;
+    int changes_ = 0;
+};
+
+} // namespace
+
+TEST_F(UISwitchTest, HasTheSystemsSize) {
+    EXPECT_EQ(switch_->bounds().size, (CGSize{51, 31}));
+    EXPECT_EQ(peer().intrinsicWidth(), 49);
+    EXPECT_EQ(peer().intrinsicHeight(), 31);
+    switch_->setFrame(CGRectMake(10, 20, 200, 5));
+    screen_.layoutIfNeeded();
+    EXPECT_EQ(switch_->frame(), CGRectMake(10, 20, 51, 31));
+}
+
+TEST_F(UISwitchTest, ATapTogglesAndTellsOnce) {
+    down(110);
+    up(110);
+    EXPECT_TRUE(peer().isOn());
+    EXPECT_EQ(changes_, 1);
+    down(110);
+    up(110);
+    EXPECT_FALSE(peer().isOn());
+    EXPECT_EQ(changes_, 2);
+}
+
+TEST_F(UISwitchTest, CodeTellsNobody) {
+    peer().setOn(true, true);
+    peer().setOn(true, false);
+    peer().setOn(false, false);
+    EXPECT_EQ(changes_, 0);
+}
+
+TEST_F(UISwitchTest, TheThumbSlidesAndGrowsUnderTheFinger) {
+    EXPECT_EQ(thumb(), CGRectMake(2, 2, 27, 27));
+    down(110);
+    EXPECT_EQ(thumb(), CGRectMake(2, 2, 34, 27));
+    up(110);
+    EXPECT_EQ(thumb(), CGRectMake(22, 2, 27, 27));
+    const auto& layer = peer().subviews().back()->layer().peer();
+    EXPECT_TRUE(layer.isAnimating());
+    advance(251ms);
+    EXPECT_FALSE(layer.isAnimating());
+}
+
+TEST_F(UISwitchTest, ADragPastTheMiddleTogglesOnceOnRelease) {
+    down(110);
+    move(122);
+    EXPECT_FALSE(peer().isOn());
+    move(130);
+    EXPECT_TRUE(peer().isOn());
+    EXPECT_EQ(changes_, 0);
+    move(145);
+    up(145);
+    EXPECT_TRUE(peer().isOn());
+    EXPECT_EQ(changes_, 1);
+}
+
+TEST_F(UISwitchTest, ADragThereAndBackChangesNothing) {
+    down(110);
+    move(140);
+    move(110);
+    up(110);
+    EXPECT_FALSE(peer().isOn());
+    EXPECT_EQ(changes_, 0);
+}
+
+TEST_F(UISwitchTest, ACancelledTouchTakesTheChangeBack) {
+    down(110);
+    move(140);
+    finger_.touch(TouchPhase::Cancelled, {140, 115});
+    EXPECT_FALSE(peer().isOn());
+    EXPECT_EQ(thumb(), CGRectMake(2, 2, 27, 27));
+    EXPECT_EQ(changes_, 0);
+}
+
+TEST_F(UISwitchTest, ADisabledSwitchIsDimAndInert) {
+    peer().setEnabled(false);
+    EXPECT_EQ(switch_->alpha(), 0.5);
+    down(110);
+    up(110);
+    EXPECT_FALSE(peer().isOn());
+    EXPECT_EQ(changes_, 0);
+    peer().setEnabled(true);
+    EXPECT_EQ(switch_->alpha(), 1);
+}
+
+TEST_F(UISwitchTest, DisablingUnderTheFingerTakesTheChangeBack) {
+    down(110);
+    move(140);
+    peer().setEnabled(false);
+    up(140);
+    EXPECT_FALSE(peer().isOn());
+    EXPECT_EQ(changes_, 0);
+}
+
+TEST_F(UISwitchTest, TellsOfItself) {
+    peer().setOn(true, false);
+    EXPECT_EQ(peer().accessibility().role, AccessibilityRole::Switch);
+    EXPECT_EQ(peer().accessibility().value, "1");
+    EXPECT_EQ(peer().inspectedProperties().at("on"), PropertyList(true));
+}

@@ -1,0 +1,161 @@
+#include "keyboard/Keyboard.h"
+
+#include "PresentedStandIn.h"
+#include "text/TextFieldFixture.h"
+
+#include <algorithm>
+#include <string_view>
+#include <vector>
+
+namespace {
+
+using std::chrono::milliseconds;
+
+class KeyboardTest : public TextFieldFixture {
+protected:
+    void show() {
+        field->becomeFirstResponder();
+        settle();
+    }
+
+    [[nodiscard]] Keyboard& keyboard() { return dynamic_cast<Keyboard&>(screen.keyboard()); }
+
+    /// Taps the first key with that on it.
+    void tapKey(std::string_view text) {
+        const auto& keys = keyboard().view()->keys();
+        const auto found = std::ranges::find(
+            keys, text, [](const auto& key) -> std::string_view { return key->key().text; });
+        ASSERT_NE(found, keys.end()) << text;
+        const auto place = (*found)->peer().convertToScreen((*found)->bounds());
+        tap(CGRectGetMidX(place), CGRectGetMidY(place));
+    }
+};
+
+TEST_F(KeyboardTest, IsShownWhileATextHasIt) {
+    EXPECT_FALSE(keyboard().isShown());
+    field->becomeFirstResponder();
+    run();
+    EXPECT_TRUE(keyboard().isShown());
+    EXPECT_EQ(screen.keyboardHeight(), 336);
+    field->resignFirstResponder();
+    run();
+    EXPECT_FALSE(keyboard().isShown());
+    EXPECT_EQ(screen.keyboardHeight(), 0);
+}
+
+TEST_F(KeyboardTest, SlidesFromBelowTheScreen) {
+    field->becomeFirstResponder();
+    run();
+    const auto& layer = keyboard().view()->layer().peer();
+    const auto shownTop = [&layer] { return layer.shownToSuperlayer()(CGPoint{0, 0}).y; };
+    EXPECT_NEAR(shownTop(), 844, 0.5);
+    advance(milliseconds(100));
+    EXPECT_LT(shownTop(), 744);
+    EXPECT_GT(shownTop(), 508);
+    settle();
+    EXPECT_NEAR(shownTop(), 508, 1e-6);
+    EXPECT_EQ(keyboard().view()->frame(), CGRectMake(0, 508, 390, 336));
+}
+
+TEST_F(KeyboardTest, IsGoneWhenItHasSlidDown) {
+    show();
+    field->resignFirstResponder();
+    run();
+    EXPECT_FALSE(keyboard().view()->peer().window()->peer().isHidden());
+    settle();
+    EXPECT_TRUE(keyboard().view()->peer().window()->peer().isHidden());
+    EXPECT_EQ(screen.hitTest({100, 700}), nullptr);
+    show();
+    EXPECT_FALSE(keyboard().view()->peer().window()->peer().isHidden());
+}
+
+TEST_F(KeyboardTest, StaysWhenAnotherTextTakesIt) {
+    const auto listener = make<PresentedStandIn>();
+    screen.presentations().add(*listener, *listener);
+    const auto other = addField();
+    show();
+    other->becomeFirstResponder();
+    settle();
+    field->becomeFirstResponder();
+    field->resignFirstResponder();
+    other->becomeFirstResponder();
+    settle();
+    EXPECT_EQ(listener->keyboardHeights, std::vector<double>{336});
+    other->resignFirstResponder();
+    settle();
+    EXPECT_EQ(listener->keyboardHeights, (std::vector<double>{336, 0}));
+}
+
+TEST_F(KeyboardTest, IsInFrontOfTheApplication) {
+    show();
+    const auto* const hit = screen.hitTest({195, 600});
+    ASSERT_NE(hit, nullptr);
+    EXPECT_TRUE(hit->peer().isDescendantOf(*keyboard().view()));
+}
+
+TEST_F(KeyboardTest, LeavesTheHomeStripToTheApplication) {
+    show();
+    EXPECT_EQ(screen.hitTest({195, 840}), nullptr);
+    EXPECT_NE(screen.hitTest({195, 800}), nullptr);
+}
+
+TEST_F(KeyboardTest, TypesWithItsKeys) {
+    show();
+    for (const auto* const key : {"a", "b", "c", " ", "x"})
+        tapKey(key);
+    EXPECT_EQ(field->text(), "Abc x");
+    tapKey("delete");
+    tapKey("delete");
+    EXPECT_EQ(field->text(), "Abc");
+    tapKey("shift");
+    tapKey("q");
+    tapKey("q");
+    EXPECT_EQ(field->text(), "AbcQq");
+    tapKey("123");
+    tapKey("7");
+    tapKey("#+=");
+    tapKey("€");
+    tapKey("ABC");
+    tapKey("z");
+    EXPECT_EQ(field->text(), "AbcQq7€z");
+    tapKey("return");
+    EXPECT_TRUE(field->isFirstResponder());
+    EXPECT_EQ(field->text(), "AbcQq7€z");
+}
+
+TEST_F(KeyboardTest, BeginsWithALargeLetterInAnEmptyTextOnly) {
+    show();
+    EXPECT_TRUE(keyboard().view()->isShifted());
+    field->resignFirstResponder();
+    field->setText("x");
+    settle();
+    show();
+    EXPECT_FALSE(keyboard().view()->isShifted());
+}
+
+TEST_F(KeyboardTest, AFingerOnItDoesNotTakeItAway) {
+    show();
+    tap(195, 520);
+    EXPECT_TRUE(field->isFirstResponder());
+}
+
+TEST_F(KeyboardTest, FollowsTheScreensSize) {
+    show();
+    screen.setSize({600, 900});
+    settle();
+    EXPECT_EQ(keyboard().view()->frame(), CGRectMake(0, 564, 600, 336));
+    EXPECT_NEAR(CGRectGetMaxX(keyboard().view()->keys()[9]->frame()), 600, 1e-6);
+}
+
+TEST_F(KeyboardTest, EndsWithTheTextThatHasIt) {
+    const auto around = make<UIView>();
+    window->addSubview(around);
+    field->peer().removeFromSuperview();
+    around->addSubview(field);
+    show();
+    around->peer().removeFromSuperview();
+    settle();
+    EXPECT_FALSE(keyboard().isShown());
+}
+
+} // namespace

@@ -1,0 +1,70 @@
+#include "layout/LayoutFixture.h"
+
+namespace {
+
+class SizedPeer final : public UIViewPeer {
+public:
+    SizedPeer(std::optional<double> width, std::optional<double> height) : width_(width), height_(height) {}
+
+    void setWidth(double width) {
+        width_ = width;
+        setNeedsConstraintLayout();
+    }
+
+    // UIViewPeer:
+    [[nodiscard]] std::optional<double> intrinsicWidth() const override { return width_; }
+
+    [[nodiscard]] std::optional<double> intrinsicHeight() const override { return height_; }
+
+private:
+    std::optional<double> width_;
+    std::optional<double> height_;
+};
+
+} // namespace
+
+SizedView::SizedView(std::optional<double> width, std::optional<double> height)
+    : UIView(std::make_unique<SizedPeer>(width, height)) {}
+
+void SizedView::setIntrinsicWidth(double width) {
+    dynamic_cast<SizedPeer&>(peer()).setWidth(width);
+}
+
+LayoutFixture::LayoutFixture() {
+    host->peer().setTraitOverride([](Traits& traits) { traits.displayScale = 2; });
+}
+
+Ref<SizedView> LayoutFixture::add(std::optional<double> width, std::optional<double> height) {
+    return addTo(*host, width, height);
+}
+
+Ref<SizedView> LayoutFixture::addTo(UIView& superview, std::optional<double> width,
+                                    std::optional<double> height) {
+    auto view = make<SizedView>(width, height);
+    view->peer().setFrameGiven(false);
+    superview.addSubview(view);
+    return view;
+}
+
+NSLayoutConstraint& LayoutFixture::constrain(NSLayoutConstraint::Terms terms) {
+    constraints.push_back(make<NSLayoutConstraint>(std::move(terms)));
+    NSLayoutConstraint::activate({constraints.back()});
+    return *constraints.back();
+}
+
+NSLayoutConstraint& LayoutFixture::equal(const LayoutAnchor& first, const LayoutAnchor& second,
+                                         double constant) {
+    return constrain({.first = first, .second = second, .constant = constant});
+}
+
+NSLayoutConstraint& LayoutFixture::equal(const LayoutAnchor& first, double constant) {
+    return constrain({.first = first, .second = std::nullopt, .constant = constant});
+}
+
+void LayoutFixture::fill(UIView& view, double inset) {
+    using enum LayoutAttribute;
+    equal({view, Left}, {*host, Left}, inset);
+    equal({view, Top}, {*host, Top}, inset);
+    equal({view, Right}, {*host, Right}, -inset);
+    equal({view, Bottom}, {*host, Bottom}, -inset);
+}

@@ -1,0 +1,203 @@
+#include "UIKit/UILabel.h"
+#include "layout/LayoutFixture.h"
+#include "views/UILabelPeer.h"
+
+using NSLayoutConstraintTest = LayoutFixture;
+using enum LayoutAttribute;
+
+TEST_F(NSLayoutConstraintTest, FourEdgesPlaceAView) {
+    const auto view = add();
+    fill(*view, 12);
+    layOut();
+    EXPECT_EQ(view->frame(), CGRectMake(12, 12, 276, 176));
+}
+
+TEST_F(NSLayoutConstraintTest, AViewFollowsItsHostsSize) {
+    const auto view = add();
+    fill(*view);
+    layOut();
+    host->setFrame(CGRectMake(0, 0, 50, 60));
+    layOut();
+    EXPECT_EQ(view->frame(), CGRectMake(0, 0, 50, 60));
+}
+
+TEST_F(NSLayoutConstraintTest, CentreAndSizePlaceAView) {
+    const auto view = add();
+    equal({*view, CenterX}, {*host, CenterX});
+    equal({*view, CenterY}, {*host, CenterY}, 10);
+    equal({*view, Width}, 100);
+    constrain({.first = {*view, Height}, .second = LayoutAnchor(*view, Width), .factor = 0.5, .constant = 4});
+    layOut();
+    EXPECT_EQ(view->frame(), CGRectMake(100, 83, 100, 54));
+}
+
+TEST_F(NSLayoutConstraintTest, TheIntrinsicSizeFillsWhatIsNotSaid) {
+    const auto view = add(40, 30);
+    equal({*view, Right}, {*host, Right}, -4);
+    equal({*view, CenterY}, {*host, CenterY});
+    layOut();
+    EXPECT_EQ(view->frame(), CGRectMake(256, 85, 40, 30));
+    view->setIntrinsicWidth(60);
+    layOut();
+    EXPECT_EQ(view->frame(), CGRectMake(236, 85, 60, 30));
+}
+
+TEST_F(NSLayoutConstraintTest, OfTwoInTooMuchRoomTheOneThatHugsLessGrows) {
+    const auto first = add(40, 20);
+    const auto second = add(40, 20);
+    equal({*first, Left}, {*host, Left});
+    equal({*second, Left}, {*first, Right});
+    equal({*second, Right}, {*host, Right});
+    first->peer().layoutRules().horizontal.hugging = 251;
+    layOut();
+    EXPECT_EQ(first->frame().size.width, 40);
+    EXPECT_EQ(second->frame().size.width, 260);
+    first->peer().layoutRules().horizontal.hugging = 249;
+    first->peer().setNeedsConstraintLayout();
+    layOut();
+    EXPECT_EQ(first->frame().size.width, 260);
+}
+
+TEST_F(NSLayoutConstraintTest, OfTwoInTooLittleRoomTheOneThatResistsLessShrinks) {
+    const auto first = add(200, 20);
+    const auto second = add(200, 20);
+    equal({*first, Left}, {*host, Left});
+    equal({*second, Left}, {*first, Right});
+    equal({*second, Right}, {*host, Right});
+    first->peer().layoutRules().horizontal.compression = 749;
+    layOut();
+    EXPECT_EQ(first->frame().size.width, 100);
+    EXPECT_EQ(second->frame().size.width, 200);
+}
+
+TEST_F(NSLayoutConstraintTest, AWeakerConstraintGivesWay) {
+    const auto view = add();
+    equal({*view, Left}, {*host, Left});
+    constrain({.first = {*view, Width}, .relation = LinearRelation::LessOrEqual, .constant = 80});
+    constrain({.first = {*view, Width}, .constant = 500, .priority = 750});
+    constrain({.first = {*view, Width}, .constant = 10, .priority = 749});
+    layOut();
+    EXPECT_EQ(view->frame().size.width, 80);
+}
+
+TEST_F(NSLayoutConstraintTest, PlacesGoThroughTheViewsBetween) {
+    const auto outer = add();
+    fill(*outer, 20);
+    const auto inner = addTo(*outer);
+    equal({*inner, Left}, {*host, Left}, 50);
+    equal({*inner, Top}, {*outer, Top}, 5);
+    equal({*inner, Width}, 10);
+    equal({*inner, Height}, 10);
+    layOut();
+    EXPECT_EQ(inner->frame(), CGRectMake(30, 5, 10, 10));
+}
+
+TEST_F(NSLayoutConstraintTest, AViewWithAFrameOfItsOwnIsAnAnchorThatDoesNotMove) {
+    const auto given = makeWith<UIView>(&UIView::initWithFrame, CGRectMake(30, 40, 50, 60));
+    host->addSubview(given);
+    const auto view = add(10, 10);
+    equal({*view, Left}, {*given, Right}, 8);
+    equal({*view, CenterY}, {*given, CenterY});
+    layOut();
+    EXPECT_EQ(view->frame(), CGRectMake(88, 65, 10, 10));
+    EXPECT_EQ(given->frame(), CGRectMake(30, 40, 50, 60));
+}
+
+TEST_F(NSLayoutConstraintTest, TheSafeAreaAndTheMarginsAreAnchorsToo) {
+    host->peer().setAdditionalSafeAreaInsets({.top = 44, .left = 0, .bottom = 30, .right = 0});
+    host->peer().layoutRules().margins = {.top = 0, .left = 16, .bottom = 0, .right = 20};
+    const auto view = add();
+    equal({*view, Top}, {*host, Top, LayoutGuide::SafeArea});
+    equal({*view, Bottom}, {*host, Bottom, LayoutGuide::SafeArea});
+    equal({*view, Left}, {*host, Left, LayoutGuide::Margins});
+    equal({*view, Right}, {*host, Right, LayoutGuide::Margins});
+    layOut();
+    EXPECT_EQ(view->frame(), CGRectMake(16, 44, 264, 126));
+}
+
+TEST_F(NSLayoutConstraintTest, FramesLieOnPixels) {
+    const auto view = add();
+    equal({*view, Left}, {*host, Left}, 1.3);
+    equal({*view, Width}, 10.1);
+    layOut();
+    EXPECT_EQ(view->frame().origin.x, 1.5);
+    EXPECT_EQ(view->frame().size.width, 10);
+}
+
+TEST_F(NSLayoutConstraintTest, AContradictionIsLoggedAndTheRestHolds) {
+    const auto view = add();
+    fill(*view);
+    equal({*view, Width}, 10);
+    static_cast<void>(device.log().take());
+    layOut();
+    EXPECT_EQ(view->frame(), CGRectMake(0, 0, 300, 200));
+    EXPECT_EQ(device.log().take().size(), 1U);
+}
+
+TEST_F(NSLayoutConstraintTest, ViewsOfDifferentTreesCannotBeTied) {
+    const auto stranger = make<SizedView>();
+    const auto& refused = constrain({.first = {*stranger, Left}, .second = LayoutAnchor(*host, Left)});
+    EXPECT_FALSE(refused.isActive());
+    EXPECT_EQ(device.log().take().size(), 1U);
+}
+
+TEST_F(NSLayoutConstraintTest, AChangedConstantMovesTheView) {
+    const auto view = add(10, 10);
+    auto& left = equal({*view, Left}, {*host, Left}, 5);
+    layOut();
+    left.setConstant(15);
+    layOut();
+    EXPECT_EQ(view->frame().origin.x, 15);
+}
+
+TEST_F(NSLayoutConstraintTest, ADeactivatedConstraintNoLongerHolds) {
+    const auto view = add(10, 10);
+    auto& left = equal({*view, Left}, {*host, Left}, 5);
+    const auto right = make<NSLayoutConstraint>(
+        NSLayoutConstraint::Terms{.first = {*view, Right}, .second = LayoutAnchor(*host, Right)});
+    layOut();
+    NSLayoutConstraint::deactivate({retain(&left)});
+    NSLayoutConstraint::activate({right});
+    EXPECT_FALSE(left.isActive());
+    layOut();
+    EXPECT_EQ(view->frame().origin.x, 290);
+}
+
+TEST_F(NSLayoutConstraintTest, AConstraintOnAViewThatIsGoneIsLeftOut) {
+    const auto view = add(10, 10);
+    {
+        const auto gone = add(30, 30);
+        equal({*view, Left}, {*gone, Right});
+        equal({*view, Left}, {*host, Left}, 3);
+        gone->peer().removeFromSuperview();
+    }
+    layOut();
+    EXPECT_EQ(view->frame().origin.x, 3);
+    EXPECT_TRUE(device.log().take().empty());
+}
+
+TEST_F(NSLayoutConstraintTest, ALabelOfSeveralLinesIsAsHighAsItsWidthMakesIt) {
+    const auto label = make<UILabel>();
+    UILabelPeer::of(*label).setNumberOfLines(0);
+    label->setText("Rows whose controlling switch is off are hidden and come back when it is turned on.");
+    label->peer().setFrameGiven(false);
+    host->addSubview(label);
+    equal({*label, Left}, {*host, Left});
+    equal({*label, Right}, {*host, Right});
+    equal({*label, Top}, {*host, Top});
+    layOut();
+    const auto wide = label->frame().size;
+    EXPECT_EQ(wide.width, 300);
+    EXPECT_EQ(wide.height, label->peer().sizeThatFits({300, 1e6}).height);
+    host->setFrame(CGRectMake(0, 0, 120, 400));
+    layOut();
+    EXPECT_EQ(label->frame().size.height, label->peer().sizeThatFits({120, 1e6}).height);
+    EXPECT_GT(label->frame().size.height, wide.height);
+}
+
+TEST_F(NSLayoutConstraintTest, TheFittingSizeIsTheSmallestThatHoldsEverything) {
+    const auto view = add(40, 30);
+    fill(*view, 10);
+    EXPECT_EQ(host->peer().fittingSize(std::nullopt), (CGSize{60, 50}));
+    EXPECT_EQ(host->peer().fittingSize(200), (CGSize{200, 50}));
+}

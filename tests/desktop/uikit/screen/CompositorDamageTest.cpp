@@ -1,0 +1,144 @@
+#include "UIKit/UILabel.h"
+#include "screen/RandomLayers.h"
+#include "screen/ShownScreen.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <string>
+
+namespace {
+
+using namespace std::chrono_literals;
+
+/// The first pixel that differs, for a message; empty when none does.
+std::string difference(const QImage& left, const QImage& right) {
+    for (auto y = 0; y < left.height(); ++y) {
+        for (auto x = 0; x < left.width(); ++x) {
+            if (left.pixel(x, y) != right.pixel(x, y))
+                return std::to_string(x) + ", " + std::to_string(y) + ": " +
+                       left.pixelColor(x, y).name(QColor::HexArgb).toStdString() + " " +
+                       right.pixelColor(x, y).name(QColor::HexArgb).toStdString();
+        }
+    }
+    return {};
+}
+
+QRegion damage(ShownScreen& shown) {
+    shown.compositor.render();
+    return shown.compositor.lastDamage();
+}
+
+TEST(CompositorDamage, IsEverythingAtFirst) {
+    ShownScreen shown;
+    EXPECT_EQ(damage(shown), QRegion(0, 0, 40, 40));
+}
+
+TEST(CompositorDamage, IsNothingWhenNothingChanged) {
+    ShownScreen shown;
+    const auto view = shown.add(CGRectMake(10, 10, 5, 5), red);
+    EXPECT_FALSE(damage(shown).isEmpty());
+    EXPECT_TRUE(damage(shown).isEmpty());
+    view->setFrame(CGRectMake(20, 10, 5, 5));
+    view->setFrame(CGRectMake(10, 10, 5, 5));
+    EXPECT_TRUE(damage(shown).isEmpty());
+}
+
+TEST(CompositorDamage, IsWhereAViewWasAndWhereItIs) {
+    ShownScreen shown;
+    const auto view = shown.add(CGRectMake(0, 0, 5, 5), red);
+    shown.compositor.render();
+    view->setFrame(CGRectMake(30, 30, 5, 5));
+    const auto region = damage(shown);
+    EXPECT_TRUE(region.contains(QPoint(2, 2)));
+    EXPECT_TRUE(region.contains(QPoint(32, 32)));
+    EXPECT_FALSE(region.contains(QPoint(20, 20)));
+}
+
+TEST(CompositorDamage, IsWhereAViewThatIsGoneWas) {
+    ShownScreen shown;
+    const auto view = shown.add(CGRectMake(0, 0, 5, 5), red);
+    shown.compositor.render();
+    view->peer().removeFromSuperview();
+    const auto region = damage(shown);
+    EXPECT_TRUE(region.contains(QPoint(2, 2)));
+    EXPECT_FALSE(region.contains(QPoint(20, 20)));
+    EXPECT_EQ(shown.pixel(2, 2), QColor(Qt::white));
+}
+
+TEST(CompositorDamage, IsThatOfTheNewViewWhenItTakesAnOldOnesPlace) {
+    ShownScreen shown;
+    for (const auto& color : {red, green, blue}) {
+        const auto view = shown.add(CGRectMake(0, 0, 5, 5), color);
+        EXPECT_EQ(shown.pixel(2, 2), color.toQColor());
+        view->peer().removeFromSuperview();
+    }
+}
+
+TEST(CompositorDamage, IsAllThatAFadedViewHolds) {
+    ShownScreen shown;
+    const auto view = shown.add(CGRectMake(0, 0, 5, 5), red);
+    ShownScreen::put(*view, CGRectMake(20, 20, 5, 5), green);
+    shown.compositor.render();
+    view->setAlpha(0.5);
+    EXPECT_TRUE(damage(shown).contains(QPoint(22, 22)));
+}
+
+TEST(CompositorDamage, IsOnlyTheChangedPartOfAFadedView) {
+    ShownScreen shown;
+    const auto view = shown.add(CGRectMake(0, 0, 40, 40), red);
+    const auto inner = ShownScreen::add(*view, CGRectMake(20, 20, 5, 5), green);
+    view->setAlpha(0.5);
+    shown.compositor.render();
+    inner->setBackgroundColor(DesktopColor::fixed(blue));
+    EXPECT_FALSE(damage(shown).contains(QPoint(2, 2)));
+}
+
+TEST(CompositorDamage, GrowsToTheBackdropThatShowsItBlurred) {
+    ShownScreen shown;
+    const auto view = shown.add(CGRectMake(0, 0, 5, 5), red);
+    const auto panel = make<UIView>();
+    panel->setFrame(CGRectMake(0, 0, 30, 20));
+    panel->layer().peer().backdrop = Backdrop{.blurRadius = 3, .saturation = 1};
+    shown.window->addSubview(panel);
+    shown.compositor.render();
+    view->setBackgroundColor(DesktopColor::fixed(green));
+    const auto region = damage(shown);
+    EXPECT_TRUE(region.contains(QPoint(29, 19)));
+    EXPECT_FALSE(region.contains(QPoint(35, 35)));
+}
+
+TEST(CompositorDamage, IsEverythingOnceMoreAfterThePictureWasForgotten) {
+    ShownScreen shown;
+    shown.compositor.render();
+    shown.compositor.forgetPicture();
+    EXPECT_EQ(damage(shown), QRegion(0, 0, 40, 40));
+}
+
+TEST(CompositorDamage, IsEverythingOnAScreenOfAnotherSize) {
+    ShownScreen shown;
+    shown.compositor.render();
+    shown.screen.setSize({50, 30});
+    EXPECT_EQ(damage(shown), QRegion(0, 0, 50, 30));
+}
+
+class RandomChanges : public testing::TestWithParam<unsigned> {};
+
+TEST_P(RandomChanges, PaintTheSamePixelsAsAWholePicture) {
+    ShownScreen shown({80, 80}, GetParam() % 2 == 0 ? 3 : 2);
+    RandomLayers layers(*shown.window, GetParam());
+    auto partialPictures = 0;
+    for (auto step = 0; step < 25; ++step) {
+        layers.change();
+        shown.advance(70ms);
+        const auto picture = shown.compositor.render().copy();
+        partialPictures += shown.compositor.lastDamage() != QRegion(picture.rect()) ? 1 : 0;
+        Compositor whole(shown.screen);
+        ASSERT_EQ(difference(picture, whole.render()), "") << "at step " << step;
+    }
+    EXPECT_GT(partialPictures, 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, RandomChanges, testing::Range(1U, 41U));
+
+} // namespace

@@ -1,0 +1,61 @@
+#include "tables/TableFixture.h"
+
+NotedContent::Section NotedContent::sectionOf(std::size_t count) {
+    Section section;
+    for (std::size_t row = 0; row < count; ++row)
+        section.rows.push_back({.title = std::to_string(row)});
+    return section;
+}
+
+std::optional<double> NotedContent::rowHeight(IndexPath row) {
+    ++heightsAsked;
+    return sections[row.section].rows[row.row].height;
+}
+
+Ref<UITableViewCell> NotedContent::cellForRow(IndexPath row) {
+    auto cell = UITableViewPeer::of(table_).dequeueReusableCell(reuseIdentifier);
+    if (!cell) {
+        ++cellsMade;
+        cell = adopt(new UITableViewCell);
+        EXPECT_TRUE(cell->initWithStyle(UITableViewCellStyle::Default, reuseIdentifier));
+    }
+    cell->textLabel().setText(sections[row.section].rows[row.row].title);
+    return cell;
+}
+
+TableFixture::TableFixture(const Screen::Options& options) : screen_(options) {
+    screen_.addWindow(window_);
+    window_->setFrame(screen_.bounds());
+    window_->addSubview(table_);
+}
+
+TableFixture::~TableFixture() {
+    peer().setContent(nullptr);
+    screen_.removeWindow(*window_);
+}
+
+void TableFixture::show() {
+    table_->setFrame(screen_.bounds());
+    peer().setContent(&content_);
+    layOut();
+}
+
+void TableFixture::advance(std::chrono::milliseconds duration) {
+    Device::current().mainQueue().advance(device_.clock(), duration);
+}
+
+CGPoint TableFixture::middleOf(IndexPath row) {
+    const auto rect = table_->UIView::peer().convertToScreen(peer().rectForRow(row));
+    return {CGRectGetMidX(rect), CGRectGetMidY(rect)};
+}
+
+UITableViewCell& TableFixture::cell(IndexPath row) const {
+    return *peer().cellForRow(row);
+}
+
+CGRect TableFixture::shownFrame(IndexPath row) const {
+    const auto& layer = cell(row).layer().peer();
+    const auto position = layer.shownValue(LayerProperty::Position);
+    const auto size = layer.shownValue(LayerProperty::BoundsSize);
+    return CGRectMake(position[0] - size[0] / 2, position[1] - size[1] / 2, size[0], size[1]);
+}

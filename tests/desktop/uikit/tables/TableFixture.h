@@ -1,0 +1,105 @@
+#pragma once
+
+#include "TestDevice.h"
+#include "screen/Screen.h"
+#include "screen/TouchDispatcher.h"
+#include "screen/UIWindow.h"
+#include "tables/TableContent.h"
+#include "tables/UITableView.h"
+#include "tables/UITableViewCellPeer.h"
+#include "tables/UITableViewPeer.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+/// A table's content that a test writes down, and that writes down what the table asks and tells it.
+class NotedContent final : public TableContent {
+public:
+    struct Row {
+        std::string title;
+        std::optional<double> height = 44;
+    };
+
+    struct Section {
+        std::vector<Row> rows;
+        TableCaption header;
+        TableCaption footer;
+    };
+
+    explicit NotedContent(UITableView& table) : table_(table) {}
+
+    /// So many rows of 44 points, titled by their numbers from 0 on.
+    static Section sectionOf(std::size_t count);
+
+    std::vector<Section> sections;
+    std::set<IndexPath> unselectable;
+    std::string reuseIdentifier = "Row";
+    std::vector<IndexPath> selected;
+    std::size_t cellsMade = 0;
+    std::size_t heightsAsked = 0;
+
+    // TableContent:
+    [[nodiscard]] std::size_t sectionCount() const override { return sections.size(); }
+
+    [[nodiscard]] std::size_t rowCount(std::size_t section) const override {
+        return sections[section].rows.size();
+    }
+
+    [[nodiscard]] std::optional<double> rowHeight(IndexPath row) override;
+    [[nodiscard]] Ref<UITableViewCell> cellForRow(IndexPath row) override;
+
+    [[nodiscard]] TableCaption header(std::size_t section) override { return sections[section].header; }
+
+    [[nodiscard]] TableCaption footer(std::size_t section) override { return sections[section].footer; }
+
+    [[nodiscard]] bool isSelectable(IndexPath row) override { return !unselectable.contains(row); }
+
+    void didSelectRow(IndexPath row) override { selected.push_back(row); }
+
+private:
+    UITableView& table_;
+};
+
+/// A table that fills a phone's screen, and a finger on it.
+class TableFixture : public testing::Test {
+protected:
+    explicit TableFixture(const Screen::Options& options = {});
+    ~TableFixture() override;
+
+    /// Shows the content as it is now.
+    void show();
+
+    void layOut() { screen_.layoutIfNeeded(); }
+
+    void advance(std::chrono::milliseconds duration);
+
+    void touch(TouchPhase phase, CGPoint place) { finger_.touch(phase, place); }
+
+    void tap(CGPoint place) {
+        touch(TouchPhase::Began, place);
+        touch(TouchPhase::Ended, place);
+    }
+
+    /// The middle of a row, on the screen.
+    [[nodiscard]] CGPoint middleOf(IndexPath row);
+
+    [[nodiscard]] UITableViewPeer& peer() const { return UITableViewPeer::of(*table_); }
+
+    [[nodiscard]] UITableViewCell& cell(IndexPath row) const;
+    /// Where a row is seen now, on its way.
+    [[nodiscard]] CGRect shownFrame(IndexPath row) const;
+
+    [[nodiscard]] std::string titleOf(IndexPath row) const { return *cell(row).textLabel().text(); }
+
+    TestDevice device_;
+    Screen screen_;
+    Ref<UIWindow> window_ = make<UIWindow>();
+    Ref<UITableView> table_ = make<UITableView>();
+    NotedContent content_{*table_};
+    TouchDispatcher finger_;
+};

@@ -1,0 +1,187 @@
+#include "DesktopImage.h"
+#include "TestDevice.h"
+#include "screen/Screen.h"
+#include "tables/UITableViewCellPeer.h"
+#include "views/UILabelPeer.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+/// A cell as wide as a phone's card.
+class UITableViewCellTest : public testing::Test {
+protected:
+    static Ref<UITableViewCell> cellOf(UITableViewCellStyle style) {
+        auto cell = adopt(new UITableViewCell);
+        EXPECT_TRUE(cell->initWithStyle(style, "Cell"));
+        cell->setFrame(CGRectMake(0, 0, 358, 44));
+        return cell;
+    }
+
+    static void layOut(UITableViewCell& cell) { cell.peer().layoutIfNeeded(); }
+
+    TestDevice device_;
+};
+
+const std::string longText = "A text that is so long that it has no room in the width of one card of a phone";
+
+} // namespace
+
+TEST_F(UITableViewCellTest, TheTitleKeepsAwayFromTheEdges) {
+    const auto cell = cellOf(UITableViewCellStyle::Default);
+    cell->textLabel().setText("Title");
+    layOut(*cell);
+    EXPECT_EQ(cell->textLabel().frame(), CGRectMake(16, 0, 326, 44));
+    EXPECT_EQ(cell->contentView().frame(), CGRectMake(0, 0, 358, 44));
+    EXPECT_EQ(cell->reuseIdentifier(), "Cell");
+}
+
+TEST_F(UITableViewCellTest, TheDetailStandsAtTheRightEdge) {
+    const auto cell = cellOf(UITableViewCellStyle::Value1);
+    cell->textLabel().setText("Title");
+    cell->detailTextLabel().setText("Detail");
+    layOut(*cell);
+    EXPECT_NEAR(CGRectGetMaxX(cell->detailTextLabel().frame()), 342, 0.01);
+    EXPECT_FALSE(UILabelPeer::of(cell->detailTextLabel()).isTruncated());
+    EXPECT_FALSE(UILabelPeer::of(cell->textLabel()).isTruncated());
+}
+
+TEST_F(UITableViewCellTest, TheTitleHasPriorityUnlessToldOtherwise) {
+    const auto cell = cellOf(UITableViewCellStyle::Value1);
+    cell->textLabel().setText("A title of some width");
+    cell->detailTextLabel().setText(longText);
+    layOut(*cell);
+    const auto& title = UILabelPeer::of(cell->textLabel());
+    const auto& detail = UILabelPeer::of(cell->detailTextLabel());
+    EXPECT_FALSE(title.isTruncated());
+    EXPECT_TRUE(detail.isTruncated());
+    EXPECT_LE(CGRectGetMaxX(cell->textLabel().frame()) + 6, cell->detailTextLabel().frame().origin.x + 0.01);
+
+    cell->detailTextLabel().setText("A detail of some width");
+    cell->textLabel().setText(longText);
+    UITableViewCellPeer::of(*cell).setDetailHasPriority(true);
+    layOut(*cell);
+    EXPECT_TRUE(title.isTruncated());
+    EXPECT_FALSE(detail.isTruncated());
+}
+
+TEST_F(UITableViewCellTest, ADetailThatATitleLeavesNoRoomForIsNotSeen) {
+    const auto cell = cellOf(UITableViewCellStyle::Value1);
+    cell->textLabel().setText(longText);
+    cell->detailTextLabel().setText("Detail");
+    layOut(*cell);
+    EXPECT_EQ(cell->detailTextLabel().frame().size.width, 0);
+    EXPECT_NEAR(CGRectGetMaxX(cell->textLabel().frame()), 342, 0.01);
+}
+
+TEST_F(UITableViewCellTest, AShortDetailStaysBesideATitleThatLeavesItRoom) {
+    const auto cell = cellOf(UITableViewCellStyle::Value1);
+    cell->textLabel().setText("Title");
+    cell->detailTextLabel().setText("1");
+    layOut(*cell);
+    EXPECT_GT(cell->detailTextLabel().frame().size.width, 0);
+    EXPECT_FALSE(UILabelPeer::of(cell->detailTextLabel()).isTruncated());
+}
+
+TEST_F(UITableViewCellTest, ASubtitleMakesTheRowHigher) {
+    const auto cell = cellOf(UITableViewCellStyle::Subtitle);
+    cell->textLabel().setText("Title");
+    EXPECT_EQ(UITableViewCellPeer::of(*cell).heightFor(358), 44);
+    cell->detailTextLabel().setText("Subtitle");
+    EXPECT_NEAR(UITableViewCellPeer::of(*cell).heightFor(358), 59.33, 0.4);
+    cell->setFrame(CGRectMake(0, 0, 358, 60));
+    layOut(*cell);
+    EXPECT_GE(cell->detailTextLabel().frame().origin.y, CGRectGetMaxY(cell->textLabel().frame()));
+}
+
+TEST_F(UITableViewCellTest, WrappedTextsMakeTheRowHigher) {
+    const auto cell = cellOf(UITableViewCellStyle::Default);
+    cell->textLabel().setText(longText);
+    EXPECT_EQ(UITableViewCellPeer::of(*cell).heightFor(358), 44);
+    UILabelPeer::of(cell->textLabel()).setNumberOfLines(0);
+    EXPECT_NEAR(UITableViewCellPeer::of(*cell).heightFor(358), 2 * 20.33 + 23.33, 0.7);
+    EXPECT_GT(UITableViewCellPeer::of(*cell).heightFor(150), UITableViewCellPeer::of(*cell).heightFor(358));
+}
+
+TEST_F(UITableViewCellTest, TheChevronStandsBeforeTheEdge) {
+    const auto cell = cellOf(UITableViewCellStyle::Value1);
+    cell->textLabel().setText("Title");
+    cell->detailTextLabel().setText("Detail");
+    cell->setAccessoryType(UITableViewCellAccessoryType::DisclosureIndicator);
+    layOut(*cell);
+    const auto chevron = cell->peer().subviews().front()->peer().subviews().back()->frame();
+    EXPECT_NEAR(CGRectGetMaxX(chevron), 342, 0.01);
+    EXPECT_NEAR(CGRectGetMidY(chevron), 22, 0.4);
+    EXPECT_NEAR(chevron.origin.x - CGRectGetMaxX(cell->detailTextLabel().frame()), 8, 0.01);
+    EXPECT_EQ(cell->contentView().frame().size.width, chevron.origin.x);
+    cell->setAccessoryType(UITableViewCellAccessoryType::None);
+    layOut(*cell);
+    EXPECT_NEAR(CGRectGetMaxX(cell->detailTextLabel().frame()), 342, 0.01);
+}
+
+TEST_F(UITableViewCellTest, AnAccessoryViewKeepsItsSize) {
+    const auto cell = cellOf(UITableViewCellStyle::Default);
+    const auto view = makeWith<UIView>(&UIView::initWithFrame, CGRectMake(0, 0, 51, 31));
+    cell->setAccessoryType(UITableViewCellAccessoryType::DisclosureIndicator);
+    cell->setAccessoryView(view);
+    layOut(*cell);
+    EXPECT_NEAR(view->frame().origin.x, 291, 0.01);
+    EXPECT_NEAR(view->frame().origin.y, 6.5, 0.2);
+    EXPECT_EQ(view->frame().size, (CGSize{51, 31}));
+    cell->setAccessoryView(nullptr);
+    EXPECT_EQ(view->peer().superview(), nullptr);
+}
+
+TEST_F(UITableViewCellTest, TextAndSeparatorMakeRoomForTheImage) {
+    const auto cell = cellOf(UITableViewCellStyle::Default);
+    cell->textLabel().setText("Title");
+    cell->imageView().setImage(make<DesktopImage>(QImage(87, 87, QImage::Format_ARGB32_Premultiplied), 3));
+    layOut(*cell);
+    EXPECT_EQ(cell->imageView().frame(), CGRectMake(16, 7.5, 29, 29));
+    EXPECT_EQ(cell->textLabel().frame().origin.x, 61);
+    const auto separator = cell->peer().subviews().front()->peer().subviews()[2]->frame();
+    EXPECT_NEAR(separator.origin.x, 61, 0.01);
+    EXPECT_NEAR(separator.size.width, 358 - 61, 0.01);
+    EXPECT_NEAR(separator.size.height, 1.0 / 3, 0.01);
+    EXPECT_NEAR(CGRectGetMaxY(separator), 44, 0.01);
+}
+
+TEST_F(UITableViewCellTest, LargeImagesAreShownSmaller) {
+    const auto cell = cellOf(UITableViewCellStyle::Default);
+    cell->imageView().setImage(make<DesktopImage>(QImage(120, 60, QImage::Format_ARGB32_Premultiplied), 1));
+    layOut(*cell);
+    EXPECT_EQ(cell->imageView().frame(), CGRectMake(16, 14.75, 29, 14.5));
+}
+
+TEST_F(UITableViewCellTest, APressedRowHasNoSeparator) {
+    const auto cell = cellOf(UITableViewCellStyle::Default);
+    const auto& separator = cell->peer().subviews().front()->peer().subviews()[2]->peer();
+    UITableViewCellPeer::of(*cell).setPlaceInCard(false, false);
+    UITableViewCellPeer::of(*cell).setHighlighted(true);
+    EXPECT_TRUE(separator.isHidden());
+    UITableViewCellPeer::of(*cell).setHighlighted(false);
+    EXPECT_FALSE(separator.isHidden());
+    UITableViewCellPeer::of(*cell).setSelected(true, false);
+    EXPECT_TRUE(separator.isHidden());
+}
+
+TEST_F(UITableViewCellTest, TheSeparatorComesBackAsTheSelectionFades) {
+    const auto cell = cellOf(UITableViewCellStyle::Default);
+    const auto& separator = *cell->peer().subviews().front()->peer().subviews()[2];
+    UITableViewCellPeer::of(*cell).setPlaceInCard(false, false);
+    UITableViewCellPeer::of(*cell).setSelected(true, false);
+    UITableViewCellPeer::of(*cell).setSelectionFade(0.25);
+    EXPECT_FALSE(separator.peer().isHidden());
+    EXPECT_EQ(separator.alpha(), 0.25);
+    UITableViewCellPeer::of(*cell).setSelected(false, false);
+    EXPECT_EQ(separator.alpha(), 1);
+}
+
+TEST_F(UITableViewCellTest, TheLastRowOfACardHasNoSeparator) {
+    const auto cell = cellOf(UITableViewCellStyle::Default);
+    const auto& separator = cell->peer().subviews().front()->peer().subviews()[2]->peer();
+    UITableViewCellPeer::of(*cell).setPlaceInCard(true, false);
+    EXPECT_FALSE(separator.isHidden());
+    UITableViewCellPeer::of(*cell).setPlaceInCard(false, true);
+    EXPECT_TRUE(separator.isHidden());
+}

@@ -1,0 +1,190 @@
+#include "tables/TableFixture.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+
+class UITableViewUpdatesTest : public TableFixture {
+protected:
+    UITableViewUpdatesTest() {
+        content_.sections = {NotedContent::sectionOf(4), NotedContent::sectionOf(2)};
+        show();
+    }
+
+    void askHeightsAgain() {
+        peer().beginUpdates();
+        peer().endUpdates();
+    }
+
+    [[nodiscard]] std::vector<std::string> titles(std::size_t section) const {
+        std::vector<std::string> found(content_.sections[section].rows.size());
+        for (std::size_t row = 0; row < found.size(); ++row)
+            found[row] = titleOf({section, row});
+        return found;
+    }
+};
+
+using Titles = std::vector<std::string>;
+
+} // namespace
+
+TEST_F(UITableViewUpdatesTest, AskingHeightsAgainSlidesTheRows) {
+    content_.sections[0].rows[1].height = 0;
+    const auto made = content_.cellsMade;
+    askHeightsAgain();
+    EXPECT_EQ(cell({0, 2}).frame().origin.y, 79);
+    EXPECT_EQ(shownFrame({0, 2}).origin.y, 123);
+    advance(150ms);
+    EXPECT_NEAR(shownFrame({0, 2}).origin.y, 101, 0.5);
+    EXPECT_NEAR(shownFrame({0, 1}).size.height, 22, 0.5);
+    advance(151ms);
+    EXPECT_EQ(shownFrame({0, 2}).origin.y, 79);
+    EXPECT_EQ(content_.cellsMade, made);
+}
+
+TEST_F(UITableViewUpdatesTest, ARowThatComesBackIsCutOffUntilItIsThere) {
+    content_.sections[0].rows[1].height = 0;
+    askHeightsAgain();
+    advance(400ms);
+    content_.sections[0].rows[1].height = 44;
+    askHeightsAgain();
+    const auto& slice = cell({0, 1}).peer().subviews().front()->layer().peer();
+    EXPECT_TRUE(slice.masksToBounds);
+    advance(400ms);
+    EXPECT_FALSE(slice.masksToBounds);
+    EXPECT_EQ(cell({0, 1}).frame(), CGRectMake(16, 79, 358, 44));
+}
+
+TEST_F(UITableViewUpdatesTest, UpdatesNest) {
+    const auto asked = content_.heightsAsked;
+    peer().beginUpdates();
+    peer().beginUpdates();
+    content_.sections[0].rows[0].height = 60;
+    peer().endUpdates();
+    EXPECT_EQ(content_.heightsAsked, asked);
+    peer().endUpdates();
+    EXPECT_EQ(content_.heightsAsked, asked + 6);
+    peer().endUpdates();
+    EXPECT_EQ(content_.heightsAsked, asked + 6);
+}
+
+TEST_F(UITableViewUpdatesTest, RowsAreTakenOut) {
+    content_.sections[0].rows.erase(content_.sections[0].rows.begin() + 1);
+    const auto leaving = peer().cellForRow({0, 1});
+    peer().deleteRows({{0, 1}});
+    EXPECT_EQ(titles(0), (Titles{"0", "2", "3"}));
+    EXPECT_EQ(leaving->alpha(), 0);
+    EXPECT_NE(leaving->peer().superview(), nullptr);
+    EXPECT_EQ(shownFrame({0, 1}).origin.y, 123);
+    advance(301ms);
+    EXPECT_EQ(shownFrame({0, 1}).origin.y, 79);
+    EXPECT_EQ(leaving->peer().superview(), nullptr);
+    EXPECT_EQ(leaving->alpha(), 1);
+}
+
+TEST_F(UITableViewUpdatesTest, RowsArePutIn) {
+    auto& rows = content_.sections[0].rows;
+    rows.insert(rows.begin() + 1, {.title = "new"});
+    peer().insertRows({{0, 1}});
+    EXPECT_EQ(titles(0), (Titles{"0", "new", "1", "2", "3"}));
+    EXPECT_EQ(shownFrame({0, 1}).origin.y, 79);
+    const auto& layer = cell({0, 1}).layer().peer();
+    EXPECT_EQ(layer.shownValue(LayerProperty::Opacity)[0], 0);
+    EXPECT_EQ(shownFrame({0, 2}).origin.y, 79);
+    advance(301ms);
+    EXPECT_EQ(layer.shownValue(LayerProperty::Opacity)[0], 1);
+    EXPECT_EQ(shownFrame({0, 2}).origin.y, 123);
+}
+
+TEST_F(UITableViewUpdatesTest, EditsOfOneUpdateGoTogether) {
+    auto& rows = content_.sections[0].rows;
+    rows = {{.title = "x"}, {.title = "1"}, {.title = "3"}, {.title = "y"}};
+    peer().beginUpdates();
+    peer().deleteRows({{0, 0}, {0, 2}});
+    peer().insertRows({{0, 0}, {0, 3}});
+    peer().endUpdates();
+    advance(301ms);
+    EXPECT_EQ(titles(0), (Titles{"x", "1", "3", "y"}));
+    EXPECT_EQ(titles(1), (Titles{"0", "1"}));
+    EXPECT_EQ(peer().cells().size(), 6U);
+}
+
+TEST_F(UITableViewUpdatesTest, AReloadedRowGetsAnotherCell) {
+    const auto before = peer().cellForRow({0, 2});
+    content_.sections[0].rows[2].title = "changed";
+    peer().reloadRows({{0, 2}});
+    EXPECT_NE(peer().cellForRow({0, 2}), before);
+    EXPECT_EQ(titleOf({0, 2}), "changed");
+    advance(301ms);
+    EXPECT_EQ(before->peer().superview(), nullptr);
+}
+
+TEST_F(UITableViewUpdatesTest, TheSelectionMovesWithItsRow) {
+    peer().selectRow({0, 3});
+    content_.sections[0].rows.erase(content_.sections[0].rows.begin());
+    peer().deleteRows({{0, 0}});
+    EXPECT_EQ(peer().selectedRow(), (IndexPath{0, 2}));
+    EXPECT_TRUE(UITableViewCellPeer::of(cell({0, 2})).isSelected());
+}
+
+TEST_F(UITableViewUpdatesTest, RowsThatDoNotAgreeAreShownAnewWithALogLine) {
+    content_.sections[0].rows.pop_back();
+    static_cast<void>(device_.log().take());
+    peer().insertRows({{0, 0}});
+    EXPECT_EQ(device_.log().take().size(), 1U);
+    layOut();
+    EXPECT_EQ(titles(0), (Titles{"0", "1", "2"}));
+}
+
+TEST_F(UITableViewUpdatesTest, ReloadingEndsASlide) {
+    content_.sections[0].rows.pop_back();
+    peer().deleteRows({{0, 3}});
+    peer().reloadData();
+    layOut();
+    advance(1s);
+    EXPECT_EQ(titles(0), (Titles{"0", "1", "2"}));
+    EXPECT_EQ(peer().cells().size(), 5U);
+}
+
+TEST_F(UITableViewUpdatesTest, RowsThatSlideIntoViewComeFromBelow) {
+    content_.sections = {NotedContent::sectionOf(40)};
+    peer().reloadData();
+    layOut();
+    const auto far = IndexPath{0, 25};
+    ASSERT_FALSE(peer().cellForRow(far));
+    const auto before = peer().rectForRow(far).origin.y;
+    for (std::size_t row = 0; row < 10; ++row)
+        content_.sections[0].rows[row].height = 0;
+    askHeightsAgain();
+    ASSERT_TRUE(peer().cellForRow(far));
+    EXPECT_EQ(shownFrame(far).origin.y, before);
+    advance(301ms);
+    EXPECT_EQ(shownFrame(far).origin.y, before - 440);
+}
+
+TEST_F(UITableViewUpdatesTest, AContentThatEndsEarlierIsPulledDown) {
+    content_.sections = {NotedContent::sectionOf(40)};
+    peer().reloadData();
+    layOut();
+    peer().scrollRowToVisible({0, 39}, false);
+    layOut();
+    content_.sections[0].rows.resize(5);
+    std::vector<IndexPath> gone;
+    for (std::size_t row = 5; row < 40; ++row)
+        gone.push_back({0, row});
+    peer().deleteRows(gone);
+    advance(1s);
+    layOut();
+    EXPECT_EQ(peer().contentOffset().y, -47);
+    EXPECT_EQ(titles(0), (Titles{"0", "1", "2", "3", "4"}));
+}
+
+TEST_F(UITableViewUpdatesTest, ATableThatEndsWhileItSlidesIsLeftAlone) {
+    content_.sections[0].rows[1].height = 0;
+    askHeightsAgain();
+    peer().setContent(nullptr);
+    table_->peer().removeFromSuperview();
+    table_ = make<UITableView>();
+    advance(1s);
+    EXPECT_TRUE(peer().cells().empty());
+}

@@ -1,0 +1,94 @@
+#include "touches/UITapGestureRecognizer.h"
+
+#include "ObjectiveC/Class.h"
+#include "screen/TouchFixture.h"
+#include "views/RecordingViews.h"
+
+namespace {
+
+using namespace std::chrono_literals;
+
+class TapTarget final : public NSObject {
+public:
+    void tapped(const Ref<NSObject>& sender) { senders.push_back(sender); }
+
+    std::vector<Ref<NSObject>> senders;
+};
+
+const Class targetClass =
+    Class::define<TapTarget>("TapTestTarget", {method<"tapped:", &TapTarget::tapped>()});
+
+/// A view that is as large as the window, with a tap recogniser.
+class UITapGestureRecognizerTest : public TouchFixture {
+protected:
+    UITapGestureRecognizerTest() {
+        view->setFrame(screen.bounds());
+        window->addSubview(view);
+        view->peer().addGestureRecognizer(tapRecognizer);
+        record(*tapRecognizer, "tap", events);
+    }
+
+    Ref<UIView> view = make<UIView>();
+    Ref<UITapGestureRecognizer> tapRecognizer = make<UITapGestureRecognizer>();
+};
+
+TEST_F(UITapGestureRecognizerTest, FingerMayStrayByTenPoints) {
+    down(100, 100);
+    move(110, 100);
+    up(100, 110);
+    EXPECT_EQ(events, Events{"tap ended"});
+}
+
+TEST_F(UITapGestureRecognizerTest, FailsBeyondTenPoints) {
+    down(100, 100);
+    move(110.1, 100);
+    move(100, 100);
+    up(100, 100);
+    down(100, 100);
+    up(108, 108);
+    EXPECT_EQ(events, Events());
+    tap(100, 100);
+    EXPECT_EQ(events, Events{"tap ended"}) << "a failure is over with the touch";
+}
+
+TEST_F(UITapGestureRecognizerTest, CancelledTouchIsNoTap) {
+    down(100, 100);
+    cancel();
+    EXPECT_EQ(events, Events());
+}
+
+TEST_F(UITapGestureRecognizerTest, TwoTapsAreNearInTimeAndPlace) {
+    tapRecognizer->setNumberOfTapsRequired(2);
+    tap(100, 100);
+    advance(349ms);
+    tap(105, 100);
+    EXPECT_EQ(takeEvents(), Events{"tap ended"});
+
+    tap(100, 100);
+    advance(350ms);
+    tap(100, 100);
+    EXPECT_EQ(takeEvents(), Events()) << "too late; but this may be the first of two";
+    tap(100, 100);
+    EXPECT_EQ(takeEvents(), Events{"tap ended"});
+
+    tap(100, 100);
+    tap(120, 100);
+    EXPECT_EQ(takeEvents(), Events()) << "too far";
+}
+
+TEST_F(UITapGestureRecognizerTest, TargetGetsTheRecogniser) {
+    const auto target = make<TapTarget>();
+    tapRecognizer->addTarget(*target, "tapped:");
+    tap(100, 100);
+    ASSERT_EQ(target->senders.size(), 1U);
+    EXPECT_EQ(target->senders[0], tapRecognizer);
+}
+
+TEST_F(UITapGestureRecognizerTest, TellsWhereTheFingerWas) {
+    view->setFrame(CGRectMake(20, 30, 300, 300));
+    tap(100, 100);
+    EXPECT_EQ(tapRecognizer->location(), (CGPoint{100, 100}));
+    EXPECT_EQ(tapRecognizer->locationInView(*view), (CGPoint{80, 70}));
+}
+
+} // namespace
