@@ -50,7 +50,7 @@ Answer set(const DrivenApplication& application, const CommandTable::Arguments& 
     const auto value = propertyListFromJson(arguments[1].text);
     if (!value)
         return std::unexpected(value.error());
-    PSListControllerPeer::of(*page).setValue(*specifier, *value);
+    peerOf<PSListControllerPeer>(*page).setValue(*specifier, *value);
     return QJsonObject();
 }
 

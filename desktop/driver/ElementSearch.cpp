@@ -29,7 +29,8 @@ UIScrollView* scrollViewIn(UIView& view) {
     if (!isShown(view))
         return nullptr;
     auto* const scroll = dynamic_cast<UIScrollView*>(&view);
-    if (scroll != nullptr && scroll->peer().maximumOffset().y > scroll->peer().minimumOffset().y)
+    if (scroll != nullptr && peerOf<UIScrollViewPeer>(*scroll).maximumOffset().y >
+                                 peerOf<UIScrollViewPeer>(*scroll).minimumOffset().y)
         return scroll;
     const auto& subviews = view.peer().subviews();
     for (auto index = subviews.size(); index-- > 0;) {
@@ -129,10 +130,10 @@ ElementSearch::Views ElementSearch::shownIn(UIView& view) const {
 
 std::vector<CGPoint> ElementSearch::placesIn(UIScrollView& scroll) const {
     std::vector<CGPoint> places;
-    OffsetKeeper keeper(scroll.peer());
+    OffsetKeeper keeper(peerOf<UIScrollViewPeer>(scroll));
     const auto step = std::max(scroll.bounds().size.height / 2, 1.0);
-    const auto first = scroll.peer().minimumOffset().y;
-    const auto last = scroll.peer().maximumOffset().y;
+    const auto first = peerOf<UIScrollViewPeer>(scroll).minimumOffset().y;
+    const auto last = peerOf<UIScrollViewPeer>(scroll).maximumOffset().y;
     const auto steps = std::lround(std::ceil((last - first) / step));
     for (auto count = 0L; count <= steps; ++count) {
         const auto y = first + static_cast<double>(count) * step;
@@ -156,12 +157,12 @@ Ref<UIView> ElementSearch::viewAt(CGPoint place, UIScrollView& scroll) const {
 }
 
 Ref<UIView> ElementSearch::scrolledTo(CGPoint place, UIScrollView& scroll) const {
-    const auto present = scroll.peer().contentOffset();
+    const auto present = peerOf<UIScrollViewPeer>(scroll).contentOffset();
     const auto middle = place.y - scroll.bounds().size.height / 2;
-    const auto [least, greatest] =
-        std::pair(scroll.peer().minimumOffset().y, scroll.peer().maximumOffset().y);
+    const auto [least, greatest] = std::pair(peerOf<UIScrollViewPeer>(scroll).minimumOffset().y,
+                                             peerOf<UIScrollViewPeer>(scroll).maximumOffset().y);
     if (!viewAt(place, scroll))
-        scroll.peer().setContentOffset({present.x, std::clamp(middle, least, greatest)});
+        peerOf<UIScrollViewPeer>(scroll).setContentOffset({present.x, std::clamp(middle, least, greatest)});
     Screen::current().layoutIfNeeded();
     const auto view = viewAt(place, scroll);
     if (view)

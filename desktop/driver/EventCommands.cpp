@@ -2,8 +2,6 @@
 
 #include "Device.h"
 #include "JsonValues.h"
-#include "SystemSounds.h"
-#include "UrlOpener.h"
 #include "system/LogRecorder.h"
 
 #include <QJsonArray>
@@ -22,7 +20,7 @@ Answer eventsAnswer(const std::vector<std::string>& texts) {
 
 Answer soundsAnswer() {
     QJsonArray events;
-    for (const auto sound : SystemSounds::shared().take())
+    for (const auto sound : Device::current().sounds().take())
         events.append(static_cast<qint64>(sound));
     return QJsonObject{{"events", events}};
 }
@@ -42,7 +40,7 @@ Answer setUrlHandler(const CommandTable::Arguments& arguments) {
     const auto* const found = std::ranges::find(handlerNames, arguments[1].text, &HandlerName::name);
     if (found == handlerNames.end())
         return std::unexpected("a URL handler works, fails or is none");
-    UrlOpener::shared().setHandler(arguments[0].text, found->handler);
+    Device::current().urls().setHandler(arguments[0].text, found->handler);
     return QJsonObject();
 }
 
@@ -53,7 +51,7 @@ void addEventCommands(CommandTable& table, LogRecorder& log) {
     table.add({.usage = "notifications",
                .run = [](const auto&) { return eventsAnswer(Device::current().notifications().take()); }});
     table.add({.usage = "sounds", .run = [](const auto&) { return soundsAnswer(); }});
-    table.add({.usage = "urls", .run = [](const auto&) { return eventsAnswer(UrlOpener::shared().take()); }});
+    table.add({.usage = "urls", .run = [](const auto&) { return eventsAnswer(Device::current().urls().take()); }});
     table.add({.usage = "url-handler SCHEME works|fails|none",
                .fewest = 2,
                .most = 2,

@@ -60,7 +60,7 @@ QJsonObject viewProperties(UIView& view) {
     auto properties = jsonOf(PropertyList(view.peer().inspectedProperties())).toObject();
     for (const auto* stated = &view.isa(); stated != nullptr; stated = stated->superclass())
         addStatedProperties(view, *stated, properties);
-    if (const auto* const control = dynamic_cast<const UIControlPeer*>(&view.peer())) {
+    if (const auto* const control = peerIf<UIControlPeer>(view)) {
         properties.insert("enabled", control->isEnabled());
         properties.insert("highlighted", control->isHighlighted());
         properties.insert("tracking", control->isTracking());

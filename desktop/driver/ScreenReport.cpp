@@ -31,7 +31,7 @@ QJsonObject rowReport(const ListRow& row, const UIView& table) {
 QJsonArray rowReports(const Ref<UIViewController>& controller) {
     QJsonArray reports;
     if (const auto page = dynamicCast<PSListController>(controller)) {
-        auto& peer = PSListControllerPeer::of(*page);
+        auto& peer = peerOf<PSListControllerPeer>(*page);
         for (const auto& row : peer.rows())
             reports.append(rowReport(row, peer.table().view()));
     }

@@ -2,7 +2,10 @@
 
 #include "Foundation/NSBundle.h"
 #include "files/DeviceRoot.h"
+#include "system/ApplicationTermination.h"
 #include "system/DarwinNotifications.h"
+#include "system/SystemSounds.h"
+#include "system/UrlOpener.h"
 #include "time/Clock.h"
 #include "time/MainQueueScheduler.h"
 
@@ -50,6 +53,12 @@ public:
 
     [[nodiscard]] DarwinNotifications& notifications() { return notifications_; }
 
+    [[nodiscard]] SystemSounds& sounds() { return sounds_; }
+
+    [[nodiscard]] UrlOpener& urls() { return urls_; }
+
+    [[nodiscard]] ApplicationTermination& terminations() { return terminations_; }
+
     /// The user's folders, as device paths without a "/" at the end.
     static constexpr auto documentsPath = "/var/mobile/Documents";
     static constexpr auto temporaryPath = "/var/mobile/tmp";
@@ -63,4 +72,7 @@ private:
     std::shared_ptr<PreferenceDomains> preferenceDomains_;
     MainQueueScheduler mainQueue_;
     DarwinNotifications notifications_;
+    SystemSounds sounds_;
+    UrlOpener urls_;
+    ApplicationTermination terminations_;
 };

@@ -36,7 +36,7 @@ OBHeaderView::OBHeaderView()
     : image_(make<UIImageView>()),
       title_(wrappedLabel({}, titleStyle, SystemColor::Label, NSTextAlignment::Center)),
       detail_(wrappedLabel({}, detailStyle, SystemColor::SecondaryLabel, NSTextAlignment::Center)) {
-    UILabelPeer::of(*title_).setNumberOfLines(titleLines);
+    peerOf<UILabelPeer>(*title_).setNumberOfLines(titleLines);
     image_->setContentMode(UIViewContentMode::ScaleAspectFit);
     addSubview(image_);
     addSubview(title_);

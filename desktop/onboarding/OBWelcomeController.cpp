@@ -16,7 +16,7 @@ Ref<OBWelcomeController> OBWelcomeController::initWithTitle(std::string_view tit
                                                             const std::optional<std::string>& detailText,
                                                             const Ref<UIImage>& icon) {
     auto page = make<OBWelcomeController>();
-    OBWelcomeControllerPeer::of(*page).welcomeView().setHeaderContent(
+    peerOf<OBWelcomeControllerPeer>(*page).welcomeView().setHeaderContent(
         {.title = std::string(title), .detail = detailText.value_or(""), .image = icon});
     return page;
 }
@@ -39,5 +39,5 @@ void OBWelcomeController::addBulletedListItemWithTitle(std::string_view title, s
     const auto item = make<OBBulletedListItem>(OBBulletedListItem::Content{
         .title = std::string(title), .description = std::string(description), .image = image});
     item->setTintColor(tintColor);
-    OBWelcomeControllerPeer::of(*this).welcomeView().addItem(item);
+    peerOf<OBWelcomeControllerPeer>(*this).welcomeView().addItem(item);
 }

@@ -16,10 +16,6 @@ std::string symbolNameOf(const Ref<UIImage>& image) {
 
 OBWelcomeControllerPeer::OBWelcomeControllerPeer() : welcomeView_(make<WelcomeView>()) {}
 
-OBWelcomeControllerPeer& OBWelcomeControllerPeer::of(const OBWelcomeController& page) {
-    return dynamic_cast<OBWelcomeControllerPeer&>(page.peer());
-}
-
 Ref<UIView> OBWelcomeControllerPeer::makeView() {
     welcomeView_->setFrame(Screen::current().bounds());
     welcomeView_->setAutoresizingMask(UIViewAutoresizing::FlexibleWidth | UIViewAutoresizing::FlexibleHeight);

@@ -9,10 +9,9 @@
 // NOLINTNEXTLINE(misc-multiple-inheritance): an interface whose answers may be left out
 class OBWelcomeControllerPeer final : public UIViewControllerPeer, public SheetContent {
 public:
-    OBWelcomeControllerPeer();
+    using Object = OBWelcomeController;
 
-    /// \pre the page was made with a peer of this class, as all welcome pages are
-    [[nodiscard]] static OBWelcomeControllerPeer& of(const OBWelcomeController& page);
+    OBWelcomeControllerPeer();
 
     [[nodiscard]] WelcomeView& welcomeView() const { return *welcomeView_; }
 

@@ -61,5 +61,5 @@ void WelcomeView::layoutSubviews() {
     const auto list = columnIn(width, isWide ? wideMargin : listMargin, widestList);
     const auto listTop = CGRectGetMaxY(header_->frame()) + gapAboveList;
     list_->setFrame(CGRectMake(list.left, listTop, list.width, list_->heightForWidth(list.width)));
-    scroll_->peer().setContentSize({width, CGRectGetMaxY(list_->frame()) + gapBelow});
+    peerOf<UIScrollViewPeer>(*scroll_).setContentSize({width, CGRectGetMaxY(list_->frame()) + gapBelow});
 }

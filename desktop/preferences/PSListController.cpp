@@ -58,23 +58,23 @@ PSListController::Specifiers PSListController::specifiers() {
 }
 
 PSListController::Specifiers PSListController::cachedSpecifiers() const {
-    return PSListControllerPeer::of(*this).cachedSpecifiers();
+    return peerOf<PSListControllerPeer>(*this).cachedSpecifiers();
 }
 
 // NOLINTNEXTLINE(readability-make-member-function-const): it changes the page
 void PSListController::setCachedSpecifiers(Specifiers specifiers) {
-    PSListControllerPeer::of(*this).setCachedSpecifiers(std::move(specifiers));
+    peerOf<PSListControllerPeer>(*this).setCachedSpecifiers(std::move(specifiers));
 }
 
 PSListController::Specifiers PSListController::loadSpecifiersFromPlistName(std::string_view name,
                                                                            NSObject& target) {
     auto list = SpecifierList::read(*LoadedBundles::shared().bundleOf(isa()), name, target);
-    PSListControllerPeer::of(*this).setListTitle(list.title);
+    peerOf<PSListControllerPeer>(*this).setListTitle(list.title);
     return std::move(list.specifiers);
 }
 
 void PSListController::reloadSpecifiers() {
-    PSListControllerPeer::of(*this).reloadSpecifiers();
+    peerOf<PSListControllerPeer>(*this).reloadSpecifiers();
 }
 
 std::optional<PropertyList> PSListController::readPreferenceValue(PSSpecifier& specifier) {

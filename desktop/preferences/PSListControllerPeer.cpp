@@ -26,10 +26,6 @@ Ref<UIViewController> makeDetail(const DesktopSpecifier& specifier) {
 
 PSListControllerPeer::~PSListControllerPeer() = default;
 
-PSListControllerPeer& PSListControllerPeer::of(const PSListController& page) {
-    return dynamic_cast<PSListControllerPeer&>(page.peer());
-}
-
 PSListController& PSListControllerPeer::page() const {
     return dynamic_cast<PSListController&>(controller());
 }

@@ -15,12 +15,11 @@
 /// The desktop's half of a page of rows: keeps its specifiers and shows them in a table. Made with the page.
 class PSListControllerPeer : public UIViewControllerPeer {
 public:
+    using Object = PSListController;
+
     using Specifiers = PSListController::Specifiers;
 
     ~PSListControllerPeer() override;
-
-    /// \pre the page was made with a peer of this class, as all pages are
-    [[nodiscard]] static PSListControllerPeer& of(const PSListController& page);
 
     [[nodiscard]] PSListController& page() const;
 

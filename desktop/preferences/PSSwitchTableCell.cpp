@@ -28,7 +28,7 @@ private:
 
 Ref<UIControl> PSSwitchTableCellPeer::makeSwitch() {
     switch_ = make<UISwitch>();
-    auto& peer = UISwitchPeer::of(*switch_);
+    auto& peer = peerOf<UISwitchPeer>(*switch_);
     peer.sizeToFit();
     peer.addHandler(UIControlEvents::ValueChanged, [this] { write(); });
     return switch_;
@@ -39,7 +39,7 @@ void PSSwitchTableCellPeer::refresh() {
     if (!specifier() || !switch_)
         return;
     const auto value = specifier()->performGetter();
-    auto& peer = UISwitchPeer::of(*switch_);
+    auto& peer = peerOf<UISwitchPeer>(*switch_);
     peer.setOn((value && value->boolValue()) != isNegated(), false);
     peer.setEnabled(specifier()->isEnabled());
     Accessibility told;
@@ -49,7 +49,7 @@ void PSSwitchTableCellPeer::refresh() {
 
 void PSSwitchTableCellPeer::write() const {
     if (specifier())
-        specifier()->performSetter(UISwitchPeer::of(*switch_).isOn() != isNegated());
+        specifier()->performSetter(peerOf<UISwitchPeer>(*switch_).isOn() != isNegated());
 }
 
 } // namespace
@@ -60,6 +60,6 @@ bool PSSwitchTableCell::initWithStyle(UITableViewCellStyle style, const std::str
                                       PSSpecifier& specifier) {
     if (!PSControlTableCell::initWithStyle(style, reuseIdentifier, specifier))
         return false;
-    setControl(dynamic_cast<PSSwitchTableCellPeer&>(peer()).makeSwitch());
+    setControl(peerOf<PSSwitchTableCellPeer>(*this).makeSwitch());
     return true;
 }

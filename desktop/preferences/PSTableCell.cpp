@@ -19,16 +19,16 @@ bool PSTableCell::initWithStyle(UITableViewCellStyle style, const std::string& r
                                 PSSpecifier& specifier) {
     if (!UITableViewCell::initWithStyle(style, reuseIdentifier))
         return false;
-    PSTableCellPeer::of(*this).setSpecifier(dynamicCast<DesktopSpecifier>(retain(&specifier)));
+    peerOf<PSTableCellPeer>(*this).setSpecifier(dynamicCast<DesktopSpecifier>(retain(&specifier)));
     return true;
 }
 
 void PSTableCell::refreshCellContentsWithSpecifier(PSSpecifier& specifier) {
-    auto& own = PSTableCellPeer::of(*this);
+    auto& own = peerOf<PSTableCellPeer>(*this);
     own.setSpecifier(dynamicCast<DesktopSpecifier>(retain(&specifier)));
     own.refresh();
 }
 
 Ref<PSSpecifier> PSTableCell::specifier() const {
-    return PSTableCellPeer::of(*this).specifier();
+    return peerOf<PSTableCellPeer>(*this).specifier();
 }

@@ -34,10 +34,6 @@ std::optional<std::string> textOf(const PropertyList& value) {
 
 } // namespace
 
-PSTableCellPeer& PSTableCellPeer::of(const PSTableCell& cell) {
-    return dynamic_cast<PSTableCellPeer&>(cell.peer());
-}
-
 UITableViewCellStyle PSTableCellPeer::styleFor(const DesktopSpecifier& specifier) {
     const auto kind = specifier.kind();
     return isLink(kind) || kind == SpecifierKind::TitleValue ? UITableViewCellStyle::Value1
@@ -58,7 +54,8 @@ void PSTableCellPeer::refresh() {
 void PSTableCellPeer::showTitle() {
     textLabel().setText(specifier_->label());
     textLabel().setTextColor(DesktopColor::system(titleColor(*specifier_)));
-    UILabelPeer::of(textLabel()).setNumberOfLines(specifier_->kind() == SpecifierKind::StaticText ? 0 : 1);
+    peerOf<UILabelPeer>(textLabel())
+        .setNumberOfLines(specifier_->kind() == SpecifierKind::StaticText ? 0 : 1);
 }
 
 void PSTableCellPeer::showAccessory() {

@@ -10,8 +10,7 @@
 /// The desktop's half of a page's cell: shows what its row's kind shows. Made with the cell.
 class PSTableCellPeer : public UITableViewCellPeer {
 public:
-    /// \pre the cell was made with a peer of this class, as all cells of pages are
-    [[nodiscard]] static PSTableCellPeer& of(const PSTableCell& cell);
+    using Object = PSTableCell;
 
     /// The style that suits the row.
     [[nodiscard]] static UITableViewCellStyle styleFor(const DesktopSpecifier& specifier);

@@ -27,7 +27,7 @@ public:
 
     [[nodiscard]] const Ref<UITableView>& view() const { return view_; }
 
-    [[nodiscard]] UITableViewPeer& table() const { return UITableViewPeer::of(*view_); }
+    [[nodiscard]] UITableViewPeer& table() const { return peerOf<UITableViewPeer>(*view_); }
 
     [[nodiscard]] const Sections& sections() const;
 

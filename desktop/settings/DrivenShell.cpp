@@ -5,7 +5,7 @@
 Ref<UIViewController> DrivenShell::page() const {
     if (shell_.app() == "home")
         return nullptr;
-    return UINavigationControllerPeer::of(*shell_.settings()->pages()).top();
+    return peerOf<UINavigationControllerPeer>(*shell_.settings()->pages()).top();
 }
 
 DrivenApplication::Outcome DrivenShell::open(const std::optional<std::string>& entry) {
@@ -15,7 +15,7 @@ DrivenApplication::Outcome DrivenShell::open(const std::optional<std::string>& e
 DrivenApplication::Outcome DrivenShell::goBack() {
     if (shell_.app() == "home")
         return std::unexpected("the home screen has no navigation bar");
-    auto& pages = UINavigationControllerPeer::of(*shell_.settings()->pages());
+    auto& pages = peerOf<UINavigationControllerPeer>(*shell_.settings()->pages());
     if (pages.stack().size() < 2)
         return std::unexpected("the navigation bar has no back button");
     pages.pop(true);

@@ -20,7 +20,7 @@ std::expected<Ref<UIViewController>, std::string> PaneLoader::makePage(const Pan
         return page;
     (*page)->peer().setTitle(entry.label);
     if (const auto list = dynamicCast<PSListController>(*page))
-        PSListControllerPeer::of(*list).setSpecifier(make<DesktopSpecifier>(entry.row, *list));
+        peerOf<PSListControllerPeer>(*list).setSpecifier(make<DesktopSpecifier>(entry.row, *list));
     return page;
 }
 

@@ -1,18 +1,11 @@
 #include "Program.h"
 
-#include "ApplicationCommands.h"
+#include "AllCommands.h"
 #include "Device.h"
 #include "DeviceInstaller.h"
 #include "DeviceWindow.h"
 #include "DrivenShell.h"
 #include "DriverSession.h"
-#include "EventCommands.h"
-#include "InspectionCommands.h"
-#include "TextCommands.h"
-#include "TimeCommands.h"
-#include "TouchCommands.h"
-#include "UnavailableCommands.h"
-#include "UrlOpener.h"
 #include "WindowAccessibility.h"
 #include "screen/Screen.h"
 #include "screen/TouchDispatcher.h"
@@ -89,13 +82,11 @@ int drive(VirtualClock& clock, LogRecorder& log, const ProgramOptions& options) 
     TouchDispatcher touches;
     Compositor compositor(screen);
     CommandTable commands;
-    addApplicationCommands(commands, application);
-    addInspectionCommands(commands, application, compositor);
-    addTouchCommands(commands, touches);
-    addTimeCommands(commands, clock);
-    addEventCommands(commands, log);
-    addTextCommands(commands);
-    addUnavailableCommands(commands);
+    addAllCommands(commands, {.application = application,
+                              .touches = touches,
+                              .compositor = compositor,
+                              .clock = clock,
+                              .log = log});
     DriverSession session(commands, [&clock] { Device::current().mainQueue().advance(clock, {}); });
     return session.run(stdin, stdout) ? EXIT_SUCCESS : EXIT_FAILURE;
 }
@@ -121,7 +112,7 @@ int runWindow(const ProgramOptions& options) {
         return EXIT_FAILURE;
     const Device device(
         deviceOptions(options, std::move(*root), std::make_unique<RealClock>(), regionOfDesktop()));
-    UrlOpener::shared().setDesktop(
+    Device::current().urls().setDesktop(
         [](const std::string& url) { return QDesktopServices::openUrl(QUrl(QString::fromStdString(url))); });
     Screen screen(screenOptions(options));
     Shell shell;

@@ -17,7 +17,7 @@ using LargeTitle = DesktopNavigationItem::LargeTitle;
 
 Ref<UINavigationController> makeStack(const Ref<UIViewController>& first) {
     auto stack = make<UINavigationController>();
-    auto& peer = UINavigationControllerPeer::of(*stack);
+    auto& peer = peerOf<UINavigationControllerPeer>(*stack);
     peer.setPrefersLargeTitles(true);
     peer.setViewControllers({first}, false);
     return stack;
@@ -52,7 +52,7 @@ void SettingsApplication::makeColumns() {
     about->peer().navigationItem().setLargeTitle(LargeTitle::Never);
     pages_ = makeStack(about);
     root_ = make<SplitController>(makeStack(firstPage_), pages_);
-    PSListControllerPeer::of(*firstPage_).setKeepsSelection(true);
+    peerOf<PSListControllerPeer>(*firstPage_).setKeepsSelection(true);
     selectRow(SettingsRootPage::aboutId);
 }
 
@@ -88,7 +88,7 @@ void SettingsApplication::show(const Ref<UIViewController>& page, bool animated)
     Screen::current().presentations().dismissTransient();
     root_->dismissViewControllerAnimated(false, {}); // what the page before has presented
     page->peer().navigationItem().setLargeTitle(LargeTitle::Never);
-    auto& stack = UINavigationControllerPeer::of(*pages_);
+    auto& stack = peerOf<UINavigationControllerPeer>(*pages_);
     if (hasColumns())
         stack.setViewControllers({page}, false);
     else

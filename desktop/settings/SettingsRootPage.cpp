@@ -62,7 +62,7 @@ Ref<PSSpecifier> SettingsRootPage::makeRow(PropertyList::Dictionary properties, 
 }
 
 void SettingsRootPage::showSelected(std::string_view id) {
-    auto& list = PSListControllerPeer::of(*this);
+    auto& list = peerOf<PSListControllerPeer>(*this);
     const auto rows = list.rows();
     const auto shown = std::ranges::find(rows, id, &ListRow::id);
     const auto path = shown == rows.end() ? std::nullopt : list.table().rowAt(shown->frame.origin);

@@ -1,7 +1,6 @@
 #include "Shell.h"
 
 #include "AnimationGroup.h"
-#include "ApplicationTermination.h"
 #include "CALayerPeer.h"
 #include "Device.h"
 #include "Dispatch/MainQueue.h"
@@ -59,12 +58,12 @@ Shell::Shell() : homeWindow_(make<UIWindow>()), home_(make<HomeView>([this] { la
     homeWindow_->addSubview(home_);
     screen.addWindow(homeWindow_);
     DesktopApplication::shared().setSuspendHandler([this] { goHome(); });
-    ApplicationTermination::shared().setHandler([this](const auto& request) { end(request.identifier); });
+    Device::current().terminations().setHandler([this](const auto& request) { end(request.identifier); });
 }
 
 Shell::~Shell() {
     DesktopApplication::shared().setSuspendHandler({});
-    ApplicationTermination::shared().setHandler({});
+    Device::current().terminations().setHandler({});
     endSettings();
     Screen::current().removeWindow(*homeWindow_);
     // What still waits may be of the code that goes with the loader.
@@ -116,7 +115,7 @@ void Shell::goHome() {
 void Shell::goBack() {
     if (isHome_)
         return;
-    auto& pages = UINavigationControllerPeer::of(*settings_->pages());
+    auto& pages = peerOf<UINavigationControllerPeer>(*settings_->pages());
     if (pages.stack().size() > 1)
         pages.pop(true);
     else

@@ -1,7 +1,7 @@
 #include "AudioToolbox/AudioServices.h"
 
-#include "SystemSounds.h"
+#include "Device.h"
 
 void AudioServicesPlaySystemSound(std::uint32_t sound) {
-    SystemSounds::shared().play(sound);
+    Device::current().sounds().play(sound);
 }

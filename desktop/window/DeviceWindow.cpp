@@ -205,7 +205,7 @@ void DeviceWindow::wheelEvent(QWheelEvent* event) {
     const auto distance = event->hasPixelDelta()
                               ? QPointF(event->pixelDelta()) * unit
                               : QPointF(event->angleDelta()) * pointsPerWheelStep / wheelUnitsPerStep;
-    scroll->peer().scrollBy({-distance.x(), -distance.y()});
+    peerOf<UIScrollViewPeer>(*scroll).scrollBy({-distance.x(), -distance.y()});
     wake();
 }
 

@@ -33,7 +33,7 @@ QAccessible::Role roleFor(AccessibilityRole role) {
 }
 
 bool isDisabled(const UIView& view) {
-    const auto* const control = dynamic_cast<const UIControlPeer*>(&view.peer());
+    const auto* const control = peerIf<UIControlPeer>(view);
     return control != nullptr && !control->isEnabled();
 }
 

@@ -3,7 +3,7 @@
 #include "Foundation/NSDictionary.h"
 #include "LoadedBundles.h"
 #include "PreferenceStore.h"
-#include "SystemSounds.h"
+#include "Device.h"
 #include "controllers/UIViewControllerPeer.h"
 #include "navigation/UINavigationControllerPeer.h"
 #include "views/UIViewPeer.h"
@@ -26,7 +26,6 @@ RootPageFixture::RootPageFixture(bool knowsWhatIsNew) {
     if (knowsWhatIsNew)
         store("3.0.1", "LastVersionPopupShown");
     page = make<cxRootListController>();
-    static_cast<void>(SystemSounds::shared().take());
 }
 
 RootPageFixture::~RootPageFixture() {
@@ -36,7 +35,7 @@ RootPageFixture::~RootPageFixture() {
 void RootPageFixture::show() {
     window->setRootViewController(navigation);
     screen.addWindow(window);
-    UINavigationControllerPeer::of(*navigation).push(page, false);
+    peerOf<UINavigationControllerPeer>(*navigation).push(page, false);
     settle();
 }
 

@@ -1,8 +1,8 @@
-#include "ApplicationTermination.h"
+#include "system/ApplicationTermination.h"
 #include "CoreFoundation/CFString.h"
 #include "PreferenceStore.h"
 #include "RootPageFixture.h"
-#include "SystemSounds.h"
+#include "system/SystemSounds.h"
 #include "controllers/UIViewControllerPeer.h"
 #include "menus/DesktopAction.h"
 #include "screen/DesktopApplication.h"
@@ -31,13 +31,12 @@ class cxRootListControllerResetTest : public RootPageFixture {
 protected:
     cxRootListControllerResetTest() : RootPageFixture(true) {
         DesktopApplication::shared().setSuspendHandler([this] { ++suspensions; });
-        ApplicationTermination::shared().setHandler(
+        Device::current().terminations().setHandler(
             [this](const auto& request) { requests.push_back(request); });
     }
 
     ~cxRootListControllerResetTest() override {
         DesktopApplication::shared().setSuspendHandler({});
-        ApplicationTermination::shared().setHandler({});
     }
 
     /// The library of the system's that ends applications.
@@ -80,7 +79,7 @@ const Requests settingsEnds{
 TEST_F(cxRootListControllerResetTest, AsksFirstWithASoundAndAnAlert) {
     show();
     page->resetSettings();
-    EXPECT_EQ(SystemSounds::shared().take(), Sounds{1519});
+    EXPECT_EQ(Device::current().sounds().take(), Sounds{1519});
     settle();
     auto* const alert = screen.presentations().top();
     ASSERT_NE(alert, nullptr);

@@ -6,7 +6,7 @@
 #include "ObjectiveC/Class.h"
 #include "PreferenceStore.h"
 #include "RootPageFixture.h"
-#include "SystemSounds.h"
+#include "system/SystemSounds.h"
 #include "controllers/UIViewControllerPeer.h"
 #include "controls/UIControlPeer.h"
 #include "menus/DesktopAction.h"
@@ -165,7 +165,7 @@ TEST_F(cxRootListControllerTest, FlippingTheSwitchStoresEachChangeAtOnceAndDoesN
     settle();
     tapMasterSwitch();
     EXPECT_EQ(stored("kEnabled"), PropertyList(false));
-    EXPECT_EQ(SystemSounds::shared().take(), Sounds());
+    EXPECT_EQ(Device::current().sounds().take(), Sounds());
     EXPECT_TRUE(Device::current().notifications().take().empty());
     EXPECT_EQ(device.log().take(), Log());
 }
@@ -220,8 +220,8 @@ TEST_F(cxRootListControllerTest, AButtonOpensThePageThatItNames) {
     show();
     page->openController(buttonFor("OpenedPage"));
     settle();
-    EXPECT_TRUE(dynamicCast<OpenedPage>(UINavigationControllerPeer::of(*navigation).top()));
-    EXPECT_EQ(SystemSounds::shared().take(), Sounds{1519});
+    EXPECT_TRUE(dynamicCast<OpenedPage>(peerOf<UINavigationControllerPeer>(*navigation).top()));
+    EXPECT_EQ(Device::current().sounds().take(), Sounds{1519});
     EXPECT_EQ(device.log().take(), Log());
 }
 
@@ -234,16 +234,16 @@ TEST_F(cxRootListControllerTest, AButtonThatNamesNoPageTapsAndLogsOnce) {
              {std::nullopt, "(null)"}}) {
         page->openController(buttonFor(identifier));
         settle();
-        EXPECT_EQ(SystemSounds::shared().take(), Sounds{1519});
+        EXPECT_EQ(Device::current().sounds().take(), Sounds{1519});
         EXPECT_EQ(device.log().take(), Log{"Error: Class " + printed + " could not be initialized."});
-        EXPECT_EQ(UINavigationControllerPeer::of(*navigation).top(), page);
+        EXPECT_EQ(peerOf<UINavigationControllerPeer>(*navigation).top(), page);
     }
 }
 
 TEST_F(cxRootListControllerTest, NothingInThePlaceOfAnObjectIsHarmless) {
     PreferenceStore::open()->setObject(true, "kEnabled");
     page->performSelector("openController:", {MessageValue()});
-    EXPECT_EQ(SystemSounds::shared().take(), Sounds{1519});
+    EXPECT_EQ(Device::current().sounds().take(), Sounds{1519});
     EXPECT_EQ(device.log().take(), Log{"Error: Class (null) could not be initialized."});
     page->performSelector("configureNavigationSwitch:", {MessageValue()});
     page->performSelector("addChangelogItemsToController:withImage:", {MessageValue(), MessageValue()});
@@ -261,7 +261,7 @@ TEST_F(cxRootListControllerTest, IsTheTargetOfItsButtonsByTheActionsName) {
     show();
     page->performSelector("openController:", {Ref<NSObject>(buttonFor("OpenedPage"))});
     settle();
-    EXPECT_TRUE(dynamicCast<OpenedPage>(UINavigationControllerPeer::of(*navigation).top()));
+    EXPECT_TRUE(dynamicCast<OpenedPage>(peerOf<UINavigationControllerPeer>(*navigation).top()));
 }
 
 TEST_F(cxRootListControllerTest, ThePropertiesOfOthersAreKeptAsGiven) {

@@ -11,7 +11,7 @@ inline Ref<UIControl> addCountedButton(UIView& parent, const CGRect& frame, cons
                                        int& presses) {
     auto button = make<UIControl>();
     button->setFrame(frame);
-    auto& peer = dynamic_cast<UIControlPeer&>(button->peer());
+    auto& peer = peerOf<UIControlPeer>(*button);
     peer.setAccessibility(
         {.label = label, .value = {}, .role = AccessibilityRole::Button, .isElement = true});
     peer.addHandler(UIControlEvents::TouchUpInside, [&presses] { ++presses; });

@@ -1,4 +1,4 @@
-#include "ApplicationTermination.h"
+#include "Device.h"
 #include "objects/CFStringObject.h"
 
 /// Ends an application. \param report whether to write a crash report \param description may be null
@@ -8,7 +8,7 @@ BKSTerminateApplicationForReasonAndReportWithDescription(CFStringRef identifier,
 
 void BKSTerminateApplicationForReasonAndReportWithDescription(CFStringRef identifier, int reason, bool report,
                                                               CFStringRef description) {
-    ApplicationTermination::shared().request(
+    Device::current().terminations().request(
         {.identifier = identifier != nullptr ? identifier->text : "",
          .reason = reason,
          .report = report,

@@ -90,6 +90,7 @@ bool isShown(const UIView& view) {
 void scrollIntoView(UIView& view) {
     for (auto* around = view.peer().superview(); around != nullptr; around = around->peer().superview()) {
         if (auto* const scroll = dynamic_cast<UIScrollView*>(around))
-            scroll->peer().scrollRectToVisible(view.peer().convertTo(*scroll, view.bounds()), false);
+            peerOf<UIScrollViewPeer>(*scroll).scrollRectToVisible(
+                view.peer().convertTo(*scroll, view.bounds()), false);
     }
 }

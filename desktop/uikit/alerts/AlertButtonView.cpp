@@ -39,7 +39,7 @@ AlertButtonView::AlertButtonView(const Ref<DesktopAlertAction>& action)
     label_->setText(action->title());
     label_->setTextAlignment(NSTextAlignment::Center);
     label_->setFont(DesktopFont::font(fontSize, cancels ? FontWeight::Semibold : FontWeight::Regular));
-    UILabelPeer::of(*label_).setMinimumScaleFactor(leastScale);
+    peerOf<UILabelPeer>(*label_).setMinimumScaleFactor(leastScale);
     for (const auto& view : std::initializer_list<Ref<UIView>>{highlight_, lineAbove_, lineBeside_, label_})
         addSubview(view);
     setUserInteractionEnabled(false);
@@ -48,7 +48,7 @@ AlertButtonView::AlertButtonView(const Ref<DesktopAlertAction>& action)
 }
 
 double AlertButtonView::titleWidth() const {
-    return UILabelPeer::of(*label_).intrinsicWidth().value_or(0);
+    return peerOf<UILabelPeer>(*label_).intrinsicWidth().value_or(0);
 }
 
 void AlertButtonView::showTint() {

@@ -96,7 +96,7 @@ std::optional<Presented::Details> AlertPresentationView::details() const {
     if (!shown)
         return std::nullopt;
     return Details{.controllerClass = shown->isa().name(),
-                   .detail = dynamic_cast<UIAlertControllerPeer&>(shown->peer()).message().value_or(""),
+                   .detail = peerOf<UIAlertControllerPeer>(*shown).message().value_or(""),
                    .symbol = {},
                    .style = "alert",
                    .swipeDismissable = false,
@@ -111,5 +111,5 @@ UIView& AlertPresentationView::shownView() const {
 
 void AlertPresentationView::dismissPresented() {
     if (const auto shown = controller())
-        dynamic_cast<UIAlertControllerPeer&>(shown->peer()).chooseCancel();
+        peerOf<UIAlertControllerPeer>(*shown).chooseCancel();
 }

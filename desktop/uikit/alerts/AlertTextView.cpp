@@ -54,5 +54,5 @@ void AlertTextView::layoutSubviews() {
         label->setFrame(CGRectMake(sideMargin, top, width - 2 * sideMargin, height));
         top += height + gap;
     }
-    peer().setContentSize({width, fullHeight(width)});
+    peerOf<UIScrollViewPeer>(*this).setContentSize({width, fullHeight(width)});
 }

@@ -29,5 +29,5 @@ UIAlertController::alertControllerWithTitle(const std::optional<std::string>& ti
 
 void UIAlertController::addAction(const Ref<UIAlertAction>& action) {
     if (const auto added = dynamicCast<DesktopAlertAction>(action))
-        dynamic_cast<UIAlertControllerPeer&>(peer()).addAction(added);
+        peerOf<UIAlertControllerPeer>(*this).addAction(added);
 }

@@ -12,6 +12,8 @@
 /// the controller.
 class UIAlertControllerPeer final : public UIViewControllerPeer {
 public:
+    using Object = UIAlertController;
+
     explicit UIAlertControllerPeer(std::optional<std::string> message) : message_(std::move(message)) {}
 
     [[nodiscard]] const std::optional<std::string>& message() const { return message_; }

@@ -2,6 +2,7 @@
 
 #include "ObjectiveC/Weak.h"
 #include "UIKit/UIViewController.h"
+#include "views/PeerOf.h"
 #include "views/ViewOwner.h"
 
 #include <functional>
@@ -17,6 +18,8 @@ class PresentationView;
 /// when its view comes and goes. The engine's own controllers derive theirs from it.
 class UIViewControllerPeer : public ViewOwner {
 public:
+    using Object = UIViewController;
+
     UIViewControllerPeer();
     ~UIViewControllerPeer() override;
     UIViewControllerPeer(const UIViewControllerPeer&) = delete;

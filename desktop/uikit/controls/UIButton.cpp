@@ -12,9 +12,5 @@ const Class classObject = Class::define<UIButton, UIControl>("UIButton");
 UIButton::UIButton() : UIButton(std::make_unique<UIButtonPeer>()) {}
 
 UIButton::UIButton(std::unique_ptr<UIButtonPeer> peer) : UIControl(std::move(peer)) {
-    this->peer().viewMade();
-}
-
-UIButtonPeer& UIButton::peer() const {
-    return dynamic_cast<UIButtonPeer&>(UIControl::peer());
+    peerOf<UIButtonPeer>(*this).viewMade();
 }

@@ -9,10 +9,6 @@ class UIButton : public UIControl {
 public:
     UIButton();
 
-    /// The same as the view's, by its own class.
-    // NOLINTNEXTLINE(bugprone-derived-method-shadowing-base-method)
-    [[nodiscard]] UIButtonPeer& peer() const;
-
 protected:
     explicit UIButton(std::unique_ptr<UIButtonPeer> peer);
 };

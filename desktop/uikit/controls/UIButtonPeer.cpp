@@ -28,7 +28,7 @@ void UIButtonPeer::viewMade() {
     imageView_->setContentMode(UIViewContentMode::ScaleAspectFit);
     addSubview(imageView_);
     addSubview(titleLabel_);
-    UILabelPeer::of(*titleLabel_).setFontStyle(systemStyle);
+    peerOf<UILabelPeer>(*titleLabel_).setFontStyle(systemStyle);
     updateColors();
 }
 
@@ -43,7 +43,7 @@ void UIButtonPeer::setImage(const Ref<UIImage>& image) {
 }
 
 void UIButtonPeer::setFontStyle(const FontStyle& style) {
-    UILabelPeer::of(*titleLabel_).setFontStyle(style);
+    peerOf<UILabelPeer>(*titleLabel_).setFontStyle(style);
     contentDidChange();
 }
 

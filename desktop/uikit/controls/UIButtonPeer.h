@@ -13,6 +13,8 @@
 /// disabled. Made with the button.
 class UIButtonPeer : public UIControlPeer {
 public:
+    using Object = UIButton;
+
     UIButtonPeer();
 
     void setTitle(const std::optional<std::string>& title);

@@ -12,10 +12,6 @@ const Class classObject = Class::define<UIControl, UIView>("UIControl");
 const Class eventClass = Class::define<UIEvent>("UIEvent");
 const Class touchClass = Class::define<UITouch>("UITouch");
 
-UIControlPeer& peerOf(UIControl& control) {
-    return dynamic_cast<UIControlPeer&>(control.peer());
-}
-
 } // namespace
 
 UIControl::UIControl() : UIView(std::make_unique<UIControlPeer>()) {}
@@ -23,15 +19,15 @@ UIControl::UIControl() : UIView(std::make_unique<UIControlPeer>()) {}
 UIControl::UIControl(std::unique_ptr<UIViewPeer> peer) : UIView(std::move(peer)) {}
 
 void UIControl::addTarget(NSObject& target, std::string_view selector, UIControlEvents events) {
-    peerOf(*this).addTarget(target, std::string(selector), events);
+    peerOf<UIControlPeer>(*this).addTarget(target, std::string(selector), events);
 }
 
 void UIControl::sendActionsForControlEvents(UIControlEvents events) {
-    peerOf(*this).sendActions(events, nullptr);
+    peerOf<UIControlPeer>(*this).sendActions(events, nullptr);
 }
 
 bool UIControl::isTracking() const {
-    return dynamic_cast<const UIControlPeer&>(peer()).isTracking();
+    return peerOf<UIControlPeer>(*this).isTracking();
 }
 
 bool UIControl::beginTrackingWithTouch(UITouch& /*touch*/, UIEvent* /*event*/) {

@@ -17,6 +17,8 @@
 /// touch.
 class UIControlPeer : public UIViewPeer {
 public:
+    using Object = UIControl;
+
     UIControlPeer();
 
     [[nodiscard]] UIControl& control() const;

@@ -12,5 +12,5 @@ const Class switchClass = Class::define<UISwitch, UIControl>("UISwitch");
 } // namespace
 
 UISwitch::UISwitch() : UIControl(std::make_unique<UISwitchPeer>()) {
-    UISwitchPeer::of(*this).setUp();
+    peerOf<UISwitchPeer>(*this).setUp();
 }

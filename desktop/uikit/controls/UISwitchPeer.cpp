@@ -41,10 +41,6 @@ Ref<UIView> thumbView(const Shadow& shadow) {
 
 } // namespace
 
-UISwitchPeer& UISwitchPeer::of(const UISwitch& control) {
-    return dynamic_cast<UISwitchPeer&>(control.peer());
-}
-
 void UISwitchPeer::setUp() {
     setBounds({{}, size});
     track_ = make<UIView>();

@@ -6,10 +6,9 @@
 /// The desktop's half of a switch: whether it is on, its thumb, and the finger on it. Made with the switch.
 class UISwitchPeer : public UIControlPeer {
 public:
-    static constexpr CGSize size{51, 31};
+    using Object = UISwitch;
 
-    /// \pre the switch was made with a peer of this class, as all switches are
-    [[nodiscard]] static UISwitchPeer& of(const UISwitch& control);
+    static constexpr CGSize size{51, 31};
 
     /// Makes the switch's views; called once, by its constructor.
     void setUp();

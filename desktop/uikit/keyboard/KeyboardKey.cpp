@@ -122,7 +122,7 @@ KeyboardKey::KeyboardKey(const KeyboardLayout::Key& key, Pressed pressed)
       pressed_(std::move(pressed)) {
     const auto event =
         key.action == Action::Delete ? UIControlEvents::TouchDown : UIControlEvents::TouchUpInside;
-    dynamic_cast<UIControlPeer&>(peer()).addHandler(event, [this] { pressed_(key_); });
+    peerOf<UIControlPeer>(*this).addHandler(event, [this] { pressed_(key_); });
     peer().setAccessibility(
         {.label = labelOf(*this), .value = {}, .role = AccessibilityRole::Button, .isElement = true});
 }

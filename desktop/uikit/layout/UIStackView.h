@@ -7,6 +7,4 @@
 class UIStackView final : public UIView {
 public:
     UIStackView() : UIView(std::make_unique<UIStackViewPeer>()) {}
-
-    [[nodiscard]] UIStackViewPeer& stack() const { return dynamic_cast<UIStackViewPeer&>(peer()); }
 };

@@ -23,6 +23,8 @@ enum class UIStackViewAlignment : int { Fill = 0, Leading = 1, Center = 3, Trail
 /// The desktop's half of a stack view: what it asks of its arranged subviews.
 class UIStackViewPeer final : public UIViewPeer {
 public:
+    using Object = UIStackView;
+
     [[nodiscard]] const std::vector<Ref<UIView>>& arrangedSubviews() const { return arranged_; }
 
     /// Adds it as a subview too, and lets constraints decide its frame.

@@ -60,9 +60,7 @@ MenuPresentation::MenuPresentation(const Ref<DesktopMenu>& menu, const CGRect& s
       surroundings_(make<UIControl>()),
       menu_(make<MenuView>(menu, [this](const Ref<DesktopAction>& action) { close(action); })) {
     setAutoresizingMask(UIViewAutoresizing::FlexibleWidth | UIViewAutoresizing::FlexibleHeight);
-    dynamic_cast<UIControlPeer&>(surroundings_->peer()).addHandler(UIControlEvents::TouchDown, [this] {
-        close(nullptr);
-    });
+    peerOf<UIControlPeer>(*surroundings_).addHandler(UIControlEvents::TouchDown, [this] { close(nullptr); });
     addSubview(surroundings_);
     addSubview(menu_);
 }

@@ -47,7 +47,7 @@ BarButtonView::BarButtonView(const Ref<DesktopBarButtonItem>& item) : item_(item
     }
     peer().setAccessibility(
         {.label = nameOf(shows), .value = {}, .role = AccessibilityRole::Button, .isElement = true});
-    dynamic_cast<UIControlPeer&>(peer()).addHandler(UIControlEvents::TouchUpInside, [this] {
+    peerOf<UIControlPeer>(*this).addHandler(UIControlEvents::TouchUpInside, [this] {
         const auto& content = item_->content();
         if (content.action && !content.menu)
             content.action();

@@ -43,7 +43,7 @@ void BarControl::setHeld(bool held) {
 }
 
 void BarControl::updateLook() {
-    const auto pale = isHeld_ || dynamic_cast<const UIControlPeer&>(peer()).isHighlighted();
+    const auto pale = isHeld_ || peerOf<UIControlPeer>(*this).isHighlighted();
     if (std::exchange(isPale_, pale) == pale)
         return;
     if (pale) {

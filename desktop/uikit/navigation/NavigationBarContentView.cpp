@@ -52,8 +52,7 @@ void NavigationBarContentView::rebuild() {
     buildTitle();
     if (options_.backTitle) {
         back_ = make<BackButtonView>(*options_.backTitle);
-        dynamic_cast<UIControlPeer&>(back_->peer())
-            .addHandler(UIControlEvents::TouchUpInside, options_.goBack);
+        peerOf<UIControlPeer>(*back_).addHandler(UIControlEvents::TouchUpInside, options_.goBack);
         addSubview(back_);
     }
     left_ = makeButtons(item_->leftItems());

@@ -17,8 +17,7 @@ SwipeBackRecognizer::SwipeBackRecognizer(UIViewController& navigation)
 
 bool SwipeBackRecognizer::shouldBegin() {
     const auto navigation = navigation_.strong();
-    return navigation &&
-           dynamic_cast<UINavigationControllerPeer&>(navigation->peer()).canPopInteractively() &&
+    return navigation && peerOf<UINavigationControllerPeer>(*navigation).canPopInteractively() &&
            UIScreenEdgePanGestureRecognizer::shouldBegin();
 }
 
@@ -26,7 +25,7 @@ void SwipeBackRecognizer::follow() {
     const auto navigation = navigation_.strong();
     if (!navigation || view() == nullptr)
         return;
-    auto& peer = dynamic_cast<UINavigationControllerPeer&>(navigation->peer());
+    auto& peer = peerOf<UINavigationControllerPeer>(*navigation);
     switch (state()) {
     case State::Began:
         peer.beginInteractivePop();

@@ -38,7 +38,7 @@ void UINavigationBar::place(double top, double width, double rowHeight) {
     top_ = top;
     width_ = width;
     rowHeight_ = rowHeight;
-    dynamic_cast<UINavigationBarPeer&>(peer()).rowHeight = rowHeight;
+    peerOf<UINavigationBarPeer>(*this).rowHeight = rowHeight;
     update();
 }
 

@@ -13,5 +13,5 @@ UINavigationController::UINavigationController()
     : UIViewController(std::make_unique<UINavigationControllerPeer>()) {}
 
 void UINavigationController::pushViewController(const Ref<UIViewController>& controller, bool animated) {
-    UINavigationControllerPeer::of(*this).push(controller, animated);
+    peerOf<UINavigationControllerPeer>(*this).push(controller, animated);
 }

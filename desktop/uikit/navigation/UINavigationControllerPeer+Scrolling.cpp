@@ -18,7 +18,7 @@ UIScrollView* scrollViewOf(UIView& view) {
 
 /// 0 for one that is not beneath the bar.
 double overlapAt(const UIScrollView& scrollView, double offset) {
-    const auto& peer = scrollView.peer();
+    const auto& peer = peerOf<UIScrollViewPeer>(scrollView);
     return peer.safeAreaInsets().top > 0 ? offset + peer.adjustedContentInset().top : 0;
 }
 
@@ -28,7 +28,7 @@ void UINavigationControllerPeer::followScroll(const Page& page) {
     auto* const scrollView = scrollViewOf(page.view->page());
     if (scrollView == nullptr)
         return;
-    page.content->setOverlap(overlapAt(*scrollView, scrollView->peer().contentOffset().y));
+    page.content->setOverlap(overlapAt(*scrollView, peerOf<UIScrollViewPeer>(*scrollView).contentOffset().y));
     bar_->contentChanged();
     std::erase_if(followed_, [](const auto& followed) { return !followed.strong(); });
     const auto isFollowed = [scrollView](const auto& followed) {
@@ -38,13 +38,13 @@ void UINavigationControllerPeer::followScroll(const Page& page) {
         return;
     followed_.emplace_back(scrollView);
     const Weak<UIViewController> navigation(&controller());
-    scrollView->peer().addScrollHandler([navigation] {
+    peerOf<UIScrollViewPeer>(*scrollView).addScrollHandler([navigation] {
         if (const auto living = navigation.strong())
-            dynamic_cast<UINavigationControllerPeer&>(living->peer()).scrolled();
+            peerOf<UINavigationControllerPeer>(*living).scrolled();
     });
-    scrollView->peer().addReleaseHandler([navigation, scrollView](CGPoint& target) {
+    peerOf<UIScrollViewPeer>(*scrollView).addReleaseHandler([navigation, scrollView](CGPoint& target) {
         if (const auto living = navigation.strong())
-            dynamic_cast<UINavigationControllerPeer&>(living->peer()).snapLargeTitle(*scrollView, target);
+            peerOf<UINavigationControllerPeer>(*living).snapLargeTitle(*scrollView, target);
     });
 }
 
@@ -65,6 +65,7 @@ void UINavigationControllerPeer::snapLargeTitle(const UIScrollView& scrolled, CG
         return;
     const auto open = target.y - overlap;
     const auto closed = open + LargeTitleView::height;
-    const auto closes = overlap > LargeTitleView::height / 2 && closed <= scrolled.peer().maximumOffset().y;
+    const auto closes = overlap > LargeTitleView::height / 2 &&
+                        closed <= peerOf<UIScrollViewPeer>(scrolled).maximumOffset().y;
     target.y = closes ? closed : open;
 }

@@ -28,10 +28,6 @@ UINavigationControllerPeer::UINavigationControllerPeer() = default;
 
 UINavigationControllerPeer::~UINavigationControllerPeer() = default;
 
-UINavigationControllerPeer& UINavigationControllerPeer::of(const UINavigationController& controller) {
-    return dynamic_cast<UINavigationControllerPeer&>(controller.peer());
-}
-
 Ref<UIViewController> UINavigationControllerPeer::top() const {
     return stack_.empty() ? nullptr : stack_.back();
 }
@@ -157,7 +153,7 @@ UINavigationControllerPeer::makeContent(const Ref<UIViewController>& controller)
         options.backTitle = (*(place - 1))->peer().navigationItem().title();
     options.goBack = [navigation = Weak<UIViewController>(&this->controller())] {
         if (const auto living = navigation.strong())
-            dynamic_cast<UINavigationControllerPeer&>(living->peer()).pop(true);
+            peerOf<UINavigationControllerPeer>(*living).pop(true);
     };
     options.hasLargeTitle = hasLargeTitle(*controller);
     return make<NavigationBarContentView>(retain(&controller->peer().navigationItem()), std::move(options));
@@ -183,7 +179,7 @@ void UINavigationControllerPeer::runTransition(double progress) {
         systemCourse, [this, progress] { transition_->setProgress(progress); },
         [navigation = Weak<UIViewController>(&controller()), progress](bool /*finished*/) {
             if (const auto living = navigation.strong())
-                dynamic_cast<UINavigationControllerPeer&>(living->peer()).transitionEnded(progress, true);
+                peerOf<UINavigationControllerPeer>(*living).transitionEnded(progress, true);
         });
 }
 

@@ -16,13 +16,12 @@
 /// controller.
 class UINavigationControllerPeer : public UIViewControllerPeer {
 public:
+    using Object = UINavigationController;
+
     using Stack = std::vector<Ref<UIViewController>>;
 
     UINavigationControllerPeer();
     ~UINavigationControllerPeer() override;
-
-    /// \pre the controller was made with a peer of this class, as all navigation controllers are
-    [[nodiscard]] static UINavigationControllerPeer& of(const UINavigationController& controller);
 
     /// The root first; without changes that still wait.
     [[nodiscard]] const Stack& stack() const { return stack_; }

@@ -10,7 +10,7 @@ namespace {
 const Class classObject = Class::define<PresentationView, UIView>("PresentationView");
 
 void collectFields(const UIView& view, std::vector<Presented::Field>& fields) {
-    if (const auto* const field = dynamic_cast<const TextFieldContent*>(&view.peer()))
+    if (const auto* const field = peerIf<TextFieldContent>(view))
         fields.push_back({.placeholder = field->fieldPlaceholder(),
                           .text = field->fieldText(),
                           .isFirstResponder = field->fieldIsFirstResponder()});

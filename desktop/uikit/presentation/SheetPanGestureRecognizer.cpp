@@ -12,7 +12,7 @@ const Class classObject =
     Class::define<SheetPanGestureRecognizer, UIPanGestureRecognizer>("SheetPanGestureRecognizer");
 
 bool isAtItsTop(const UIScrollView& scroll) {
-    const auto& peer = scroll.peer();
+    const auto& peer = peerOf<UIScrollViewPeer>(scroll);
     return peer.contentOffset().y <= peer.minimumOffset().y;
 }
 
@@ -30,7 +30,7 @@ bool SheetPanGestureRecognizer::shouldBegin() {
     for (const auto* around = touched.get(); around != nullptr && around != view();
          around = around->peer().superview()) {
         const auto* const scroll = dynamic_cast<const UIScrollView*>(around);
-        if (scroll != nullptr && scroll->peer().canScrollAlong(moved) &&
+        if (scroll != nullptr && peerOf<UIScrollViewPeer>(*scroll).canScrollAlong(moved) &&
             (moved.y < 0 || !isAtItsTop(*scroll)))
             return false;
     }
@@ -39,8 +39,8 @@ bool SheetPanGestureRecognizer::shouldBegin() {
 
 bool SheetPanGestureRecognizer::goesBefore(const GestureRecognizer& other) const {
     const auto* const scroll = dynamic_cast<const UIScrollView*>(other.view());
-    return scroll != nullptr && &scroll->peer().panGestureRecognizer() == &other &&
-           !scroll->peer().isMoving() && isAtItsTop(*scroll);
+    return scroll != nullptr && &peerOf<UIScrollViewPeer>(*scroll).panGestureRecognizer() == &other &&
+           !peerOf<UIScrollViewPeer>(*scroll).isMoving() && isAtItsTop(*scroll);
 }
 
 void SheetPanGestureRecognizer::follow() {

@@ -43,7 +43,7 @@ SheetPresentationView::SheetPresentationView(UIViewController& controller)
     addSubview(card_);
     card_->addSubview(retain(&controller.view()));
     card_->peer().addGestureRecognizer(make<SheetPanGestureRecognizer>(*this));
-    dynamic_cast<UIControlPeer&>(dimming_->peer()).addHandler(UIControlEvents::TouchUpInside, [this] {
+    peerOf<UIControlPeer>(*dimming_).addHandler(UIControlEvents::TouchUpInside, [this] {
         if (geometry().idiom == Idiom::Pad)
             dismissPresented();
     });
@@ -178,7 +178,7 @@ void SheetPresentationView::dismissPresented() {
 Ref<UIViewController> SheetPresentationView::page() const {
     auto shown = controller();
     if (const auto navigation = dynamicCast<UINavigationController>(shown)) {
-        if (auto top = UINavigationControllerPeer::of(*navigation).top())
+        if (auto top = peerOf<UINavigationControllerPeer>(*navigation).top())
             return top;
     }
     return shown;
@@ -186,7 +186,7 @@ Ref<UIViewController> SheetPresentationView::page() const {
 
 const SheetContent* SheetPresentationView::content() const {
     const auto shown = page();
-    return shown ? dynamic_cast<const SheetContent*>(&shown->peer()) : nullptr;
+    return shown ? peerIf<SheetContent>(*shown) : nullptr;
 }
 
 Ref<UINavigationItem> SheetPresentationView::barItem() const {

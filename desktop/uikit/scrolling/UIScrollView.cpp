@@ -12,9 +12,5 @@ const Class classObject = Class::define<UIScrollView, UIView>("UIScrollView");
 UIScrollView::UIScrollView() : UIScrollView(std::make_unique<UIScrollViewPeer>()) {}
 
 UIScrollView::UIScrollView(std::unique_ptr<UIScrollViewPeer> peer) : UIView(std::move(peer)) {
-    this->peer().viewMade();
-}
-
-UIScrollViewPeer& UIScrollView::peer() const {
-    return dynamic_cast<UIScrollViewPeer&>(UIView::peer());
+    peerOf<UIScrollViewPeer>(*this).viewMade();
 }

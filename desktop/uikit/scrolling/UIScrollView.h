@@ -10,10 +10,6 @@ class UIScrollView : public UIView {
 public:
     UIScrollView();
 
-    /// The same as the view's, by its own class.
-    // NOLINTNEXTLINE(bugprone-derived-method-shadowing-base-method)
-    [[nodiscard]] UIScrollViewPeer& peer() const;
-
 protected:
     explicit UIScrollView(std::unique_ptr<UIScrollViewPeer> peer);
 };

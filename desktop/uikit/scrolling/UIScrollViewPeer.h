@@ -17,6 +17,8 @@ class ScrollIndicators;
 /// move. A derived peer overrides the hooks; overrides of the `UIViewPeer` functions call their base.
 class UIScrollViewPeer : public UIViewPeer {
 public:
+    using Object = UIScrollView;
+
     UIScrollViewPeer();
     ~UIScrollViewPeer() override;
 

@@ -19,7 +19,7 @@ std::string shownText(const TableCaption& caption, Edge edge) {
 
 Ref<UIView> labelOf(const TableCaption& caption, Edge edge) {
     const auto label = make<UILabel>();
-    auto& peer = UILabelPeer::of(*label);
+    auto& peer = peerOf<UILabelPeer>(*label);
     peer.setText(shownText(caption, edge));
     peer.setFontStyle(style);
     peer.setNumberOfLines(0);

@@ -25,36 +25,36 @@ bool UITableViewCell::initWithFrame(const CGRect& frame) {
 bool UITableViewCell::initWithStyle(UITableViewCellStyle style, const std::string& reuseIdentifier) {
     if (!UIView::initWithFrame({}))
         return false;
-    UITableViewCellPeer::of(*this).setUp(style, reuseIdentifier);
+    peerOf<UITableViewCellPeer>(*this).setUp(style, reuseIdentifier);
     return true;
 }
 
 const std::string& UITableViewCell::reuseIdentifier() const {
-    return UITableViewCellPeer::of(*this).reuseIdentifier();
+    return peerOf<UITableViewCellPeer>(*this).reuseIdentifier();
 }
 
 UIView& UITableViewCell::contentView() const {
-    return UITableViewCellPeer::of(*this).contentView();
+    return peerOf<UITableViewCellPeer>(*this).contentView();
 }
 
 UILabel& UITableViewCell::textLabel() const {
-    return UITableViewCellPeer::of(*this).textLabel();
+    return peerOf<UITableViewCellPeer>(*this).textLabel();
 }
 
 UILabel& UITableViewCell::detailTextLabel() const {
-    return UITableViewCellPeer::of(*this).detailTextLabel();
+    return peerOf<UITableViewCellPeer>(*this).detailTextLabel();
 }
 
 UIImageView& UITableViewCell::imageView() const {
-    return UITableViewCellPeer::of(*this).imageView();
+    return peerOf<UITableViewCellPeer>(*this).imageView();
 }
 
 void UITableViewCell::setAccessoryType(UITableViewCellAccessoryType type) {
-    UITableViewCellPeer::of(*this).setAccessoryType(type);
+    peerOf<UITableViewCellPeer>(*this).setAccessoryType(type);
 }
 
 void UITableViewCell::setAccessoryView(const Ref<UIView>& view) {
-    UITableViewCellPeer::of(*this).setAccessoryView(view);
+    peerOf<UITableViewCellPeer>(*this).setAccessoryView(view);
 }
 
 void UITableViewCell::prepareForReuse() {}

@@ -80,10 +80,6 @@ double UITableViewCellPeer::TextRoom::width() const {
     return std::max(0.0, right - left);
 }
 
-UITableViewCellPeer& UITableViewCellPeer::of(const UITableViewCell& cell) {
-    return dynamic_cast<UITableViewCellPeer&>(cell.peer());
-}
-
 UITableViewCell& UITableViewCellPeer::cell() const {
     return dynamic_cast<UITableViewCell&>(view());
 }
@@ -104,8 +100,8 @@ void UITableViewCellPeer::setUp(UITableViewCellStyle style, const std::string& r
     for (const auto& part : {Ref<UIView>(imageView_), Ref<UIView>(textLabel_), Ref<UIView>(detailTextLabel_)})
         contentView_->addSubview(part);
     const auto subtitle = style == UITableViewCellStyle::Subtitle;
-    UILabelPeer::of(*textLabel_).setFontStyle({.size = titleSize});
-    UILabelPeer::of(*detailTextLabel_).setFontStyle({.size = subtitle ? subtitleSize : titleSize});
+    peerOf<UILabelPeer>(*textLabel_).setFontStyle({.size = titleSize});
+    peerOf<UILabelPeer>(*detailTextLabel_).setFontStyle({.size = subtitle ? subtitleSize : titleSize});
     detailTextLabel_->setTextColor(DesktopColor::system(SystemColor::SecondaryLabel));
     detailTextLabel_->peer().setHidden(style == UITableViewCellStyle::Default);
     background_->layer().setCornerRadius(TableMetrics::cornerRadius);
@@ -290,7 +286,7 @@ void UITableViewCellPeer::layOutStacked(const TextRoom& room, double height) {
 UITableViewPeer* UITableViewCellPeer::table() const {
     for (const auto* parent = superview(); parent != nullptr; parent = parent->peer().superview()) {
         if (const auto* const table = dynamic_cast<const UITableView*>(parent))
-            return &UITableViewPeer::of(*table);
+            return &peerOf<UITableViewPeer>(*table);
     }
     return nullptr;
 }

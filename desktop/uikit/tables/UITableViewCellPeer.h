@@ -11,11 +11,10 @@ class UITableViewPeer;
 /// Made with the cell.
 class UITableViewCellPeer : public UIViewPeer {
 public:
+    using Object = UITableViewCell;
+
     /// Between a text and what stands to its right.
     static constexpr double textGap = 8;
-
-    /// \pre the cell was made with a peer of this class, as all cells are
-    [[nodiscard]] static UITableViewCellPeer& of(const UITableViewCell& cell);
 
     /// Makes the cell's views; called once, by the cell's initialiser.
     void setUp(UITableViewCellStyle style, const std::string& reuseIdentifier);

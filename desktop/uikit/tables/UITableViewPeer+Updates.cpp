@@ -116,7 +116,7 @@ void UITableViewPeer::cutOffWhatComesAndGoes(const TableEdits& edits, const Tabl
         const auto old = edits.before(row);
         const auto wasHidden = old && before.row(*old).height <= 0;
         if (wasHidden || layout_.row(row).height <= 0)
-            UITableViewCellPeer::of(*cell).setCutOff(true);
+            peerOf<UITableViewCellPeer>(*cell).setCutOff(true);
     }
 }
 

@@ -15,10 +15,6 @@ constexpr double listEnd = 53.0 / 3;
 
 } // namespace
 
-UITableViewPeer& UITableViewPeer::of(const UITableView& table) {
-    return dynamic_cast<UITableViewPeer&>(table.peer());
-}
-
 void UITableViewPeer::setContent(TableContent* content) {
     content_ = content;
     reloadData();
@@ -101,26 +97,26 @@ void UITableViewPeer::selectRow(IndexPath row) {
     deselectRow(false);
     selected_ = row;
     if (const auto cell = cells_.at(row))
-        UITableViewCellPeer::of(*cell).setSelected(true, false);
+        peerOf<UITableViewCellPeer>(*cell).setSelected(true, false);
 }
 
 void UITableViewPeer::deselectRow(bool animated) {
     const auto row = std::exchange(selected_, std::nullopt);
     if (const auto cell = row ? cells_.at(*row) : nullptr)
-        UITableViewCellPeer::of(*cell).setSelected(false, animated);
+        peerOf<UITableViewCellPeer>(*cell).setSelected(false, animated);
 }
 
 void UITableViewPeer::fadeSelection(double faded) {
     if (const auto cell = selected_ ? cells_.at(*selected_) : nullptr)
-        UITableViewCellPeer::of(*cell).setSelectionFade(faded);
+        peerOf<UITableViewCellPeer>(*cell).setSelectionFade(faded);
 }
 
 void UITableViewPeer::setHighlighted(std::optional<IndexPath> row) {
     const auto before = std::exchange(highlighted_, row);
     if (const auto cell = before ? cells_.at(*before) : nullptr)
-        UITableViewCellPeer::of(*cell).setHighlighted(false);
+        peerOf<UITableViewCellPeer>(*cell).setHighlighted(false);
     if (const auto cell = row ? cells_.at(*row) : nullptr)
-        UITableViewCellPeer::of(*cell).setHighlighted(true);
+        peerOf<UITableViewCellPeer>(*cell).setHighlighted(true);
     // One row at a time looks pressed.
     fadeSelection(row && row != selected_ ? 1 : 0);
 }
@@ -199,8 +195,8 @@ void UITableViewPeer::makeCells(const Rows& rows) {
 Ref<UITableViewCell> UITableViewPeer::makeCell(IndexPath row) {
     const auto cell = content_->cellForRow(row);
     insertSubview(cell, 0);
-    UITableViewCellPeer::of(*cell).setSelected(selected_ == row, false);
-    UITableViewCellPeer::of(*cell).setHighlighted(highlighted_ == row);
+    peerOf<UITableViewCellPeer>(*cell).setSelected(selected_ == row, false);
+    peerOf<UITableViewCellPeer>(*cell).setHighlighted(highlighted_ == row);
     return cell;
 }
 
@@ -210,7 +206,7 @@ bool UITableViewPeer::measure(const Rows& rows) {
     for (const auto row : rows) {
         if (!heights_.isToBeMeasured(row))
             continue;
-        auto& cell = UITableViewCellPeer::of(*cells_.at(row));
+        auto& cell = peerOf<UITableViewCellPeer>(*cells_.at(row));
         cell.setMargin(measures.margin());
         changed |= heights_.setMeasured(row, cell.sizeThatFits({measures.cardWidth(), 0}).height);
     }
@@ -224,7 +220,7 @@ void UITableViewPeer::placeAll() {
 }
 
 void UITableViewPeer::place(IndexPath row, const UITableViewCell& cell) const {
-    auto& peer = UITableViewCellPeer::of(cell);
+    auto& peer = peerOf<UITableViewCellPeer>(cell);
     const auto span = layout_.row(row);
     peer.setFrame(cardRect(span));
     peer.setMargin(metrics().margin());

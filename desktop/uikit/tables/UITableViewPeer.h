@@ -19,8 +19,7 @@
 /// fingers on them. Made with the table.
 class UITableViewPeer : public UIScrollViewPeer {
 public:
-    /// \pre the table was made with a peer of this class, as all tables are
-    [[nodiscard]] static UITableViewPeer& of(const UITableView& table);
+    using Object = UITableView;
 
     /// \param content outlives the table or takes itself away; null for none
     void setContent(TableContent* content);

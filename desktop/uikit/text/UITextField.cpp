@@ -12,37 +12,37 @@ const Class classObject = Class::define<UITextField, UIControl>("UITextField");
 } // namespace
 
 UITextField::UITextField() : UIControl(std::make_unique<UITextFieldPeer>()) {
-    UITextFieldPeer::of(*this).setUp();
+    peerOf<UITextFieldPeer>(*this).setUp();
 }
 
 std::string UITextField::text() const {
-    return UITextFieldPeer::of(*this).fieldText();
+    return peerOf<UITextFieldPeer>(*this).fieldText();
 }
 
 void UITextField::setText(const std::string& text) {
-    UITextFieldPeer::of(*this).setText(text);
+    peerOf<UITextFieldPeer>(*this).setText(text);
 }
 
 std::string UITextField::placeholder() const {
-    return UITextFieldPeer::of(*this).fieldPlaceholder();
+    return peerOf<UITextFieldPeer>(*this).fieldPlaceholder();
 }
 
 void UITextField::setPlaceholder(const std::string& placeholder) {
-    UITextFieldPeer::of(*this).setPlaceholder(placeholder);
+    peerOf<UITextFieldPeer>(*this).setPlaceholder(placeholder);
 }
 
 void UITextField::setBorderStyle(UITextBorderStyle style) {
-    UITextFieldPeer::of(*this).setBorderStyle(style);
+    peerOf<UITextFieldPeer>(*this).setBorderStyle(style);
 }
 
 bool UITextField::becomeFirstResponder() {
-    return UITextFieldPeer::of(*this).becomeFirstResponder();
+    return peerOf<UITextFieldPeer>(*this).becomeFirstResponder();
 }
 
 bool UITextField::resignFirstResponder() {
-    return UITextFieldPeer::of(*this).resignFirstResponder();
+    return peerOf<UITextFieldPeer>(*this).resignFirstResponder();
 }
 
 bool UITextField::isFirstResponder() const {
-    return UITextFieldPeer::of(*this).fieldIsFirstResponder();
+    return peerOf<UITextFieldPeer>(*this).fieldIsFirstResponder();
 }

@@ -34,10 +34,6 @@ UITextFieldPeer::~UITextFieldPeer() {
         Screen::current().firstResponder().remove(*this);
 }
 
-UITextFieldPeer& UITextFieldPeer::of(const UITextField& field) {
-    return dynamic_cast<UITextFieldPeer&>(field.peer());
-}
-
 void UITextFieldPeer::setUp() {
     caret_ = make<UIView>();
     caret_->setUserInteractionEnabled(false);

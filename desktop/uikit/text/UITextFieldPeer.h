@@ -17,10 +17,9 @@
 /// the field.
 class UITextFieldPeer : public UIControlPeer, public TextInput, public TextFieldContent {
 public:
-    ~UITextFieldPeer() override;
+    using Object = UITextField;
 
-    /// \pre the field was made with a peer of this class, as all text fields are
-    [[nodiscard]] static UITextFieldPeer& of(const UITextField& field);
+    ~UITextFieldPeer() override;
 
     /// Makes the caret; called once, by the field's constructor.
     void setUp();

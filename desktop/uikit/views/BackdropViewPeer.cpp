@@ -6,10 +6,6 @@ constexpr auto followsSuperview = UIViewAutoresizing::FlexibleWidth | UIViewAuto
 
 } // namespace
 
-BackdropViewPeer& BackdropViewPeer::of(_UIBackdropView& view) {
-    return dynamic_cast<BackdropViewPeer&>(view.peer());
-}
-
 void BackdropViewPeer::setSettings(const Ref<DesktopBackdropSettings>& settings) {
     if (!settings)
         return;

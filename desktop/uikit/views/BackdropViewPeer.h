@@ -7,8 +7,7 @@
 /// The desktop's half of a backdrop: its material, and whether it fills its superview. Made with the view.
 class BackdropViewPeer final : public UIViewPeer {
 public:
-    /// \pre the view was made with a peer of this class, as all backdrops are
-    [[nodiscard]] static BackdropViewPeer& of(_UIBackdropView& view);
+    using Object = _UIBackdropView;
 
     /// Once, when the view is readied. \param settings empty for none
     void setSettings(const Ref<DesktopBackdropSettings>& settings);

@@ -16,9 +16,9 @@ UIImageView::UIImageView() : UIImageView(std::make_unique<UIImageViewPeer>()) {}
 UIImageView::UIImageView(std::unique_ptr<UIViewPeer> peer) : UIView(std::move(peer)) {}
 
 Ref<UIImage> UIImageView::image() const {
-    return UIImageViewPeer::of(*this).image();
+    return peerOf<UIImageViewPeer>(*this).image();
 }
 
 void UIImageView::setImage(const Ref<UIImage>& image) {
-    UIImageViewPeer::of(*this).setImage(dynamicCast<DesktopImage>(image));
+    peerOf<UIImageViewPeer>(*this).setImage(dynamicCast<DesktopImage>(image));
 }

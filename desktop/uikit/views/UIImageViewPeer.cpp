@@ -30,14 +30,6 @@ UIImageViewPeer::UIImageViewPeer() {
     setUserInteractionEnabled(false);
 }
 
-UIImageViewPeer& UIImageViewPeer::of(UIImageView& view) {
-    return dynamic_cast<UIImageViewPeer&>(view.peer());
-}
-
-const UIImageViewPeer& UIImageViewPeer::of(const UIImageView& view) {
-    return dynamic_cast<const UIImageViewPeer&>(view.peer());
-}
-
 void UIImageViewPeer::setImage(const Ref<DesktopImage>& image) {
     if (image_ == image)
         return;

@@ -9,11 +9,9 @@
 /// The desktop's half of an image view: the image, and where it lies in the bounds. Made with the view.
 class UIImageViewPeer : public UIViewPeer {
 public:
-    UIImageViewPeer();
+    using Object = UIImageView;
 
-    /// \pre the view was made with a peer of this class, as all image views are
-    [[nodiscard]] static UIImageViewPeer& of(UIImageView& view);
-    [[nodiscard]] static const UIImageViewPeer& of(const UIImageView& view);
+    UIImageViewPeer();
 
     /// Empty when there is none.
     [[nodiscard]] const Ref<DesktopImage>& image() const { return image_; }

@@ -17,21 +17,21 @@ UILabel::UILabel() : UILabel(std::make_unique<UILabelPeer>()) {}
 UILabel::UILabel(std::unique_ptr<UIViewPeer> peer) : UIView(std::move(peer)) {}
 
 std::optional<std::string> UILabel::text() const {
-    return UILabelPeer::of(*this).text();
+    return peerOf<UILabelPeer>(*this).text();
 }
 
 void UILabel::setText(const std::optional<std::string>& text) {
-    UILabelPeer::of(*this).setText(text);
+    peerOf<UILabelPeer>(*this).setText(text);
 }
 
 void UILabel::setFont(const Ref<UIFont>& font) {
-    UILabelPeer::of(*this).setFontStyle(DesktopFont::styleOf(font));
+    peerOf<UILabelPeer>(*this).setFontStyle(DesktopFont::styleOf(font));
 }
 
 void UILabel::setTextColor(const Ref<UIColor>& color) {
-    UILabelPeer::of(*this).setTextColor(color);
+    peerOf<UILabelPeer>(*this).setTextColor(color);
 }
 
 void UILabel::setTextAlignment(NSTextAlignment alignment) {
-    UILabelPeer::of(*this).setTextAlignment(alignment);
+    peerOf<UILabelPeer>(*this).setTextAlignment(alignment);
 }

@@ -35,14 +35,6 @@ UILabelPeer::UILabelPeer() : textColor_(DesktopColor::system(SystemColor::Label)
     setUserInteractionEnabled(false);
 }
 
-UILabelPeer& UILabelPeer::of(UILabel& label) {
-    return dynamic_cast<UILabelPeer&>(label.peer());
-}
-
-const UILabelPeer& UILabelPeer::of(const UILabel& label) {
-    return dynamic_cast<const UILabelPeer&>(label.peer());
-}
-
 void UILabelPeer::setText(const std::optional<std::string>& text) {
     if (text_ == text)
         return;

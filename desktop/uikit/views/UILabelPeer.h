@@ -14,11 +14,9 @@
 /// The desktop's half of a label: its text, how it is set, and its lines. Made with the label.
 class UILabelPeer : public UIViewPeer {
 public:
-    UILabelPeer();
+    using Object = UILabel;
 
-    /// \pre the label was made with a peer of this class, as all labels are
-    [[nodiscard]] static UILabelPeer& of(UILabel& label);
-    [[nodiscard]] static const UILabelPeer& of(const UILabel& label);
+    UILabelPeer();
 
     [[nodiscard]] const std::optional<std::string>& text() const { return text_; }
 

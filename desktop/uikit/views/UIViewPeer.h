@@ -6,6 +6,7 @@
 #include "Traits.h"
 #include "UIKit/UIView.h"
 #include "views/Accessibility.h"
+#include "views/PeerOf.h"
 
 #include <functional>
 #include <memory>
@@ -26,6 +27,8 @@ struct ViewLayout;
 /// does not. Views of the engine's own derive theirs from it and override what they do differently.
 class UIViewPeer : public LayerDelegate {
 public:
+    using Object = UIView;
+
     UIViewPeer();
     ~UIViewPeer() override;
     UIViewPeer(const UIViewPeer&) = delete;

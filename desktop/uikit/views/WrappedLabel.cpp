@@ -6,7 +6,7 @@
 Ref<UILabel> wrappedLabel(const std::string& text, const FontStyle& style, SystemColor color,
                           NSTextAlignment alignment) {
     auto label = make<UILabel>();
-    auto& peer = UILabelPeer::of(*label);
+    auto& peer = peerOf<UILabelPeer>(*label);
     peer.setText(text);
     peer.setFontStyle(style);
     peer.setTextColor(DesktopColor::system(color));

@@ -15,7 +15,7 @@ Ref<_UIBackdropView> _UIBackdropView::initWithFrame(const CGRect& frame, bool au
                                                     const Ref<_UIBackdropViewSettings>& settings) {
     auto view = make<_UIBackdropView>();
     view->setFrame(frame);
-    auto& peer = BackdropViewPeer::of(*view);
+    auto& peer = peerOf<BackdropViewPeer>(*view);
     peer.setSettings(dynamicCast<DesktopBackdropSettings>(settings));
     peer.setAutosizesToFitSuperview(autosizesToFitSuperview);
     return view;

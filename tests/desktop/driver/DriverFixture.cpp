@@ -1,23 +1,15 @@
 #include "DriverFixture.h"
 
-#include "ApplicationCommands.h"
+#include "AllCommands.h"
 #include "CountedButton.h"
-#include "EventCommands.h"
-#include "InspectionCommands.h"
-#include "TextCommands.h"
-#include "TimeCommands.h"
-#include "TouchCommands.h"
-#include "UnavailableCommands.h"
 
 DriverFixture::DriverFixture() {
     screen_.addWindow(window_);
-    addApplicationCommands(commands_, application_);
-    addInspectionCommands(commands_, application_, compositor_);
-    addTouchCommands(commands_, touches_);
-    addTimeCommands(commands_, device_.clock());
-    addEventCommands(commands_, device_.log());
-    addTextCommands(commands_);
-    addUnavailableCommands(commands_);
+    addAllCommands(commands_, {.application = application_,
+                               .touches = touches_,
+                               .compositor = compositor_,
+                               .clock = device_.clock(),
+                               .log = device_.log()});
 }
 
 DriverFixture::~DriverFixture() {

@@ -12,7 +12,7 @@ protected:
     Ref<UIScrollView> addScrollView(const std::vector<double>& tops, const std::string& text) {
         auto scroll = make<UIScrollView>();
         scroll->setFrame(CGRectMake(0, 100, 390, 600));
-        scroll->peer().setContentSize({390, 5000});
+        peerOf<UIScrollViewPeer>(*scroll).setContentSize({390, 5000});
         window_->addSubview(scroll);
         for (const auto top : tops)
             static_cast<void>(addLabel(CGRectMake(20, top, 200, 44), text, *scroll));
@@ -78,12 +78,12 @@ TEST_F(ElementSearchTest, ScrollsToWhatIsFurtherDown) {
     const auto found = search("Far").first();
     ASSERT_TRUE(found);
     EXPECT_TRUE(isWithin(*found, *scroll));
-    EXPECT_GT(scroll->peer().contentOffset().y, 3000);
+    EXPECT_GT(peerOf<UIScrollViewPeer>(*scroll).contentOffset().y, 3000);
 }
 
 TEST_F(ElementSearchTest, ScrollsUpToo) {
     const auto scroll = addScrollView({50}, "Top");
-    scroll->peer().setContentOffset({0, 4000});
+    peerOf<UIScrollViewPeer>(*scroll).setContentOffset({0, 4000});
     const auto found = search("Top").first();
     ASSERT_TRUE(found);
     EXPECT_TRUE(isWithin(*found, *scroll));
@@ -102,10 +102,10 @@ TEST_F(ElementSearchTest, NumbersCountFromTheTopOfWhatScrollsOnAndThenTheOthers)
 
 TEST_F(ElementSearchTest, AVainSearchLeavesTheContentsWhereTheyWere) {
     const auto scroll = addScrollView({4000}, "Far");
-    scroll->peer().setContentOffset({0, 1234});
+    peerOf<UIScrollViewPeer>(*scroll).setContentOffset({0, 1234});
     EXPECT_FALSE(search("Elsewhere").first());
     EXPECT_FALSE(search("Far").numbered(2));
-    EXPECT_EQ(scroll->peer().contentOffset().y, 1234);
+    EXPECT_EQ(peerOf<UIScrollViewPeer>(*scroll).contentOffset().y, 1234);
 }
 
 TEST_F(ElementSearchTest, ContentsWithoutRoomOrWithoutEndAreSearchedInTime) {
@@ -113,7 +113,7 @@ TEST_F(ElementSearchTest, ContentsWithoutRoomOrWithoutEndAreSearchedInTime) {
     scroll->setFrame(CGRectMake(0, 100, 390, 0));
     EXPECT_FALSE(search("Elsewhere").first());
     scroll->setFrame(CGRectMake(0, 100, 390, 600));
-    scroll->peer().setContentSize({390, 1'000'000});
+    peerOf<UIScrollViewPeer>(*scroll).setContentSize({390, 1'000'000});
     EXPECT_FALSE(search("Elsewhere").first());
     EXPECT_EQ(topOf(search("Row").first()), 10);
 }

@@ -85,7 +85,8 @@ protected:
         pages.clear();
         for (const auto& window : program.screen().windows())
             watchViews(*window);
-        for (const auto& page : UINavigationControllerPeer::of(*program.shell().settings()->pages()).stack())
+        for (const auto& page :
+             peerOf<UINavigationControllerPeer>(*program.shell().settings()->pages()).stack())
             pages.emplace_back(page);
     }
 

@@ -220,7 +220,7 @@ TEST_F(PaneSessionTest, AResetWhileASheetComesInIsNotAskedForASecondTime) {
     program.done("advance 0.1");
     const auto page = program.shell().settings()->pages();
     const auto before = presented().value("class");
-    UINavigationControllerPeer::of(*page).top()->performSelector("resetSettings");
+    peerOf<UINavigationControllerPeer>(*page).top()->performSelector("resetSettings");
     const auto log = events("log");
     ASSERT_EQ(log.size(), 1);
     EXPECT_TRUE(log[0].toString().startsWith("Attempt to present <UIAlertController: "));

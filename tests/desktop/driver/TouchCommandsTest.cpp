@@ -73,7 +73,7 @@ INSTANTIATE_TEST_SUITE_P(Lines, BadTap,
 TEST_F(TouchCommandsTest, TapScrollsTheElementIntoView) {
     const auto scroll = make<UIScrollView>();
     scroll->setFrame(CGRectMake(0, 100, 390, 600));
-    scroll->peer().setContentSize({390, 3000});
+    peerOf<UIScrollViewPeer>(*scroll).setContentSize({390, 3000});
     window_->addSubview(scroll);
     auto presses = 0;
     const auto button = addButton(CGRectMake(20, 2500, 200, 44), "Far", presses);

@@ -1,13 +1,7 @@
 #include "WholeProgram.h"
 
-#include "ApplicationCommands.h"
+#include "AllCommands.h"
 #include "DeviceInstaller.h"
-#include "EventCommands.h"
-#include "InspectionCommands.h"
-#include "TextCommands.h"
-#include "TimeCommands.h"
-#include "TouchCommands.h"
-#include "UnavailableCommands.h"
 
 #include <gtest/gtest.h>
 
@@ -55,13 +49,11 @@ private:
 WholeProgram::Running::Running(TestDevice& device, const Screen::Options& options)
     : screen(options),
       session(commands, [&device] { Device::current().mainQueue().advance(device.clock(), {}); }) {
-    addApplicationCommands(commands, application);
-    addInspectionCommands(commands, application, compositor);
-    addTouchCommands(commands, touches);
-    addTimeCommands(commands, device.clock());
-    addEventCommands(commands, device.log());
-    addTextCommands(commands);
-    addUnavailableCommands(commands);
+    addAllCommands(commands, {.application = application,
+                              .touches = touches,
+                              .compositor = compositor,
+                              .clock = device.clock(),
+                              .log = device.log()});
 }
 
 WholeProgram::WholeProgram(const Screen::Options& screen) {

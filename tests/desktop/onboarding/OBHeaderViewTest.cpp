@@ -119,7 +119,7 @@ TEST_F(OBHeaderViewTest, CentresItsTexts) {
     fill({.title = "New", .detail = "Version 3", .image = nullptr});
     for (const std::size_t index : {1U, 2U}) {
         auto& label = dynamic_cast<UILabel&>(*header_->peer().subviews()[index]);
-        EXPECT_EQ(UILabelPeer::of(label).textAlignment(), NSTextAlignment::Center);
+        EXPECT_EQ(peerOf<UILabelPeer>(label).textAlignment(), NSTextAlignment::Center);
     }
 }
 

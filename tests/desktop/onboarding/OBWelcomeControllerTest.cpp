@@ -114,7 +114,7 @@ TEST_F(OBWelcomeControllerTest, EndsWithItsLastOwner) {
     page->addBulletedListItemWithTitle("one", "text", symbol("gear"), DesktopColor::fixed(red));
     const Weak<UIView> view(&page->view());
     const Weak<OBWelcomeController> watched(page.get());
-    const Weak<UIView> item(OBWelcomeControllerPeer::of(*page).welcomeView().list().items()[0].get());
+    const Weak<UIView> item(peerOf<OBWelcomeControllerPeer>(*page).welcomeView().list().items()[0].get());
     page = nullptr;
     EXPECT_FALSE(watched.strong());
     EXPECT_FALSE(view.strong());

@@ -45,13 +45,15 @@ protected:
 
     [[nodiscard]] const Ref<OBWelcomeController>& page() const { return page_; }
 
-    [[nodiscard]] OBWelcomeControllerPeer& peer() const { return OBWelcomeControllerPeer::of(*page_); }
+    [[nodiscard]] OBWelcomeControllerPeer& peer() const { return peerOf<OBWelcomeControllerPeer>(*page_); }
 
     [[nodiscard]] UIViewPeer& list() const { return peer().welcomeView().list().peer(); }
 
     [[nodiscard]] OBHeaderView& header() const { return peer().welcomeView().header(); }
 
-    [[nodiscard]] UIScrollViewPeer& scroll() const { return peer().welcomeView().scrollView().peer(); }
+    [[nodiscard]] UIScrollViewPeer& scroll() const {
+        return peerOf<UIScrollViewPeer>(peer().welcomeView().scrollView());
+    }
 
     [[nodiscard]] const std::vector<Ref<OBBulletedListItem>>& items() const {
         return peer().welcomeView().list().items();
@@ -77,7 +79,7 @@ protected:
     /// A green one.
     [[nodiscard]] static Ref<UIImage> picture(int width, int height);
 
-    [[nodiscard]] static bool isShortened(UILabel& label) { return UILabelPeer::of(label).isTruncated(); }
+    [[nodiscard]] static bool isShortened(UILabel& label) { return peerOf<UILabelPeer>(label).isTruncated(); }
 
     TestDevice device;
     Screen screen{{.scale = 2, .size = phoneSheet}};

@@ -47,7 +47,7 @@ const Class noPageClass = Class::define<NoPage>("TapTestNoPage");
 const Class refusingClass = Class::define<RefusingPage, PSListController>("TapTestRefusingPage");
 
 const UINavigationControllerPeer::Stack& stackOf(const UINavigationController& navigation) {
-    return UINavigationControllerPeer::of(navigation).stack();
+    return peerOf<UINavigationControllerPeer>(navigation).stack();
 }
 
 } // namespace
@@ -66,7 +66,7 @@ TEST_F(PSListControllerTapTest, TheRowFadesAfterItsAction) {
     show();
     tap("a");
     EXPECT_EQ(peer().table().selectedRow(), std::nullopt);
-    EXPECT_FALSE(UITableViewCellPeer::of(cell("a")).isSelected());
+    EXPECT_FALSE(peerOf<UITableViewCellPeer>(cell("a")).isSelected());
 }
 
 TEST_F(PSListControllerTapTest, ALinkPushesItsDetailAndHandsTheRowOver) {
@@ -76,7 +76,7 @@ TEST_F(PSListControllerTapTest, ALinkPushesItsDetailAndHandsTheRowOver) {
     ASSERT_EQ(stackOf(*navigation_).size(), 2U);
     const auto detail = dynamicCast<DetailPage>(stackOf(*navigation_).back());
     ASSERT_TRUE(detail);
-    EXPECT_EQ(PSListControllerPeer::of(*detail).specifier().get(), &specifier("a"));
+    EXPECT_EQ(peerOf<PSListControllerPeer>(*detail).specifier().get(), &specifier("a"));
     EXPECT_EQ(detail->peer().title(), "Row a");
 }
 
@@ -86,7 +86,7 @@ TEST_F(PSListControllerTapTest, TheRowStaysSelectedUntilTheDetailIsGone) {
     tap("a");
     advance(1s);
     EXPECT_EQ(peer().table().selectedRow(), (IndexPath{0, 0}));
-    UINavigationControllerPeer::of(*navigation_).pop(true);
+    peerOf<UINavigationControllerPeer>(*navigation_).pop(true);
     advance(1s);
     EXPECT_EQ(peer().table().selectedRow(), std::nullopt);
 }
@@ -131,7 +131,7 @@ TEST_F(PSListControllerTapTest, ARowWhoseActionOpensAnotherPageStaysSelectedUnti
     advance(1s);
     EXPECT_EQ(peer().table().selectedRow(), (IndexPath{0, 0}));
     EXPECT_NEAR(shownRed("a"), pressedRed, 1e-6);
-    UINavigationControllerPeer::of(*navigation_).pop(true);
+    peerOf<UINavigationControllerPeer>(*navigation_).pop(true);
     advance(1s);
     EXPECT_EQ(peer().table().selectedRow(), std::nullopt);
 }

@@ -60,10 +60,10 @@ TEST_F(PSListControllerTest, TakesTheTitleOfTheListOrOfTheRowItWasOpenedFrom) {
     show();
     EXPECT_EQ(peer().title(), "The list");
     const auto opened = make<ListedPage>();
-    PSListControllerPeer::of(*opened).setSpecifier(
+    peerOf<PSListControllerPeer>(*opened).setSpecifier(
         make<DesktopSpecifier>(PropertyList::Dictionary{{"label", "The row"}}));
     static_cast<void>(opened->specifiers());
-    EXPECT_EQ(PSListControllerPeer::of(*opened).title(), "The row");
+    EXPECT_EQ(peerOf<PSListControllerPeer>(*opened).title(), "The row");
 }
 
 TEST_F(PSListControllerTest, FindsRowsByIdentifier) {
@@ -223,7 +223,7 @@ TEST_F(PSListControllerTest, ValuesAndReloadsBeforeTheViewIsThereDoNoHarm) {
     writeList({keptRow("PSSwitchCell", "a")});
     const auto page = make<ListedPage>();
     page->reloadSpecifiers();
-    auto& early = PSListControllerPeer::of(*page);
+    auto& early = peerOf<PSListControllerPeer>(*page);
     early.setValue(dynamic_cast<DesktopSpecifier&>(*page->specifierForID("a")), true);
     early.insertSpecifiers(newRows({"b"}), 0, true);
     EXPECT_FALSE(early.isViewLoaded());

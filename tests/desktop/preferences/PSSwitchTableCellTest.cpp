@@ -11,7 +11,7 @@ class PSSwitchTableCellTest : public PageFixture {
 protected:
     UISwitchPeer& switchOf(const std::string& id) {
         const auto control = dynamic_cast<PSControlTableCell&>(cell(id)).control();
-        return UISwitchPeer::of(dynamic_cast<UISwitch&>(*control));
+        return peerOf<UISwitchPeer>(dynamic_cast<UISwitch&>(*control));
     }
 
     void tapSwitch(const std::string& id) {

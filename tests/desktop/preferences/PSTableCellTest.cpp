@@ -64,7 +64,7 @@ const Class bannerClass = Class::define<Banner, UIView>("CellTestBanner");
 const Class noCellClass = Class::define<NoCell>("CellTestNoCell");
 
 ColorComponents colorOf(const UILabel& label) {
-    return DesktopColor::resolve(UILabelPeer::of(label).textColor(), Traits());
+    return DesktopColor::resolve(peerOf<UILabelPeer>(label).textColor(), Traits());
 }
 
 ColorComponents color(SystemColor role) {
@@ -77,11 +77,11 @@ TEST_F(PSTableCellTest, LinksHaveAChevronAndTheirValue) {
     writeList({keptRow("PSLinkCell", "a", text("default", "value")), row("PSLinkCell", "b"),
                row("PSLinkCell", "c", yes("hidesDisclosureIndicator"))});
     show();
-    EXPECT_EQ(UITableViewCellPeer::of(cell("a")).accessoryType(),
+    EXPECT_EQ(peerOf<UITableViewCellPeer>(cell("a")).accessoryType(),
               UITableViewCellAccessoryType::DisclosureIndicator);
     EXPECT_EQ(cell("a").detailTextLabel().text(), "value");
     EXPECT_EQ(cell("b").detailTextLabel().text(), std::nullopt);
-    EXPECT_EQ(UITableViewCellPeer::of(cell("c")).accessoryType(), UITableViewCellAccessoryType::None);
+    EXPECT_EQ(peerOf<UITableViewCellPeer>(cell("c")).accessoryType(), UITableViewCellAccessoryType::None);
 }
 
 TEST_F(PSTableCellTest, ButtonsAreTinted) {
@@ -175,7 +175,7 @@ TEST_F(PSTableCellTest, GroupsHaveHeadersAndFooters) {
     ASSERT_TRUE(header && footer);
     EXPECT_EQ(header->text(), "ROW G");
     EXPECT_EQ(footer->text(), "Below");
-    EXPECT_EQ(UILabelPeer::of(*footer).textAlignment(), NSTextAlignment::Center);
+    EXPECT_EQ(peerOf<UILabelPeer>(*footer).textAlignment(), NSTextAlignment::Center);
     EXPECT_FALSE(peer().table().captionView(1, Edge::Header));
     EXPECT_FALSE(peer().table().captionView(1, Edge::Footer));
 }

@@ -59,7 +59,7 @@ protected:
     /// Taps the middle of a row.
     void tap(const std::string& id);
 
-    [[nodiscard]] PSListControllerPeer& peer() const { return PSListControllerPeer::of(*page_); }
+    [[nodiscard]] PSListControllerPeer& peer() const { return peerOf<PSListControllerPeer>(*page_); }
 
     [[nodiscard]] DesktopSpecifier& specifier(const std::string& id) const;
     [[nodiscard]] ListRow listRow(const std::string& id) const;

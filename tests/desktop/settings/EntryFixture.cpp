@@ -32,7 +32,7 @@ PaneEntry EntryFixture::entry(const std::string& name) {
 
 std::vector<std::string> EntryFixture::labelsOf(const PSListController& page) {
     std::vector<std::string> labels;
-    for (const auto& row : PSListControllerPeer::of(page).rows()) {
+    for (const auto& row : peerOf<PSListControllerPeer>(page).rows()) {
         if (row.cell != "PSGroupCell")
             labels.push_back(row.label);
     }
@@ -40,7 +40,7 @@ std::vector<std::string> EntryFixture::labelsOf(const PSListController& page) {
 }
 
 ListRow EntryFixture::rowOf(const PSListController& page, const std::string& id) {
-    const auto rows = PSListControllerPeer::of(page).rows();
+    const auto rows = peerOf<PSListControllerPeer>(page).rows();
     const auto found = std::ranges::find(rows, id, &ListRow::id);
     EXPECT_NE(found, rows.end()) << id;
     return found == rows.end() ? ListRow() : *found;

@@ -29,7 +29,7 @@ TEST_F(EntryPageTest, KeepsItsRowsUntilItIsAskedToReload) {
     EXPECT_EQ(labelsOf(*page).size(), 2U);
     writeListEntry("plain", 3);
     EXPECT_EQ(labelsOf(*page).size(), 2U);
-    PSListControllerPeer::of(*page).reloadSpecifiers();
+    peerOf<PSListControllerPeer>(*page).reloadSpecifiers();
     EXPECT_EQ(labelsOf(*page).size(), 3U);
 }
 

@@ -69,7 +69,7 @@ TEST_F(HomeViewTest, AnIconUnderAFingerIsDimmed) {
     show(Idiom::Phone);
     auto* const icon = dynamic_cast<UIControl*>(screen->hitTest({57, 106}));
     ASSERT_NE(icon, nullptr);
-    auto& peer = dynamic_cast<UIControlPeer&>(icon->peer());
+    auto& peer = peerOf<UIControlPeer>(*icon);
     const auto& picture = peer.subviews().front();
     EXPECT_EQ(picture->alpha(), 1);
     peer.setHighlighted(true);

@@ -99,5 +99,5 @@ TEST_F(PaneLoaderTest, APlainListIsAPageThatKnowsItsEntry) {
     const auto page = dynamicCast<PSListController>(pageOf("plain"));
     ASSERT_TRUE(page);
     EXPECT_EQ(page->peer().title(), "Plain");
-    EXPECT_EQ(PSListControllerPeer::of(*page).specifier()->propertyForKey("mark"), PropertyList(7));
+    EXPECT_EQ(peerOf<PSListControllerPeer>(*page).specifier()->propertyForKey("mark"), PropertyList(7));
 }

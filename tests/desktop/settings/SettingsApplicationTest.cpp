@@ -39,13 +39,13 @@ protected:
 
     [[nodiscard]] Titles titles() const {
         Titles all;
-        for (const auto& page : UINavigationControllerPeer::of(*application->pages()).stack())
+        for (const auto& page : peerOf<UINavigationControllerPeer>(*application->pages()).stack())
             all.push_back(page->peer().title());
         return all;
     }
 
     [[nodiscard]] std::string topClass() const {
-        return UINavigationControllerPeer::of(*application->pages()).top()->isa().name();
+        return peerOf<UINavigationControllerPeer>(*application->pages()).top()->isa().name();
     }
 
     /// On a tablet: the page in the column.
@@ -53,14 +53,14 @@ protected:
         const auto column =
             dynamicCast<UINavigationController>(application->rootViewController()->peer().children().front());
         EXPECT_TRUE(column);
-        return column ? dynamicCast<PSListController>(UINavigationControllerPeer::of(*column).top())
+        return column ? dynamicCast<PSListController>(peerOf<UINavigationControllerPeer>(*column).top())
                       : nullptr;
     }
 
     [[nodiscard]] std::optional<IndexPath> selectedRow() const {
         const auto page = firstPage();
         EXPECT_TRUE(page);
-        return page ? PSListControllerPeer::of(*page).table().selectedRow() : std::nullopt;
+        return page ? peerOf<PSListControllerPeer>(*page).table().selectedRow() : std::nullopt;
     }
 
     PaneLoader loader;

@@ -41,7 +41,7 @@ protected:
         settle();
     }
 
-    [[nodiscard]] PSListControllerPeer& peer() const { return PSListControllerPeer::of(*page); }
+    [[nodiscard]] PSListControllerPeer& peer() const { return peerOf<PSListControllerPeer>(*page); }
 
     [[nodiscard]] Ref<UIImage> iconOf(const std::string& id) const {
         const auto specifier = dynamicCast<DesktopSpecifier>(page->specifierForID(id));
@@ -52,7 +52,7 @@ protected:
     [[nodiscard]] UITableViewCellAccessoryType accessoryOf(const std::string& id) const {
         const auto cell = dynamicCast<UITableViewCell>(rowOf(*page, id).view);
         EXPECT_TRUE(cell) << id;
-        return cell ? UITableViewCellPeer::of(*cell).accessoryType()
+        return cell ? peerOf<UITableViewCellPeer>(*cell).accessoryType()
                     : UITableViewCellAccessoryType::Checkmark;
     }
 

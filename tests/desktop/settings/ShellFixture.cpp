@@ -40,13 +40,13 @@ void ShellFixture::advance(std::chrono::milliseconds time) {
 
 ShellFixture::Titles ShellFixture::titles() const {
     Titles all;
-    for (const auto& page : UINavigationControllerPeer::of(*shell->settings()->pages()).stack())
+    for (const auto& page : peerOf<UINavigationControllerPeer>(*shell->settings()->pages()).stack())
         all.push_back(page->peer().title());
     return all;
 }
 
 Ref<UIViewController> ShellFixture::topPage() const {
-    return UINavigationControllerPeer::of(*shell->settings()->pages()).top();
+    return peerOf<UINavigationControllerPeer>(*shell->settings()->pages()).top();
 }
 
 CGRect ShellFixture::frameOfSettings() const {

@@ -1,6 +1,6 @@
 // The end of the Settings application.
 
-#include "ApplicationTermination.h"
+#include "system/ApplicationTermination.h"
 #include "ShellFixture.h"
 #include "UIKit/UITextField.h"
 #include "keyboard/Keyboard.h"
@@ -66,10 +66,10 @@ TEST_F(ShellTerminationTest, ABundleWithAnObjectLeftStaysLoaded) {
 TEST_F(ShellTerminationTest, TheSystemsRequestEndsSettingsOnceItsCodeHasReturned) {
     ASSERT_TRUE(shell->openEntry("good"));
     settle();
-    ApplicationTermination::shared().request({.identifier = "com.apple.mobilesafari"});
+    Device::current().terminations().request({.identifier = "com.apple.mobilesafari"});
     settle();
     EXPECT_NE(shell->settings(), nullptr);
-    ApplicationTermination::shared().request({.identifier = "com.apple.Preferences"});
+    Device::current().terminations().request({.identifier = "com.apple.Preferences"});
     EXPECT_NE(shell->settings(), nullptr);
     settle();
     EXPECT_EQ(shell->settings(), nullptr);
@@ -77,7 +77,7 @@ TEST_F(ShellTerminationTest, TheSystemsRequestEndsSettingsOnceItsCodeHasReturned
 }
 
 TEST_F(ShellTerminationTest, ARequestForSettingsThatDoesNotRunDoesNothing) {
-    ApplicationTermination::shared().request({.identifier = "com.apple.Preferences"});
+    Device::current().terminations().request({.identifier = "com.apple.Preferences"});
     settle();
     EXPECT_EQ(shell->app(), "home");
 }

@@ -19,8 +19,8 @@ protected:
     [[nodiscard]] std::string selectedLabel() const {
         auto& columns = shell->settings()->rootViewController()->peer();
         const auto first = dynamicCast<UINavigationController>(columns.children().front());
-        const auto page = dynamicCast<PSListController>(UINavigationControllerPeer::of(*first).top());
-        auto& table = PSListControllerPeer::of(*page).table();
+        const auto page = dynamicCast<PSListController>(peerOf<UINavigationControllerPeer>(*first).top());
+        auto& table = peerOf<PSListControllerPeer>(*page).table();
         const auto row = table.selectedRow();
         return row ? *table.cellForRow(*row)->textLabel().text() : "";
     }
@@ -46,7 +46,7 @@ TEST_F(ShellTest, TheFirstPageHasARowForEachEntry) {
     const auto top = dynamicCast<PSListController>(topPage());
     ASSERT_TRUE(top);
     Titles labels;
-    for (const auto& row : PSListControllerPeer::of(*top).rows()) {
+    for (const auto& row : peerOf<PSListControllerPeer>(*top).rows()) {
         if (row.cell != "PSGroupCell")
             labels.push_back(row.label);
     }
@@ -179,7 +179,7 @@ TEST_F(ShellTest, APlainListOpensAsAPageOfItsRows) {
     const auto top = dynamicCast<PSListController>(topPage());
     ASSERT_TRUE(top);
     EXPECT_EQ(top->peer().title(), "Plain");
-    const auto rows = PSListControllerPeer::of(*top).rows();
+    const auto rows = peerOf<PSListControllerPeer>(*top).rows();
     ASSERT_EQ(rows.size(), 1U);
     EXPECT_EQ(rows[0].label, "Hello");
 }

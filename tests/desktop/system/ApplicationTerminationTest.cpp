@@ -1,4 +1,4 @@
-#include "ApplicationTermination.h"
+#include "system/ApplicationTermination.h"
 
 #include "CoreFoundation/CFString.h"
 #include "DeviceInstaller.h"
@@ -22,11 +22,9 @@ class ApplicationTerminationTest : public testing::Test {
 protected:
     void SetUp() override {
         ASSERT_TRUE(DeviceInstaller(DEVICE_TREE).install(Device::current().root()));
-        ApplicationTermination::shared().setHandler(
+        Device::current().terminations().setHandler(
             [this](const auto& request) { requests.push_back(request); });
     }
-
-    void TearDown() override { ApplicationTermination::shared().setHandler({}); }
 
     TestDevice device;
     Requests requests;
@@ -55,7 +53,7 @@ TEST_F(ApplicationTerminationTest, TheDevicesServicePassesARequestOn) {
 }
 
 TEST_F(ApplicationTerminationTest, WithoutAHandlerNothingHappens) {
-    ApplicationTermination::shared().setHandler({});
-    ApplicationTermination::shared().request({.identifier = "com.apple.Preferences"});
+    Device::current().terminations().setHandler({});
+    Device::current().terminations().request({.identifier = "com.apple.Preferences"});
     EXPECT_TRUE(requests.empty());
 }

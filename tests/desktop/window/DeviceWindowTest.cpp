@@ -55,14 +55,14 @@ TEST_F(DeviceWindowTest, LiftsTheFingerWithoutATapWhenItLosesTheKeyboard) {
 TEST_F(DeviceWindowTest, ScrollsWithTheWheel) {
     const auto scroll = make<UIScrollView>();
     scroll->setFrame(CGRectMake(0, 300, 390, 400));
-    scroll->peer().setContentSize({390, 2000});
+    peerOf<UIScrollViewPeer>(*scroll).setContentSize({390, 2000});
     content_->addSubview(scroll);
     run();
-    const auto before = scroll->peer().contentOffset().y;
+    const auto before = peerOf<UIScrollViewPeer>(*scroll).contentOffset().y;
     QWheelEvent wheel(QPointF(100, 200), QPointF(100, 200), {}, QPoint(0, -120), Qt::NoButton, Qt::NoModifier,
                       Qt::NoScrollPhase, false);
     QCoreApplication::sendEvent(&window_, &wheel);
-    EXPECT_EQ(scroll->peer().contentOffset().y, before + 48);
+    EXPECT_EQ(peerOf<UIScrollViewPeer>(*scroll).contentOffset().y, before + 48);
 }
 
 TEST_F(DeviceWindowTest, MovesTheKeyboardRoundTheElements) {

@@ -40,7 +40,7 @@ TEST_F(WindowAccessibilityTest, BringsTheKeyboardToAnElement) {
 
 TEST_F(WindowAccessibilityTest, TellsOfADisabledControl) {
     EXPECT_FALSE(told().child(0)->state().disabled);
-    dynamic_cast<UIControlPeer&>(first_->peer()).setEnabled(false);
+    peerOf<UIControlPeer>(*first_).setEnabled(false);
     EXPECT_TRUE(told().child(0)->state().disabled);
 }
 

@@ -61,7 +61,7 @@ TEST_F(AccessibilityElementTest, aSwitchIsOneWhoeverMadeIt) {
     show({a});
     const auto control = make<UISwitch>();
     a->view().addSubview(control);
-    UISwitchPeer::of(*control).setOn(true, false);
+    peerOf<UISwitchPeer>(*control).setOn(true, false);
     const auto elements = AccessibilityElement::allIn(a->view());
     ASSERT_EQ(elements.size(), 1U);
     EXPECT_EQ(elements[0].role, AccessibilityRole::Switch);

@@ -88,17 +88,18 @@ TEST_F(UIAlertControllerTest, emphasisesWhatCancelsAndNothingElse) {
     screen.layoutIfNeeded();
     std::vector<FontWeight> weights;
     for (const auto& one : viewOf(shown).buttons())
-        weights.push_back(UILabelPeer::of(labelOf(*one)).fontStyle().weight);
+        weights.push_back(peerOf<UILabelPeer>(labelOf(*one)).fontStyle().weight);
     EXPECT_THAT(weights, ElementsAre(FontWeight::Regular, FontWeight::Regular, FontWeight::Semibold));
     const auto lone = alert({action("OK")});
-    EXPECT_EQ(UILabelPeer::of(labelOf(*viewOf(lone).buttons()[0])).fontStyle().weight, FontWeight::Regular);
+    EXPECT_EQ(peerOf<UILabelPeer>(labelOf(*viewOf(lone).buttons()[0])).fontStyle().weight,
+              FontWeight::Regular);
 }
 
 TEST_F(UIAlertControllerTest, colorsButtonsByTheTintAndWhatDestroysRed) {
     const auto shown = usual();
     present(shown);
     const auto color = [](const AlertButtonView& one) {
-        return DesktopColor::resolve(UILabelPeer::of(labelOf(one)).textColor(), one.peer().traits());
+        return DesktopColor::resolve(peerOf<UILabelPeer>(labelOf(one)).textColor(), one.peer().traits());
     };
     EXPECT_EQ(color(*viewOf(shown).buttons()[0]), systemColor(SystemColor::Blue, Appearance::Light));
     EXPECT_EQ(color(*viewOf(shown).buttons()[1]), systemColor(SystemColor::Red, Appearance::Light));
@@ -253,11 +254,11 @@ TEST_F(UIAlertControllerTest, longTextsScrollWithinTheScreen) {
     EXPECT_LE(CGRectGetMaxY(frame), 844 - 34 - 20);
     EXPECT_NEAR(CGRectGetMaxY(top()->actions()[0].frame), CGRectGetMaxY(frame), 1e-6);
     const auto& texts = dynamic_cast<UIScrollView&>(*top()->shownView().peer().subviews()[2]);
-    EXPECT_DOUBLE_EQ(texts.peer().contentOffset().y, 0);
+    EXPECT_DOUBLE_EQ(peerOf<UIScrollViewPeer>(texts).contentOffset().y, 0);
     drag({195, 500}, {195, 300});
     lift({195, 300});
     settle();
-    EXPECT_GT(texts.peer().contentOffset().y, 100);
+    EXPECT_GT(peerOf<UIScrollViewPeer>(texts).contentOffset().y, 100);
     EXPECT_NE(top(), nullptr);
 }
 

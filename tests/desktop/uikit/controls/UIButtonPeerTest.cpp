@@ -12,14 +12,15 @@ using namespace std::chrono_literals;
 class UIButtonPeerTest : public TouchFixture {
 protected:
     UIButtonPeerTest() {
-        button->peer().setTitle("Cancel");
+        peerOf<UIButtonPeer>(*button).setTitle("Cancel");
         button->setFrame(CGRectMake(100, 200, 100, 40));
         window->addSubview(button);
         screen.layoutIfNeeded();
     }
 
     [[nodiscard]] double shownAlpha() const {
-        return button->peer().titleLabel().layer().peer().shownValue(LayerProperty::Opacity)[0];
+        return peerOf<UIButtonPeer>(*button).titleLabel().layer().peer().shownValue(
+            LayerProperty::Opacity)[0];
     }
 
     Ref<UIButton> button = make<UIButton>();
@@ -38,31 +39,31 @@ TEST_F(UIButtonPeerTest, IsPaleWhilePressed) {
 
 TEST_F(UIButtonPeerTest, ActsWhenTheFingerIsLiftedOnItsTitle) {
     auto actions = 0;
-    button->peer().addHandler(UIControlEvents::TouchUpInside, [&] { ++actions; });
+    peerOf<UIButtonPeer>(*button).addHandler(UIControlEvents::TouchUpInside, [&] { ++actions; });
     tap(150, 220);
     EXPECT_EQ(actions, 1);
 }
 
 TEST_F(UIButtonPeerTest, IsNeverSmallerThanAFingerFinds) {
-    button->peer().setTitle("i");
-    EXPECT_EQ(button->peer().sizeThatFits({}), (CGSize{30, 30}));
-    button->peer().setTitle("A rather long title");
-    const auto title = button->peer().titleLabel().peer().sizeThatFits({});
-    EXPECT_EQ(button->peer().intrinsicWidth(), title.width);
-    EXPECT_EQ(button->peer().intrinsicHeight(), 30);
-    button->peer().setFontStyle({.size = 17});
-    button->peer().setContentInsets({.top = 7, .left = 12, .bottom = 7, .right = 12});
-    const auto larger = button->peer().titleLabel().peer().sizeThatFits({});
+    peerOf<UIButtonPeer>(*button).setTitle("i");
+    EXPECT_EQ(peerOf<UIButtonPeer>(*button).sizeThatFits({}), (CGSize{30, 30}));
+    peerOf<UIButtonPeer>(*button).setTitle("A rather long title");
+    const auto title = peerOf<UIButtonPeer>(*button).titleLabel().peer().sizeThatFits({});
+    EXPECT_EQ(peerOf<UIButtonPeer>(*button).intrinsicWidth(), title.width);
+    EXPECT_EQ(peerOf<UIButtonPeer>(*button).intrinsicHeight(), 30);
+    peerOf<UIButtonPeer>(*button).setFontStyle({.size = 17});
+    peerOf<UIButtonPeer>(*button).setContentInsets({.top = 7, .left = 12, .bottom = 7, .right = 12});
+    const auto larger = peerOf<UIButtonPeer>(*button).titleLabel().peer().sizeThatFits({});
     EXPECT_GT(larger.width, title.width);
-    EXPECT_NEAR(*button->peer().intrinsicHeight(), 34.33, 0.01);
-    EXPECT_EQ(button->peer().intrinsicWidth(), larger.width + 24);
+    EXPECT_NEAR(*peerOf<UIButtonPeer>(*button).intrinsicHeight(), 34.33, 0.01);
+    EXPECT_EQ(peerOf<UIButtonPeer>(*button).intrinsicWidth(), larger.width + 24);
 }
 
 TEST_F(UIButtonPeerTest, ImageStandsBeforeTheTitleAndBothInTheMiddle) {
-    button->peer().setImage(DesktopImage::symbol("gear", 20));
+    peerOf<UIButtonPeer>(*button).setImage(DesktopImage::symbol("gear", 20));
     screen.layoutIfNeeded();
-    const auto image = button->peer().imageView().frame();
-    const auto title = button->peer().titleLabel().frame();
+    const auto image = peerOf<UIButtonPeer>(*button).imageView().frame();
+    const auto title = peerOf<UIButtonPeer>(*button).titleLabel().frame();
     EXPECT_GT(image.size.width, 10);
     EXPECT_DOUBLE_EQ(CGRectGetMaxX(image), title.origin.x);
     EXPECT_NEAR((image.origin.x + CGRectGetMaxX(title)) / 2, 50, 1e-9);
@@ -72,8 +73,8 @@ TEST_F(UIButtonPeerTest, ImageStandsBeforeTheTitleAndBothInTheMiddle) {
 
 TEST_F(UIButtonPeerTest, TitleIsInTheTintUnlessDisabled) {
     const auto color = [&] {
-        return DesktopColor::resolve(UILabelPeer::of(button->peer().titleLabel()).textColor(),
-                                     screen.traits());
+        return DesktopColor::resolve(
+            peerOf<UILabelPeer>(peerOf<UIButtonPeer>(*button).titleLabel()).textColor(), screen.traits());
     };
     const auto of = [&](SystemColor role) {
         return DesktopColor::resolve(DesktopColor::system(role), screen.traits());
@@ -81,18 +82,18 @@ TEST_F(UIButtonPeerTest, TitleIsInTheTintUnlessDisabled) {
     EXPECT_EQ(color(), of(SystemColor::Blue));
     window->peer().setTintColor(DesktopColor::system(SystemColor::Green));
     EXPECT_EQ(color(), of(SystemColor::Green));
-    button->peer().setTitleColor(DesktopColor::system(SystemColor::Red));
+    peerOf<UIButtonPeer>(*button).setTitleColor(DesktopColor::system(SystemColor::Red));
     EXPECT_EQ(color(), of(SystemColor::Red));
-    button->peer().setEnabled(false);
+    peerOf<UIButtonPeer>(*button).setEnabled(false);
     EXPECT_EQ(color(), of(SystemColor::TertiaryLabel));
-    button->peer().setEnabled(true);
+    peerOf<UIButtonPeer>(*button).setEnabled(true);
     EXPECT_EQ(color(), of(SystemColor::Red));
 }
 
 TEST_F(UIButtonPeerTest, TellsItsTitle) {
-    EXPECT_EQ(button->peer().accessibility().label, "Cancel");
-    EXPECT_EQ(button->peer().accessibility().role, AccessibilityRole::Button);
-    EXPECT_EQ(button->peer().shownText(), "Cancel");
+    EXPECT_EQ(peerOf<UIButtonPeer>(*button).accessibility().label, "Cancel");
+    EXPECT_EQ(peerOf<UIButtonPeer>(*button).accessibility().role, AccessibilityRole::Button);
+    EXPECT_EQ(peerOf<UIButtonPeer>(*button).shownText(), "Cancel");
 }
 
 } // namespace

@@ -237,7 +237,7 @@ TEST_F(UIControlTest, ControlMayEndInItsAction) {
     target->control->setFrame(CGRectMake(0, 0, 50, 50));
     window->addSubview(target->control);
     const Weak<UIControl> watched(target->control);
-    dynamic_cast<UIControlPeer&>(target->control->peer()).addHandler(UIControlEvents::TouchDown, [&] {
+    peerOf<UIControlPeer>(*target->control).addHandler(UIControlEvents::TouchDown, [&] {
         watched.strong()->peer().removeFromSuperview();
     });
     target->control->addTarget(*target, "drop", UIControlEvents::TouchDown);

@@ -28,7 +28,7 @@ protected:
 
     ~UISwitchTest() override { screen_.removeWindow(*window_); }
 
-    [[nodiscard]] UISwitchPeer& peer() const { return UISwitchPeer::of(*switch_); }
+    [[nodiscard]] UISwitchPeer& peer() const { return peerOf<UISwitchPeer>(*switch_); }
 
     void down(double x) { finger_.touch(TouchPhase::Began, {x, 115}); }
 

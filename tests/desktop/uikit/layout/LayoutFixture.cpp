@@ -27,7 +27,7 @@ SizedView::SizedView(std::optional<double> width, std::optional<double> height)
     : UIView(std::make_unique<SizedPeer>(width, height)) {}
 
 void SizedView::setIntrinsicWidth(double width) {
-    dynamic_cast<SizedPeer&>(peer()).setWidth(width);
+    peerOf<SizedPeer>(*this).setWidth(width);
 }
 
 LayoutFixture::LayoutFixture() {

@@ -178,7 +178,7 @@ TEST_F(NSLayoutConstraintTest, AConstraintOnAViewThatIsGoneIsLeftOut) {
 
 TEST_F(NSLayoutConstraintTest, ALabelOfSeveralLinesIsAsHighAsItsWidthMakesIt) {
     const auto label = make<UILabel>();
-    UILabelPeer::of(*label).setNumberOfLines(0);
+    peerOf<UILabelPeer>(*label).setNumberOfLines(0);
     label->setText("Rows whose controlling switch is off are hidden and come back when it is turned on.");
     label->peer().setFrameGiven(false);
     host->addSubview(label);

@@ -19,7 +19,7 @@ protected:
             peer().addArrangedSubview(view);
     }
 
-    [[nodiscard]] UIStackViewPeer& peer() const { return stack->stack(); }
+    [[nodiscard]] UIStackViewPeer& peer() const { return peerOf<UIStackViewPeer>(*stack); }
 
     [[nodiscard]] std::vector<double> lefts() const { return all(&CGRect::origin, &CGPoint::x); }
 

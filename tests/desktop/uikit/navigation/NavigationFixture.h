@@ -44,7 +44,7 @@ protected:
     /// Shows the navigation controller with those pages, and forgets what was logged.
     void show(const UINavigationControllerPeer::Stack& pages);
 
-    UINavigationControllerPeer& peer() { return UINavigationControllerPeer::of(*navigation); }
+    UINavigationControllerPeer& peer() { return peerOf<UINavigationControllerPeer>(*navigation); }
 
     NavigationBarContentView& content() { return *peer().bar().content(); }
 

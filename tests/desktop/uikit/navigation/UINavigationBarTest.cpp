@@ -24,7 +24,7 @@ protected:
         scrollView->setAutoresizingMask(UIViewAutoresizing::FlexibleWidth |
                                         UIViewAutoresizing::FlexibleHeight);
         scrollView->setFrame(a->view().bounds());
-        scrollView->peer().setContentSize({390, 2000});
+        peerOf<UIScrollViewPeer>(*scrollView).setContentSize({390, 2000});
         a->view().addSubview(scrollView);
         show({a});
         return scrollView;
@@ -45,7 +45,7 @@ TEST_F(UINavigationBarTest, showsThePagesTitleInTheMiddleAndFollowsIt) {
     EXPECT_EQ(title.peer().shownText(), "Backups");
     EXPECT_NEAR(CGRectGetMidX(screenFrame(title)), 195, 0.5);
     EXPECT_NEAR(CGRectGetMidY(screenFrame(title)), 69, 0.5);
-    EXPECT_EQ(dynamic_cast<UILabelPeer&>(title.peer()).fontStyle(),
+    EXPECT_EQ(peerOf<UILabelPeer>(title).fontStyle(),
               (FontStyle{.size = 17, .weight = FontWeight::Semibold}));
 }
 
@@ -165,19 +165,19 @@ TEST_F(UINavigationBarTest, contentsCrossFadeWhileOnePageGivesWayToAnother) {
 TEST_F(UINavigationBarTest, hasNoBackgroundUntilContentIsBeneathIt) {
     const auto scrollView = showScrollingPage();
     const auto& background = peer().bar().background();
-    EXPECT_DOUBLE_EQ(scrollView->peer().contentOffset().y, -91);
+    EXPECT_DOUBLE_EQ(peerOf<UIScrollViewPeer>(*scrollView).contentOffset().y, -91);
     EXPECT_DOUBLE_EQ(background.alpha(), 0);
-    scrollView->peer().setContentOffset({0, -87});
+    peerOf<UIScrollViewPeer>(*scrollView).setContentOffset({0, -87});
     EXPECT_DOUBLE_EQ(background.alpha(), 0.5);
-    scrollView->peer().setContentOffset({0, 0});
+    peerOf<UIScrollViewPeer>(*scrollView).setContentOffset({0, 0});
     EXPECT_DOUBLE_EQ(background.alpha(), 1);
-    scrollView->peer().setContentOffset({0, -120});
+    peerOf<UIScrollViewPeer>(*scrollView).setContentOffset({0, -120});
     EXPECT_DOUBLE_EQ(background.alpha(), 0);
 }
 
 TEST_F(UINavigationBarTest, eachPageKeepsItsBackgroundAboveItWhileOneSlidesOverTheOther) {
     const auto scrollView = showScrollingPage();
-    scrollView->peer().setContentOffset({0, 300});
+    peerOf<UIScrollViewPeer>(*scrollView).setContentOffset({0, 300});
     const auto b = page("B");
     navigation->pushViewController(b, true);
     const auto& leaving = peer().bar().leavingBackground();
@@ -208,17 +208,17 @@ TEST_F(UINavigationBarTest, eachPageKeepsItsBackgroundAboveItWhileOneSlidesOverT
 TEST_F(UINavigationBarTest, theLargeTitleIsScrolledUnderTheBarAndTheSmallOneTakesItsPlace) {
     peer().setPrefersLargeTitles(true);
     const auto scrollView = showScrollingPage();
-    EXPECT_DOUBLE_EQ(scrollView->peer().contentOffset().y, -143);
+    EXPECT_DOUBLE_EQ(peerOf<UIScrollViewPeer>(*scrollView).contentOffset().y, -143);
     EXPECT_DOUBLE_EQ(titleAlpha(), 0);
-    scrollView->peer().setContentOffset({0, -123});
+    peerOf<UIScrollViewPeer>(*scrollView).setContentOffset({0, -123});
     EXPECT_EQ(screenFrame(peer().bar()), CGRectMake(0, 47, 390, 76));
     EXPECT_DOUBLE_EQ(peer().bar().background().alpha(), 0);
-    scrollView->peer().setContentOffset({0, -95});
+    peerOf<UIScrollViewPeer>(*scrollView).setContentOffset({0, -95});
     EXPECT_DOUBLE_EQ(titleAlpha(), 1);
-    scrollView->peer().setContentOffset({0, 0});
+    peerOf<UIScrollViewPeer>(*scrollView).setContentOffset({0, 0});
     EXPECT_EQ(screenFrame(peer().bar()), CGRectMake(0, 47, 390, 44));
     EXPECT_DOUBLE_EQ(peer().bar().background().alpha(), 1);
-    scrollView->peer().setContentOffset({0, -143});
+    peerOf<UIScrollViewPeer>(*scrollView).setContentOffset({0, -143});
     EXPECT_DOUBLE_EQ(titleAlpha(), 0);
 }
 
@@ -226,7 +226,7 @@ TEST_F(UINavigationBarTest, theLargeTitleIsThereAgainAfterTheWayBackAndOnIt) {
     peer().setPrefersLargeTitles(true);
     const auto scrollView = showScrollingPage();
     for (const auto offset : {-143.0, 20.0}) {
-        scrollView->peer().setContentOffset({0, offset});
+        peerOf<UIScrollViewPeer>(*scrollView).setContentOffset({0, offset});
         const auto before = screenFrame(peer().bar());
         const auto small = titleAlpha();
         navigation->pushViewController(page("B"), true);
@@ -235,7 +235,7 @@ TEST_F(UINavigationBarTest, theLargeTitleIsThereAgainAfterTheWayBackAndOnIt) {
         advance(std::chrono::milliseconds(100));
         EXPECT_DOUBLE_EQ(content().height(), before.size.height);
         settle();
-        EXPECT_DOUBLE_EQ(scrollView->peer().contentOffset().y, offset);
+        EXPECT_DOUBLE_EQ(peerOf<UIScrollViewPeer>(*scrollView).contentOffset().y, offset);
         EXPECT_EQ(screenFrame(peer().bar()), before);
         EXPECT_DOUBLE_EQ(titleAlpha(), small);
     }
@@ -249,7 +249,7 @@ TEST_F(UINavigationBarTest, theLargeTitleMovesWithItsPage) {
     drag({5, 400}, {210, 400}, 40);
     const auto& large = *content().peer().subviews().front();
     ASSERT_EQ(large.isa().name(), "LargeTitleView");
-    EXPECT_DOUBLE_EQ(scrollView->peer().contentOffset().y, -143);
+    EXPECT_DOUBLE_EQ(peerOf<UIScrollViewPeer>(*scrollView).contentOffset().y, -143);
     const auto pageLeft = screenFrame(a->view()).origin.x;
     EXPECT_LT(pageLeft, -40);
     EXPECT_NEAR(screenFrame(large).origin.x, pageLeft, 1e-6);
@@ -265,11 +265,11 @@ TEST_F(UINavigationBarTest, theLargeTitleComesToRestOpenOrClosed) {
         settle();
     };
     dragUpBy(20);
-    EXPECT_DOUBLE_EQ(scrollView->peer().contentOffset().y, -143);
+    EXPECT_DOUBLE_EQ(peerOf<UIScrollViewPeer>(*scrollView).contentOffset().y, -143);
     dragUpBy(35);
-    EXPECT_DOUBLE_EQ(scrollView->peer().contentOffset().y, -91);
+    EXPECT_DOUBLE_EQ(peerOf<UIScrollViewPeer>(*scrollView).contentOffset().y, -91);
     dragUpBy(100);
-    EXPECT_DOUBLE_EQ(scrollView->peer().contentOffset().y, 9);
+    EXPECT_DOUBLE_EQ(peerOf<UIScrollViewPeer>(*scrollView).contentOffset().y, 9);
 }
 
 TEST_F(UINavigationBarTest, theRoomOfTheLargeTitleBelongsToThePageWhenItIsTouched) {

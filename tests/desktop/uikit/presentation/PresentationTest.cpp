@@ -87,7 +87,7 @@ TEST_F(PresentationTest, aPageInsideAsksTheOutermostControllerToPresentAndToDism
 
 TEST_F(PresentationTest, whatIsPresentedIsDismissedByWhoeverAsksForIt) {
     const auto inNavigation = make<UINavigationController>();
-    UINavigationControllerPeer::of(*inNavigation).push(sheet, false);
+    peerOf<UINavigationControllerPeer>(*inNavigation).push(sheet, false);
     for (UIViewController* asking : std::initializer_list<UIViewController*>{
              navigation.get(), peer().top().get(), inNavigation.get(), sheet.get()}) {
         present(inNavigation);
@@ -252,7 +252,7 @@ TEST_F(PresentationTest, noTouchGetsThroughToWhatIsBeneath) {
     auto touched = 0;
     const auto button = make<UIControl>();
     button->setFrame(window->bounds());
-    dynamic_cast<UIControlPeer&>(button->peer()).addHandler(UIControlEvents::TouchDown, [&] { ++touched; });
+    peerOf<UIControlPeer>(*button).addHandler(UIControlEvents::TouchDown, [&] { ++touched; });
     peer().top()->view().addSubview(button);
     const auto tapEverywhere = [this] {
         for (const auto y : {200.0, 400.0, 700.0})
@@ -280,9 +280,7 @@ TEST_F(PresentationTest, aFingerThatIsDownBeneathIsTakenAway) {
     auto cancelled = 0;
     const auto button = make<UIControl>();
     button->setFrame(window->bounds());
-    dynamic_cast<UIControlPeer&>(button->peer()).addHandler(UIControlEvents::TouchCancel, [&] {
-        ++cancelled;
-    });
+    peerOf<UIControlPeer>(*button).addHandler(UIControlEvents::TouchCancel, [&] { ++cancelled; });
     peer().top()->view().addSubview(button);
     touches.touch(TouchPhase::Began, {195, 400});
     present(sheet, true);

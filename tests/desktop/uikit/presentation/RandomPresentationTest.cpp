@@ -46,7 +46,7 @@ protected:
     static void addScroll(UIViewController& sheet) {
         const auto scroll = make<UIScrollView>();
         scroll->setFrame(CGRectMake(0, 100, 390, 600));
-        scroll->peer().setContentSize({390, 2000});
+        peerOf<UIScrollViewPeer>(*scroll).setContentSize({390, 2000});
         sheet.view().addSubview(scroll);
     }
 

@@ -27,7 +27,7 @@ protected:
     SheetPanTest() {
         present(sheet);
         scroll->setFrame(CGRectMake(0, 200, 390, 587));
-        scroll->peer().setContentSize({390, 3000});
+        peerOf<UIScrollViewPeer>(*scroll).setContentSize({390, 3000});
         sheet->view().addSubview(scroll);
         screen.layoutIfNeeded();
     }
@@ -43,11 +43,11 @@ protected:
 TEST_P(SheetPanTest, decidesWhetherTheSheetOrItsContentMoves) {
     const auto& [name, offset, movement, sheetMoves, contentMoves] = GetParam();
     const auto before = offset.value_or(0);
-    scroll->peer().setContentOffset({0, before});
+    peerOf<UIScrollViewPeer>(*scroll).setContentOffset({0, before});
     const CGPoint from{195, offset ? 500.0 : 150.0};
     drag(from, {from.x + movement.x, from.y + movement.y});
     EXPECT_EQ(cardTop() != 57, sheetMoves);
-    EXPECT_EQ(scroll->peer().contentOffset().y != before, contentMoves);
+    EXPECT_EQ(peerOf<UIScrollViewPeer>(*scroll).contentOffset().y != before, contentMoves);
 }
 
 INSTANTIATE_TEST_SUITE_P(Draws, SheetPanTest,
@@ -77,8 +77,8 @@ TEST_F(SheetPanTest, leavesContentThatMovesToTheFingerThatStopsIt) {
     drag({195, 700}, {195, 300}, 4);
     lift({195, 300});
     advance(std::chrono::milliseconds(100));
-    ASSERT_TRUE(scroll->peer().isMoving());
+    ASSERT_TRUE(peerOf<UIScrollViewPeer>(*scroll).isMoving());
     touches.touch(TouchPhase::Began, {195, 500});
-    EXPECT_FALSE(scroll->peer().isMoving());
+    EXPECT_FALSE(peerOf<UIScrollViewPeer>(*scroll).isMoving());
     lift({195, 500});
 }

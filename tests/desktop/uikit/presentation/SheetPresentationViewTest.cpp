@@ -360,7 +360,7 @@ TEST_F(SheetPresentationViewTest, tellsOfThePageOfItsNavigationController) {
     const auto telling = make<TellingController>();
     const auto field = make<FieldView>();
     telling->view().addSubview(field);
-    UINavigationControllerPeer::of(*inner).push(telling, false);
+    peerOf<UINavigationControllerPeer>(*inner).push(telling, false);
     present(inner);
     const auto details = top()->details();
     ASSERT_TRUE(details);

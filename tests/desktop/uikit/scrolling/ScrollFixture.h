@@ -48,7 +48,7 @@ public:
 /// A scroll view of 300 x 600 points at (0, 100), clear of the safe area, with content of 300 x 2000.
 class ScrollFixture : public TouchFixture {
 protected:
-    ScrollFixture() : peer(dynamic_cast<RecordingScrollPeer&>(scroll->peer())) {
+    ScrollFixture() : peer(peerOf<RecordingScrollPeer>(*scroll)) {
         scroll->setFrame(CGRectMake(0, 100, 300, 600));
         content->setFrame(CGRectMake(0, 0, 300, 2000));
         scroll->addSubview(content);

@@ -178,15 +178,15 @@ TEST_F(UIScrollViewPeerMotionTest, MayEndWhileItMoves) {
         owner->setFrame(screen.bounds());
         window->addSubview(owner);
         owner->addSubview(ending);
-        ending->peer().setContentSize({390, 2000});
+        peerOf<UIScrollViewPeer>(*ending).setContentSize({390, 2000});
         ending->setFrame(screen.bounds());
-        ending->peer().setContentOffset({0, 500}, true);
+        peerOf<UIScrollViewPeer>(*ending).setContentOffset({0, 500}, true);
         advance(50ms);
         owner->peer().removeFromSuperview();
     }
     EXPECT_FALSE(ending->peer().superview());
     settle();
-    EXPECT_EQ(ending->peer().contentOffset().y, 500);
+    EXPECT_EQ(peerOf<UIScrollViewPeer>(*ending).contentOffset().y, 500);
     EXPECT_EQ(watched.strong(), ending);
 }
 

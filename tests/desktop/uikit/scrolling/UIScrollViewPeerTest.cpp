@@ -137,16 +137,16 @@ TEST_F(UIScrollViewPeerTest, TallerViewComesBackWithinTheEdges) {
 TEST_F(UIScrollViewPeerTest, StartsBelowTheSafeArea) {
     const auto full = make<UIScrollView>();
     full->setFrame(screen.bounds());
-    full->peer().setContentSize({390, 2000});
-    full->peer().setContentInset({.top = 10, .left = 0, .bottom = 5, .right = 0});
+    peerOf<UIScrollViewPeer>(*full).setContentSize({390, 2000});
+    peerOf<UIScrollViewPeer>(*full).setContentInset({.top = 10, .left = 0, .bottom = 5, .right = 0});
     window->addSubview(full);
     screen.layoutIfNeeded();
-    EXPECT_EQ(full->peer().contentOffset(), (CGPoint{0, -57}));
-    EXPECT_EQ(full->peer().adjustedContentInset(),
+    EXPECT_EQ(peerOf<UIScrollViewPeer>(*full).contentOffset(), (CGPoint{0, -57}));
+    EXPECT_EQ(peerOf<UIScrollViewPeer>(*full).adjustedContentInset(),
               (UIEdgeInsets{.top = 57, .left = 0, .bottom = 39, .right = 0}));
-    EXPECT_EQ(full->peer().maximumOffset().y, 2000 + 39 - 844);
+    EXPECT_EQ(peerOf<UIScrollViewPeer>(*full).maximumOffset().y, 2000 + 39 - 844);
     window->peer().setAdditionalSafeAreaInsets({.top = 91, .left = 0, .bottom = 34, .right = 0});
-    EXPECT_EQ(full->peer().contentOffset(), (CGPoint{0, -101})) << "the bar grew";
+    EXPECT_EQ(peerOf<UIScrollViewPeer>(*full).contentOffset(), (CGPoint{0, -101})) << "the bar grew";
     full->peer().removeFromSuperview();
 }
 
@@ -155,11 +155,11 @@ TEST_F(UIScrollViewPeerTest, StaysAtTheTopWhenItLeavesTheSafeAreasEdgeAndItsCont
     full->setFrame(screen.bounds());
     window->addSubview(full);
     screen.layoutIfNeeded();
-    EXPECT_EQ(full->peer().contentOffset().y, -47);
+    EXPECT_EQ(peerOf<UIScrollViewPeer>(*full).contentOffset().y, -47);
     full->setFrame(CGRectMake(0, 57, 390, 787));
-    full->peer().setContentSize({390, 785});
+    peerOf<UIScrollViewPeer>(*full).setContentSize({390, 785});
     screen.layoutIfNeeded();
-    EXPECT_EQ(full->peer().contentOffset().y, 0);
+    EXPECT_EQ(peerOf<UIScrollViewPeer>(*full).contentOffset().y, 0);
     full->peer().removeFromSuperview();
 }
 
@@ -198,18 +198,18 @@ TEST_F(UIScrollViewPeerTest, OthersHearOfEachChange) {
 TEST_F(UIScrollViewPeerTest, SidewaysContentsWithinScrollOnTheirOwn) {
     const auto strip = make<UIScrollView>();
     strip->setFrame(CGRectMake(0, 300, 300, 100));
-    strip->peer().setContentSize({1000, 100});
+    peerOf<UIScrollViewPeer>(*strip).setContentSize({1000, 100});
     content->addSubview(strip);
     down(200, 450);
     move(150, 450);
-    EXPECT_EQ(strip->peer().contentOffset(), (CGPoint{40, 0}));
+    EXPECT_EQ(peerOf<UIScrollViewPeer>(*strip).contentOffset(), (CGPoint{40, 0}));
     EXPECT_EQ(offset(), 0);
     up(150, 450);
     settle();
     down(200, 450);
     move(200, 400);
     EXPECT_EQ(offset(), 40);
-    EXPECT_FALSE(strip->peer().isDragging());
+    EXPECT_FALSE(peerOf<UIScrollViewPeer>(*strip).isDragging());
 }
 
 } // namespace

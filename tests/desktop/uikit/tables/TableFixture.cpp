@@ -13,7 +13,7 @@ std::optional<double> NotedContent::rowHeight(IndexPath row) {
 }
 
 Ref<UITableViewCell> NotedContent::cellForRow(IndexPath row) {
-    auto cell = UITableViewPeer::of(table_).dequeueReusableCell(reuseIdentifier);
+    auto cell = peerOf<UITableViewPeer>(table_).dequeueReusableCell(reuseIdentifier);
     if (!cell) {
         ++cellsMade;
         cell = adopt(new UITableViewCell);

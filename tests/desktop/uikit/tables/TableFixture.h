@@ -88,7 +88,7 @@ protected:
     /// The middle of a row, on the screen.
     [[nodiscard]] CGPoint middleOf(IndexPath row);
 
-    [[nodiscard]] UITableViewPeer& peer() const { return UITableViewPeer::of(*table_); }
+    [[nodiscard]] UITableViewPeer& peer() const { return peerOf<UITableViewPeer>(*table_); }
 
     [[nodiscard]] UITableViewCell& cell(IndexPath row) const;
     /// Where a row is seen now, on its way.

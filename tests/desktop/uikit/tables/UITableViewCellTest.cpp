@@ -42,8 +42,8 @@ TEST_F(UITableViewCellTest, TheDetailStandsAtTheRightEdge) {
     cell->detailTextLabel().setText("Detail");
     layOut(*cell);
     EXPECT_NEAR(CGRectGetMaxX(cell->detailTextLabel().frame()), 342, 0.01);
-    EXPECT_FALSE(UILabelPeer::of(cell->detailTextLabel()).isTruncated());
-    EXPECT_FALSE(UILabelPeer::of(cell->textLabel()).isTruncated());
+    EXPECT_FALSE(peerOf<UILabelPeer>(cell->detailTextLabel()).isTruncated());
+    EXPECT_FALSE(peerOf<UILabelPeer>(cell->textLabel()).isTruncated());
 }
 
 TEST_F(UITableViewCellTest, TheTitleHasPriorityUnlessToldOtherwise) {
@@ -51,15 +51,15 @@ TEST_F(UITableViewCellTest, TheTitleHasPriorityUnlessToldOtherwise) {
     cell->textLabel().setText("A title of some width");
     cell->detailTextLabel().setText(longText);
     layOut(*cell);
-    const auto& title = UILabelPeer::of(cell->textLabel());
-    const auto& detail = UILabelPeer::of(cell->detailTextLabel());
+    const auto& title = peerOf<UILabelPeer>(cell->textLabel());
+    const auto& detail = peerOf<UILabelPeer>(cell->detailTextLabel());
     EXPECT_FALSE(title.isTruncated());
     EXPECT_TRUE(detail.isTruncated());
     EXPECT_LE(CGRectGetMaxX(cell->textLabel().frame()) + 6, cell->detailTextLabel().frame().origin.x + 0.01);
 
     cell->detailTextLabel().setText("A detail of some width");
     cell->textLabel().setText(longText);
-    UITableViewCellPeer::of(*cell).setDetailHasPriority(true);
+    peerOf<UITableViewCellPeer>(*cell).setDetailHasPriority(true);
     layOut(*cell);
     EXPECT_TRUE(title.isTruncated());
     EXPECT_FALSE(detail.isTruncated());
@@ -80,15 +80,15 @@ TEST_F(UITableViewCellTest, AShortDetailStaysBesideATitleThatLeavesItRoom) {
     cell->detailTextLabel().setText("1");
     layOut(*cell);
     EXPECT_GT(cell->detailTextLabel().frame().size.width, 0);
-    EXPECT_FALSE(UILabelPeer::of(cell->detailTextLabel()).isTruncated());
+    EXPECT_FALSE(peerOf<UILabelPeer>(cell->detailTextLabel()).isTruncated());
 }
 
 TEST_F(UITableViewCellTest, ASubtitleMakesTheRowHigher) {
     const auto cell = cellOf(UITableViewCellStyle::Subtitle);
     cell->textLabel().setText("Title");
-    EXPECT_EQ(UITableViewCellPeer::of(*cell).heightFor(358), 44);
+    EXPECT_EQ(peerOf<UITableViewCellPeer>(*cell).heightFor(358), 44);
     cell->detailTextLabel().setText("Subtitle");
-    EXPECT_NEAR(UITableViewCellPeer::of(*cell).heightFor(358), 59.33, 0.4);
+    EXPECT_NEAR(peerOf<UITableViewCellPeer>(*cell).heightFor(358), 59.33, 0.4);
     cell->setFrame(CGRectMake(0, 0, 358, 60));
     layOut(*cell);
     EXPECT_GE(cell->detailTextLabel().frame().origin.y, CGRectGetMaxY(cell->textLabel().frame()));
@@ -97,10 +97,11 @@ TEST_F(UITableViewCellTest, ASubtitleMakesTheRowHigher) {
 TEST_F(UITableViewCellTest, WrappedTextsMakeTheRowHigher) {
     const auto cell = cellOf(UITableViewCellStyle::Default);
     cell->textLabel().setText(longText);
-    EXPECT_EQ(UITableViewCellPeer::of(*cell).heightFor(358), 44);
-    UILabelPeer::of(cell->textLabel()).setNumberOfLines(0);
-    EXPECT_NEAR(UITableViewCellPeer::of(*cell).heightFor(358), 2 * 20.33 + 23.33, 0.7);
-    EXPECT_GT(UITableViewCellPeer::of(*cell).heightFor(150), UITableViewCellPeer::of(*cell).heightFor(358));
+    EXPECT_EQ(peerOf<UITableViewCellPeer>(*cell).heightFor(358), 44);
+    peerOf<UILabelPeer>(cell->textLabel()).setNumberOfLines(0);
+    EXPECT_NEAR(peerOf<UITableViewCellPeer>(*cell).heightFor(358), 2 * 20.33 + 23.33, 0.7);
+    EXPECT_GT(peerOf<UITableViewCellPeer>(*cell).heightFor(150),
+              peerOf<UITableViewCellPeer>(*cell).heightFor(358));
 }
 
 TEST_F(UITableViewCellTest, TheChevronStandsBeforeTheEdge) {
@@ -156,32 +157,32 @@ TEST_F(UITableViewCellTest, LargeImagesAreShownSmaller) {
 TEST_F(UITableViewCellTest, APressedRowHasNoSeparator) {
     const auto cell = cellOf(UITableViewCellStyle::Default);
     const auto& separator = cell->peer().subviews().front()->peer().subviews()[2]->peer();
-    UITableViewCellPeer::of(*cell).setPlaceInCard(false, false);
-    UITableViewCellPeer::of(*cell).setHighlighted(true);
+    peerOf<UITableViewCellPeer>(*cell).setPlaceInCard(false, false);
+    peerOf<UITableViewCellPeer>(*cell).setHighlighted(true);
     EXPECT_TRUE(separator.isHidden());
-    UITableViewCellPeer::of(*cell).setHighlighted(false);
+    peerOf<UITableViewCellPeer>(*cell).setHighlighted(false);
     EXPECT_FALSE(separator.isHidden());
-    UITableViewCellPeer::of(*cell).setSelected(true, false);
+    peerOf<UITableViewCellPeer>(*cell).setSelected(true, false);
     EXPECT_TRUE(separator.isHidden());
 }
 
 TEST_F(UITableViewCellTest, TheSeparatorComesBackAsTheSelectionFades) {
     const auto cell = cellOf(UITableViewCellStyle::Default);
     const auto& separator = *cell->peer().subviews().front()->peer().subviews()[2];
-    UITableViewCellPeer::of(*cell).setPlaceInCard(false, false);
-    UITableViewCellPeer::of(*cell).setSelected(true, false);
-    UITableViewCellPeer::of(*cell).setSelectionFade(0.25);
+    peerOf<UITableViewCellPeer>(*cell).setPlaceInCard(false, false);
+    peerOf<UITableViewCellPeer>(*cell).setSelected(true, false);
+    peerOf<UITableViewCellPeer>(*cell).setSelectionFade(0.25);
     EXPECT_FALSE(separator.peer().isHidden());
     EXPECT_EQ(separator.alpha(), 0.25);
-    UITableViewCellPeer::of(*cell).setSelected(false, false);
+    peerOf<UITableViewCellPeer>(*cell).setSelected(false, false);
     EXPECT_EQ(separator.alpha(), 1);
 }
 
 TEST_F(UITableViewCellTest, TheLastRowOfACardHasNoSeparator) {
     const auto cell = cellOf(UITableViewCellStyle::Default);
     const auto& separator = cell->peer().subviews().front()->peer().subviews()[2]->peer();
-    UITableViewCellPeer::of(*cell).setPlaceInCard(true, false);
+    peerOf<UITableViewCellPeer>(*cell).setPlaceInCard(true, false);
     EXPECT_FALSE(separator.isHidden());
-    UITableViewCellPeer::of(*cell).setPlaceInCard(false, true);
+    peerOf<UITableViewCellPeer>(*cell).setPlaceInCard(false, true);
     EXPECT_TRUE(separator.isHidden());
 }

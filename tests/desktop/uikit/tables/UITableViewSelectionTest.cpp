@@ -28,15 +28,15 @@ TEST_F(UITableViewSelectionTest, ATapSelects) {
     advance(1s);
     EXPECT_EQ(content_.selected, (Paths{{0, 2}}));
     EXPECT_EQ(peer().selectedRow(), (IndexPath{0, 2}));
-    EXPECT_TRUE(UITableViewCellPeer::of(cell({0, 2})).isSelected());
-    EXPECT_FALSE(UITableViewCellPeer::of(cell({0, 2})).isHighlighted());
+    EXPECT_TRUE(peerOf<UITableViewCellPeer>(cell({0, 2})).isSelected());
+    EXPECT_FALSE(peerOf<UITableViewCellPeer>(cell({0, 2})).isHighlighted());
 }
 
 TEST_F(UITableViewSelectionTest, AFingerThatRestsHighlights) {
     touch(TouchPhase::Began, middleOf({0, 2}));
-    EXPECT_FALSE(UITableViewCellPeer::of(cell({0, 2})).isHighlighted());
+    EXPECT_FALSE(peerOf<UITableViewCellPeer>(cell({0, 2})).isHighlighted());
     advance(200ms);
-    EXPECT_TRUE(UITableViewCellPeer::of(cell({0, 2})).isHighlighted());
+    EXPECT_TRUE(peerOf<UITableViewCellPeer>(cell({0, 2})).isHighlighted());
     EXPECT_NEAR(shownRed({0, 2}), pressedRed, 0.01);
     EXPECT_TRUE(content_.selected.empty());
     touch(TouchPhase::Ended, middleOf({0, 2}));
@@ -51,7 +51,7 @@ TEST_F(UITableViewSelectionTest, ADragTakesTheHighlightAway) {
         place.y -= 10;
         touch(TouchPhase::Moved, place);
     }
-    EXPECT_FALSE(UITableViewCellPeer::of(cell({0, 5})).isHighlighted());
+    EXPECT_FALSE(peerOf<UITableViewCellPeer>(cell({0, 5})).isHighlighted());
     touch(TouchPhase::Ended, place);
     advance(3s);
     EXPECT_TRUE(content_.selected.empty());
@@ -61,7 +61,7 @@ TEST_F(UITableViewSelectionTest, ACancelledTouchSelectsNothing) {
     touch(TouchPhase::Began, middleOf({0, 2}));
     advance(200ms);
     touch(TouchPhase::Cancelled, middleOf({0, 2}));
-    EXPECT_FALSE(UITableViewCellPeer::of(cell({0, 2})).isHighlighted());
+    EXPECT_FALSE(peerOf<UITableViewCellPeer>(cell({0, 2})).isHighlighted());
     EXPECT_TRUE(content_.selected.empty());
 }
 
@@ -69,7 +69,7 @@ TEST_F(UITableViewSelectionTest, SomeRowsCannotBeSelected) {
     content_.unselectable.insert({0, 2});
     touch(TouchPhase::Began, middleOf({0, 2}));
     advance(200ms);
-    EXPECT_FALSE(UITableViewCellPeer::of(cell({0, 2})).isHighlighted());
+    EXPECT_FALSE(peerOf<UITableViewCellPeer>(cell({0, 2})).isHighlighted());
     touch(TouchPhase::Ended, middleOf({0, 2}));
     EXPECT_TRUE(content_.selected.empty());
 }
@@ -80,8 +80,8 @@ TEST_F(UITableViewSelectionTest, AnotherRowTakesTheSelection) {
     tap(middleOf({0, 4}));
     advance(1s);
     EXPECT_EQ(content_.selected, (Paths{{0, 2}, {0, 4}}));
-    EXPECT_FALSE(UITableViewCellPeer::of(cell({0, 2})).isSelected());
-    EXPECT_TRUE(UITableViewCellPeer::of(cell({0, 4})).isSelected());
+    EXPECT_FALSE(peerOf<UITableViewCellPeer>(cell({0, 2})).isSelected());
+    EXPECT_TRUE(peerOf<UITableViewCellPeer>(cell({0, 4})).isSelected());
 }
 
 TEST_F(UITableViewSelectionTest, TheSelectedRowDoesNotLookSoWhileAnotherOneIsPressed) {
@@ -144,8 +144,8 @@ TEST_F(UITableViewSelectionTest, TheSelectedRowStaysSoWhenItComesBack) {
     EXPECT_FALSE(peer().cellForRow({0, 1}));
     peer().setContentOffset({0, 0});
     layOut();
-    EXPECT_TRUE(UITableViewCellPeer::of(cell({0, 1})).isSelected());
-    EXPECT_FALSE(UITableViewCellPeer::of(cell({0, 2})).isSelected());
+    EXPECT_TRUE(peerOf<UITableViewCellPeer>(cell({0, 1})).isSelected());
+    EXPECT_FALSE(peerOf<UITableViewCellPeer>(cell({0, 2})).isSelected());
 }
 
 TEST_F(UITableViewSelectionTest, ReloadingForgetsTheSelection) {
@@ -153,5 +153,5 @@ TEST_F(UITableViewSelectionTest, ReloadingForgetsTheSelection) {
     peer().reloadData();
     layOut();
     EXPECT_EQ(peer().selectedRow(), std::nullopt);
-    EXPECT_FALSE(UITableViewCellPeer::of(cell({0, 1})).isSelected());
+    EXPECT_FALSE(peerOf<UITableViewCellPeer>(cell({0, 1})).isSelected());
 }

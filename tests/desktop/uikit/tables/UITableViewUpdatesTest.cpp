@@ -124,7 +124,7 @@ TEST_F(UITableViewUpdatesTest, TheSelectionMovesWithItsRow) {
     content_.sections[0].rows.erase(content_.sections[0].rows.begin());
     peer().deleteRows({{0, 0}});
     EXPECT_EQ(peer().selectedRow(), (IndexPath{0, 2}));
-    EXPECT_TRUE(UITableViewCellPeer::of(cell({0, 2})).isSelected());
+    EXPECT_TRUE(peerOf<UITableViewCellPeer>(cell({0, 2})).isSelected());
 }
 
 TEST_F(UITableViewUpdatesTest, RowsThatDoNotAgreeAreShownAnewWithALogLine) {

@@ -10,7 +10,7 @@ class TextFieldFixture : public TouchFixture {
 protected:
     TextFieldFixture();
 
-    [[nodiscard]] UITextFieldPeer& peer() const { return UITextFieldPeer::of(*field); }
+    [[nodiscard]] UITextFieldPeer& peer() const { return peerOf<UITextFieldPeer>(*field); }
 
     /// Another one, below.
     [[nodiscard]] Ref<UITextField> addField() const;

@@ -45,9 +45,9 @@ protected:
 
     Ref<UIView> makeScrollView() {
         const auto scroll = make<UIScrollView>();
-        scroll->peer().setContentSize({within(800), within(2000)});
-        scroll->peer().setDelaysContentTouches(below(3) != 0);
-        scroll->peer().addScrollHandler([this] {
+        peerOf<UIScrollViewPeer>(*scroll).setContentSize({within(800), within(2000)});
+        peerOf<UIScrollViewPeer>(*scroll).setDelaysContentTouches(below(3) != 0);
+        peerOf<UIScrollViewPeer>(*scroll).addScrollHandler([this] {
             ++scrolls;
             if (below(40) == 0)
                 disturb();
@@ -135,7 +135,7 @@ protected:
             return;
         case 5:
             if (auto* const scroll = dynamic_cast<UIScrollView*>(view.get()))
-                scroll->peer().setContentOffset({0, within(500)}, below(2) == 0);
+                peerOf<UIScrollViewPeer>(*scroll).setContentOffset({0, within(500)}, below(2) == 0);
             return;
         case 6:
             AnimationGroup::run({.duration = std::chrono::milliseconds(below(400))}, remove, {});

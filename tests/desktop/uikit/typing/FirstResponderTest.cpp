@@ -28,11 +28,11 @@ TEST_F(FirstResponderTest, IsOneAtATime) {
     responder_.set(peer());
     EXPECT_EQ(changes_, 1);
     EXPECT_TRUE(field->isFirstResponder());
-    responder_.set(UITextFieldPeer::of(*other));
+    responder_.set(peerOf<UITextFieldPeer>(*other));
     EXPECT_EQ(changes_, 2);
     EXPECT_FALSE(field->isFirstResponder());
     responder_.remove(peer());
-    EXPECT_EQ(responder_.input(), &UITextFieldPeer::of(*other));
+    EXPECT_EQ(responder_.input(), &peerOf<UITextFieldPeer>(*other));
     responder_.clear();
     EXPECT_FALSE(other->isFirstResponder());
     EXPECT_EQ(changes_, 3);
@@ -43,7 +43,7 @@ TEST_F(FirstResponderTest, KeepsNothingAlive) {
     {
         const auto loose = make<UITextField>();
         weak = loose;
-        responder_.set(UITextFieldPeer::of(*loose));
+        responder_.set(peerOf<UITextFieldPeer>(*loose));
         EXPECT_NE(responder_.input(), nullptr);
     }
     EXPECT_EQ(weak.strong(), nullptr);

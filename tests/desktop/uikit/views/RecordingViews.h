@@ -19,7 +19,7 @@ class RecordingControl final : public UIControl {
 public:
     explicit RecordingControl(std::vector<std::string>& events);
 
-    [[nodiscard]] UIControlPeer& controlPeer() const { return dynamic_cast<UIControlPeer&>(peer()); }
+    [[nodiscard]] UIControlPeer& controlPeer() const { return peerOf<UIControlPeer>(*this); }
 
     // UIControl:
     bool beginTrackingWithTouch(UITouch& touch, UIEvent* event) override;

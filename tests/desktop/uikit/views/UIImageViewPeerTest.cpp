@@ -21,7 +21,7 @@ protected:
 
     [[nodiscard]] CGRect placed(UIViewContentMode mode) const {
         view_->setContentMode(mode);
-        return UIImageViewPeer::of(*view_).imageRect(view_->bounds());
+        return peerOf<UIImageViewPeer>(*view_).imageRect(view_->bounds());
     }
 
     ShownScreen shown_;
@@ -42,7 +42,7 @@ TEST_F(UIImageViewPeerTest, CentresAnImageOnWholePixels) {
 }
 
 TEST_F(UIImageViewPeerTest, HasItsImagesSize) {
-    auto& peer = UIImageViewPeer::of(*view_);
+    auto& peer = peerOf<UIImageViewPeer>(*view_);
     EXPECT_EQ(peer.intrinsicWidth(), std::nullopt);
     EXPECT_EQ(peer.intrinsicHeight(), std::nullopt);
     view_->setImage(image(8, 6));

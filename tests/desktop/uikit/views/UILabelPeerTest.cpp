@@ -16,7 +16,7 @@ protected:
         shown_.window->addSubview(label_);
     }
 
-    [[nodiscard]] UILabelPeer& peer() const { return UILabelPeer::of(*label_); }
+    [[nodiscard]] UILabelPeer& peer() const { return peerOf<UILabelPeer>(*label_); }
 
     ShownScreen shown_;
     Ref<UILabel> label_ = make<UILabel>();

@@ -1,4 +1,4 @@
-#include "UrlOpener.h"
+#include "system/UrlOpener.h"
 
 #include <gtest/gtest.h>
 
@@ -10,14 +10,9 @@ namespace {
 using Handler = UrlOpener::Handler;
 using Urls = std::vector<std::string>;
 
-/// Each test uses schemes of its own: the opener is one for the process.
 class UrlOpenerTest : public testing::Test {
 protected:
-    UrlOpenerTest() { static_cast<void>(opener.take()); }
-
-    ~UrlOpenerTest() override { opener.setDesktop({}); }
-
-    UrlOpener& opener = UrlOpener::shared();
+    UrlOpener opener;
 };
 
 } // namespace

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-/// Opens URLs in other applications, and keeps those that were opened for whoever asks. One for the process.
+/// Opens URLs in other applications, and keeps those that were opened for whoever asks. Owned by the device.
 /// Main thread only.
 class UrlOpener {
 public:
@@ -16,8 +16,6 @@ public:
         Fails, ///< there is an application, but it does not open the URL
         None   ///< no application knows the scheme
     };
-
-    [[nodiscard]] static UrlOpener& shared();
 
     /// Answers for a scheme in place of the desktop.
     void setHandler(std::string_view scheme, Handler handler);
@@ -38,8 +36,6 @@ public:
     [[nodiscard]] std::vector<std::string> take();
 
 private:
-    UrlOpener() = default;
-
     [[nodiscard]] const Handler* handlerOf(std::string_view url) const;
     [[nodiscard]] bool handOver(const std::string& url) const;
 

@@ -1,4 +1,4 @@
-#include "UrlOpener.h"
+#include "system/UrlOpener.h"
 
 #include <algorithm>
 #include <utility>
@@ -18,11 +18,6 @@ std::string schemeOf(std::string_view url) {
 }
 
 } // namespace
-
-UrlOpener& UrlOpener::shared() {
-    static UrlOpener opener;
-    return opener;
-}
 
 void UrlOpener::setHandler(std::string_view scheme, Handler handler) {
     handlers_.insert_or_assign(schemeOf(std::string(scheme) + ":"), handler);

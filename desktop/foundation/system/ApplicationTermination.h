@@ -4,8 +4,8 @@
 #include <optional>
 #include <string>
 
-/// Where the device's services hand in that an application is to be ended. One for the process. Main thread
-/// only.
+/// Where the device's services hand in that an application is to be ended. Owned by the device. Main
+/// thread only.
 class ApplicationTermination {
 public:
     struct Request {
@@ -19,8 +19,6 @@ public:
 
     using Handler = std::function<void(const Request&)>;
 
-    [[nodiscard]] static ApplicationTermination& shared();
-
     /// Who ends applications; empty for nobody.
     void setHandler(Handler handler) { handler_ = std::move(handler); }
 
@@ -28,7 +26,5 @@ public:
     void request(const Request& request) const;
 
 private:
-    ApplicationTermination() = default;
-
     Handler handler_;
 };
