@@ -8,6 +8,7 @@
 #include <vector>
 
 class LayoutProblem;
+class UIStackView;
 
 /// The numbers are the platform's.
 enum class UILayoutConstraintAxis : int { Horizontal = 0, Vertical = 1 };
