@@ -129,6 +129,42 @@ class CheckTreeTest(unittest.TestCase):
         self.write("desktop/foundation/Device.cpp", "thread_local int a;\n#include <syslog.h>\n")
         self.assertEqual(self.check(), [])
 
+    def test_subfolders_of_the_desktop_include_one_another_one_way(self):
+        self.write("desktop/uikit/views/UIViewPeer.h")
+        self.write("desktop/uikit/controls/UIControlPeer.h", '#include "views/UIViewPeer.h"\n')
+        self.assertEqual(self.check(), [])
+        self.write("desktop/uikit/views/UIViewPeer.cpp", '#include "UIKit/UIView.h"\n#include "controls/UIControlPeer.h"\n')
+        self.assertEqual(
+            self.check(),
+            ["desktop/uikit/views/UIViewPeer.cpp:2: desktop/uikit/views/ may not include controls/UIControlPeer.h"],
+        )
+
+    def test_what_lies_beside_the_subfolders_is_above_them_all(self):
+        self.write("desktop/foundation/Device.h", '#include "time/Clock.h"\n')
+        self.write("desktop/foundation/time/Clock.h")
+        self.assertEqual(self.check(), [])
+        self.write("desktop/foundation/time/Clock.cpp", '#include "Device.h"\n')
+        self.assertEqual(
+            self.check(), ["desktop/foundation/time/Clock.cpp:1: desktop/foundation/time/ may not include Device.h"]
+        )
+
+    def test_a_subfolder_without_a_place_among_them_is_named(self):
+        self.write("desktop/uikit/attic/Thing.h")
+        self.assertEqual(
+            self.check(),
+            ["desktop/uikit/attic/Thing.h:1: desktop/uikit/attic/ has no place among the subfolders of desktop/uikit/"],
+        )
+
+    def test_a_folder_of_too_many_sources_is_named(self):
+        for number in range(60):
+            self.write(f"tests/core/Thing{number}Test.cpp")
+        self.write("tests/core/pictures/Thing.cpp")
+        self.assertEqual(self.check(), [])
+        self.write("tests/core/Thing.h")
+        self.assertEqual(
+            self.check(), ["tests/core:1: holds 61 sources; more than 60 are too many to find one among"]
+        )
+
     def test_a_dead_link_in_a_document_is_named(self):
         self.write("docs/driving.md", "see [this](missing.md#top) and [that](https://example.org)\n")
         self.assertEqual(self.check(), ["docs/driving.md:1: links to missing.md, which is not there"])
