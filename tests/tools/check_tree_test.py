@@ -17,6 +17,7 @@ class CheckTreeTest(unittest.TestCase):
         self.built = []
         for folder in ["platform", "core", "backup", "desktop", "tests"]:
             (self.root / folder).mkdir()
+        self.write("cmake/PaneFolders.cmake", "set(PANE_FOLDERS core cells pages pane backup)\n")
 
     def tearDown(self):
         self.folder.cleanup()
@@ -49,6 +50,45 @@ class CheckTreeTest(unittest.TestCase):
     def test_a_test_file_that_is_not_built_is_named(self):
         self.write("tests/core/StoreTest.cpp", built=False)
         self.assertEqual(self.check(), ["tests/core/StoreTest.cpp:1: is not in the build"])
+
+    def test_a_fuzzer_that_is_not_built_is_named(self):
+        self.write("fuzz/StoreFuzzer.cpp", built=False)
+        self.assertEqual(self.check(), ["fuzz/StoreFuzzer.cpp:1: is not in the build"])
+
+    def test_what_the_build_makes_and_what_is_fetched_is_not_looked_at(self):
+        for path in ["build/desktop/Made.cpp", "node_modules/one/Fetched.cpp", "out/Left.cpp", ".git/Kept.cpp"]:
+            self.write(path, built=False)
+        self.assertEqual(self.check(), [])
+
+    def test_a_folder_with_code_that_is_not_in_the_list_is_named(self):
+        self.write("pages/Page.cpp")
+        self.assertEqual(self.check(), [])
+        self.write("cmake/PaneFolders.cmake", "set(PANE_FOLDERS core cells pane)\n")
+        self.assertEqual(
+            self.check(),
+            ["pages:1: holds code, and is not among the pane's folders in cmake/PaneFolders.cmake"],
+        )
+
+    def test_a_folder_with_headers_alone_is_code_too(self):
+        self.write("sheets/Sheet.h")
+        self.assertEqual(
+            self.check(),
+            ["sheets:1: holds code, and is not among the pane's folders in cmake/PaneFolders.cmake"],
+        )
+
+    def test_each_folder_of_the_list_has_its_rules(self):
+        self.write("sheets/Sheet.cpp", "thread_local int a;\n")
+        self.write("cmake/PaneFolders.cmake", "set(PANE_FOLDERS core sheets)\n")
+        self.assertEqual(
+            self.check(),
+            ["sheets:1: is a folder of the pane, and tools/check-tree does not know what it may include"],
+        )
+
+    def test_a_list_that_cannot_be_read_ends_the_check(self):
+        self.write("cmake/PaneFolders.cmake", "set(PANE_FOLDERS)\n")
+        done = subprocess.run([sys.executable, CHECK_TREE, self.root, "/dev/null"], capture_output=True, text=True, check=False)
+        self.assertNotEqual(done.returncode, 0)
+        self.assertIn("does not name them in one line", done.stderr)
 
     def test_a_source_may_be_in_any_of_the_builds(self):
         self.write("device/objc/Box.cpp", built=False)
