@@ -42,6 +42,14 @@ TemporaryFolder::~TemporaryFolder() {
 
 TestDevice::TestDevice(const Settings& settings) : device_(optionsFor(settings, folder_.path(), clock_)) {}
 
+void TestDevice::advance(std::chrono::nanoseconds duration) {
+    device_.mainQueue().advance(*clock_, duration);
+}
+
+void TestDevice::settle() {
+    EXPECT_TRUE(device_.mainQueue().settle(*clock_, clock_->uptime() + std::chrono::minutes(1)));
+}
+
 std::string TestDevice::hostPath(std::string_view devicePath) const {
     return folder_.path() + std::string(devicePath);
 }

@@ -3,6 +3,7 @@
 #include "Device.h"
 #include "system/LogRecorder.h"
 
+#include <chrono>
 #include <string>
 #include <string_view>
 
@@ -39,6 +40,11 @@ public:
     [[nodiscard]] VirtualClock& clock() { return *clock_; }
 
     [[nodiscard]] LogRecorder& log() { return log_; }
+
+    /// Lets time pass, and runs what falls due.
+    void advance(std::chrono::nanoseconds duration);
+    /// Lets time pass until nothing waits. Fails the test when something still waits after a minute.
+    void settle();
 
     /// Where a device path is on the host, for looking at the device from outside. No link is followed.
     [[nodiscard]] std::string hostPath(std::string_view devicePath) const;

@@ -422,7 +422,7 @@ void UIViewPeer::touchCancelled(DesktopTouch& touch, UIEvent& event) {
         superview_->peer().touchCancelled(touch, event);
 }
 
-void UIViewPeer::addGestureRecognizer(const Ref<GestureRecognizer>& recognizer) {
+void UIViewPeer::addGestureRecognizer(const Ref<AttachedRecognizer>& recognizer) {
     gestureRecognizers_.push_back(recognizer);
     recognizer->attachTo(*view_);
 }

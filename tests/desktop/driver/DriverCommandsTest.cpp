@@ -30,7 +30,7 @@ class BadAdvance : public DriverFixture, public testing::WithParamInterface<cons
 
 TEST_P(BadAdvance, IsRefusedAndMovesNothing) {
     EXPECT_FALSE(refusalOf(GetParam()).empty());
-    EXPECT_EQ(device_.clock().uptime(), std::chrono::nanoseconds::zero());
+    EXPECT_EQ(device.clock().uptime(), std::chrono::nanoseconds::zero());
 }
 
 INSTANTIATE_TEST_SUITE_P(Lines, BadAdvance,
@@ -62,8 +62,8 @@ TEST_F(DriverCommandsTest, LiveCountsTheObjectsOfAClass) {
 }
 
 TEST_F(DriverCommandsTest, SnapshotIsAPictureOfTheScreen) {
-    const auto path = device_.hostPath("/picture.png");
-    window_->setBackgroundColor(UIColor::colorWithRed(1, 0, 0, 1));
+    const auto path = device.hostPath("/picture.png");
+    window->setBackgroundColor(UIColor::colorWithRed(1, 0, 0, 1));
     EXPECT_EQ(ask("snapshot \"" + path + "\"").value("size").toArray(), (QJsonArray{1170, 2532}));
     const QImage picture(QString::fromStdString(path));
     EXPECT_EQ(picture.size(), QSize(1170, 2532));
@@ -78,9 +78,9 @@ TEST_F(DriverCommandsTest, SnapshotThatFindsNoRoomLosesNoMemory) {
     for (auto round = 0; round < 3; ++round)
         EXPECT_EQ(refusalOf("snapshot /dev/full"), "the picture cannot be written: No space left on device");
     EXPECT_EQ(refusalOf("snapshot \"\""), "the picture cannot be written: it has no name");
-    const auto name = device_.hostPath("/" + std::string(5000, 'a'));
+    const auto name = device.hostPath("/" + std::string(5000, 'a'));
     EXPECT_EQ(refusalOf("snapshot " + name), "the picture cannot be written: File name too long");
-    EXPECT_TRUE(refusalOf("snapshot " + device_.hostPath("/")).starts_with("the picture cannot be written"));
+    EXPECT_TRUE(refusalOf("snapshot " + device.hostPath("/")).starts_with("the picture cannot be written"));
 }
 
 TEST_F(DriverCommandsTest, ViewsTellsOfAViewWithItsLayerAndSubviews) {

@@ -4,16 +4,11 @@
 #include "CountedButton.h"
 
 DriverFixture::DriverFixture() {
-    screen_.addWindow(window_);
     addAllCommands(commands_, {.application = application_,
-                               .touches = touches_,
+                               .touches = finger,
                                .compositor = compositor_,
-                               .clock = device_.clock(),
-                               .log = device_.log()});
-}
-
-DriverFixture::~DriverFixture() {
-    screen_.removeWindow(*window_);
+                               .clock = device.clock(),
+                               .log = device.log()});
 }
 
 QJsonObject DriverFixture::ask(const std::string& line) const {
@@ -29,7 +24,7 @@ std::string DriverFixture::refusalOf(const std::string& line) const {
 }
 
 Ref<UIControl> DriverFixture::addButton(const CGRect& frame, const std::string& label, int& presses) {
-    return addCountedButton(*window_, frame, label, presses);
+    return addCountedButton(*window, frame, label, presses);
 }
 
 Ref<UILabel> DriverFixture::addLabel(const CGRect& frame, const std::string& text, UIView& parent) {

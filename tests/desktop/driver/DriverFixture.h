@@ -2,15 +2,10 @@
 
 #include "CommandTable.h"
 #include "DrivenApplication.h"
-#include "TestDevice.h"
+#include "Phone.h"
 #include "UIKit/UIControl.h"
 #include "UIKit/UILabel.h"
 #include "screen/Compositor.h"
-#include "screen/Screen.h"
-#include "screen/TouchDispatcher.h"
-#include "screen/UIWindow.h"
-
-#include <gtest/gtest.h>
 
 #include <QJsonArray>
 #include <QJsonObject>
@@ -46,10 +41,9 @@ private:
 };
 
 /// All commands on a phone with an application's window.
-class DriverFixture : public testing::Test {
+class DriverFixture : public Phone {
 protected:
     DriverFixture();
-    ~DriverFixture() override;
 
     /// What a command answers; fails the test when it cannot be done.
     [[nodiscard]] QJsonObject ask(const std::string& line) const;
@@ -60,11 +54,7 @@ protected:
     [[nodiscard]] Ref<UIControl> addButton(const CGRect& frame, const std::string& label, int& presses);
     [[nodiscard]] Ref<UILabel> addLabel(const CGRect& frame, const std::string& text, UIView& parent);
 
-    TestDevice device_;
-    Screen screen_{Screen::Options{}};
-    Ref<UIWindow> window_ = make<UIWindow>();
     NotingApplication application_;
-    TouchDispatcher touches_;
-    Compositor compositor_{screen_};
+    Compositor compositor_{screen};
     CommandTable commands_;
 };

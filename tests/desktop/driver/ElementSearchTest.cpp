@@ -13,13 +13,13 @@ protected:
         auto scroll = make<UIScrollView>();
         scroll->setFrame(CGRectMake(0, 100, 390, 600));
         peerOf<UIScrollViewPeer>(*scroll).setContentSize({390, 5000});
-        window_->addSubview(scroll);
+        window->addSubview(scroll);
         for (const auto top : tops)
             static_cast<void>(addLabel(CGRectMake(20, top, 200, 44), text, *scroll));
         return scroll;
     }
 
-    [[nodiscard]] ElementSearch search(const std::string& label) const { return {*window_, label}; }
+    [[nodiscard]] ElementSearch search(const std::string& label) const { return {*window, label}; }
 
     /// Where the view is in its superview; nothing for no view.
     static std::optional<double> topOf(const Ref<UIView>& view) {
@@ -36,7 +36,7 @@ protected:
 } // namespace
 
 TEST_F(ElementSearchTest, FindsNothingWhereNothingIsCalledSo) {
-    const auto label = addLabel(CGRectMake(0, 0, 100, 20), "Apply", *window_);
+    const auto label = addLabel(CGRectMake(0, 0, 100, 20), "Apply", *window);
     for (const auto* const other : {"apply", "Appl", "Apply "}) {
         EXPECT_FALSE(search(other).first()) << other;
         EXPECT_FALSE(search(other).numbered(1)) << other;
@@ -44,8 +44,8 @@ TEST_F(ElementSearchTest, FindsNothingWhereNothingIsCalledSo) {
 }
 
 TEST_F(ElementSearchTest, FindsTheFirstInTheOrderOfTheViews) {
-    const auto first = addLabel(CGRectMake(0, 300, 100, 20), "Apply", *window_);
-    const auto second = addLabel(CGRectMake(0, 100, 100, 20), "Apply", *window_);
+    const auto first = addLabel(CGRectMake(0, 300, 100, 20), "Apply", *window);
+    const auto second = addLabel(CGRectMake(0, 100, 100, 20), "Apply", *window);
     EXPECT_EQ(search("Apply").first(), Ref<UIView>(first));
     EXPECT_EQ(search("Apply").numbered(2), Ref<UIView>(second));
     EXPECT_FALSE(search("Apply").numbered(3));
@@ -54,7 +54,7 @@ TEST_F(ElementSearchTest, FindsTheFirstInTheOrderOfTheViews) {
 TEST_F(ElementSearchTest, LeavesOutWhatCannotBeSeen) {
     const auto holder = make<UIView>();
     holder->setFrame(CGRectMake(0, 0, 200, 200));
-    window_->addSubview(holder);
+    window->addSubview(holder);
     const auto label = addLabel(CGRectMake(0, 0, 100, 20), "Apply", *holder);
     holder->setAlpha(0);
     EXPECT_FALSE(search("Apply").first());
@@ -90,7 +90,7 @@ TEST_F(ElementSearchTest, ScrollsUpToo) {
 }
 
 TEST_F(ElementSearchTest, NumbersCountFromTheTopOfWhatScrollsOnAndThenTheOthers) {
-    const auto other = addLabel(CGRectMake(0, 10, 100, 20), "Row", *window_);
+    const auto other = addLabel(CGRectMake(0, 10, 100, 20), "Row", *window);
     const auto scroll = addScrollView({3000, 40, 1500}, "Row");
     EXPECT_EQ(topOf(search("Row").numbered(1)), 40);
     EXPECT_EQ(topOf(search("Row").numbered(2)), 1500);

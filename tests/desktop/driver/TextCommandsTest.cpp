@@ -12,7 +12,7 @@ protected:
     TextCommandsTest() {
         field_->setFrame(CGRectMake(20, 100, 200, 40));
         field_->setPlaceholder("Backup Name");
-        window_->addSubview(field_);
+        window->addSubview(field_);
     }
 
     Ref<UITextField> field_ = make<UITextField>();

@@ -74,7 +74,7 @@ TEST_F(TouchCommandsTest, TapScrollsTheElementIntoView) {
     const auto scroll = make<UIScrollView>();
     scroll->setFrame(CGRectMake(0, 100, 390, 600));
     peerOf<UIScrollViewPeer>(*scroll).setContentSize({390, 3000});
-    window_->addSubview(scroll);
+    window->addSubview(scroll);
     auto presses = 0;
     const auto button = addButton(CGRectMake(20, 2500, 200, 44), "Far", presses);
     scroll->addSubview(button);
@@ -89,9 +89,9 @@ TEST_F(TouchCommandsTest, TapLooksInWhatIsPresentedOnly) {
     auto below = 0;
     const auto button = addButton(upper, "Apply", below);
     const auto cover = make<PresentedStandIn>();
-    cover->setFrame(window_->bounds());
-    window_->addSubview(cover);
-    screen_.presentations().add(*cover, *cover);
+    cover->setFrame(window->bounds());
+    window->addSubview(cover);
+    screen.presentations().add(*cover, *cover);
     EXPECT_EQ(refusalOf("tap Apply"), "there is no such element on the screen");
     auto above = 0;
     const auto other = addButton(lower, "Apply", above);
@@ -105,8 +105,8 @@ TEST_F(TouchCommandsTest, ScreenAndBackKnowWhatIsPresented) {
     const auto cover = make<PresentedStandIn>();
     cover->shownActions = {
         {.title = "Reset", .symbol = "gear", .destructive = true, .disabled = false, .frame = upper}};
-    window_->addSubview(cover);
-    screen_.presentations().add(*cover, *cover);
+    window->addSubview(cover);
+    screen.presentations().add(*cover, *cover);
     const auto presented = ask("screen").value("presented").toArray();
     ASSERT_EQ(presented.size(), 1);
     EXPECT_EQ(presented[0]["kind"].toString(), "menu");
@@ -136,7 +136,7 @@ class BadTouch : public DriverFixture, public testing::WithParamInterface<const 
 
 TEST_P(BadTouch, IsRefused) {
     EXPECT_FALSE(refusalOf(GetParam()).empty());
-    EXPECT_FALSE(touches_.isTouching());
+    EXPECT_FALSE(finger.isTouching());
 }
 
 INSTANTIATE_TEST_SUITE_P(Lines, BadTouch,
@@ -148,7 +148,7 @@ INSTANTIATE_TEST_SUITE_P(Lines, BadTouch,
 /// A window whose controller presents another one.
 class PresentingTest : public DriverFixture {
 protected:
-    PresentingTest() { window_->setRootViewController(root_); }
+    PresentingTest() { window->setRootViewController(root_); }
 
     void present(const Ref<UIViewController>& controller) {
         root_->presentViewController(controller, false, {});

@@ -28,19 +28,19 @@ using Texts = std::vector<std::string>;
 
 TEST_F(ViewReportTest, GoesFromBackToFrontThroughAllWindows) {
     const auto holder = make<UIView>();
-    window_->addSubview(holder);
+    window->addSubview(holder);
     const auto inner = addLabel(CGRectMake(0, 0, 100, 20), "inner", *holder);
-    const auto outer = addLabel(CGRectMake(0, 0, 100, 20), "outer", *window_);
+    const auto outer = addLabel(CGRectMake(0, 0, 100, 20), "outer", *window);
     const auto front = make<UIWindow>();
     const auto top = addLabel(CGRectMake(0, 0, 100, 20), "front", *front);
-    screen_.addWindow(front);
+    screen.addWindow(front);
     EXPECT_EQ(textsTold(), (Texts{"inner", "outer", "front"}));
-    screen_.removeWindow(*front);
+    screen.removeWindow(*front);
     EXPECT_EQ(textsTold(), (Texts{"inner", "outer"}));
 }
 
 TEST_F(ViewReportTest, AViewWithinOneOfItsClassIsToldOfTwice) {
-    const auto holder = addLabel(CGRectMake(0, 0, 100, 20), "holder", *window_);
+    const auto holder = addLabel(CGRectMake(0, 0, 100, 20), "holder", *window);
     const auto inner = addLabel(CGRectMake(0, 0, 100, 20), "inner", *holder);
     EXPECT_EQ(textsTold(), (Texts{"holder", "inner"}));
     const auto subviews = reportsOf("UILabel").at(0)["subviews"].toArray();
@@ -51,7 +51,7 @@ TEST_F(ViewReportTest, AViewWithinOneOfItsClassIsToldOfTwice) {
 TEST_F(ViewReportTest, PlacesAreThoseOnTheScreen) {
     const auto holder = make<UIView>();
     holder->setFrame(CGRectMake(100, 200, 50, 50));
-    window_->addSubview(holder);
+    window->addSubview(holder);
     const auto label = addLabel(CGRectMake(10, 10, 20, 20), "Text", *holder);
     holder->peer().setTransform(AffineTransform::scale(2));
     const auto report = viewReport(*label);

@@ -12,9 +12,7 @@ namespace {
 
 class MainQueueTest : public testing::Test {
 protected:
-    void advance(std::chrono::nanoseconds duration) {
-        Device::current().mainQueue().advance(device.clock(), duration);
-    }
+    void advance(std::chrono::nanoseconds duration) { device.advance(duration); }
 
     TestDevice device;
     std::string ran;

@@ -2,18 +2,11 @@
 
 #include <cmath>
 
-WelcomeFixture::WelcomeFixture() {
-    screen.addWindow(window);
-}
-
-WelcomeFixture::~WelcomeFixture() {
-    screen.removeWindow(*window);
-}
+WelcomeFixture::WelcomeFixture() : Phone({.scale = 2, .size = phoneSheet}) {}
 
 const Ref<OBWelcomeController>& WelcomeFixture::show(const Ref<OBWelcomeController>& page) {
     page_ = page;
-    window->setRootViewController(page);
-    layOut();
+    Phone::show(page);
     return page_;
 }
 

@@ -3,16 +3,12 @@
 #include "DesktopColor.h"
 #include "DesktopImage.h"
 #include "OBWelcomeControllerPeer.h"
-#include "TestDevice.h"
+#include "Phone.h"
 #include "screen/Compositor.h"
-#include "screen/Screen.h"
-#include "screen/UIWindow.h"
 #include "scrolling/UIScrollViewPeer.h"
 #include "touches/UITapGestureRecognizer.h"
 #include "views/UILabelPeer.h"
 #include "views/UIViewPeer.h"
-
-#include <gtest/gtest.h>
 
 #include <functional>
 #include <string>
@@ -23,14 +19,13 @@ inline constexpr ColorComponents green{.green = 1};
 inline constexpr ColorComponents blue{.blue = 1};
 
 /// A screen of a sheet's size with a welcome page that fills it, and shorthand for the page's parts.
-class WelcomeFixture : public testing::Test {
+class WelcomeFixture : public Phone {
 protected:
     static constexpr CGSize phoneSheet{390, 787};
     static constexpr CGSize formSheet{540, 620};
     static constexpr CGSize pageSheet{712, 900};
 
     WelcomeFixture();
-    ~WelcomeFixture() override;
 
     /// Shows a page in place of the one before it. \returns it
     const Ref<OBWelcomeController>& show(const Ref<OBWelcomeController>& page);
@@ -40,8 +35,6 @@ protected:
 
     /// Items with a symbol and a short text.
     void addItems(const std::vector<std::string>& titles);
-
-    void layOut() { screen.layoutIfNeeded(); }
 
     [[nodiscard]] const Ref<OBWelcomeController>& page() const { return page_; }
 
@@ -81,9 +74,6 @@ protected:
 
     [[nodiscard]] static bool isShortened(UILabel& label) { return peerOf<UILabelPeer>(label).isTruncated(); }
 
-    TestDevice device;
-    Screen screen{{.scale = 2, .size = phoneSheet}};
-    Ref<UIWindow> window = make<UIWindow>();
     Compositor compositor{screen};
 
 private:

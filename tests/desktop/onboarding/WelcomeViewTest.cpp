@@ -101,13 +101,10 @@ TEST_F(WelcomeViewTest, IsScrolledByAFinger) {
     showMany();
     resize({390, 500});
     const auto before = frameInPage(*items()[0]).origin.y;
-    TouchDispatcher touches;
-    touches.touch(TouchPhase::Began, {200, 400});
-    for (int step = 1; step <= 10; ++step)
-        touches.touch(TouchPhase::Moved, {200, 400.0 - 20 * step});
+    drag({200, 400}, {200, 200});
     EXPECT_LT(frameInPage(*items()[0]).origin.y, before - 150);
-    touches.touch(TouchPhase::Ended, {200, 200});
-    EXPECT_TRUE(Device::current().mainQueue().settle(device.clock(), 10s));
+    up({200, 200});
+    settle();
 }
 
 TEST_F(WelcomeViewTest, KeepsClearOfTheSafeArea) {

@@ -23,12 +23,12 @@ protected:
 
     /// A finger that comes down and moves; it stays down.
     void drag(CGPoint from, CGPoint to) {
-        finger_.touch(TouchPhase::Began, from);
+        finger.touch(TouchPhase::Began, from);
         constexpr int steps = 20;
         for (int step = 1; step <= steps; ++step) {
             advance(16ms);
             const auto part = static_cast<double>(step) / steps;
-            finger_.touch(TouchPhase::Moved, {std::lerp(from.x, to.x, part), std::lerp(from.y, to.y, part)});
+            finger.touch(TouchPhase::Moved, {std::lerp(from.x, to.x, part), std::lerp(from.y, to.y, part)});
         }
     }
 };
@@ -101,7 +101,7 @@ TEST_F(PSListControllerTapTest, TheSelectionFadesWithTheWayBack) {
     EXPECT_NEAR(shownRed("a"), (pressedRed + 1) / 2, 0.02) << "half way, when the slop is left out";
     EXPECT_EQ(peer().table().selectedRow(), (IndexPath{0, 0}));
     advance(200ms);
-    finger_.touch(TouchPhase::Ended, {230, 400});
+    finger.touch(TouchPhase::Ended, {230, 400});
     advance(100ms);
     EXPECT_GT(shownRed("a"), (pressedRed + 1) / 2);
     EXPECT_LT(shownRed("a"), 1);
@@ -117,7 +117,7 @@ TEST_F(PSListControllerTapTest, AWayBackThatIsGivenUpLeavesTheRowSelected) {
     advance(1s);
     drag({5, 400}, {150, 400});
     advance(200ms);
-    finger_.touch(TouchPhase::Ended, {150, 400});
+    finger.touch(TouchPhase::Ended, {150, 400});
     advance(1s);
     EXPECT_NEAR(shownRed("a"), pressedRed, 1e-6);
     EXPECT_EQ(peer().table().selectedRow(), (IndexPath{0, 0}));
@@ -179,8 +179,8 @@ TEST_F(PSListControllerTapTest, OtherRowsCannotBeTapped) {
     for (const auto* const id : {"static", "value", "fancy", "off"})
         tap(id);
     const auto frame = peer().table().view().peer().convertToScreen(listRow("switch").frame);
-    finger_.touch(TouchPhase::Began, {60, CGRectGetMidY(frame)});
-    finger_.touch(TouchPhase::Ended, {60, CGRectGetMidY(frame)});
+    finger.touch(TouchPhase::Began, {60, CGRectGetMidY(frame)});
+    finger.touch(TouchPhase::Ended, {60, CGRectGetMidY(frame)});
     EXPECT_TRUE(page_->events.empty());
     EXPECT_EQ(peer().table().selectedRow(), std::nullopt);
 }

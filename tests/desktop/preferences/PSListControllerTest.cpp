@@ -144,7 +144,7 @@ TEST_F(PSListControllerTest, ReloadingARowShowsItsProperties) {
     EXPECT_EQ(cell("a").textLabel().text(), "Other");
     EXPECT_EQ(listRow("b").frame.origin.y, 105);
     peer().reloadSpecifier(*make<DesktopSpecifier>(PropertyList::Dictionary{}));
-    screen_.layoutIfNeeded();
+    screen.layoutIfNeeded();
     EXPECT_EQ(cell("a").textLabel().text(), "Other");
 }
 
@@ -190,7 +190,7 @@ TEST_F(PSListControllerTest, GroupsComeAndGoAtOnce) {
     show();
     auto group = make<DesktopSpecifier>(PropertyList::Dictionary{{"cell", "PSGroupCell"}, {"id", "second"}});
     peer().insertSpecifiers({group}, 2, true);
-    screen_.layoutIfNeeded();
+    screen.layoutIfNeeded();
     EXPECT_EQ(identifiers(peer().rows()), (Texts{"head", "a", "second", "b"}));
     EXPECT_EQ(peer().table().layout().sectionCount(), 2U);
     peer().insertSpecifiers(newRows({"last"}), 100, true);
@@ -234,13 +234,13 @@ TEST_F(PSListControllerTest, TheTableOutlivesThePage) {
     writeList({row("PSButtonCell", "a", text("action", "tapped:"))});
     auto page = make<ListedPage>();
     const auto view = retain(&page->view());
-    view->setFrame(screen_.bounds());
-    window_->addSubview(view);
-    screen_.layoutIfNeeded();
+    view->setFrame(screen.bounds());
+    window->addSubview(view);
+    screen.layoutIfNeeded();
     page = nullptr;
-    screen_.layoutIfNeeded();
-    finger_.touch(TouchPhase::Began, {200, 100});
-    finger_.touch(TouchPhase::Ended, {200, 100});
+    screen.layoutIfNeeded();
+    finger.touch(TouchPhase::Began, {200, 100});
+    finger.touch(TouchPhase::Ended, {200, 100});
     advance(1s);
     view->peer().removeFromSuperview();
 }

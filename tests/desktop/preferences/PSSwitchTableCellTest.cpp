@@ -18,8 +18,8 @@ protected:
         auto& control = switchOf(id);
         const auto frame = control.convertToScreen(control.view().bounds());
         const CGPoint middle{CGRectGetMidX(frame), CGRectGetMidY(frame)};
-        finger_.touch(TouchPhase::Began, middle);
-        finger_.touch(TouchPhase::Ended, middle);
+        finger.touch(TouchPhase::Began, middle);
+        finger.touch(TouchPhase::Ended, middle);
         advance(1s);
     }
 

@@ -151,7 +151,7 @@ TEST_F(PSTableCellTest, AClassThatIsNoCellIsLoggedOnceAndAPlainCellStandsForIt) 
         writeList({keptRow("PSSwitchCell", "a", text("cellClass", name))});
         show();
         page_->view().peer().setNeedsLayout();
-        screen_.layoutIfNeeded();
+        screen.layoutIfNeeded();
         EXPECT_EQ(cell("a").textLabel().text(), "Row a");
         EXPECT_NE(dynamic_cast<PSControlTableCell*>(&cell("a")), nullptr);
         EXPECT_EQ(log(),

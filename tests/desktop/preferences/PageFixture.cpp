@@ -46,15 +46,12 @@ void ListedPage::setOwnValue(const std::optional<PropertyList>& value, const Ref
 }
 
 PageFixture::PageFixture() {
-    screen_.addWindow(window_);
-    window_->setFrame(screen_.bounds());
-    device_.write(std::string(bundlePath) + "/Info.plist", "{}");
+    device.write(std::string(bundlePath) + "/Info.plist", "{}");
     LoadedBundles::shared().addClass(listedPageClass, NSBundle::bundleWithPath(bundlePath));
 }
 
 PageFixture::~PageFixture() {
-    window_->setRootViewController(nullptr);
-    screen_.removeWindow(*window_);
+    window->setRootViewController(nullptr);
     LoadedBundles::shared().removeBundle(bundlePath);
 }
 
@@ -62,7 +59,7 @@ void PageFixture::writeList(const std::vector<std::string>& items, const std::st
     auto list = R"(<plist version="1.0"><dict>)" + text("title", title) + "<key>items</key><array>";
     for (const auto& item : items)
         list += "<dict>" + item + "</dict>";
-    device_.write(std::string(bundlePath) + "/Rows.plist", list + "</array></dict></plist>");
+    device.write(std::string(bundlePath) + "/Rows.plist", list + "</array></dict></plist>");
 }
 
 std::string PageFixture::text(const std::string& key, const std::string& text) {
@@ -93,19 +90,13 @@ void PageFixture::show() {
     page_ = make<ListedPage>();
     navigation_ = make<UINavigationController>();
     navigation_->pushViewController(page_, false);
-    window_->setRootViewController(navigation_);
-    screen_.layoutIfNeeded();
-}
-
-void PageFixture::advance(std::chrono::milliseconds duration) {
-    Device::current().mainQueue().advance(device_.clock(), duration);
+    Phone::show(navigation_);
 }
 
 void PageFixture::tap(const std::string& id) {
     const auto frame = peer().table().view().peer().convertToScreen(listRow(id).frame);
     const CGPoint middle{CGRectGetMidX(frame), CGRectGetMidY(frame)};
-    finger_.touch(TouchPhase::Began, middle);
-    finger_.touch(TouchPhase::Ended, middle);
+    Phone::tap(middle);
     advance(std::chrono::milliseconds(100));
 }
 

@@ -1,15 +1,9 @@
 #pragma once
 
 #include "PSListControllerPeer.h"
-#include "TestDevice.h"
+#include "Phone.h"
 #include "UIKit/UINavigationController.h"
-#include "screen/Screen.h"
-#include "screen/TouchDispatcher.h"
-#include "screen/UIWindow.h"
 
-#include <gtest/gtest.h>
-
-#include <chrono>
 #include <functional>
 #include <string>
 #include <vector>
@@ -30,7 +24,7 @@ public:
 };
 
 /// A device with a test bundle, whose list a test writes, and a phone's screen that shows its page.
-class PageFixture : public testing::Test {
+class PageFixture : public Phone {
 protected:
     static constexpr auto bundlePath = "/var/jb/Library/PreferenceBundles/Test.bundle";
     static constexpr auto domain = "com.example.test";
@@ -55,7 +49,6 @@ protected:
 
     /// Shows a new page.
     void show();
-    void advance(std::chrono::milliseconds duration);
     /// Taps the middle of a row.
     void tap(const std::string& id);
 
@@ -66,12 +59,8 @@ protected:
     [[nodiscard]] UITableViewCell& cell(const std::string& id) const;
 
     /// The lines since the last call.
-    [[nodiscard]] std::vector<std::string> log() { return device_.log().take(); }
+    [[nodiscard]] std::vector<std::string> log() { return device.log().take(); }
 
-    TestDevice device_;
-    Screen screen_{{}};
-    Ref<UIWindow> window_ = make<UIWindow>();
     Ref<ListedPage> page_;
     Ref<UINavigationController> navigation_;
-    TouchDispatcher finger_;
 };

@@ -97,8 +97,8 @@ protected:
             EXPECT_GE(row.height, 0);
             EXPECT_LE(row.height, 10000);
             const auto seen = peer().table().view().peer().convertToScreen(row.frame);
-            finger_.touch(TouchPhase::Began, {CGRectGetMaxX(seen) - 40, CGRectGetMidY(seen)});
-            finger_.touch(TouchPhase::Ended, {CGRectGetMaxX(seen) - 40, CGRectGetMidY(seen)});
+            finger.touch(TouchPhase::Began, {CGRectGetMaxX(seen) - 40, CGRectGetMidY(seen)});
+            finger.touch(TouchPhase::Ended, {CGRectGetMaxX(seen) - 40, CGRectGetMidY(seen)});
             advance(500ms);
         }
     }
@@ -132,7 +132,7 @@ TEST_F(WrongPropertiesLogTest, EachIsLoggedOnceByWhatItMustBe) {
     show();
     EXPECT_EQ(log().size(), 6U);
     page_->view().peer().setNeedsLayout();
-    screen_.layoutIfNeeded();
+    screen.layoutIfNeeded();
     static_cast<void>(peer().rows());
     EXPECT_TRUE(log().empty());
 }

@@ -14,9 +14,7 @@ using namespace std::chrono_literals;
 
 class AnimationGroupTest : public testing::Test {
 protected:
-    void advance(std::chrono::nanoseconds duration) {
-        Device::current().mainQueue().advance(device_.clock(), duration);
-    }
+    void advance(std::chrono::nanoseconds duration) { device_.advance(duration); }
 
     [[nodiscard]] AnimationGroup::Completion note() {
         return [this](bool finished) { completions_.push_back(finished); };

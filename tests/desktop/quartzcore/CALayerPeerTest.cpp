@@ -13,9 +13,7 @@ using namespace std::chrono_literals;
 
 class CALayerPeerTest : public testing::Test {
 protected:
-    void pass(std::chrono::nanoseconds duration) {
-        Device::current().mainQueue().advance(device_.clock(), duration);
-    }
+    void pass(std::chrono::nanoseconds duration) { device_.advance(duration); }
 
     static void animate(AnimationGroup::Course course, const std::function<void()>& changes) {
         course.curve = AnimationCurve::linear();

@@ -45,7 +45,3 @@ ListRow EntryFixture::rowOf(const PSListController& page, const std::string& id)
     EXPECT_NE(found, rows.end()) << id;
     return found == rows.end() ? ListRow() : *found;
 }
-
-void EntryFixture::settle() {
-    EXPECT_TRUE(Device::current().mainQueue().settle(device.clock(), std::chrono::seconds(10)));
-}

@@ -28,5 +28,5 @@ protected:
     [[nodiscard]] static std::vector<std::string> labelsOf(const PSListController& page);
     [[nodiscard]] static ListRow rowOf(const PSListController& page, const std::string& id);
 
-    void settle();
+    void settle() { device.settle(); }
 };

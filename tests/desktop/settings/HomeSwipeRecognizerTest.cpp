@@ -1,12 +1,7 @@
 #include "HomeSwipeRecognizer.h"
 
-#include "TestDevice.h"
-#include "screen/Screen.h"
-#include "screen/TouchDispatcher.h"
-#include "screen/UIWindow.h"
+#include "Phone.h"
 #include "views/UIViewPeer.h"
-
-#include <gtest/gtest.h>
 
 #include <chrono>
 #include <utility>
@@ -17,7 +12,7 @@ namespace {
 using std::chrono::milliseconds;
 
 /// A phone's screen with a page that is drawn up, and a finger.
-class HomeSwipeRecognizerTest : public testing::Test {
+class HomeSwipeRecognizerTest : public Phone {
 protected:
     HomeSwipeRecognizerTest() {
         page->setFrame(screen.bounds());
@@ -25,31 +20,16 @@ protected:
             .drawn = [this](CGPoint translation) { translations.push_back(translation); },
             .released = [this](bool goesHome) { releases.push_back(goesHome); }}));
         window->addSubview(page);
-        screen.addWindow(window);
     }
-
-    ~HomeSwipeRecognizerTest() override { screen.removeWindow(*window); }
-
-    void advance(milliseconds time) { Device::current().mainQueue().advance(device.clock(), time); }
 
     /// From the lower edge straight up, in so many steps of 16 ms.
-    void draw(double points, int steps) {
-        finger.touch(TouchPhase::Began, {195, lowerEdge});
-        for (int step = 1; step <= steps; ++step) {
-            advance(milliseconds(16));
-            finger.touch(TouchPhase::Moved, {195, lowerEdge - points * step / steps});
-        }
-    }
+    void draw(double points, int steps) { drag({195, lowerEdge}, {195, lowerEdge - points}, steps); }
 
-    void lift(double points) { finger.touch(TouchPhase::Ended, {195, lowerEdge - points}); }
+    void lift(double points) { up({195, lowerEdge - points}); }
 
     static constexpr double lowerEdge = 840;
 
-    TestDevice device;
-    Screen screen{{}};
-    Ref<UIWindow> window = make<UIWindow>();
     Ref<UIView> page = make<UIView>();
-    TouchDispatcher finger;
     std::vector<CGPoint> translations;
     std::vector<bool> releases;
 };
@@ -82,7 +62,7 @@ TEST_F(HomeSwipeRecognizerTest, AFlickIsEnoughFromAnywhere) {
 
 TEST_F(HomeSwipeRecognizerTest, AGestureThatIsTakenAwayDoesNotGoHome) {
     draw(400, 40);
-    finger.touch(TouchPhase::Cancelled, {});
+    cancel();
     EXPECT_EQ(releases, std::vector{false});
 }
 

@@ -30,14 +30,6 @@ void ShellFixture::openPane(const std::string& name) {
     settle();
 }
 
-void ShellFixture::settle() {
-    EXPECT_TRUE(Device::current().mainQueue().settle(device.clock(), std::chrono::seconds(10)));
-}
-
-void ShellFixture::advance(std::chrono::milliseconds time) {
-    Device::current().mainQueue().advance(device.clock(), time);
-}
-
 ShellFixture::Titles ShellFixture::titles() const {
     Titles all;
     for (const auto& page : peerOf<UINavigationControllerPeer>(*shell->settings()->pages()).stack())

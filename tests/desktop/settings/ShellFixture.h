@@ -23,8 +23,9 @@ protected:
     void writeEntry(const std::string& name, const std::string& bundle) const;
     void openPane(const std::string& name);
 
-    void settle();
-    void advance(std::chrono::milliseconds time);
+    void settle() { device.settle(); }
+
+    void advance(std::chrono::milliseconds time) { device.advance(time); }
 
     /// The titles of the pages that panes are opened on, the first one first.
     [[nodiscard]] Titles titles() const;

@@ -11,18 +11,18 @@ namespace {
 using DeviceWindowTest = WindowFixture;
 
 TEST_F(DeviceWindowTest, GivesTheDeviceThePixelsThatItShows) {
-    EXPECT_EQ(screen_.traits().displayScale, 0.5);
-    window_.resize(390, 844);
+    EXPECT_EQ(screen.traits().displayScale, 0.5);
+    shown.resize(390, 844);
     run();
-    EXPECT_EQ(screen_.traits().displayScale, 1);
+    EXPECT_EQ(screen.traits().displayScale, 1);
 }
 
 TEST_F(DeviceWindowTest, KeepsAScaleThatWasAskedFor) {
-    DeviceWindow other(screen_, touches_,
+    DeviceWindow other(screen, finger,
                        {.scale = 2, .followsAppearance = true, .goBack = [] {}, .showTime = [] {}});
     other.resize(100, 100);
     run();
-    EXPECT_EQ(screen_.traits().displayScale, 2);
+    EXPECT_EQ(screen.traits().displayScale, 2);
 }
 
 TEST_F(DeviceWindowTest, HandsTheMouseOnAsAFinger) {
@@ -37,17 +37,17 @@ TEST_F(DeviceWindowTest, HandsTheMouseOnAsAFinger) {
 TEST_F(DeviceWindowTest, IgnoresTheOtherButtonsOfTheMouse) {
     QMouseEvent down(QEvent::MouseButtonPress, QPointF(60, 61), QPointF(60, 61), Qt::RightButton,
                      Qt::RightButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(&window_, &down);
-    EXPECT_FALSE(touches_.isTouching());
+    QCoreApplication::sendEvent(&shown, &down);
+    EXPECT_FALSE(finger.isTouching());
 }
 
 TEST_F(DeviceWindowTest, LiftsTheFingerWithoutATapWhenItLosesTheKeyboard) {
     QMouseEvent down(QEvent::MouseButtonPress, QPointF(60, 61), QPointF(60, 61), Qt::LeftButton,
                      Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(&window_, &down);
+    QCoreApplication::sendEvent(&shown, &down);
     EXPECT_TRUE(first_->isTracking());
     QFocusEvent lost(QEvent::FocusOut);
-    QCoreApplication::sendEvent(&window_, &lost);
+    QCoreApplication::sendEvent(&shown, &lost);
     EXPECT_FALSE(first_->isTracking());
     EXPECT_EQ(firstPresses_, 0);
 }
@@ -56,25 +56,25 @@ TEST_F(DeviceWindowTest, ScrollsWithTheWheel) {
     const auto scroll = make<UIScrollView>();
     scroll->setFrame(CGRectMake(0, 300, 390, 400));
     peerOf<UIScrollViewPeer>(*scroll).setContentSize({390, 2000});
-    content_->addSubview(scroll);
+    window->addSubview(scroll);
     run();
     const auto before = peerOf<UIScrollViewPeer>(*scroll).contentOffset().y;
     QWheelEvent wheel(QPointF(100, 200), QPointF(100, 200), {}, QPoint(0, -120), Qt::NoButton, Qt::NoModifier,
                       Qt::NoScrollPhase, false);
-    QCoreApplication::sendEvent(&window_, &wheel);
+    QCoreApplication::sendEvent(&shown, &wheel);
     EXPECT_EQ(peerOf<UIScrollViewPeer>(*scroll).contentOffset().y, before + 48);
 }
 
 TEST_F(DeviceWindowTest, MovesTheKeyboardRoundTheElements) {
-    EXPECT_FALSE(window_.focusedView());
+    EXPECT_FALSE(shown.focusedView());
     press(Qt::Key_Tab);
-    EXPECT_EQ(window_.focusedView(), first_);
+    EXPECT_EQ(shown.focusedView(), first_);
     press(Qt::Key_Tab);
-    EXPECT_EQ(window_.focusedView(), second_);
+    EXPECT_EQ(shown.focusedView(), second_);
     press(Qt::Key_Tab);
-    EXPECT_EQ(window_.focusedView(), first_);
+    EXPECT_EQ(shown.focusedView(), first_);
     press(Qt::Key_Backtab);
-    EXPECT_EQ(window_.focusedView(), second_);
+    EXPECT_EQ(shown.focusedView(), second_);
 }
 
 TEST_F(DeviceWindowTest, PressesTheElementThatTheKeyboardIsAt) {
@@ -91,7 +91,7 @@ TEST_F(DeviceWindowTest, PressesTheElementThatTheKeyboardIsAt) {
 TEST_F(DeviceWindowTest, PassesByWhatIsHidden) {
     first_->peer().setHidden(true);
     press(Qt::Key_Tab);
-    EXPECT_EQ(window_.focusedView(), second_);
+    EXPECT_EQ(shown.focusedView(), second_);
 }
 
 TEST_F(DeviceWindowTest, GoesBackWithEscape) {
@@ -101,7 +101,7 @@ TEST_F(DeviceWindowTest, GoesBackWithEscape) {
 
 TEST_F(DeviceWindowTest, ClosesWhatIsPresentedWithEscape) {
     const auto cover = make<PresentedStandIn>();
-    screen_.presentations().add(*cover, *cover);
+    screen.presentations().add(*cover, *cover);
     press(Qt::Key_Escape);
     EXPECT_EQ(cover->dismissals, 1);
     EXPECT_EQ(timesBack_, 0);
@@ -109,24 +109,24 @@ TEST_F(DeviceWindowTest, ClosesWhatIsPresentedWithEscape) {
 
 TEST_F(DeviceWindowTest, KeepsTheKeyboardWithinWhatIsPresented) {
     const auto cover = make<PresentedStandIn>();
-    screen_.presentations().add(*cover, *cover);
+    screen.presentations().add(*cover, *cover);
     press(Qt::Key_Tab);
-    EXPECT_FALSE(window_.focusedView());
+    EXPECT_FALSE(shown.focusedView());
 }
 
 TEST_F(DeviceWindowTest, IsDarkWhenTheDesktopIs) {
     const auto before = QGuiApplication::palette();
     QGuiApplication::setPalette(QPalette(Qt::white, QColor(30, 30, 30)));
-    EXPECT_EQ(screen_.traits().style, UserInterfaceStyle::Dark);
+    EXPECT_EQ(screen.traits().style, UserInterfaceStyle::Dark);
     QGuiApplication::setPalette(QPalette(Qt::black, Qt::white));
-    EXPECT_EQ(screen_.traits().style, UserInterfaceStyle::Light);
+    EXPECT_EQ(screen.traits().style, UserInterfaceStyle::Light);
     QGuiApplication::setPalette(before);
 }
 
 TEST_F(DeviceWindowTest, RunsTheDevicesWork) {
     auto ran = false;
     Device::current().mainQueue().after({}, [&ran] { ran = true; });
-    window_.wake();
+    shown.wake();
     run();
     EXPECT_TRUE(ran);
 }

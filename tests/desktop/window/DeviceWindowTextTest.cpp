@@ -13,7 +13,7 @@ protected:
 
     void type(const QString& text, Qt::Key key = Qt::Key_unknown, Qt::KeyboardModifiers modifiers = {}) {
         QKeyEvent down(QEvent::KeyPress, key, modifiers, text);
-        QCoreApplication::sendEvent(&window_, &down);
+        QCoreApplication::sendEvent(&shown, &down);
         run();
     }
 };
@@ -42,7 +42,7 @@ TEST_F(DeviceWindowTextTest, TabBringsTheKeyboardToAField) {
 }
 
 TEST_F(DeviceWindowTextTest, AssistiveProgramsBringTheKeyboardToAField) {
-    auto* const root = QAccessible::queryAccessibleInterface(&window_);
+    auto* const root = QAccessible::queryAccessibleInterface(&shown);
     ASSERT_NE(root, nullptr);
     auto* const child = root->child(2);
     ASSERT_NE(child, nullptr);

@@ -15,18 +15,18 @@ protected:
         field_->becomeFirstResponder();
     }
 
-    [[nodiscard]] TextInput& input() { return *screen_.firstResponder().input(); }
+    [[nodiscard]] TextInput& input() { return *screen.firstResponder().input(); }
 
     void send(const QString& preedit, const QString& commit = {}, int from = 0, int length = 0) {
         QInputMethodEvent event(preedit, {});
         event.setCommitString(commit, from, length);
-        QCoreApplication::sendEvent(&window_, &event);
+        QCoreApplication::sendEvent(&shown, &event);
         EXPECT_TRUE(event.isAccepted());
     }
 
     QVariant ask(Qt::InputMethodQuery query) {
         QInputMethodQueryEvent event(query);
-        QCoreApplication::sendEvent(&window_, &event);
+        QCoreApplication::sendEvent(&shown, &event);
         return event.value(query);
     }
 };
@@ -77,7 +77,7 @@ TEST_F(InputMethodTest, LeavesTheSelectionForAnEmptyEvent) {
 
 TEST_F(InputMethodTest, PutsTheCaretWhereItIsInWhatIsComposed) {
     QInputMethodEvent event("kan", {{QInputMethodEvent::Cursor, 1, 1, {}}});
-    QCoreApplication::sendEvent(&window_, &event);
+    QCoreApplication::sendEvent(&shown, &event);
     EXPECT_EQ(input().editedText().caret(), 8);
 }
 
@@ -100,7 +100,7 @@ TEST_F(InputMethodTest, TellsOfTheSelection) {
 
 TEST_F(InputMethodTest, TellsWhereTheCaretIsInTheWindow) {
     const auto caret = ask(Qt::ImCursorRectangle).toRectF();
-    const auto field = window_.placement().toWindow(CGRectMake(20, 300, 200, 40));
+    const auto field = shown.placement().toWindow(CGRectMake(20, 300, 200, 40));
     EXPECT_TRUE(field.contains(caret));
     input().edit([](EditedText& text) { text.placeCaret(0); });
     EXPECT_LT(ask(Qt::ImCursorRectangle).toRectF().left(), caret.left());
@@ -111,7 +111,7 @@ TEST_F(InputMethodTest, TellsWhenNobodyTakesText) {
     EXPECT_EQ(ask(Qt::ImEnabled), false);
     EXPECT_FALSE(ask(Qt::ImSurroundingText).isValid());
     QInputMethodEvent event("k", {});
-    QCoreApplication::sendEvent(&window_, &event);
+    QCoreApplication::sendEvent(&shown, &event);
     EXPECT_FALSE(event.isAccepted());
     EXPECT_EQ(field_->text(), "one two");
 }

@@ -9,7 +9,7 @@ protected:
     TextWindowFixture() {
         field_->setFrame(CGRectMake(20, 300, 200, 40));
         field_->setPlaceholder("Name");
-        content_->addSubview(field_);
+        window->addSubview(field_);
         run();
     }
 

@@ -9,7 +9,7 @@ class WindowAccessibilityTest : public WindowFixture {
 protected:
     WindowAccessibilityTest() { WindowAccessibility::install(); }
 
-    [[nodiscard]] QAccessibleInterface& told() { return *QAccessible::queryAccessibleInterface(&window_); }
+    [[nodiscard]] QAccessibleInterface& told() { return *QAccessible::queryAccessibleInterface(&shown); }
 };
 
 TEST_F(WindowAccessibilityTest, TellsOfTheElementsInOrder) {
@@ -22,7 +22,7 @@ TEST_F(WindowAccessibilityTest, TellsOfTheElementsInOrder) {
 }
 
 TEST_F(WindowAccessibilityTest, TellsWhereAnElementIs) {
-    EXPECT_EQ(told().child(0)->rect(), QRect(window_.mapToGlobal(QPoint(10, 50)), QSize(100, 22)));
+    EXPECT_EQ(told().child(0)->rect(), QRect(shown.mapToGlobal(QPoint(10, 50)), QSize(100, 22)));
 }
 
 TEST_F(WindowAccessibilityTest, PressesAnElement) {
@@ -33,7 +33,7 @@ TEST_F(WindowAccessibilityTest, PressesAnElement) {
 TEST_F(WindowAccessibilityTest, BringsTheKeyboardToAnElement) {
     auto* const second = told().child(1);
     second->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
-    EXPECT_EQ(window_.focusedView(), second_);
+    EXPECT_EQ(shown.focusedView(), second_);
     EXPECT_TRUE(second->state().focused);
     EXPECT_EQ(told().focusChild(), second);
 }

@@ -1,23 +1,17 @@
 #pragma once
 
 #include "DeviceWindow.h"
-#include "TestDevice.h"
+#include "Phone.h"
 #include "UIKit/UIControl.h"
 #include "controls/UIControlPeer.h"
-#include "screen/Screen.h"
-#include "screen/TouchDispatcher.h"
-#include "screen/UIWindow.h"
-
-#include <gtest/gtest.h>
 
 #include <QKeyEvent>
 #include <QMouseEvent>
 
 /// A phone with two buttons and a label on its screen, in a window of half its size.
-class WindowFixture : public testing::Test {
+class WindowFixture : public Phone {
 protected:
     WindowFixture();
-    ~WindowFixture() override;
 
     void click(QPointF place);
     void press(Qt::Key key);
@@ -27,14 +21,10 @@ protected:
     static constexpr CGRect firstFrame = CGRectMake(20, 100, 200, 44);
     static constexpr CGRect secondFrame = CGRectMake(20, 200, 200, 44);
 
-    TestDevice device_;
-    Screen screen_{Screen::Options{}};
-    Ref<UIWindow> content_;
     Ref<UIControl> first_;
     Ref<UIControl> second_;
-    TouchDispatcher touches_;
     int firstPresses_ = 0;
     int secondPresses_ = 0;
     int timesBack_ = 0;
-    DeviceWindow window_;
+    DeviceWindow shown;
 };

@@ -145,17 +145,17 @@ TEST_F(UIAlertControllerTest, dismissingByCodeRunsNoHandler) {
 TEST_F(UIAlertControllerTest, aFingerSlidesFromButtonToButtonAndChoosesWhereItIsLifted) {
     present(usual());
     takeLog();
-    touches.touch(TouchPhase::Began, button(1));
-    touches.touch(TouchPhase::Moved, button(0));
+    finger.touch(TouchPhase::Began, button(1));
+    finger.touch(TouchPhase::Moved, button(0));
     const auto cancel = button(0);
-    lift(cancel);
+    up(cancel);
     settle();
     EXPECT_THAT(log, testing::Contains("chose Cancel"));
     present(usual());
     takeLog();
-    touches.touch(TouchPhase::Began, middle(screenFrame(top()->shownView())));
-    touches.touch(TouchPhase::Moved, button(1));
-    lift(button(1));
+    finger.touch(TouchPhase::Began, middle(screenFrame(top()->shownView())));
+    finger.touch(TouchPhase::Moved, button(1));
+    up(button(1));
     settle();
     EXPECT_THAT(log, testing::Contains("chose Reset"));
 }
@@ -166,9 +166,9 @@ TEST_F(UIAlertControllerTest, touchesElsewhereChooseNothing) {
     const auto frame = screenFrame(top()->shownView());
     for (const auto place : {CGPoint{20, 100}, CGPoint{195, 800}, CGPoint{195, frame.origin.y + 10}})
         tap(place);
-    touches.touch(TouchPhase::Began, button(0));
-    touches.touch(TouchPhase::Moved, {20, 100});
-    lift({20, 100});
+    finger.touch(TouchPhase::Began, button(0));
+    finger.touch(TouchPhase::Moved, {20, 100});
+    up({20, 100});
     settle();
     EXPECT_THAT(takeLog(), IsEmpty());
     EXPECT_NE(top(), nullptr);
@@ -256,7 +256,7 @@ TEST_F(UIAlertControllerTest, longTextsScrollWithinTheScreen) {
     const auto& texts = dynamic_cast<UIScrollView&>(*top()->shownView().peer().subviews()[2]);
     EXPECT_DOUBLE_EQ(peerOf<UIScrollViewPeer>(texts).contentOffset().y, 0);
     drag({195, 500}, {195, 300});
-    lift({195, 300});
+    up({195, 300});
     settle();
     EXPECT_GT(peerOf<UIScrollViewPeer>(texts).contentOffset().y, 100);
     EXPECT_NE(top(), nullptr);

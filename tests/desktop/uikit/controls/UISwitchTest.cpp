@@ -1,11 +1,6 @@
 #include "AnimationGroup.h"
-#include "TestDevice.h"
+#include "Phone.h"
 #include "controls/UISwitchPeer.h"
-#include "screen/Screen.h"
-#include "screen/TouchDispatcher.h"
-#include "screen/UIWindow.h"
-
-#include <gtest/gtest.h>
 
 #include <chrono>
 
@@ -14,39 +9,27 @@ namespace {
 using namespace std::chrono_literals;
 
 /// A switch at (100, 100), and a finger.
-class UISwitchTest : public testing::Test {
+class UISwitchTest : public Phone {
 protected:
     UISwitchTest() {
-        screen_.addWindow(window_);
-        window_->setFrame(screen_.bounds());
-        window_->addSubview(switch_);
+        window->addSubview(switch_);
         peer().sizeToFit();
         switch_->setCenter({125.5, 115.5});
         peer().addHandler(UIControlEvents::ValueChanged, [this] { ++changes_; });
-        screen_.layoutIfNeeded();
+        screen.layoutIfNeeded();
     }
-
-    ~UISwitchTest() override { screen_.removeWindow(*window_); }
 
     [[nodiscard]] UISwitchPeer& peer() const { return peerOf<UISwitchPeer>(*switch_); }
 
-    void down(double x) { finger_.touch(TouchPhase::Began, {x, 115}); }
+    void down(double x) { Phone::down({x, 115}); }
 
-    void move(double x) { finger_.touch(TouchPhase::Moved, {x, 115}); }
+    void move(double x) { Phone::move({x, 115}); }
 
-    void up(double x) { finger_.touch(TouchPhase::Ended, {x, 115}); }
-
-    void advance(std::chrono::milliseconds duration) {
-        Device::current().mainQueue().advance(device_.clock(), duration);
-    }
+    void up(double x) { Phone::up({x, 115}); }
 
     [[nodiscard]] CGRect thumb() const { return peer().subviews().back()->frame(); }
 
-    TestDevice device_;
-    Screen screen_{{}};
-    Ref<UIWindow> window_ = make<UIWindow>();
     Ref<UISwitch> switch_ = make<UISwitch>();
-    TouchDispatcher finger_;
     int changes_ = 0;
 };
 
@@ -57,7 +40,7 @@ TEST_F(UISwitchTest, HasTheSystemsSize) {
     EXPECT_EQ(peer().intrinsicWidth(), 49);
     EXPECT_EQ(peer().intrinsicHeight(), 31);
     switch_->setFrame(CGRectMake(10, 20, 200, 5));
-    screen_.layoutIfNeeded();
+    screen.layoutIfNeeded();
     EXPECT_EQ(switch_->frame(), CGRectMake(10, 20, 51, 31));
 }
 
@@ -116,7 +99,7 @@ TEST_F(UISwitchTest, ADragThereAndBackChangesNothing) {
 TEST_F(UISwitchTest, ACancelledTouchTakesTheChangeBack) {
     down(110);
     move(140);
-    finger_.touch(TouchPhase::Cancelled, {140, 115});
+    finger.touch(TouchPhase::Cancelled, {140, 115});
     EXPECT_FALSE(peer().isOn());
     EXPECT_EQ(thumb(), CGRectMake(2, 2, 27, 27));
     EXPECT_EQ(changes_, 0);

@@ -48,9 +48,9 @@ protected:
 
 TEST_F(MenuPresentationTest, opensWhenTheFingerComesDownOnTheButtonAndStaysWhenItIsLifted) {
     EXPECT_EQ(menu(), nullptr);
-    touches.touch(TouchPhase::Began, middleOf(screenFrame(gear())));
+    finger.touch(TouchPhase::Began, middleOf(screenFrame(gear())));
     ASSERT_NE(menu(), nullptr);
-    touches.touch(TouchPhase::Ended, middleOf(screenFrame(gear())));
+    finger.touch(TouchPhase::Ended, middleOf(screenFrame(gear())));
     settle();
     ASSERT_NE(menu(), nullptr);
     EXPECT_EQ(menu()->kind(), "menu");
@@ -133,11 +133,11 @@ TEST_F(MenuPresentationTest, aTouchAroundItClosesItAndReachesNothingBeneath) {
 }
 
 TEST_F(MenuPresentationTest, aFingerThatSlidesFromTheButtonToARowAndIsLiftedChoosesIt) {
-    touches.touch(TouchPhase::Began, middleOf(screenFrame(gear())));
+    finger.touch(TouchPhase::Began, middleOf(screenFrame(gear())));
     advance(milliseconds(500));
     const auto row = middleOf(menu()->actions()[1].frame);
-    touches.touch(TouchPhase::Moved, row);
-    touches.touch(TouchPhase::Ended, row);
+    finger.touch(TouchPhase::Moved, row);
+    finger.touch(TouchPhase::Ended, row);
     settle();
     EXPECT_THAT(chosen, ElementsAre("Reset Settings"));
     EXPECT_EQ(menu(), nullptr);
@@ -147,9 +147,9 @@ TEST_F(MenuPresentationTest, aFingerMayMoveFromRowToRow) {
     tap(gear());
     settle();
     const auto actions = menu()->actions();
-    touches.touch(TouchPhase::Began, middleOf(actions[1].frame));
-    touches.touch(TouchPhase::Moved, middleOf(actions[0].frame));
-    touches.touch(TouchPhase::Ended, middleOf(actions[0].frame));
+    finger.touch(TouchPhase::Began, middleOf(actions[1].frame));
+    finger.touch(TouchPhase::Moved, middleOf(actions[0].frame));
+    finger.touch(TouchPhase::Ended, middleOf(actions[0].frame));
     settle();
     EXPECT_THAT(chosen, ElementsAre("Apply"));
 }

@@ -99,10 +99,10 @@ TEST_F(UINavigationBarTest, aButtonRunsItsActionAndIsPaleWhileItIsPressed) {
     show({a});
     const auto& button = *content().rightButtons().at(0);
     const auto middle = CGPoint{CGRectGetMidX(screenFrame(button)), CGRectGetMidY(screenFrame(button))};
-    touches.touch(TouchPhase::Began, middle);
+    finger.touch(TouchPhase::Began, middle);
     EXPECT_DOUBLE_EQ(button.content().alpha(), 0.2);
     EXPECT_EQ(runs, 0);
-    touches.touch(TouchPhase::Ended, middle);
+    finger.touch(TouchPhase::Ended, middle);
     EXPECT_DOUBLE_EQ(button.content().alpha(), 1);
     EXPECT_EQ(runs, 1);
 }
@@ -261,7 +261,7 @@ TEST_F(UINavigationBarTest, theLargeTitleComesToRestOpenOrClosed) {
     const auto dragUpBy = [&](double points) {
         drag({200, 600}, {200, 600 - points - UIPanGestureRecognizer::slop}, 40);
         advance(std::chrono::milliseconds(300));
-        lift({200, 600 - points - UIPanGestureRecognizer::slop});
+        up({200, 600 - points - UIPanGestureRecognizer::slop});
         settle();
     };
     dragUpBy(20);

@@ -205,7 +205,7 @@ TEST_F(UINavigationControllerTest, aSwipeFromTheLeadingEdgePastTheMiddleGoesBack
     EXPECT_NEAR(shownX(b->view()), 260, 1e-6);
     log.clear();
     advance(milliseconds(200)); // held still: it is the place that decides
-    lift({275, 400});
+    up({275, 400});
     settle();
     EXPECT_THAT(log, ElementsAre("viewDidDisappear B", "viewDidAppear A"));
     EXPECT_THAT(titles(), ElementsAre("A"));
@@ -216,7 +216,7 @@ TEST_F(UINavigationControllerTest, aSwipeThatIsGivenUpPutsThePageBack) {
     drag({5, 400}, {120, 400}, 60);
     log.clear();
     advance(milliseconds(200));
-    lift({120, 400});
+    up({120, 400});
     EXPECT_THAT(log, ElementsAre());
     settle();
     EXPECT_THAT(
@@ -230,7 +230,7 @@ TEST_F(UINavigationControllerTest, aSwipeThatIsGivenUpPutsThePageBack) {
 TEST_F(UINavigationControllerTest, aFlickGoesBackFromLessThanTheMiddle) {
     show({a, b});
     drag({5, 400}, {120, 400}, 5);
-    lift({120, 400});
+    up({120, 400});
     settle();
     EXPECT_THAT(titles(), ElementsAre("A"));
 }
@@ -239,16 +239,16 @@ TEST_F(UINavigationControllerTest, aSwipeIsNothingAtTheRootDuringATransitionAndE
     show({a});
     drag({5, 400}, {300, 400});
     EXPECT_FALSE(peer().isTransitioning());
-    lift({300, 400});
+    up({300, 400});
     navigation->pushViewController(b, true);
     advance(milliseconds(100));
     drag({5, 400}, {300, 400});
-    lift({300, 400});
+    up({300, 400});
     settle();
     EXPECT_THAT(titles(), ElementsAre("A", "B"));
     drag({100, 400}, {380, 400});
     EXPECT_FALSE(peer().isTransitioning());
-    lift({380, 400});
+    up({380, 400});
     EXPECT_THAT(titles(), ElementsAre("A", "B"));
 }
 
@@ -267,7 +267,7 @@ TEST_F(UINavigationControllerTest, aPushUnderTheFingerWaitsForItsEnd) {
     drag({5, 400}, {100, 400}, 60);
     navigation->pushViewController(c, true);
     advance(milliseconds(200));
-    lift({100, 400});
+    up({100, 400});
     settle();
     EXPECT_THAT(titles(), ElementsAre("A", "B", "C"));
 }

@@ -1,6 +1,6 @@
 #include "presentation/PresentationFixture.h"
 
-PresentationFixture::PresentationFixture(Screen::Options options) : NavigationFixture(options) {
+PresentationFixture::PresentationFixture(const Screen::Options& options) : NavigationFixture(options) {
     show({page("A")});
 }
 

@@ -9,7 +9,7 @@
 /// Controllers that are presented in the window of a navigation controller, which has the page "A".
 class PresentationFixture : public NavigationFixture {
 protected:
-    explicit PresentationFixture(Screen::Options options = {});
+    explicit PresentationFixture(const Screen::Options& options = {});
 
     /// Has the navigation controller present it and, once that is done, logs "presented" and its title.
     void present(const Ref<UIViewController>& controller, bool animated = false) {

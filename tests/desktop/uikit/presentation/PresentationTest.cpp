@@ -282,7 +282,7 @@ TEST_F(PresentationTest, aFingerThatIsDownBeneathIsTakenAway) {
     button->setFrame(window->bounds());
     peerOf<UIControlPeer>(*button).addHandler(UIControlEvents::TouchCancel, [&] { ++cancelled; });
     peer().top()->view().addSubview(button);
-    touches.touch(TouchPhase::Began, {195, 400});
+    finger.touch(TouchPhase::Began, {195, 400});
     present(sheet, true);
     EXPECT_EQ(cancelled, 1);
 }

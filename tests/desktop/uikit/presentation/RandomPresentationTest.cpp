@@ -89,13 +89,13 @@ protected:
     void moveFinger() {
         switch (below(4)) {
         case 0:
-            touches.touch(TouchPhase::Began, somewhere());
+            finger.touch(TouchPhase::Began, somewhere());
             break;
         case 1:
-            touches.touch(TouchPhase::Ended, somewhere());
+            finger.touch(TouchPhase::Ended, somewhere());
             break;
         default:
-            touches.touch(TouchPhase::Moved, somewhere());
+            finger.touch(TouchPhase::Moved, somewhere());
         }
     }
 
@@ -122,7 +122,7 @@ protected:
             screen.setStyle(below(2) == 0 ? UserInterfaceStyle::Dark : UserInterfaceStyle::Light);
             break;
         case 5:
-            touches.touch(TouchPhase::Cancelled, {});
+            finger.touch(TouchPhase::Cancelled, {});
             break;
         default:
             if (auto* const presented = top())
@@ -158,7 +158,7 @@ TEST_P(RandomPresentationTest, alwaysEndsInOrder) {
         step();
     settle();
     EXPECT_GT(completions, 20);
-    touches.touch(TouchPhase::Cancelled, {});
+    finger.touch(TouchPhase::Cancelled, {});
     navigation->dismissViewControllerAnimated(false, {});
     settle();
     while (navigation->presentedViewController()) { // what the last completions have presented

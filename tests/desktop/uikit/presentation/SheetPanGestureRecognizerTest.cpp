@@ -66,7 +66,7 @@ TEST_F(SheetPanTest, takesTheTouchFromAControl) {
     const auto control = make<UIControl>();
     control->setFrame(CGRectMake(0, 0, 390, 200));
     sheet->view().addSubview(control);
-    touches.touch(TouchPhase::Began, {195, 150});
+    finger.touch(TouchPhase::Began, {195, 150});
     EXPECT_TRUE(control->isTracking());
     drag({195, 150}, {195, 250});
     EXPECT_FALSE(control->isTracking());
@@ -75,10 +75,10 @@ TEST_F(SheetPanTest, takesTheTouchFromAControl) {
 
 TEST_F(SheetPanTest, leavesContentThatMovesToTheFingerThatStopsIt) {
     drag({195, 700}, {195, 300}, 4);
-    lift({195, 300});
+    up({195, 300});
     advance(std::chrono::milliseconds(100));
     ASSERT_TRUE(peerOf<UIScrollViewPeer>(*scroll).isMoving());
-    touches.touch(TouchPhase::Began, {195, 500});
+    finger.touch(TouchPhase::Began, {195, 500});
     EXPECT_FALSE(peerOf<UIScrollViewPeer>(*scroll).isMoving());
-    lift({195, 500});
+    up({195, 500});
 }

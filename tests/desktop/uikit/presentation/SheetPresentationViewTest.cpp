@@ -183,7 +183,7 @@ TEST_F(SheetPresentationViewTest, leavesOrSpringsBackByHowItWasLetGo) {
         drag({195, 100}, end, fast ? 5 : 40);
         if (!fast)
             advance(milliseconds(200));
-        lift(end);
+        up(end);
         EXPECT_EQ(top() == nullptr, leaves) << distance;
         settle();
         EXPECT_EQ(navigation->presentedViewController() == nullptr, leaves) << distance;
@@ -200,7 +200,7 @@ TEST_F(SheetPresentationViewTest, leavesFromWhereTheFingerLetGo) {
     takeLog();
     drag({195, 70}, {195, 600}, 20);
     const auto before = shownFrame(sheetOf(sheet).shownView()).origin.y;
-    lift({195, 600});
+    up({195, 600});
     EXPECT_NEAR(shownFrame(sheetOf(sheet).shownView()).origin.y, before, 1e-6);
     EXPECT_THAT(takeLog(), ElementsAre("viewWillDisappear B"));
     settle();
@@ -214,7 +214,7 @@ TEST_F(SheetPresentationViewTest, resistsTheFingerWhileTheUserMayNotDismissIt) {
     const auto moved = shownFrame(sheetOf(sheet).shownView()).origin.y - 57;
     EXPECT_GT(moved, 20);
     EXPECT_LT(moved, 787 / 4.0);
-    touches.touch(TouchPhase::Cancelled, {});
+    finger.touch(TouchPhase::Cancelled, {});
     settle();
     EXPECT_EQ(screenFrame(sheet->view()), CGRectMake(0, 57, 390, 787));
 }
@@ -226,7 +226,7 @@ TEST_F(SheetPresentationViewTest, isStretchedALittleByAFingerThatMovesUp) {
     EXPECT_LT(card.origin.y, 56);
     EXPECT_GT(card.origin.y, 44);
     EXPECT_DOUBLE_EQ(CGRectGetMaxY(card), 844);
-    lift({195, 200});
+    up({195, 200});
     settle();
     EXPECT_EQ(screenFrame(sheet->view()), CGRectMake(0, 57, 390, 787));
 }
@@ -236,7 +236,7 @@ TEST_F(SheetPresentationViewTest, aSheetThatIsPresentedAboveEndsTheDrag) {
     drag({195, 70}, {195, 300});
     const auto second = page("C");
     presentOn(*sheet, second, true);
-    lift({195, 700});
+    up({195, 700});
     settle();
     EXPECT_EQ(sheet->presentedViewController(), second);
     EXPECT_NEAR(shownFrame(sheetOf(sheet).shownView()).origin.y, 47, 1e-9);
@@ -246,8 +246,8 @@ TEST_F(SheetPresentationViewTest, isDismissedByCodeUnderTheFinger) {
     const auto sheet = presented();
     drag({195, 70}, {195, 300});
     dismissBy(*sheet, true);
-    touches.touch(TouchPhase::Moved, {195, 100});
-    lift({195, 100});
+    finger.touch(TouchPhase::Moved, {195, 100});
+    up({195, 100});
     settle();
     EXPECT_EQ(navigation->presentedViewController(), nullptr);
     EXPECT_EQ(root(), window->bounds());
@@ -258,7 +258,7 @@ TEST_F(SheetPresentationViewTest, goesWithItsApplicationUnderTheFinger) {
     drag({195, 70}, {195, 300});
     window->setRootViewController(nullptr);
     EXPECT_EQ(watched.strong(), nullptr);
-    lift({195, 600});
+    up({195, 600});
     settle();
 }
 

@@ -42,14 +42,14 @@ TEST_F(TouchDispatcherTest, TouchStaysWithTheViewItBeganIn) {
 }
 
 TEST_F(TouchDispatcherTest, TellsWhetherTheFingerIsDown) {
-    EXPECT_FALSE(dispatcher.isTouching());
+    EXPECT_FALSE(finger.isTouching());
     down(5, 5);
-    EXPECT_TRUE(dispatcher.isTouching()) << "though there is no view";
+    EXPECT_TRUE(finger.isTouching()) << "though there is no view";
     up(5, 5);
-    EXPECT_FALSE(dispatcher.isTouching());
+    EXPECT_FALSE(finger.isTouching());
     down(50, 150);
     cancel();
-    EXPECT_FALSE(dispatcher.isTouching());
+    EXPECT_FALSE(finger.isTouching());
 }
 
 TEST_F(TouchDispatcherTest, FingerThatIsNotDownIsIgnored) {
@@ -71,7 +71,7 @@ TEST_F(TouchDispatcherTest, ViewThatIsRemovedLosesTheTouch) {
     takeEvents();
     inner->peer().removeFromSuperview();
     EXPECT_EQ(events, Events{"inner cancelled"});
-    EXPECT_TRUE(dispatcher.isTouching()) << "the finger is still there";
+    EXPECT_TRUE(finger.isTouching()) << "the finger is still there";
     up(50, 150);
     EXPECT_EQ(events, Events{"inner cancelled"});
 }
@@ -286,7 +286,7 @@ TEST_F(CancelledTouchTest, ATouchBroughtByWhoIsToldOfTheCancelledOneGoesOnAlone)
     EXPECT_EQ(takeEvents(), (Events{"began", "cancelled", "began"})) << "the nested one came last";
     up(60, 160);
     EXPECT_EQ(takeEvents(), Events{"ended"});
-    EXPECT_FALSE(dispatcher.isTouching());
+    EXPECT_FALSE(finger.isTouching());
     tap(50, 150);
     EXPECT_EQ(events, (Events{"began", "ended"}));
 }

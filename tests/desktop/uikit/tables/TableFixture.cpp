@@ -23,29 +23,22 @@ Ref<UITableViewCell> NotedContent::cellForRow(IndexPath row) {
     return cell;
 }
 
-TableFixture::TableFixture(const Screen::Options& options) : screen_(options) {
-    screen_.addWindow(window_);
-    window_->setFrame(screen_.bounds());
-    window_->addSubview(table_);
+TableFixture::TableFixture(const Screen::Options& options) : Phone(options) {
+    window->addSubview(table_);
 }
 
 TableFixture::~TableFixture() {
     peer().setContent(nullptr);
-    screen_.removeWindow(*window_);
 }
 
 void TableFixture::show() {
-    table_->setFrame(screen_.bounds());
+    table_->setFrame(screen.bounds());
     peer().setContent(&content_);
     layOut();
 }
 
-void TableFixture::advance(std::chrono::milliseconds duration) {
-    Device::current().mainQueue().advance(device_.clock(), duration);
-}
-
 CGPoint TableFixture::middleOf(IndexPath row) {
-    const auto rect = table_->UIView::peer().convertToScreen(peer().rectForRow(row));
+    const auto rect = table_->peer().convertToScreen(peer().rectForRow(row));
     return {CGRectGetMidX(rect), CGRectGetMidY(rect)};
 }
 

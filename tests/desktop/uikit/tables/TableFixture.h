@@ -1,17 +1,11 @@
 #pragma once
 
-#include "TestDevice.h"
-#include "screen/Screen.h"
-#include "screen/TouchDispatcher.h"
-#include "screen/UIWindow.h"
+#include "Phone.h"
 #include "tables/TableContent.h"
 #include "tables/UITableView.h"
 #include "tables/UITableViewCellPeer.h"
 #include "tables/UITableViewPeer.h"
 
-#include <gtest/gtest.h>
-
-#include <chrono>
 #include <optional>
 #include <set>
 #include <string>
@@ -66,24 +60,13 @@ private:
 };
 
 /// A table that fills a phone's screen, and a finger on it.
-class TableFixture : public testing::Test {
+class TableFixture : public Phone {
 protected:
     explicit TableFixture(const Screen::Options& options = {});
     ~TableFixture() override;
 
     /// Shows the content as it is now.
     void show();
-
-    void layOut() { screen_.layoutIfNeeded(); }
-
-    void advance(std::chrono::milliseconds duration);
-
-    void touch(TouchPhase phase, CGPoint place) { finger_.touch(phase, place); }
-
-    void tap(CGPoint place) {
-        touch(TouchPhase::Began, place);
-        touch(TouchPhase::Ended, place);
-    }
 
     /// The middle of a row, on the screen.
     [[nodiscard]] CGPoint middleOf(IndexPath row);
@@ -96,10 +79,6 @@ protected:
 
     [[nodiscard]] std::string titleOf(IndexPath row) const { return *cell(row).textLabel().text(); }
 
-    TestDevice device_;
-    Screen screen_;
-    Ref<UIWindow> window_ = make<UIWindow>();
     Ref<UITableView> table_ = make<UITableView>();
     NotedContent content_{*table_};
-    TouchDispatcher finger_;
 };

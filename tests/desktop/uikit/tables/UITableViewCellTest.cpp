@@ -20,7 +20,7 @@ protected:
 
     static void layOut(UITableViewCell& cell) { cell.peer().layoutIfNeeded(); }
 
-    TestDevice device_;
+    TestDevice device;
 };
 
 const std::string longText = "A text that is so long that it has no room in the width of one card of a phone";

@@ -33,32 +33,32 @@ TEST_F(UITableViewSelectionTest, ATapSelects) {
 }
 
 TEST_F(UITableViewSelectionTest, AFingerThatRestsHighlights) {
-    touch(TouchPhase::Began, middleOf({0, 2}));
+    down(middleOf({0, 2}));
     EXPECT_FALSE(peerOf<UITableViewCellPeer>(cell({0, 2})).isHighlighted());
     advance(200ms);
     EXPECT_TRUE(peerOf<UITableViewCellPeer>(cell({0, 2})).isHighlighted());
     EXPECT_NEAR(shownRed({0, 2}), pressedRed, 0.01);
     EXPECT_TRUE(content_.selected.empty());
-    touch(TouchPhase::Ended, middleOf({0, 2}));
+    up(middleOf({0, 2}));
     EXPECT_EQ(content_.selected, (Paths{{0, 2}}));
 }
 
 TEST_F(UITableViewSelectionTest, ADragTakesTheHighlightAway) {
     auto place = middleOf({0, 5});
-    touch(TouchPhase::Began, place);
+    down(place);
     advance(200ms);
     for (auto step = 0; step < 6; ++step) {
         place.y -= 10;
-        touch(TouchPhase::Moved, place);
+        move(place);
     }
     EXPECT_FALSE(peerOf<UITableViewCellPeer>(cell({0, 5})).isHighlighted());
-    touch(TouchPhase::Ended, place);
+    up(place);
     advance(3s);
     EXPECT_TRUE(content_.selected.empty());
 }
 
 TEST_F(UITableViewSelectionTest, ACancelledTouchSelectsNothing) {
-    touch(TouchPhase::Began, middleOf({0, 2}));
+    down(middleOf({0, 2}));
     advance(200ms);
     touch(TouchPhase::Cancelled, middleOf({0, 2}));
     EXPECT_FALSE(peerOf<UITableViewCellPeer>(cell({0, 2})).isHighlighted());
@@ -67,10 +67,10 @@ TEST_F(UITableViewSelectionTest, ACancelledTouchSelectsNothing) {
 
 TEST_F(UITableViewSelectionTest, SomeRowsCannotBeSelected) {
     content_.unselectable.insert({0, 2});
-    touch(TouchPhase::Began, middleOf({0, 2}));
+    down(middleOf({0, 2}));
     advance(200ms);
     EXPECT_FALSE(peerOf<UITableViewCellPeer>(cell({0, 2})).isHighlighted());
-    touch(TouchPhase::Ended, middleOf({0, 2}));
+    up(middleOf({0, 2}));
     EXPECT_TRUE(content_.selected.empty());
 }
 
@@ -86,15 +86,15 @@ TEST_F(UITableViewSelectionTest, AnotherRowTakesTheSelection) {
 
 TEST_F(UITableViewSelectionTest, TheSelectedRowDoesNotLookSoWhileAnotherOneIsPressed) {
     peer().selectRow({0, 1});
-    touch(TouchPhase::Began, middleOf({0, 2}));
+    down(middleOf({0, 2}));
     advance(200ms);
     EXPECT_EQ(shownRed({0, 1}), 1);
     EXPECT_NEAR(shownRed({0, 2}), pressedRed, 1e-6);
-    touch(TouchPhase::Cancelled, {});
+    cancel();
     EXPECT_NEAR(shownRed({0, 1}), pressedRed, 1e-6);
     EXPECT_EQ(shownRed({0, 2}), 1);
     EXPECT_EQ(peer().selectedRow(), (IndexPath{0, 1}));
-    touch(TouchPhase::Began, middleOf({0, 1}));
+    down(middleOf({0, 1}));
     advance(200ms);
     EXPECT_NEAR(shownRed({0, 1}), pressedRed, 1e-6);
 }

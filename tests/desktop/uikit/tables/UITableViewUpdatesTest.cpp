@@ -129,9 +129,9 @@ TEST_F(UITableViewUpdatesTest, TheSelectionMovesWithItsRow) {
 
 TEST_F(UITableViewUpdatesTest, RowsThatDoNotAgreeAreShownAnewWithALogLine) {
     content_.sections[0].rows.pop_back();
-    static_cast<void>(device_.log().take());
+    static_cast<void>(device.log().take());
     peer().insertRows({{0, 0}});
-    EXPECT_EQ(device_.log().take().size(), 1U);
+    EXPECT_EQ(device.log().take().size(), 1U);
     layOut();
     EXPECT_EQ(titles(0), (Titles{"0", "1", "2"}));
 }

@@ -156,14 +156,14 @@ protected:
         const CGPoint place{below(4) == 0 ? within(20) : within(390), within(844)};
         const auto phase = below(20);
         if (phase == 0)
-            dispatcher.touch(TouchPhase::Cancelled, place);
-        else if (!dispatcher.isTouching() || phase == 1)
-            dispatcher.touch(TouchPhase::Began, lastPlace = place);
+            finger.touch(TouchPhase::Cancelled, place);
+        else if (!finger.isTouching() || phase == 1)
+            finger.touch(TouchPhase::Began, lastPlace = place);
         else if (phase < 7)
-            dispatcher.touch(TouchPhase::Ended, lastPlace);
+            finger.touch(TouchPhase::Ended, lastPlace);
         else
-            dispatcher.touch(TouchPhase::Moved,
-                             lastPlace = {lastPlace.x + within(24) - 12, lastPlace.y + within(24) - 12});
+            finger.touch(TouchPhase::Moved,
+                         lastPlace = {lastPlace.x + within(24) - 12, lastPlace.y + within(24) - 12});
     }
 
     std::mt19937 random{GetParam()};
@@ -195,7 +195,7 @@ TEST_P(RandomTouchTest, NothingIsLeftBehind) {
     EXPECT_GT(gestures, 10) << "and recognisers";
     EXPECT_GT(scrolls, 20) << "and scroll views";
     cancel();
-    EXPECT_FALSE(dispatcher.isTouching());
+    EXPECT_FALSE(finger.isTouching());
     for (const auto& view : std::vector(window->peer().subviews()))
         view->peer().removeFromSuperview();
     settle();
