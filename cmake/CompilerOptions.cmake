@@ -1,4 +1,4 @@
-# What every target is compiled with. Link one of the two, PRIVATE.
+# What every target is compiled with. Link one of the first two, PRIVATE.
 
 # Code of this project: all warnings, all of them errors.
 add_library(corvex_warnings INTERFACE)
@@ -10,3 +10,7 @@ target_compile_options(corvex_warnings INTERFACE
 add_library(corvex_portable INTERFACE)
 target_link_libraries(corvex_portable INTERFACE corvex_warnings)
 target_compile_options(corvex_portable INTERFACE -fno-exceptions)
+
+# Code that only tests, which is not optimised: that would take more time than it saves.
+add_library(corvex_unoptimised INTERFACE)
+target_compile_options(corvex_unoptimised INTERFACE $<$<CONFIG:RelWithDebInfo>:-O0>)

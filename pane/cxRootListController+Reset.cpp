@@ -77,7 +77,7 @@ void cxRootListController::clearUserDefaults() {
 void cxRootListController::removePreferenceFiles() {
     removeFile(std::string(preferenceFilePath));
     for (const auto name : ImageFileSet)
-        removeFile(std::string(imageFolderPath) + "/" + std::string(name));
+        removeFile(std::string(imageFolderPath).append("/").append(name));
 }
 
 void cxRootListController::finalizeReset() {

@@ -124,7 +124,8 @@ auto StringTableLexer::quoted(char quote) -> Expected<std::string> {
         text += take(rest_.find_first_of(std::string_view(ends.data(), ends.size())));
         if (atEnd())
             return std::unexpected(
-                Damage{firstLine, std::string("a closing ") + quote + " for the text that begins here"});
+                Damage{firstLine,
+                       std::string("a closing ").append(1, quote).append(" for the text that begins here")});
         if (take(1).front() == quote)
             return text;
         if (auto appended = appendEscaped(text); !appended)
