@@ -1,0 +1,188 @@
+"""Which sources tools/tidy looks at, and which it knows to be clean, with stand-ins for LLVM's programs."""
+
+import json
+import os
+import subprocess
+import sys
+import tempfile
+import unittest
+from pathlib import Path
+
+TIDY = Path(__file__).resolve().parents[2] / "tools" / "tidy"
+
+# Notes which source it is given with which command, and finds the word BAD.
+CLANG_TIDY = """#!/usr/bin/env python3
+import json, os, pathlib, sys
+if sys.argv[1:] == ["--version"]:
+    print(os.environ["TIDY_VERSION"])
+    sys.exit()
+quiet, option, folder, source = sys.argv[1:]
+assert (quiet, option) == ("-quiet", "-p")
+entries = json.loads(pathlib.Path(folder, "compile_commands.json").read_text())
+(entry,) = [entry for entry in entries if entry["file"] == source]
+with open(os.environ["TIDY_LOG"], "a") as log:
+    log.write(json.dumps([pathlib.Path(source).name, entry["arguments"]]) + "\\n")
+text = pathlib.Path(source).read_text()
+if "BAD" in text:
+    print(f"{source}:1:1: error: BAD")
+if "LOUD" in text:
+    print(f"{source}:1:1: warning: LOUD")
+if "CRASH" in text:
+    print("it crashed", file=sys.stderr)
+sys.exit(1 if "BAD" in text or "CRASH" in text else 0)
+"""
+
+# Every source includes the header of its name, and is at its end there.
+SCAN = """#!/usr/bin/env python3
+import json, pathlib, sys
+for entry in json.loads(pathlib.Path(sys.argv[sys.argv.index("-compilation-database") + 1]).read_text()):
+    source = pathlib.Path(entry["file"])
+    if "UNREADABLE" not in source.read_text():
+        print(f"{source.stem}.o: \\\\\\n  {source} \\\\\\n  {source.with_suffix('.h')}\\n")
+"""
+
+
+class TidyTest(unittest.TestCase):
+    def setUp(self):
+        self.folder = tempfile.TemporaryDirectory()
+        self.root = Path(self.folder.name).resolve() / "tree"
+        self.root.mkdir()
+        self.programs = self.root.parent
+        self.log = self.programs / "log"
+        self.version = "version 1"
+        for name, text in [("clang-tidy", CLANG_TIDY), ("scan", SCAN)]:
+            (self.programs / name).write_text(text)
+            (self.programs / name).chmod(0o755)
+
+    def tearDown(self):
+        self.folder.cleanup()
+
+    def write(self, path, content=""):
+        target = self.root / path
+        target.parent.mkdir(parents=True, exist_ok=True)
+        target.write_text(content)
+
+    def database(self, build, *commands):
+        """The database of a build, of (source, arguments)."""
+        folder = self.root / "build" / build
+        entries = [
+            {"directory": str(folder), "file": str(self.root / source), "command": f"c++ {arguments} {self.root / source}"}
+            for source, arguments in commands
+        ]
+        self.write(f"build/{build}/compile_commands.json", json.dumps(entries))
+        return folder / "compile_commands.json"
+
+    def tidy(self, *databases, clean=True):
+        """What clang-tidy was started for: names with arguments."""
+        self.log.write_text("")
+        environment = {
+            **os.environ,
+            "CLANG_TIDY": str(self.programs / "clang-tidy"),
+            "CLANG_SCAN_DEPS": str(self.programs / "scan"),
+            "TIDY_LOG": str(self.log),
+            "TIDY_VERSION": self.version,
+        }
+        done = subprocess.run(
+            [sys.executable, TIDY, self.root, self.root / "build" / "tidy", *databases],
+            capture_output=True, text=True, check=False, env=environment,
+        )
+        self.assertEqual(done.returncode, 0 if clean else 1, done.stdout + done.stderr)
+        self.output = done.stdout
+        return dict(json.loads(line) for line in self.log.read_text().splitlines())
+
+    def looked_at(self, *databases, clean=True):
+        return sorted(self.tidy(*databases, clean=clean))
+
+    def one_source(self, content="", arguments="-O2"):
+        self.write("core/Store.cpp", content)
+        self.write("core/Store.h")
+        return self.database("desktop", ("core/Store.cpp", arguments))
+
+    def test_a_clean_source_is_looked_at_once(self):
+        database = self.one_source()
+        self.assertEqual(self.looked_at(database), ["Store.cpp"])
+        self.assertEqual(self.looked_at(database), [])
+        self.assertIn("0 sources looked at, 0 of them not clean; 1 known to be clean", self.output)
+
+    def test_whatever_it_depends_on_makes_it_unknown(self):
+        database = self.one_source()
+        self.looked_at(database)
+        for path in ["core/Store.cpp", "core/Store.h", ".clang-tidy", "core/.clang-tidy"]:
+            self.write(path, "// changed\n")
+            self.assertEqual(self.looked_at(database), ["Store.cpp"], path)
+            self.assertEqual(self.looked_at(database), [], path)
+        self.version = "version 2"
+        self.assertEqual(self.looked_at(database), ["Store.cpp"])
+        self.assertEqual(self.looked_at(self.one_source("// changed\n", "-O3")), ["Store.cpp"])
+
+    def test_what_it_does_not_depend_on_changes_nothing(self):
+        database = self.one_source()
+        self.looked_at(database)
+        self.write("core/Other.h", "// new\n")
+        self.write("desktop/.clang-tidy", "# new\n")
+        self.assertEqual(self.looked_at(database), [])
+
+    def test_a_source_that_is_not_clean_is_never_known(self):
+        for word in ["BAD", "LOUD"]:
+            database = self.one_source(word)
+            self.assertEqual(self.looked_at(database, clean=False), ["Store.cpp"])
+            self.assertIn(f"core/Store.cpp is not clean:\n{self.root}/core/Store.cpp:1:1: ", self.output)
+            self.assertEqual(self.looked_at(database, clean=False), ["Store.cpp"])
+
+    def test_what_ends_without_a_finding_but_badly_is_not_clean(self):
+        database = self.one_source("CRASH")
+        self.assertEqual(self.looked_at(database, clean=False), ["Store.cpp"])
+        self.assertIn("it crashed", self.output)
+        self.assertEqual(self.looked_at(database, clean=False), ["Store.cpp"])
+
+    def test_a_source_that_is_put_right_is_looked_at_again(self):
+        self.looked_at(self.one_source("BAD"), clean=False)
+        self.assertEqual(self.looked_at(self.one_source()), ["Store.cpp"])
+
+    def test_a_source_whose_headers_are_unknown_is_always_looked_at(self):
+        database = self.one_source("UNREADABLE")
+        self.assertEqual(self.looked_at(database), ["Store.cpp"])
+        self.assertEqual(self.looked_at(database), ["Store.cpp"])
+
+    def test_one_source_that_is_not_clean_does_not_hide_another(self):
+        self.one_source("BAD")
+        self.write("core/Other.cpp", "BAD")
+        database = self.database("desktop", ("core/Store.cpp", ""), ("core/Other.cpp", ""))
+        self.assertEqual(self.looked_at(database, clean=False), ["Other.cpp", "Store.cpp"])
+        self.assertIn("2 of them not clean", self.output)
+
+    def test_the_first_database_that_has_a_source_says_how_it_is_compiled(self):
+        first = self.one_source(arguments="-first")
+        self.write("fuzz/StoreFuzzer.cpp")
+        second = self.database("fuzz", ("core/Store.cpp", "-second"), ("fuzz/StoreFuzzer.cpp", "-second"))
+        looked_at = self.tidy(first, second)
+        self.assertEqual(looked_at["Store.cpp"][1], "-first")
+        self.assertEqual(looked_at["StoreFuzzer.cpp"][1], "-second")
+
+    def test_what_the_build_made_is_left_out(self):
+        self.one_source()
+        self.write("build/desktop/made.cpp")
+        database = self.database("desktop", ("core/Store.cpp", ""), ("build/desktop/made.cpp", ""))
+        self.assertEqual(self.looked_at(database), ["Store.cpp"])
+
+    def test_no_source_at_all_is_a_failure(self):
+        self.assertEqual(self.looked_at(self.database("desktop"), clean=False), [])
+
+    def test_precompiled_headers_are_left_out_of_the_command(self):
+        source = str(self.root / "core/Store.cpp")
+        for arguments in [
+            "-Winvalid-pch -include /b/x.dir/cmake_pch.hxx",
+            "-Winvalid-pch -fpch-instantiate-templates -Xclang -include-pch -Xclang /b/cmake_pch.hxx.pch -Xclang -include -Xclang /b/cmake_pch.hxx",
+        ]:
+            looked_at = self.tidy(self.one_source(arguments=f"-Wall {arguments} -include own.h -O2"))
+            self.assertEqual(looked_at["Store.cpp"], ["c++", "-Wall", "-include", "own.h", "-O2", source])
+            for kept in (self.root / "build" / "tidy").glob("*.clean"):
+                kept.unlink()
+
+    def test_a_source_for_several_processors_is_looked_at_for_the_first(self):
+        looked_at = self.tidy(self.one_source(arguments="-arch arm64 -arch arm64e -fuse-lipo=lipo -Os"))
+        self.assertEqual(looked_at["Store.cpp"], ["c++", "-arch", "arm64", "-Os", str(self.root / "core/Store.cpp")])
+
+
+if __name__ == "__main__":
+    unittest.main()
