@@ -1,9 +1,10 @@
 # Everything a person does with this tree. The first call of a target installs what it needs and what is missing.
-.PHONY: help run test smoke device package device-test lint format fuzz bench coverage clean
+.PHONY: help run test test-sanitized smoke device package device-test lint format fuzz bench coverage clean
 
 help:
 	@echo "make run       build the program and open its window (without a display: a walk with pictures in out/)"
-	@echo "make test      build, and run all tests: the desktop's, then the device's, under the sanitizers too"
+	@echo "make test      build, and run all tests: the desktop's, then the device's"
+	@echo "make test-sanitized  the desktop's tests under the address and undefined-behaviour sanitizers"
 	@echo "make smoke     handle the window from outside, on a virtual display"
 	@echo "make device    build the bundle for the device, in build/device/corvexPrefs.bundle"
 	@echo "make package   build the package that installs it, build/device/corvexprefs_VERSION_iphoneos-arm64.deb"
@@ -21,7 +22,11 @@ run:
 
 test:
 	@tools/setup build test device contract
-	@tools/test desktop desktop-sanitize device device-contract
+	@tools/test desktop device device-contract
+
+test-sanitized:
+	@tools/setup build test
+	@tools/test desktop-sanitize
 
 smoke:
 	@tools/setup build smoke
@@ -42,7 +47,7 @@ device-test:
 	@tools/test device device-contract
 
 lint:
-	@tools/setup build test device contract lint
+	@tools/setup build test device contract fuzz lint
 	@tools/lint
 
 format:
