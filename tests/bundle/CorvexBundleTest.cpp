@@ -46,8 +46,10 @@ TEST_F(CorvexBundleTest, OneEntryLeadsToIt) {
     ASSERT_EQ(entries.size(), 1U);
     EXPECT_EQ(entries[0].label, "Corvex");
     EXPECT_EQ(entries[0].folder, bundlePath);
+    EXPECT_EQ(entries[0].detail, textIn(readList("Info.plist"), "NSPrincipalClass"));
     EXPECT_EQ(entries[0].row, (PropertyList::Dictionary{{"bundle", "corvexPrefs"},
                                                         {"cell", "PSLinkCell"},
+                                                        {"detail", "cxRootListController"},
                                                         {"icon", "icon.png"},
                                                         {"isController", true},
                                                         {"label", "Corvex"}}));

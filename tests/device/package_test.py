@@ -4,6 +4,7 @@ In the environment: PACKAGE, BUNDLE (the folder it was made of), VERSION, SOURCE
 """
 
 import os
+import plistlib
 import subprocess
 import sys
 import tarfile
@@ -50,6 +51,12 @@ class PackageTest(unittest.TestCase):
         for path in BUNDLE.iterdir():
             content = self.files.extractfile(f"{BUNDLES}/corvexPrefs.bundle/{path.name}").read()
             self.assertEqual(content, path.read_bytes(), path.name)
+
+    def test_its_entry_names_the_bundle_and_its_page(self):
+        file = plistlib.loads(self.files.extractfile(f"{ENTRIES}/corvexPrefs.plist").read())
+        info = plistlib.loads((BUNDLE / "Info.plist").read_bytes())
+        self.assertEqual((file["entry"]["bundle"], file["entry"]["detail"]), ("corvexPrefs", info["NSPrincipalClass"]))
+        self.assertTrue(file["entry"]["isController"])
 
     def test_all_belongs_to_root_and_only_code_may_be_run(self):
         for member in self.members:
