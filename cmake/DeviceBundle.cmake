@@ -21,8 +21,9 @@ ExternalProject_Add(device_tools
     BUILD_ALWAYS TRUE
     INSTALL_COMMAND "")
 
-# corvex_device_stubs(RESULT FILES...): link stubs of lists of names. Each list says on its first line, after comments,
-# where the device has the library, and then a symbol or an Objective-C class a line.
+# corvex_device_stubs(RESULT FILES...): what the linker is told of the libraries that lists name. Each list says on its
+# first line, after comments, where the device has the library, and then a symbol or an Objective-C class a line. The
+# code is loaded without a "weak library" too.
 function(corvex_device_stubs result)
     set(targets "[ arm64-ios, arm64e-ios ]")
     set(stubs)
@@ -31,11 +32,15 @@ function(corvex_device_stubs result)
         get_filename_component(name ${list} NAME_WE)
         file(STRINGS ${list} lines REGEX "^[^#]")
         set(library)
+        set(how)
         set(symbols)
         set(classes)
         foreach(line IN LISTS lines)
-            if(line MATCHES "^library ([^ ]+)$")
-                set(library ${CMAKE_MATCH_1})
+            if(line MATCHES "^(weak )?library ([^ ]+)$")
+                set(library ${CMAKE_MATCH_2})
+                if(CMAKE_MATCH_1)
+                    set(how -weak_library)
+                endif()
             elseif(line MATCHES "^symbol ([^ ]+)$")
                 list(APPEND symbols "'${CMAKE_MATCH_1}'")
             elseif(line MATCHES "^class ([^ ]+)$")
@@ -63,7 +68,7 @@ exports:
     objc-classes: [ @classes@ ]
 ...
 ")
-        list(APPEND stubs ${stub})
+        list(APPEND stubs ${how} ${stub})
     endforeach()
     set(${result} ${stubs} PARENT_SCOPE)
 endfunction()
@@ -81,6 +86,8 @@ function(corvex_device_bundle name)
     set(arm64e ${work}/arm64e/${file_name})
     set(list ${work}/objects)
     file(GENERATE OUTPUT ${list} CONTENT "$<JOIN:${objects},\n>\n")
+    set(stub_files ${arg_STUBS})
+    list(FILTER stub_files EXCLUDE REGEX "^-")
 
     list(JOIN arg_EXPORTS "\n" exported)
     set(exports ${work}/exports)
@@ -92,7 +99,7 @@ function(corvex_device_bundle name)
     add_custom_command(OUTPUT ${arm64}
         COMMAND ${CMAKE_COMMAND} -E make_directory ${work}/arm64
         COMMAND ${link} -x -o ${arm64} -filelist ${list} ${arg_STUBS}
-        DEPENDS ${list} ${objects} ${arg_STUBS} ${exports}
+        DEPENDS ${list} ${objects} ${stub_files} ${exports}
         COMMENT "Linking ${file_name} for arm64" VERBATIM COMMAND_EXPAND_LISTS)
     # The linker takes prepared objects for arm64. Local symbols carry what it does not know, so they are kept.
     add_custom_command(OUTPUT ${arm64e}
@@ -102,7 +109,7 @@ function(corvex_device_bundle name)
         COMMAND ${ARM64E} finish ${arm64e}.linked ${arm64e}.finished ${file_name}
         COMMAND ${ARM64E} verify ${list} ${arm64e}.finished ${arm64e}.map
         COMMAND ${CMAKE_COMMAND} -E rename ${arm64e}.finished ${arm64e}
-        DEPENDS ${list} ${objects} ${arg_STUBS} ${exports} ${ARM64E} device_tools
+        DEPENDS ${list} ${objects} ${stub_files} ${exports} ${ARM64E} device_tools
         COMMENT "Linking ${file_name} for arm64e" VERBATIM COMMAND_EXPAND_LISTS)
     add_custom_command(OUTPUT ${arg_FILE}
         COMMAND ${CMAKE_COMMAND} -E make_directory ${folder}

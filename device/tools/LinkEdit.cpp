@@ -11,11 +11,11 @@ namespace {
 
 /// Those that `rewrite` moves the data of, and those without data in the segment.
 constexpr std::array knownCommands{
-    MachOFormat::chainedFixups, MachOFormat::exportsTrie,    MachOFormat::functionStarts,
-    MachOFormat::dataInCode,    MachOFormat::symbolTable,    MachOFormat::dynamicSymbolTable,
-    MachOFormat::codeSignature, MachOFormat::segment,        MachOFormat::uuid,
-    MachOFormat::buildVersion,  MachOFormat::sourceVersion,  MachOFormat::loadDylib,
-    MachOFormat::runPath,       MachOFormat::encryptionInfo,
+    MachOFormat::chainedFixups, MachOFormat::exportsTrie,   MachOFormat::functionStarts,
+    MachOFormat::dataInCode,    MachOFormat::symbolTable,   MachOFormat::dynamicSymbolTable,
+    MachOFormat::codeSignature, MachOFormat::segment,       MachOFormat::uuid,
+    MachOFormat::buildVersion,  MachOFormat::sourceVersion, MachOFormat::loadDylib,
+    MachOFormat::loadWeakDylib, MachOFormat::runPath,       MachOFormat::encryptionInfo,
 };
 
 constexpr std::size_t alignment = 8;

@@ -5,6 +5,7 @@ In the environment: VERIFY, BUNDLE, CODE (a small bundle to spoil), STUBS (its l
 
 import os
 import plistlib
+import re
 import struct
 import subprocess
 import sys
@@ -57,6 +58,12 @@ class VerifyDeviceTest(unittest.TestCase):
         self.assert_breach("arm64: loads ['/usr/lib/libchain.dylib'], where the stubs list ['/usr/lib/libother.dylib']", run)
         self.assert_breach("imports _memcpy from libchain", run)
 
+    def test_a_library_that_is_not_loaded_weakly(self):
+        run = verify(stubs=self.other_stubs("library /usr", "weak library /usr"))
+        for architecture in ["arm64", "arm64e"]:
+            breach = "loads [] weakly, where the stubs list ['/usr/lib/libchain.dylib']"
+            self.assert_breach(f"{architecture}: {breach}", run)
+
     def test_exports(self):
         self.assert_breach("arm64: exports _runChecks", verify(exports=EXPORTS[1:]))
         self.assert_breach("arm64e: does not export _missing", verify(exports=[*EXPORTS, "_missing"]))
@@ -80,6 +87,12 @@ class VerifyDeviceTest(unittest.TestCase):
 
 
 class BundleTest(unittest.TestCase):
+    def libraries(self, architecture, command):
+        """What the code loads by load commands of a kind."""
+        options = ["--macho", "--private-headers", f"--arch={architecture}"]
+        headers = subprocess.check_output(["llvm-objdump-22", *options, str(BUNDLE / "corvexPrefs")], text=True)
+        return re.findall(rf"cmd {command}\n.*\n +name (\S+)", headers)
+
     def test_its_files(self):
         names = sorted(path.name for path in BUNDLE.iterdir())
         self.assertEqual(names, ["Info.plist", "Root.plist", "corvexPrefs", "icon.png", "icon@2x.png", "icon@3x.png"])
@@ -90,6 +103,13 @@ class BundleTest(unittest.TestCase):
         self.assertEqual(info["NSPrincipalClass"], "cxRootListController")
         self.assertEqual(info["MinimumOSVersion"], "15.0")
         self.assertEqual(info["CFBundleSupportedPlatforms"], ["iPhoneOS"])
+
+    def test_its_code_is_loaded_without_the_cells_of_other_packages_too(self):
+        for architecture in ["arm64", "arm64e"]:
+            self.assertEqual(self.libraries(architecture, "LC_LOAD_WEAK_DYLIB"), ["@rpath/libgcuniversal.dylib"])
+            needed = self.libraries(architecture, "LC_LOAD_DYLIB")
+            self.assertIn("/usr/lib/libSystem.B.dylib", needed)
+            self.assertEqual([path for path in needed if not path.startswith(("/usr/lib/", "/System/"))], [])
 
     def test_its_pictures_are_in_three_scales(self):
         for name, width in [("icon.png", 29), ("icon@2x.png", 58), ("icon@3x.png", 87)]:
