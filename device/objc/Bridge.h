@@ -15,8 +15,9 @@
 #include <vector>
 
 /// How a C++ type crosses the border: the type that Objective-C sees, and the way there and back. What comes
-/// out as an object is autoreleased. Types without a `Bridge` do not compile; `int` has none, since the
-/// frameworks hardly use it and a constant would be one by accident.
+/// out as an object is autoreleased, or lives as long as the value that it is the other half of. Types
+/// without a `Bridge` do not compile; `int` has none, since the frameworks hardly use it and a constant would
+/// be one by accident.
 template <class T>
 struct Bridge;
 

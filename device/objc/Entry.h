@@ -57,6 +57,15 @@ private:
 template <class P>
 using RawParameter = Incoming<P>::Raw;
 
+/// What Objective-C is answered with. An object outlives the value that it comes of, autoreleased.
+template <class T>
+RawOf<T> rawAnswer(const T& value) {
+    if constexpr (std::is_same_v<RawOf<T>, id>)
+        return objc_autorelease(objc_retain(toRaw(value)));
+    else
+        return toRaw(value);
+}
+
 /// Runs what was entered from outside within an autorelease pool. An object that it answers with outlives the
 /// pool, autoreleased.
 template <class Raw, class Body>
@@ -85,7 +94,7 @@ RawOf<std::remove_cvref_t<R>> callFromOutside(const Function& function, RawParam
         if constexpr (std::is_void_v<R>)
             function(incoming.get()...);
         else
-            return Bridge<Answer>::toRaw(function(incoming.get()...));
+            return rawAnswer<Answer>(function(incoming.get()...));
     };
     return withinPool<RawOf<Answer>>([&] { return call(Incoming<P>(arguments)...); });
 }

@@ -10,7 +10,7 @@ id objectFor(std::monostate /*nothing*/) {
 
 template <class T>
 id objectFor(const T& value) {
-    return toRaw(value);
+    return rawAnswer(value);
 }
 
 MessageValue orNothing(std::optional<PropertyList> value) {

@@ -24,7 +24,7 @@ id bundle(id /*self*/, SEL /*selector*/) noexcept {
         dladdr(reinterpret_cast<const void*>(&bundleOverridable), &image);
         const auto found = NSBundle::bundleWithPath(
             stringByDeletingLastPathComponent(image.dli_fname != nullptr ? image.dli_fname : ""));
-        return objc_autorelease(objc_retain(objectOf(found.get())));
+        return rawAnswer(found);
     });
 }
 

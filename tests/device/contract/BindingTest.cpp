@@ -38,7 +38,9 @@ public:
     }
 
     [[nodiscard]] bool initWithFrame(const CGRect& frame) override {
-        return frame.size.height != 13 && UIView::initWithFrame(frame);
+        if (atInit)
+            atInit(*this);
+        return frame.size.height != 13 && UIView::initWithFrame(frame) && frame.size.width != 13;
     }
 
     [[nodiscard]] std::int64_t layoutCount() const { return layouts; }
@@ -61,12 +63,19 @@ public:
         return value;
     }
 
+    [[nodiscard]] Ref<UIView> fresh() const { return make<UIView>(); }
+
+    void watch(const Ref<UIView>& view) { watched = Weak<UIView>(view); }
+
     [[nodiscard]] std::vector<Ref<UIView>> twice(const Ref<UIView>& view) const { return {view, view}; }
 
     std::int64_t layouts = 0;
     int pair = 0;
     std::function<void()> atEnd;
     std::function<void()> atLayout;
+    Weak<UIView> watched;
+
+    static inline std::function<void(CountedView&)> atInit;
 
 private:
     double scale_ = 1;
@@ -90,6 +99,10 @@ public:
         return initialise<"-[StandInCell initWithStyle:reuseIdentifier:specifier:]">(
             *this, style, reuseIdentifier, specifier);
     }
+
+    [[nodiscard]] virtual Ref<UIView> accessory() {
+        return sendToBase<"-[StandInCell accessory]", Ref<UIView>>(*this);
+    }
 };
 
 /// Takes cells of one style alone.
@@ -99,18 +112,22 @@ public:
                                      const Ref<PSSpecifier>& specifier) override {
         return style == 3 && specifier && Cell::initWithStyle(style, reuseIdentifier, specifier);
     }
+
+    [[nodiscard]] Ref<UIView> accessory() override { return make<UILabel>(); }
 };
 
-const FrameworkClassOf<Cell, UIView> cellClass(
-    "StandInCell",
-    {initialiser<"-[StandInCell initWithStyle:reuseIdentifier:specifier:]", &Cell::initWithStyle>()});
+const FrameworkClassOf<Cell, UIView>
+    cellClass("StandInCell",
+              {initialiser<"-[StandInCell initWithStyle:reuseIdentifier:specifier:]", &Cell::initWithStyle>(),
+               overridable<"-[StandInCell accessory]", &Cell::accessory>()});
 const Class ownCellClass = Class::define<OwnCell, Cell>("OwnCell");
 const Class countedClass = Class::define<CountedView, UIView>(
     "CountedView",
     {method<"layoutCount", &CountedView::layoutCount>(), method<"setScale:", &CountedView::setScale>(),
      method<"scale", &CountedView::scale>(), method<"setPair:animated:", &CountedView::setPair>(),
      method<"echo:", &CountedView::echo>(), method<"echoValue:", &CountedView::echoValue>(),
-     method<"twice:", &CountedView::twice>()});
+     method<"twice:", &CountedView::twice>(), method<"fresh", &CountedView::fresh>(),
+     method<"watch:", &CountedView::watch>()});
 const Class derivedClass = Class::define<DerivedView, CountedView>("DerivedView");
 
 using Lines = std::vector<std::string>;
@@ -208,6 +225,23 @@ TEST(BindingTest, MethodsOfTheTableAnswerWithEveryKindOfValue) {
     auto* const twice = perform(object, "twice:", object);
     ASSERT_EQ(countOf(twice), 2U);
     EXPECT_EQ(objectAt(twice, 1), object);
+}
+
+TEST(BindingTest, AFreshAnswerReachesItsCaller) {
+    const auto view = make<CountedView>();
+    auto* const cell = newCell("OwnCell", 3, text("row"), emptySpecifier());
+    {
+        const AutoreleasePool pool;
+        auto* const answer = perform(objectOf(*view), "fresh", nullptr);
+        EXPECT_EQ(aliveOf("UIView"), 1);
+        EXPECT_STREQ(class_getName(object_getClass(answer)), "UIView");
+        auto* const accessory = accessoryOf(cell);
+        EXPECT_EQ(aliveOf("UILabel"), 1);
+        EXPECT_STREQ(class_getName(object_getClass(accessory)), "UILabel");
+    }
+    EXPECT_EQ(aliveOf("UIView"), 0);
+    EXPECT_EQ(aliveOf("UILabel"), 0);
+    objc_release(cell);
 }
 
 TEST(BindingTest, MethodsArePublishedWithTheirTypes) {

@@ -13,6 +13,16 @@ id newWithFrame(const char* className, CGRect frame);
 id newWithCoder(const char* className);
 id newCell(const char* className, std::int64_t style, id reuseIdentifier, id specifier);
 
+/// With `alloc` alone. The caller owes a release.
+id allocatedByName(const char* className);
+/// The next view that is readied answers its initialiser with that object.
+void answerNextInitialiserWith(id object);
+/// From now on what is made of that class is refused; null for none. For the classes of the sheet for what is
+/// new.
+void refuseInitialisersOf(const char* className);
+/// What a cell of StandInCell answers.
+id accessoryOf(id cell);
+
 /// Loads a controller's view when it has none.
 id viewOf(id controller);
 id specifiersOf(id page);

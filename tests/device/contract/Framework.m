@@ -20,6 +20,14 @@ id newCell(const char *className, long style, id reuseIdentifier, id specifier) 
     return [[objc_getClass(className) alloc] initWithStyle:style reuseIdentifier:reuseIdentifier specifier:specifier];
 }
 
+id allocatedByName(const char *className) {
+    return [objc_getClass(className) alloc];
+}
+
+id accessoryOf(StandInCell *cell) {
+    return [cell accessory];
+}
+
 id viewOf(UIViewController *controller) {
     return [controller view];
 }

@@ -113,6 +113,7 @@ void callBlockWithObject(void* block, id object);
     NSString* reuseIdentifier;
 }
 - (id)initWithStyle:(NSInteger)style reuseIdentifier:(NSString*)identifier specifier:(id)specifier;
+- (UIView*)accessory;
 @end
 
 @interface UIImageView : UIView {

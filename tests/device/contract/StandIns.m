@@ -336,6 +336,7 @@ void finishAnimations(void) {
     reuseIdentifier = [identifier copy];
     return self;
 }
+- (UIView *)accessory { return nil; }
 - (void)dealloc {
     [reuseIdentifier release];
     [super dealloc];
