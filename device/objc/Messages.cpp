@@ -45,6 +45,11 @@ char kindOf(std::string_view type) {
     return type.empty() ? 'v' : type.front();
 }
 
+/// Whether arguments of that kind fit into a cell: objects, pointers, and numbers, but no structures.
+bool fits(char kind) {
+    return std::string_view("@#:^*BcCsSiIlLqQfd").contains(kind);
+}
+
 Cell cellOf(const MessageValue& value, char kind) {
     Cell cell;
     switch (kind) {
@@ -61,6 +66,11 @@ Cell cellOf(const MessageValue& value, char kind) {
     case 'd':
         cell.set(MessageTraits<double>::unpack(value));
         break;
+    case '#':
+    case ':':
+    case '^':
+    case '*':
+        break; // no value is one
     default:
         cell.set(MessageTraits<std::int64_t>::unpack(value));
         break;
@@ -92,15 +102,30 @@ MessageValue valueOf(const Cell& cell, char kind) {
     }
 }
 
+std::uint64_t argumentCount(id signature) {
+    return send<"-[NSMethodSignature numberOfArguments]", std::uint64_t>(signature);
+}
+
+const char* argumentType(id signature, std::uint64_t index) {
+    return send<"-[NSMethodSignature getArgumentTypeAtIndex:]", const char*>(signature, index);
+}
+
+/// The first type that no argument can be made of; null when there is none.
+const char* typeThatDoesNotFit(id signature) {
+    for (auto i = implicitArguments; i < argumentCount(signature); ++i) {
+        if (const auto* const type = argumentType(signature, i); !fits(kindOf(type)))
+            return type;
+    }
+    return nullptr;
+}
+
 MessageValue invoke(id target, SEL selector, id signature, std::span<const MessageValue> arguments) {
     const id invocation = sendToClass<"+[NSInvocation invocationWithMethodSignature:]", id>(signature);
     send<"-[NSInvocation setSelector:]", void>(invocation, selector);
-    const auto count = send<"-[NSMethodSignature numberOfArguments]", std::uint64_t>(signature);
-    for (auto i = implicitArguments; i < count; ++i) {
+    for (auto i = implicitArguments; i < argumentCount(signature); ++i) {
         const auto place = static_cast<std::size_t>(i - implicitArguments);
-        const auto* const type =
-            send<"-[NSMethodSignature getArgumentTypeAtIndex:]", const char*>(signature, i);
-        auto cell = cellOf(place < arguments.size() ? arguments[place] : MessageValue(), kindOf(type));
+        auto cell = cellOf(place < arguments.size() ? arguments[place] : MessageValue(),
+                           kindOf(argumentType(signature, i)));
         send<"-[NSInvocation setArgument:atIndex:]", void>(invocation, cell.address(),
                                                            static_cast<std::int64_t>(i));
     }
@@ -128,10 +153,14 @@ MessageValue NSObject::performSelector(std::string_view selectorText,
     const AutoreleasePool pool;
     const id receiver = objectOf(*this);
     const SEL selector = selectorFrom(selectorText);
+    const std::string_view className = class_getName(object_getClass(receiver));
     const id signature = send<"-[NSObject methodSignatureForSelector:]", id>(receiver, selector);
     if (signature == nullptr) {
-        NSLog("-[%@ %@]: unrecognized selector sent to %@",
-              std::string_view(class_getName(object_getClass(receiver))), selectorText, description());
+        NSLog("-[%@ %@]: unrecognized selector sent to %@", className, selectorText, description());
+        return {};
+    }
+    if (const auto* const type = typeThatDoesNotFit(signature)) {
+        NSLog("-[%@ %@] is not sent by its selector: it takes a %@.", className, selectorText, type);
         return {};
     }
     return invoke(receiver, selector, signature, std::span(arguments.begin(), arguments.size()));

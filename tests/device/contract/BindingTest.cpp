@@ -282,6 +282,23 @@ TEST(BindingTest, ASelectorThatTheObjectLacksIsLoggedAndAnsweredWithNothing) {
         lines[0].starts_with("log: -[CountedView fly]: unrecognized selector sent to <CountedView: 0x"));
 }
 
+TEST(BindingTest, AMessageThatTakesAStructureIsLoggedAndNotSent) {
+    const auto view = make<CountedView>();
+    takeJournal();
+    EXPECT_TRUE(
+        std::holds_alternative<std::monostate>(view->performSelector("setFrame:", {PropertyList(1)})));
+    const auto lines = takeJournal();
+    ASSERT_EQ(lines.size(), 1U);
+    EXPECT_TRUE(lines[0].starts_with(
+        "log: -[CountedView setFrame:] is not sent by its selector: it takes a {CGRect="));
+}
+
+TEST(BindingTest, ANumberIsNoPointer) {
+    const auto view = make<CountedView>();
+    EXPECT_EQ(std::get<PropertyList>(view->performSelector("respondsToSelector:", {PropertyList(5)})),
+              PropertyList(false));
+}
+
 TEST(BindingTest, AnObjectOfTheFrameworksHasOneCppObjectOfTheNearestKnownClass) {
     const auto boxes = aliveOf("CorvexBox");
     auto* const object = newByName("UISwitch");
