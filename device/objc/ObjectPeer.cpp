@@ -37,8 +37,8 @@ void releaseObject(NSObject& object) noexcept {
 }
 
 void initWeakSlot(WeakSlot& slot, NSObject* object) noexcept {
-    if (object != nullptr && !ObjectPeer::of(*object).isEnding)
-        objc_initWeak(slotOf(slot), objectOf(*object));
+    if (object != nullptr)
+        objc_initWeakOrNil(slotOf(slot), objectOf(*object));
 }
 
 NSObject* loadWeakSlotRetained(const WeakSlot& slot) noexcept {

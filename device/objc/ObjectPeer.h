@@ -12,13 +12,7 @@ struct ObjectPeer {
     static ObjectPeer& of(const NSObject& object) { return *object.peer_; }
 
     /// Destroys the C++ object. Only the end of the Objective-C object does that.
-    static void destroy(NSObject* object) {
-        object->peer_->isEnding = true;
-        delete object;
-    }
-
-    /// While the destructors run: no weak reference can be made any more.
-    bool isEnding = false;
+    static void destroy(NSObject* object) { delete object; }
 
     NSObject& instance;
 

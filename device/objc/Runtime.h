@@ -44,7 +44,7 @@ id objc_autorelease(id object);
 void* objc_autoreleasePoolPush();
 void objc_autoreleasePoolPop(void* pool);
 
-id objc_initWeak(id* slot, id object);
+id objc_initWeakOrNil(id* slot, id object); // null in the slot when the object's end has begun
 id objc_loadWeakRetained(id* slot);
 void objc_copyWeak(id* to, id* from);
 void objc_moveWeak(id* to, id* from);

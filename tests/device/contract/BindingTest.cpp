@@ -340,6 +340,15 @@ TEST(BindingTest, AWeakReferenceToAnObjectOfTheFrameworksEndsWithIt) {
     EXPECT_FALSE(moved.strong());
 }
 
+TEST(BindingTest, AWeakReferenceToAnObjectOfTheFrameworksWhoseEndGoesOnIsEmpty) {
+    const auto view = make<CountedView>();
+    auto* const leaving = newByName("LeavingView");
+    instanceAs<UIControl>(leaving)->addTarget(*view, "watch:", UIControlEvents::ValueChanged);
+    objc_release(leaving);
+    EXPECT_FALSE(view->watched.strong());
+    EXPECT_EQ(aliveOf("LeavingView"), 0);
+}
+
 TEST(BindingTest, MessagesToAnObjectWhoseEndGoesOnReachTheFrameworksAlone) {
     auto view = make<CountedView>();
     auto* const object = objectOf(*view);

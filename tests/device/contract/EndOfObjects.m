@@ -1,10 +1,12 @@
-// The root class tells when an object's end begins, with the release of its last owner, and when it is all but over.
+// The root class tells when an object's end begins, with the release of its last owner, when it is all but over, and when
+// it is over.
 #import <Foundation/Foundation.h>
 
 #import <objc/runtime.h>
 
 BOOL takeOwnerAway(id object, BOOL (*isLast)(id), BOOL (*takeAway)(id));
 void releaseAssociations(id owner);
+void forgetEnd(const void* object);
 
 static BOOL hasOneOwner(id object) {
     return NSExtraRefCount(object) == 0;
@@ -19,8 +21,11 @@ static id endObject(id self, SEL selector, ...) {
 
 @implementation NSObject (EndOfObjects)
 - (oneway void)release {
-    if (takeOwnerAway(self, hasOneOwner, NSDecrementExtraRefCountWasZero))
+    if (takeOwnerAway(self, hasOneOwner, NSDecrementExtraRefCountWasZero)) {
+        const void* ended = self;
         [self dealloc];
+        forgetEnd(ended);
+    }
 }
 
 + (void)load {

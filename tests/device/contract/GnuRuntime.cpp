@@ -29,6 +29,7 @@ struct Tables {
 
     std::recursive_mutex mutex;
     std::unordered_map<id, std::set<id*>> weakSlots;
+    std::set<const void*> ending; ///< from the last owner's release to the end of `dealloc`
     std::unordered_map<id, std::map<const void*, id>> associations; ///< each with an owner's count
 };
 
@@ -44,8 +45,15 @@ bool takeOwnerAway(id object, bool (*isLast)(id), bool (*takeAway)(id)) {
             for (auto* const slot : ended.mapped())
                 *slot = nullptr;
         }
+        tables.ending.insert(object);
     }
     return takeAway(object);
+}
+
+void forgetEnd(const void* object) {
+    auto& tables = Tables::shared();
+    const std::scoped_lock lock(tables.mutex);
+    tables.ending.erase(object);
 }
 
 void releaseAssociations(id owner) {
@@ -86,13 +94,13 @@ void objc_autoreleasePoolPop(void* pool) {
     call(static_cast<id>(pool), "release");
 }
 
-id objc_initWeak(id* slot, id object) {
+id objc_initWeakOrNil(id* slot, id object) {
     auto& tables = Tables::shared();
     const std::scoped_lock lock(tables.mutex);
-    *slot = object;
-    if (object != nullptr)
+    *slot = tables.ending.contains(object) ? nullptr : object;
+    if (*slot != nullptr)
         tables.weakSlots[object].insert(slot);
-    return object;
+    return *slot;
 }
 
 id objc_loadWeakRetained(id* slot) {
@@ -102,12 +110,12 @@ id objc_loadWeakRetained(id* slot) {
 
 void objc_copyWeak(id* to, id* from) {
     const std::scoped_lock lock(Tables::shared().mutex);
-    objc_initWeak(to, *from);
+    objc_initWeakOrNil(to, *from);
 }
 
 void objc_moveWeak(id* to, id* from) {
     const std::scoped_lock lock(Tables::shared().mutex);
-    objc_initWeak(to, *from);
+    objc_initWeakOrNil(to, *from);
     objc_destroyWeak(from);
     *from = nullptr;
 }

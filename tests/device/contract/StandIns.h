@@ -106,6 +106,14 @@ void callBlockWithObject(void* block, id object);
 }
 @end
 
+// A view that tells its target, with its action, that its end goes on.
+@interface LeavingView : UIControl
+@end
+
+// A view whose class readies itself with its first message, and what is derived from it likewise.
+@interface ReadiedView : UIView
+@end
+
 // A view with an initialiser of its own, as cells have one.
 @interface StandInCell : UIView {
 @public

@@ -327,6 +327,19 @@ void finishAnimations(void) {
 }
 @end
 
+@implementation LeavingView
+- (void)dealloc {
+    [target performSelector:action withObject:self];
+    [super dealloc];
+}
+@end
+
+@implementation ReadiedView
++ (void)initialize {
+    record(self, _cmd, @"");
+}
+@end
+
 @implementation StandInCell
 - (id)initWithStyle:(NSInteger)given reuseIdentifier:(NSString *)identifier specifier:(id)specifier {
     record(self, _cmd, @"%ld %@ %@", (long)given, describe(identifier), describe(specifier));
