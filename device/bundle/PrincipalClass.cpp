@@ -4,6 +4,7 @@
 
 #include "ClassPublisher.h"
 #include "ClassRecord.h"
+#include "Foundation/NSLog.h"
 #include "Instances.h"
 
 extern "C" {
@@ -64,14 +65,13 @@ const ClassContents metaclassContents{.flags = metaclassFlag,
 [[gnu::used, gnu::section("__DATA,__objc_classlist,regular,no_dead_strip")]] const void* const classList =
     &principalClass;
 
-void initialize(id /*self*/, SEL /*selector*/) noexcept {
-    publishClasses();
-}
-
-/// Not a method of the record: those would have to be signed one by one.
+/// What it answers is not in the record: methods there would have to be signed one by one.
 [[gnu::constructor]] void awaitFirstMessage() {
-    auto* const metaclass = object_getClass(classObject(objc_getClass(principalClassName)));
-    class_addMethod(metaclass, sel_registerName("initialize"), reinterpret_cast<IMP>(&initialize), "v@:");
+    auto* const found = objc_getClass(principalClassName); // which readies it for methods
+    if (found == reinterpret_cast<objc_class*>(&principalClass))
+        publishWithFirstMessageTo(found);
+    else
+        NSLog("The class name %@ is taken by other code: the pane cannot be opened.", principalClassName);
 }
 
 } // namespace

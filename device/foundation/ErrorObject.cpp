@@ -1,8 +1,11 @@
 #include "ErrorObject.h"
 
+#include "FrameworkClass.h"
 #include "Message.h"
 
 namespace {
+
+const FrameworkClass frameworkClass("NSError", {});
 
 constexpr std::string_view underlyingErrorKey = "NSUnderlyingError";
 

@@ -1,6 +1,7 @@
 #include "Box.h"
 
 #include "Message.h"
+#include "PublishedClasses.h"
 
 namespace {
 
@@ -15,8 +16,7 @@ BoxContent*& contentOf(id box) {
 
 void deallocBox(id self, SEL selector) {
     delete contentOf(self);
-    auto* const inherited =
-        class_getMethodImplementation(class_getSuperclass(objc_getClass(boxClassName)), selector);
+    auto* const inherited = class_getMethodImplementation(objc_getClass("NSObject"), selector);
     reinterpret_cast<void (*)(id, SEL)>(inherited)(self, selector);
 }
 
@@ -25,7 +25,7 @@ id copyBox(id self, SEL /*selector*/) {
 }
 
 objc_class* makeBoxClass() {
-    auto* const made = objc_allocateClassPair(objc_getClass("NSObject"), boxClassName, 0);
+    auto* const made = newClass(boxClassName, objc_getClass("NSObject"));
     class_addIvar(made, contentVariableName, sizeof(BoxContent*), 3, "^v");
     class_addMethod(made, sel_registerName("dealloc"), reinterpret_cast<IMP>(&deallocBox), "v@:");
     class_addMethod(made, sel_registerName("copy"), reinterpret_cast<IMP>(&copyBox), "@@:");

@@ -2,12 +2,17 @@
 
 #include "Foundation/NSLog.h"
 #include "FrameworkClass.h"
+#include "Instances.h"
 #include "MethodEntry.h"
 #include "ObjectiveC/ClassTable.h"
+#include "PublishedClasses.h"
 
 #include <string>
 
 namespace {
+
+/// The class that a record of this program's code states; null when there is none.
+constinit objc_class* principalClass = nullptr;
 
 void dealloc(id self, SEL selector) noexcept {
     auto* const inherited = class_getMethodImplementation(frameworkClassBehind(self), selector);
@@ -18,13 +23,8 @@ void dealloc(id self, SEL selector) noexcept {
     reinterpret_cast<void (*)(id, SEL)>(inherited)(self, selector);
 }
 
-/// A class that a record of this program's code states is there already, with the place for the C++ half.
-bool isStatedInCode(objc_class* existing) {
-    return class_getInstanceVariable(existing, instanceVariableName) != nullptr;
-}
-
-objc_class* makeClass(const char* name, objc_class* base) {
-    auto* const made = objc_allocateClassPair(base, name, 0);
+objc_class* makeClass(const std::string& name, objc_class* base) {
+    auto* const made = newClass(name, base);
     if (made == nullptr)
         return nullptr;
     constexpr std::uint8_t alignmentOfPointers = 3; // as a power of two
@@ -61,25 +61,32 @@ void addOwnMethods(objc_class* to, const Class& stated) {
 
 /// The class that stands for a stated one; null when that is neither the frameworks' nor can be published.
 objc_class* publish(const Class& stated) {
-    const auto* const name = stated.name().c_str();
-    auto* existing = objc_getClass(name);
     if (FrameworkClass::named(stated.name()) != nullptr)
-        return existing;
-    if (existing != nullptr && !isStatedInCode(existing))
-        return existing;
+        return runtimeClass(stated);
     const auto* const superclass = stated.superclass();
     auto* const base = superclass != nullptr ? publish(*superclass) : nullptr;
     if (base == nullptr)
         return nullptr;
-    if (existing == nullptr)
-        existing = makeClass(name, base);
-    if (existing == nullptr)
+    auto* published = runtimeClass(stated);
+    if (published == nullptr)
+        published = makeClass(stated.name(), base);
+    if (published == nullptr)
         return nullptr;
-    class_addMethod(existing, sel_registerName("dealloc"), reinterpret_cast<IMP>(&dealloc), "v@:");
-    addOverridables(existing, superclass);
-    addOwnMethods(existing, stated);
-    markPublished(existing);
-    return existing;
+    class_addMethod(published, sel_registerName("dealloc"), reinterpret_cast<IMP>(&dealloc), "v@:");
+    addOverridables(published, superclass);
+    addOwnMethods(published, stated);
+    markPublished(stated, published);
+    return published;
+}
+
+/// The `+initialize` of the principal class, and of those that inherit it.
+void initialize(id self, SEL selector) noexcept {
+    if (const auto* const stated = NSClassFromString(class_getName(principalClass)))
+        markPublished(*stated, principalClass);
+    publishClasses();
+    auto* const inheritedFrom = object_getClass(classObject(class_getSuperclass(principalClass)));
+    auto* const inherited = class_getMethodImplementation(inheritedFrom, selector);
+    reinterpret_cast<void (*)(id, SEL)>(inherited)(self, selector);
 }
 
 } // namespace
@@ -91,4 +98,10 @@ void publishClasses() {
             NSLog("Class %@ cannot be published: it, or one that it derives from, is missing.",
                   stated->name());
     }
+}
+
+void publishWithFirstMessageTo(objc_class* principal) {
+    principalClass = principal;
+    class_addMethod(object_getClass(classObject(principal)), sel_registerName("initialize"),
+                    reinterpret_cast<IMP>(&initialize), "v@:");
 }

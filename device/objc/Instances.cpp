@@ -4,10 +4,9 @@
 #include "Foundation/NSLog.h"
 #include "Message.h"
 #include "ObjectPeer.h"
-#include "ObjectiveC/Class.h"
+#include "PublishedClasses.h"
 
 #include <mutex>
-#include <set>
 
 namespace {
 
@@ -32,23 +31,10 @@ constexpr char holderKey = 0;
 alignas(NSObject) char endedMark = 0;
 NSObject* const ended = reinterpret_cast<NSObject*>(&endedMark);
 
-/// Guards the two halves' finding of each other, and the set.
+/// Guards the two halves' finding of each other.
 std::recursive_mutex& mutex() {
     static auto* const shared = new std::recursive_mutex;
     return *shared;
-}
-
-std::set<objc_class*>& publishedClasses() {
-    static auto* const shared = new std::set<objc_class*>;
-    return *shared;
-}
-
-/// The nearest class of the object that is published by us; null when there is none.
-objc_class* publishedClassOf(id object) {
-    auto* candidate = object_getClass(object);
-    while (candidate != nullptr && !publishedClasses().contains(candidate))
-        candidate = class_getSuperclass(candidate);
-    return candidate;
 }
 
 NSObject*& placeIn(id object, objc_class* published) {
@@ -80,7 +66,7 @@ void bind(id object, NSObject& instance) {
 NSObject* makeInstance(id object) {
     for (auto* candidate = object_getClass(object); candidate != nullptr;
          candidate = class_getSuperclass(candidate)) {
-        const auto* const stated = NSClassFromString(class_getName(candidate));
+        const auto* const stated = statedClass(candidate);
         if (stated == nullptr)
             continue;
         if (auto made = stated->allocate())
@@ -91,8 +77,8 @@ NSObject* makeInstance(id object) {
 
 /// The class of the Objective-C half. An error holds what it tells in C++; its other half only counts.
 objc_class* classFor(const NSObject& instance) {
-    const auto& name = instance.isa().name();
-    auto* const found = name == "NSError" ? nullptr : objc_getClass(name.c_str());
+    const auto& stated = instance.isa();
+    auto* const found = stated.name() == "NSError" ? nullptr : runtimeClass(stated);
     return found != nullptr ? found : objc_getClass("NSObject");
 }
 
@@ -124,19 +110,6 @@ id keeperOfAttachedValues(const NSObject& object) {
     const id owner = objectOf(object);
     const std::scoped_lock lock(mutex());
     return publishedClassOf(owner) != nullptr ? owner : holderOf(owner);
-}
-
-void markPublished(objc_class* published) {
-    const std::scoped_lock lock(mutex());
-    publishedClasses().insert(published);
-}
-
-objc_class* frameworkClassBehind(id object) {
-    const std::scoped_lock lock(mutex());
-    auto* candidate = publishedClassOf(object);
-    while (candidate != nullptr && publishedClasses().contains(candidate))
-        candidate = class_getSuperclass(candidate);
-    return candidate;
 }
 
 void endInstance(id object) {

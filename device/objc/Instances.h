@@ -36,13 +36,6 @@ template <class T>
 /// The object to associate what is attached to a C++ object with. It still has it while the C++ object ends.
 [[nodiscard]] id keeperOfAttachedValues(const NSObject& object);
 
-/// From now on objects of that class are ours: the place for its C++ half is in the object.
-void markPublished(objc_class* published);
-
-/// The nearest class of the object that the frameworks define, when its own is published by us; null when its
-/// own class is the frameworks' already.
-[[nodiscard]] objc_class* frameworkClassBehind(id object);
-
 /// Ends the C++ half. For the `dealloc` of published classes.
 void endInstance(id object);
 

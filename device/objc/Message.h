@@ -4,6 +4,7 @@
 #include "Encoding.h"
 #include "MessageRecord.h"
 #include "MessageText.h"
+#include "PublishedClasses.h"
 
 #include <type_traits>
 

@@ -26,7 +26,7 @@ std::vector<Signature> sentMessages() {
 }
 
 bool isOurs(const Class& stated) {
-    return FrameworkClass::named(stated.name()) == nullptr && stated.name() != "NSError";
+    return FrameworkClass::named(stated.name()) == nullptr;
 }
 
 /// Every method of the Objective-C classes that the pane is published as.
