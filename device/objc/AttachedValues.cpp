@@ -35,11 +35,10 @@ const void* addressOf(std::string_view key) {
 
 /// Notes that something is attached under the key. \returns what to associate it with
 id noteKey(const NSObject& owner, const void* key) {
-    const id keeper = keeperOfAttachedValues(owner);
     auto& peer = ObjectPeer::of(owner);
     const std::scoped_lock lock(mutex());
     if (peer.keeper == nullptr)
-        peer.keeper = keeper;
+        peer.keeper = send<"+[NSObject new]", id>(classObject(objc_getClass("NSObject")));
     peer.attachedKeys.insert(key);
     return peer.keeper;
 }
@@ -73,6 +72,7 @@ void ObjectPeer::releaseAttachedValues() {
     // A value that looks back at its owner finds what is left, and may attach more.
     while (!attachedKeys.empty())
         objc_setAssociatedObject(keeper, attachedKeys.extract(attachedKeys.begin()).value(), nullptr, 0);
+    objc_release(keeper);
 }
 
 void setAttachedValue(NSObject& owner, std::string_view key, AttachedValue value, Retention retention) {

@@ -17,9 +17,12 @@ class PlainObject final : public NSObject {};
 struct InstanceHolder final : BoxContent {
     explicit InstanceHolder(NSObject& held) : instance(&held) {}
 
-    ~InstanceHolder() override { ObjectPeer::destroy(instance); }
+    ~InstanceHolder() override {
+        if (instance != nullptr)
+            ObjectPeer::destroy(instance);
+    }
 
-    NSObject* const instance;
+    NSObject* instance; ///< null once it is another object's half
 };
 
 constexpr std::uintptr_t retainAttached = 01401;
@@ -42,12 +45,15 @@ NSObject*& placeIn(id object, objc_class* published) {
     return *reinterpret_cast<NSObject**>(reinterpret_cast<char*>(object) + offset);
 }
 
-id holderOf(id object) {
-    return objc_getAssociatedObject(object, &holderKey);
+InstanceHolder* holderOf(id object) {
+    return dynamic_cast<InstanceHolder*>(boxContent(objc_getAssociatedObject(object, &holderKey)));
 }
 
-NSObject* attachedInstance(id object) {
-    auto* const holder = dynamic_cast<InstanceHolder*>(boxContent(holderOf(object)));
+/// What is in the place of the C++ half: null, one that has ended, or the C++ half.
+NSObject* boundInstance(id object) {
+    if (auto* const published = publishedClassOf(object))
+        return placeIn(object, published);
+    const auto* const holder = holderOf(object);
     return holder != nullptr ? holder->instance : nullptr;
 }
 
@@ -60,6 +66,26 @@ void bind(id object, NSObject& instance) {
     const id holder = makeBox(std::make_unique<InstanceHolder>(instance));
     objc_setAssociatedObject(object, &holderKey, holder, retainAttached);
     objc_release(holder);
+}
+
+/// The object goes on without its C++ half, which it does not end any more.
+void unbind(id object) {
+    if (auto* const published = publishedClassOf(object)) {
+        placeIn(object, published) = ended;
+        return;
+    }
+    holderOf(object)->instance = nullptr;
+    objc_setAssociatedObject(object, &holderKey, nullptr, retainAttached);
+}
+
+/// \returns false, having changed nothing, when that object has a C++ half
+bool becomeHalfOf(id other, NSObject& instance) {
+    const std::scoped_lock lock(mutex());
+    if (boundInstance(other) != nullptr)
+        return false;
+    unbind(objectOf(instance));
+    bind(other, instance);
+    return true;
 }
 
 /// A C++ object of the nearest class in the class table that can be made plainly.
@@ -96,20 +122,28 @@ NSObject* instanceOf(id object) {
     if (object == nullptr)
         return nullptr;
     const std::scoped_lock lock(mutex());
-    auto* const published = publishedClassOf(object);
-    auto* const known = published != nullptr ? placeIn(object, published) : attachedInstance(object);
-    if (known != nullptr)
+    if (auto* const known = boundInstance(object))
         return known != ended ? known : nullptr;
     auto* const made = makeInstance(object);
     bind(object, *made);
     return made;
 }
 
-// What is associated with an object of the frameworks ends in no particular order, the C++ half among it.
-id keeperOfAttachedValues(const NSObject& object) {
-    const id owner = objectOf(object);
-    const std::scoped_lock lock(mutex());
-    return publishedClassOf(owner) != nullptr ? owner : holderOf(owner);
+bool acceptInitialised(NSObject& created, id answer) {
+    const id before = objectOf(created);
+    if (answer == before)
+        return true;
+    if (!becomeHalfOf(answer, created)) {
+        NSLog("The object that an initialiser of %@ answers with is another C++ object's.",
+              created.isa().name());
+        objc_release(answer);
+        return false;
+    }
+    for (auto owners = ObjectPeer::of(created).owners.load(); owners > 0; --owners) {
+        objc_retain(answer);
+        objc_release(before);
+    }
+    return true;
 }
 
 void endInstance(id object) {

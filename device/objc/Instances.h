@@ -6,7 +6,7 @@
 /// Objective-C objects and the C++ objects that are their other halves. Either may come first: an object that
 /// C++ makes gets its Objective-C half when that is first needed, and an Objective-C object gets a C++ one,
 /// of the nearest class that the class table knows, when C++ first sees it. Then they stay together until
-/// `dealloc`. Any thread.
+/// `dealloc`, unless an initialiser answers with another object. Any thread.
 
 /// The Objective-C half. Not before the object's constructors have run: its class follows from its type.
 [[nodiscard]] id objectOf(const NSObject& object);
@@ -33,8 +33,11 @@ template <class T>
     return instance;
 }
 
-/// The object to associate what is attached to a C++ object with. It still has it while the C++ object ends.
-[[nodiscard]] id keeperOfAttachedValues(const NSObject& object);
+/// Takes over what an initialiser has answered with, and the ownership that comes with it. When that is
+/// another object than `created` is the other half of, it becomes that one's, with all its owners; one that
+/// has a C++ half already is released and logged.
+/// \returns whether `created` is the other half of the answer
+[[nodiscard]] bool acceptInitialised(NSObject& created, id answer);
 
 /// Ends the C++ half. For the `dealloc` of published classes.
 void endInstance(id object);

@@ -74,15 +74,17 @@ Result sendToBase(const NSObject& receiver, const Arguments&... arguments) {
                                                arguments...);
 }
 
-/// Readies a new object with an initialiser of the frameworks. \returns false when it refused; the caller
-/// still owns the object then
+/// Readies a new object with an initialiser of the frameworks. When that answers with another object,
+/// `created` becomes the other half of that one. \returns false when it refused; the caller still owns the
+/// object then
 template <MessageText message, class... Arguments>
 [[nodiscard]] bool initialise(NSObject& created, const Arguments&... arguments) {
-    const id object = objc_retain(objectOf(created)); // since an initialiser that refuses releases it
+    auto kept = retain(&created); // since an initialiser that refuses releases it
     const id answer = sendToBase<message, id>(created, arguments...);
-    if (answer == object)
-        objc_release(object);
-    return answer == object;
+    if (answer != nullptr && acceptInitialised(created, answer))
+        return true;
+    static_cast<void>(kept.leak()); // in the place of the ownership that was released
+    return false;
 }
 
 /// A new object of the class that declares the initialiser; empty when it refused.

@@ -29,10 +29,12 @@ bool NSObject::init() {
 }
 
 void retainObject(NSObject& object) noexcept {
+    ++ObjectPeer::of(object).owners;
     objc_retain(objectOf(object));
 }
 
 void releaseObject(NSObject& object) noexcept {
+    --ObjectPeer::of(object).owners;
     objc_release(objectOf(object));
 }
 
@@ -46,6 +48,8 @@ NSObject* loadWeakSlotRetained(const WeakSlot& slot) noexcept {
     auto* const instance = instanceOf(object);
     if (instance == nullptr)
         objc_release(object);
+    else
+        ++ObjectPeer::of(*instance).owners;
     return instance;
 }
 

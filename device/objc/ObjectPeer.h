@@ -3,6 +3,7 @@
 #include "ObjectiveC/NSObject.h"
 #include "Runtime.h"
 
+#include <atomic>
 #include <set>
 
 /// What a C++ object knows of its other half. Made and owned by the C++ object.
@@ -20,7 +21,12 @@ struct ObjectPeer {
     /// as long as the Objective-C object does.
     id object = nullptr;
 
-    /// What attached values are associated with, and under which keys; see AttachedValues.cpp.
+    /// How many times more C++ has retained the object than released it. A new object's first ownership, and
+    /// those of Objective-C, are not counted.
+    std::atomic<std::int64_t> owners = 0;
+
+    /// What attached values are associated with, and under which keys; see AttachedValues.cpp. Owned; null
+    /// until something is attached.
     id keeper = nullptr;
     std::set<const void*> attachedKeys;
 

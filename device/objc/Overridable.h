@@ -40,11 +40,18 @@ struct OverrideEntry<message, member, R (T::*)(P...)> {
             arguments...);
     }
 
-    /// For initialisers: they own their receiver, and answer with it or release it.
+    /// For initialisers: they own their receiver, and answer with it, or with the object that the C++ half
+    /// has become that of, or release it.
     static id initialise(id self, SEL selector, RawParameter<P>... arguments) noexcept {
-        if (call(self, selector, arguments...))
-            return self;
-        objc_release(self);
+        const auto instance = instanceAs<T>(self);
+        if (!instance)
+            return reinterpret_cast<decltype(&initialise)>(inheritedImplementation(self, selector))(
+                self, selector, arguments...);
+        const bool isReady = call(self, selector, arguments...);
+        const id object = objectOf(*instance);
+        if (isReady)
+            return object;
+        objc_release(object);
         return nullptr;
     }
 };

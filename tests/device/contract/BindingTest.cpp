@@ -180,6 +180,100 @@ TEST(BindingTest, AnInitialiserThatRefusesGivesNothingAndLeavesNothing) {
     EXPECT_EQ(aliveOf("UIView"), 0);
 }
 
+TEST(BindingTest, AnInitialiserMayAnswerWithAnotherObject) {
+    const std::vector<std::function<Ref<UIView>()>> makers{[] { return make<UIView>(); },
+                                                           [] { return make<CountedView>(); },
+                                                           [] { return make<DerivedView>(); }};
+    for (const auto& maker : makers) {
+        const auto* const name = class_getName(object_getClass(objectOf(*maker())));
+        auto* const other = allocatedByName(name);
+        answerNextInitialiserWith(other);
+        objc_release(other);
+        auto view = maker();
+        ASSERT_TRUE(view);
+        EXPECT_EQ(objectOf(*view), other);
+        EXPECT_EQ(instanceOf(other), view.get());
+        EXPECT_EQ(aliveOf(name), 1);
+        view->setAlpha(0.5);
+        EXPECT_EQ(view->alpha(), 0.5);
+        view = nullptr;
+        EXPECT_EQ(aliveOf(name), 0) << name;
+    }
+    EXPECT_EQ(objectsAlive, 0);
+}
+
+TEST(BindingTest, TheFrameworkGetsTheObjectThatAnInitialiserAnswersWith) {
+    for (const auto maker : {&newByName, +[](const char* name) { return newWithFrame(name, CGRect()); }}) {
+        auto* const other = allocatedByName("CountedView");
+        answerNextInitialiserWith(other);
+        objc_release(other);
+        auto* const object = maker("CountedView");
+        EXPECT_EQ(object, other);
+        EXPECT_EQ(objectsAlive, 1);
+        EXPECT_EQ(aliveOf("CountedView"), 1);
+        layOut(object);
+        EXPECT_EQ(instanceAs<CountedView>(object)->layouts, 1);
+        objc_release(object);
+        EXPECT_EQ(objectsAlive, 0);
+        EXPECT_EQ(aliveOf("CountedView"), 0);
+    }
+}
+
+TEST(BindingTest, OwnersAndAttachedValuesGoOverToTheOtherObject) {
+    const auto boxes = aliveOf("CorvexBox");
+    Ref<CountedView> kept;
+    CountedView::atInit = [&kept, label = make<UILabel>()](CountedView& view) {
+        kept = retain(&view);
+        setAttachedValue(view, "view", Ref<NSObject>(label), Retention::Retain);
+    };
+    auto* const other = allocatedByName("CountedView");
+    answerNextInitialiserWith(other);
+    objc_release(other);
+    auto view = make<CountedView>();
+    CountedView::atInit = {};
+    EXPECT_EQ(view, kept);
+    EXPECT_EQ(objectOf(*view), other);
+    view = nullptr;
+    EXPECT_EQ(objectsAlive, 1);
+    EXPECT_TRUE(attachedValueOf<Ref<NSObject>>(*kept, "view"));
+    kept = nullptr;
+    EXPECT_EQ(objectsAlive, 0);
+    EXPECT_EQ(aliveOf("CountedView"), 0);
+    EXPECT_EQ(aliveOf("UILabel"), 0);
+    EXPECT_EQ(aliveOf("CorvexBox"), boxes);
+}
+
+TEST(BindingTest, AnOverrideMayRefuseWhatItsBaseHasReadiedAnotherObjectFor) {
+    for (const auto maker :
+         {+[] { return newWithFrame("CountedView", CGRectMake(0, 0, 13, 0)); },
+          +[] {
+              return objectOf(
+                  makeWith<CountedView>(&CountedView::initWithFrame, CGRectMake(0, 0, 13, 0)).get());
+          }}) {
+        auto* const other = allocatedByName("CountedView");
+        answerNextInitialiserWith(other);
+        objc_release(other);
+        EXPECT_EQ(maker(), nullptr);
+        EXPECT_EQ(objectsAlive, 0);
+        EXPECT_EQ(aliveOf("CountedView"), 0);
+    }
+}
+
+TEST(BindingTest, AnObjectThatHasItsCppHalfIsNoNewOnes) {
+    auto first = make<CountedView>();
+    takeJournal();
+    answerNextInitialiserWith(objectOf(*first));
+    EXPECT_FALSE(make<CountedView>());
+    EXPECT_EQ(takeJournal(), (Lines{"-[CountedView initWithFrame:] {{0, 0}, {0, 0}}",
+                                    "log: The object that an initialiser of CountedView answers with is "
+                                    "another C++ object's."}));
+    EXPECT_EQ(objectsAlive, 1);
+    EXPECT_EQ(instanceOf(objectOf(*first)), first.get());
+    first = nullptr;
+    EXPECT_EQ(objectsAlive, 0);
+    EXPECT_EQ(aliveOf("CountedView"), 0);
+}
+
 TEST(BindingTest, AnObjectThatCppMakesIsOfThePublishedClass) {
     const auto view = make<CountedView>();
     EXPECT_STREQ(class_getName(object_getClass(objectOf(*view))), "CountedView");
