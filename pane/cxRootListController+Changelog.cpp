@@ -46,6 +46,8 @@ Ref<UIImage> loadIcon() {
 void addBackdrop(UIView& view) {
     const auto backdrop =
         _UIBackdropView::initWithFrame({}, true, _UIBackdropViewSettings::settingsForStyle(backdropStyle));
+    if (!backdrop)
+        return;
     backdrop->setClipsToBounds(true);
     view.insertSubview(backdrop, 0);
 }
@@ -70,6 +72,8 @@ void cxRootListController::showWtfChangedInThisVersion() {
         changelogController_ = nullptr;
     }
     changelogController_ = OBWelcomeController::initWithTitle(sheetTitle, currentVersion, loadIcon());
+    if (!changelogController_)
+        return;
     addChangelogItemsToController(changelogController_, UIImage::systemImageNamed(itemSymbol));
     auto& view = changelogController_->view();
     addBackdrop(view);

@@ -25,6 +25,7 @@ protected:
         instance().dismissViewControllerAnimated(false, {}); // what is presented may keep the page alive
         objc_release(page);
         forgetSuites();
+        refuseInitialisersOf(nullptr);
         setServicesLibrary({});
     }
 
@@ -303,6 +304,25 @@ TEST_F(RootPageTest, WhatIsNewIsShownOnceOnASheet) {
                "-[SuiteDefaults setObject:forKey:] \"3.0.1\" \"LastVersionPopupShown\"",
                "-[SuiteDefaults synchronize]"}));
     EXPECT_EQ(stored("LastVersionPopupShown"), PropertyList("3.0.1"));
+}
+
+TEST_F(RootPageTest, WithoutTheSheetNothingIsShown) {
+    refuseInitialisersOf("OBWelcomeController");
+    load(false);
+    EXPECT_EQ(journalOf({"OBWelcomeController", "Backdrop", "LastVersionPopupShown"}),
+              (Lines{"-[OBWelcomeController initWithTitle:detailText:icon:] \"Corvex\" \"3.0.1\" <gear 0>",
+                     "-[SuiteDefaults setObject:forKey:] \"3.0.1\" \"LastVersionPopupShown\""}));
+    EXPECT_EQ(presentedBy(page), nullptr);
+    EXPECT_EQ(aliveOf("OBWelcomeController"), 0);
+}
+
+TEST_F(RootPageTest, WithoutItsBackdropTheSheetIsShownAllTheSame) {
+    refuseInitialisersOf("_UIBackdropView");
+    load(false);
+    EXPECT_EQ(journalOf({"insertSubview", "setClipsToBounds:] 1", "OBWelcomeController 1"}),
+              Lines{("-[cxRootListController presentViewController:animated:completion:] "
+                     "OBWelcomeController 1")});
+    EXPECT_EQ(aliveOf("_UIBackdropView"), 0);
 }
 
 TEST_F(RootPageTest, AnotherSheetTakesTheFirstOnesPlace) {

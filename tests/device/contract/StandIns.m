@@ -430,6 +430,10 @@ void finishAnimations(void) {
 @implementation _UIBackdropView
 - (id)initWithFrame:(CGRect)given autosizesToFitSuperview:(BOOL)autosizes settings:(_UIBackdropViewSettings *)settings {
     record(self, _cmd, @"%@ %d %@", describeRect(given), autosizes, describe(settings));
+    if (refusing == [_UIBackdropView class]) {
+        [self release];
+        return nil;
+    }
     return [super initWithFrame:given];
 }
 @end
@@ -592,6 +596,10 @@ void finishAnimations(void) {
 @implementation OBWelcomeController
 - (id)initWithTitle:(NSString *)title detailText:(NSString *)detailText icon:(UIImage *)icon {
     record(self, _cmd, @"%@ %@ %@", describe(title), describe(detailText), describe(icon));
+    if (refusing == [OBWelcomeController class]) {
+        [self release];
+        return nil;
+    }
     return [super init];
 }
 - (id)initWithTitle:(NSString *)title detailText:(NSString *)detailText symbolName:(NSString *)symbolName {
