@@ -1,5 +1,7 @@
 #include "PreferenceStore.h"
 
+#include "PreferenceKeys.h"
+
 #include <utility>
 
 Ref<NSUserDefaults> PreferenceStore::open() {

@@ -1,14 +1,13 @@
-#include "PreferenceStore.h"
 #include "RootPrefixResolver.h"
 #include "UIKit/_UIBackdropView.h"
 #include "UIKit/_UIBackdropViewSettings.h"
+#include "Version.h"
 #include "cxRootListController.h"
 
 #include <array>
 
 namespace {
 
-constexpr auto currentVersion = "3.0.1";
 constexpr auto shownVersionKey = "LastVersionPopupShown"; ///< meant to be in no backup
 constexpr auto sheetTitle = "Corvex";
 constexpr auto iconPath = "/Library/PreferenceBundles/corvexPrefs.bundle/icon.png";
@@ -55,14 +54,14 @@ void addBackdrop(UIView& view) {
 } // namespace
 
 void cxRootListController::checkAndShowChangelogIfNeeded() {
-    if (preferences().stringForKey(shownVersionKey) == currentVersion)
+    if (preferences().stringForKey(shownVersionKey) == corvexVersion)
         return;
     showWtfChangedInThisVersion();
     saveCurrentVersion();
 }
 
 void cxRootListController::saveCurrentVersion() {
-    preferences().setObject(currentVersion, shownVersionKey);
+    preferences().setObject(corvexVersion, shownVersionKey);
     preferences().synchronize();
 }
 
@@ -71,7 +70,7 @@ void cxRootListController::showWtfChangedInThisVersion() {
         changelogController_->dismissViewControllerAnimated(false, {});
         changelogController_ = nullptr;
     }
-    changelogController_ = OBWelcomeController::initWithTitle(sheetTitle, currentVersion, loadIcon());
+    changelogController_ = OBWelcomeController::initWithTitle(sheetTitle, corvexVersion, loadIcon());
     if (!changelogController_)
         return;
     addChangelogItemsToController(changelogController_, UIImage::systemImageNamed(itemSymbol));

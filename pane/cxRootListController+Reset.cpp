@@ -3,6 +3,7 @@
 #include "Dispatch/MainQueue.h"
 #include "Foundation/NSFileManager.h"
 #include "Foundation/NSLog.h"
+#include "PreferenceKeys.h"
 #include "PreferenceStore.h"
 #include "RootPrefixResolver.h"
 #include "System/DynamicLibrary.h"

@@ -4,10 +4,13 @@
 #include "EntryList.h"
 #include "Foundation/NSDictionary.h"
 #include "PreferenceBundle.h"
-#include "PreferenceStore.h"
+#include "PreferenceKeys.h"
 #include "TestDevice.h"
+#include "Version.h"
 
 #include <gtest/gtest.h>
+
+#include <dlfcn.h>
 
 #include <algorithm>
 #include <string>
@@ -60,8 +63,8 @@ TEST_F(CorvexBundleTest, ItsInfoNamesWhatItIs) {
     EXPECT_EQ(textIn(info, "CFBundleIdentifier"), "com.orvel.corvexprefs");
     EXPECT_EQ(textIn(info, "CFBundleExecutable"), "corvexPrefs");
     EXPECT_EQ(textIn(info, "NSPrincipalClass"), "cxRootListController");
-    EXPECT_EQ(textIn(info, "CFBundleShortVersionString"), "3.0.1");
-    EXPECT_EQ(textIn(info, "CFBundleVersion"), "3.0.1");
+    EXPECT_EQ(textIn(info, "CFBundleShortVersionString"), corvexVersion);
+    EXPECT_EQ(textIn(info, "CFBundleVersion"), corvexVersion);
 }
 
 TEST_F(CorvexBundleTest, EveryRowOfTheFirstListKeepsASettingOfTheCatalogue) {

@@ -1,6 +1,7 @@
 #include "PreferenceStore.h"
 
 #include "Foundation/NSDictionary.h"
+#include "PreferenceKeys.h"
 #include "TestDevice.h"
 
 #include <gtest/gtest.h>

@@ -1,12 +1,14 @@
-#include "system/ApplicationTermination.h"
 #include "CoreFoundation/CFString.h"
-#include "PreferenceStore.h"
+#include "PreferenceKeys.h"
 #include "RootPageFixture.h"
-#include "system/SystemSounds.h"
 #include "controllers/UIViewControllerPeer.h"
+#include "controls/UISwitchPeer.h"
 #include "menus/DesktopAction.h"
 #include "screen/DesktopApplication.h"
+#include "system/ApplicationTermination.h"
 #include "system/LibraryFiles.h"
+#include "system/SystemSounds.h"
+#include "views/UIViewPeer.h"
 
 #include <filesystem>
 #include <fstream>
@@ -35,9 +37,7 @@ protected:
             [this](const auto& request) { requests.push_back(request); });
     }
 
-    ~cxRootListControllerResetTest() override {
-        DesktopApplication::shared().setSuspendHandler({});
-    }
+    ~cxRootListControllerResetTest() override { DesktopApplication::shared().setSuspendHandler({}); }
 
     /// The library of the system's that ends applications.
     void installServices(const std::string& builtFile) const {

@@ -1,4 +1,4 @@
-#include "PreferenceStore.h"
+#include "PreferenceKeys.h"
 
 #include <gtest/gtest.h>
 
