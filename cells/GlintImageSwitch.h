@@ -104,7 +104,6 @@ private:
     void applyOnLook();
     void applyOffLook();
     void applyPressedLook();
-    void showStoredValueAnimated();
     void setTrackContentsOn(bool on);
     void setThumbFrame(double x, double width);
 
