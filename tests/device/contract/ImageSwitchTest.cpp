@@ -11,6 +11,67 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
+/// What a fresh switch tells the frameworks, from its views' making to the look of one that is off.
+const Lines makingOfASwitch{
+    // the track
+    "-[UIView initWithFrame:] {{0, 0}, {50, 30}}",
+    "-[UIView setBackgroundColor:] clear",
+    "-[CALayer setCornerRadius:] 15",
+    "-[CALayer setBorderColor:] rgba(0.78, 0.78, 0.8, 1)",
+    "-[CALayer setBorderWidth:] 1",
+    "-[UIView setUserInteractionEnabled:] 0",
+    "-[UIView setClipsToBounds:] 0",
+    "-[GlintImageSwitch addSubview:] UIView",
+    // what lies on it
+    "-[UIImageView initWithFrame:] {{0, 0}, {20, 30}}",
+    "-[UIImageView setAlpha:] 1",
+    "-[UIImageView setContentMode:] 4",
+    "-[UIView addSubview:] UIImageView",
+    "-[UIImageView initWithFrame:] {{30, 0}, {20, 30}}",
+    "-[UIImageView setAlpha:] 1",
+    "-[UIImageView setContentMode:] 4",
+    "-[UIView addSubview:] UIImageView",
+    "-[UILabel initWithFrame:] {{0, 0}, {20, 30}}",
+    "-[UILabel setTextAlignment:] 1",
+    "-[UILabel setTextColor:] lightGray",
+    "-[UILabel setFont:] 12",
+    "-[UIView addSubview:] UILabel",
+    "-[UILabel initWithFrame:] {{30, 0}, {20, 30}}",
+    "-[UILabel setTextAlignment:] 1",
+    "-[UILabel setTextColor:] lightGray",
+    "-[UILabel setFont:] 12",
+    "-[UIView addSubview:] UILabel",
+    // the thumb
+    "-[UIView initWithFrame:] {{1, 1}, {28, 28}}",
+    "-[UIView setBackgroundColor:] white",
+    "-[CALayer setCornerRadius:] 14",
+    "-[CALayer setShadowColor:] gray",
+    "-[CALayer setShadowRadius:] 2",
+    "-[CALayer setShadowOpacity:] 0.5",
+    "-[CALayer setShadowOffset:] {0, 3}",
+    "+[UIBezierPath bezierPathWithRoundedRect:cornerRadius:] {{0, 0}, {28, 28}} 14",
+    "-[CALayer setShadowPath:] UIBezierPath",
+    "-[CALayer setMasksToBounds:] 0",
+    "-[UIView setUserInteractionEnabled:] 0",
+    "-[GlintImageSwitch addSubview:] UIView",
+    "-[UIImageView initWithFrame:] {{0, 0}, {28, 28}}",
+    "-[UIImageView setContentMode:] 4",
+    "-[UIImageView setAutoresizingMask:] 2",
+    "-[UIView addSubview:] UIImageView",
+    // off
+    "-[UIView setFrame:] {{1, 1}, {28, 28}}",
+    "-[UIView setBackgroundColor:] clear",
+    "-[CALayer setBorderColor:] rgba(0.78, 0.78, 0.8, 1)",
+    "-[UIView setBackgroundColor:] white",
+    "-[UIImageView setAlpha:] 0",
+    "-[UIImageView setAlpha:] 1",
+    "-[UILabel setAlpha:] 0",
+    "-[UILabel setAlpha:] 1",
+};
+
+constexpr auto animation =
+    "+[UIView animateWithDuration:delay:options:animations:completion:] 0.3 0 4 completion";
+
 /// The image switch, as the framework makes and handles it.
 class ImageSwitchTest : public testing::Test {
 protected:
@@ -55,13 +116,54 @@ TEST(ImageSwitchMakingTest, EveryInitialiserMakesTheSwitchWithItsParts) {
     EXPECT_EQ(aliveOf("UIImageView"), 0);
 }
 
-TEST_F(ImageSwitchTest, TheThumbsShadowIsSetUpWithTheLayersOwnTypes) {
+TEST_F(ImageSwitchTest, IsMadeOfItsPartsInOrder) {
     auto* const fresh = newWithFrame("GlintImageSwitch", CGRect());
-    EXPECT_EQ(messagesTo("-[CALayer setShadow"),
-              (Lines{"-[CALayer setShadowColor:] gray", "-[CALayer setShadowRadius:] 2",
-                     "-[CALayer setShadowOpacity:] 0.5", "-[CALayer setShadowOffset:] {0, 3}",
-                     "-[CALayer setShadowPath:] UIBezierPath"}));
+    auto lines = takeJournal();
+    ASSERT_FALSE(lines.empty());
+    EXPECT_EQ(lines.front(), "-[GlintImageSwitch initWithFrame:] {{0, 0}, {50, 30}}");
+    lines.erase(lines.begin());
+    EXPECT_EQ(lines, makingOfASwitch);
     objc_release(fresh);
+}
+
+TEST_F(ImageSwitchTest, ItsLookChangesOnePartAfterTheOther) {
+    instance().setOn(true);
+    EXPECT_EQ(takeJournal(),
+              (Lines{"-[UIView setFrame:] {{21, 1}, {28, 28}}",
+                     "-[UIView setBackgroundColor:] rgba(0.3, 0.85, 0.39, 1)",
+                     "-[CALayer setBorderColor:] rgba(0.3, 0.85, 0.39, 1)",
+                     "-[UIView setBackgroundColor:] white", "-[UIImageView setAlpha:] 1",
+                     "-[UIImageView setAlpha:] 0", "-[UILabel setAlpha:] 1", "-[UILabel setAlpha:] 0"}));
+}
+
+TEST_F(ImageSwitchTest, LayoutPlacesEveryPartAndLeavesTheShadow) {
+    instance().setOn(true);
+    instance().setFrame(CGRectMake(0, 0, 100, 40));
+    takeJournal();
+    layOut(control);
+    EXPECT_EQ(
+        takeJournal(),
+        (Lines{"-[GlintImageSwitch layoutSubviews]", "-[UIView setFrame:] {{0, 0}, {100, 40}}",
+               "-[CALayer setCornerRadius:] 20", "-[UIImageView setFrame:] {{0, 0}, {60, 40}}",
+               "-[UILabel setFrame:] {{0, 0}, {60, 40}}", "-[UIImageView setFrame:] {{40, 0}, {60, 40}}",
+               "-[UILabel setFrame:] {{40, 0}, {60, 40}}", "-[UIView setFrame:] {{61, 1}, {38, 38}}",
+               "-[CALayer setCornerRadius:] 19"}));
+}
+
+TEST_F(ImageSwitchTest, OtherCornersComeWithAnotherShadow) {
+    instance().setRounded(false);
+    EXPECT_EQ(takeJournal(),
+              (Lines{"-[CALayer setCornerRadius:] 2", "-[CALayer setCornerRadius:] 2",
+                     "+[UIBezierPath bezierPathWithRoundedRect:cornerRadius:] {{0, 0}, {28, 28}} 2",
+                     "-[CALayer setShadowPath:] UIBezierPath"}));
+}
+
+TEST_F(ImageSwitchTest, APressWidensTheThumbAndColoursTrackAndThumb) {
+    touchDown(control, 10);
+    EXPECT_EQ(takeJournal(), (Lines{"-[GlintImageSwitch beginTrackingWithTouch:withEvent:] UITouch UIEvent",
+                                    animation, "-[UIView setFrame:] {{1, 1}, {33, 28}}",
+                                    "-[UIView setBackgroundColor:] rgba(0.89, 0.89, 0.89, 1)",
+                                    "-[UIView setBackgroundColor:] white"}));
 }
 
 TEST_F(ImageSwitchTest, AFingerThatCrossesTheMiddleFlipsTheSwitch) {
@@ -77,14 +179,29 @@ TEST_F(ImageSwitchTest, AFingerThatCrossesTheMiddleFlipsTheSwitch) {
     EXPECT_EQ(thumb(), CGRectMake(21, 1, 28, 28));
 }
 
+TEST_F(ImageSwitchTest, EveryMoveStartsTheAnimationAnew) {
+    touchDown(control, 10);
+    EXPECT_EQ(messagesTo("+[UIView animate"), Lines{animation});
+    for (const auto x : {11, 12, 40, 41, 10, 10}) {
+        touchMoved(control, x);
+        EXPECT_EQ(messagesTo("+[UIView animate"), Lines{animation}) << x;
+    }
+    touchUp(control, 10);
+    EXPECT_EQ(messagesTo("+[UIView animate"), Lines{animation});
+}
+
 TEST_F(ImageSwitchTest, ATouchThatIsTakenAwayChangesNothing) {
     touchDown(control, 10);
     touchMoved(control, 40);
+    takeJournal();
     touchCancelled(control);
     EXPECT_FALSE(instance().isOn());
     EXPECT_EQ(thumb().origin.x, 1);
-    EXPECT_TRUE(
-        std::ranges::none_of(takeJournal(), [](const auto& line) { return line.contains("sendActions"); }));
+    const auto lines = takeJournal();
+    ASSERT_GE(lines.size(), 2U);
+    EXPECT_TRUE(lines[0].starts_with("-[GlintImageSwitch cancelTrackingWithEvent:]"));
+    EXPECT_EQ(lines[1], animation);
+    EXPECT_TRUE(std::ranges::none_of(lines, [](const auto& line) { return line.contains("sendActions"); }));
 }
 
 TEST_F(ImageSwitchTest, TheThumbIsWiderWhileTheControlIsHandled) {
