@@ -285,6 +285,11 @@ TEST_F(RootPageTest, WhatIsNewIsShownOnceOnASheet) {
     const auto begin = std::ranges::find(
         lines, "-[OBWelcomeController initWithTitle:detailText:icon:] \"Corvex\" \"3.0.1\" <gear 0>");
     ASSERT_NE(begin, lines.end());
+    const Lines iconSearch{"+[UIImage imageWithContentsOfFile:] "
+                           "\"/var/jb/Library/PreferenceBundles/corvexPrefs.bundle/icon.png\"",
+                           "+[UIImage systemImageNamed:] \"gear\""};
+    ASSERT_GE(begin - lines.begin(), 2);
+    EXPECT_EQ((Lines{begin - 2, begin}), iconSearch);
     lines.erase(lines.begin(), begin + 1);
     ASSERT_EQ(lines.size(), 20U);
     EXPECT_EQ(lines[0], "+[UIImage systemImageNamed:] \"checkmark.circle.fill\"");
@@ -351,6 +356,21 @@ TEST_F(RootPageTest, WhatIsKeptForOthersIsKept) {
 TEST_F(RootPageTest, AnObjectOfAnotherClassArrivesAsNone) {
     perform(page, "setToggleSwitch:", emptySpecifier());
     EXPECT_EQ(perform(page, "toggleSwitch", nullptr), nullptr);
+}
+
+TEST(RootPageEndTest, APageThatEndsDismissesNothing) {
+    auto* const page = newByName("cxRootListController");
+    {
+        const AutoreleasePool pool;
+        viewOf(page);
+    }
+    EXPECT_EQ(aliveOf("OBWelcomeController"), 1);
+    takeJournal();
+    objc_release(page);
+    EXPECT_EQ(aliveOf("cxRootListController"), 0);
+    EXPECT_EQ(aliveOf("OBWelcomeController"), 0);
+    EXPECT_TRUE(takeJournal().empty());
+    forgetSuites();
 }
 
 TEST(RootPageEndTest, NothingIsLeftAliveOfAPageThatHasDoneAll) {
