@@ -9,6 +9,10 @@ namespace {
 const Class counterClass =
     Class::define<EventCounter>("EventCounter", {method<"valueChanged:", &EventCounter::valueChanged>()});
 
+Ref<UIImageView> imageViewIn(const UIView& view, std::size_t index) {
+    return dynamicCast<UIImageView>(view.peer().subviews().at(index));
+}
+
 bool isColor(const UIView& view, LayerProperty property, const Ref<UIColor>& color) {
     return view.layer().peer().color(property) == DesktopColor::resolve(color, view.peer().traits());
 }
@@ -43,6 +47,25 @@ double GlintImageSwitchFixture::shownThumbLeft() const {
 
 double GlintImageSwitchFixture::shownThumbWidth() const {
     return control->thumbView()->layer().peer().shownBounds().size.width;
+}
+
+Ref<UIImageView> GlintImageSwitchFixture::onImageView() const {
+    return imageViewIn(*control->backgroundView(), 0);
+}
+
+Ref<UIImageView> GlintImageSwitchFixture::offImageView() const {
+    return imageViewIn(*control->backgroundView(), 1);
+}
+
+Ref<UIImageView> GlintImageSwitchFixture::thumbImageView() const {
+    return imageViewIn(*control->thumbView(), 0);
+}
+
+void GlintImageSwitchFixture::expectTrackContents(bool on) const {
+    EXPECT_EQ(onImageView()->alpha(), on ? 1 : 0);
+    EXPECT_EQ(control->onLabel()->alpha(), on ? 1 : 0);
+    EXPECT_EQ(offImageView()->alpha(), on ? 0 : 1);
+    EXPECT_EQ(control->offLabel()->alpha(), on ? 0 : 1);
 }
 
 bool GlintImageSwitchFixture::borderIs(const Ref<UIColor>& color) const {

@@ -55,6 +55,15 @@ protected:
 
     [[nodiscard]] Ref<UIColor> thumbColor() const { return control->thumbView()->backgroundColor(); }
 
+    /// The views of the images on the two parts of the track, and in the thumb.
+    [[nodiscard]] Ref<UIImageView> onImageView() const;
+    [[nodiscard]] Ref<UIImageView> offImageView() const;
+    [[nodiscard]] Ref<UIImageView> thumbImageView() const;
+
+    /// Expects what the track carries for one of the states to be shown, and what it carries for the other
+    /// not.
+    void expectTrackContents(bool on) const;
+
     /// Whether the track's border, or the thumb's shadow, has the components of a colour.
     [[nodiscard]] bool borderIs(const Ref<UIColor>& color) const;
     [[nodiscard]] bool shadowIs(const Ref<UIColor>& color) const;

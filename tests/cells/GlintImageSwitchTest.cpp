@@ -2,6 +2,7 @@
 #include "DesktopColor.h"
 #include "GlintImageSwitchFixture.h"
 #include "ObjectiveC/Class.h"
+#include "views/UILabelPeer.h"
 #include "views/UIViewPeer.h"
 
 #include <QPainterPath>
@@ -105,16 +106,34 @@ TEST_F(GlintImageSwitchTest, TheHalvesCarryImagesAndTextsInTheirOrder) {
     const auto left = CGRectMake(0, 0, 20, 30);
     const auto right = CGRectMake(30, 0, 20, 30);
     ASSERT_EQ(halves.size(), 4U);
-    EXPECT_EQ(halves[0]->frame(), left);
-    EXPECT_EQ(halves[1]->frame(), right);
+    EXPECT_EQ(onImageView()->frame(), left);
+    EXPECT_EQ(offImageView()->frame(), right);
     EXPECT_EQ(halves[2], control->onLabel());
     EXPECT_EQ(halves[2]->frame(), left);
     EXPECT_EQ(halves[3], control->offLabel());
     EXPECT_EQ(halves[3]->frame(), right);
-    for (const auto index : {0U, 1U}) {
-        EXPECT_TRUE(dynamicCast<UIImageView>(halves[index]));
-        EXPECT_EQ(halves[index]->peer().contentMode(), UIViewContentMode::Center);
+}
+
+TEST_F(GlintImageSwitchTest, ImagesLieInTheMiddleOfTheirPlace) {
+    for (const auto& view : {onImageView(), offImageView(), thumbImageView()})
+        EXPECT_EQ(view->peer().contentMode(), UIViewContentMode::Center);
+}
+
+TEST_F(GlintImageSwitchTest, TextsAreSmallLightGrayAndCentred) {
+    for (const auto& label : {control->onLabel(), control->offLabel()}) {
+        const auto& peer = peerOf<UILabelPeer>(*label);
+        EXPECT_EQ(peer.textAlignment(), NSTextAlignment::Center);
+        EXPECT_TRUE(same(peer.textColor(), UIColor::lightGrayColor()));
+        EXPECT_EQ(peer.fontStyle(), (FontStyle{.size = 12, .weight = FontWeight::Regular}));
     }
+}
+
+TEST_F(GlintImageSwitchTest, AFreshSwitchHasTheLookOfOneThatIsOff) {
+    const auto& track = *control->backgroundView();
+    EXPECT_TRUE(same(track.backgroundColor(), UIColor::clearColor()));
+    EXPECT_TRUE(borderIs(control->borderColor()));
+    EXPECT_EQ(thumbColor(), control->thumbTintColor());
+    expectTrackContents(false);
 }
 
 TEST_F(GlintImageSwitchTest, ImagesGoToTheirViewsAndAreReadBackFromThem) {
@@ -127,21 +146,19 @@ TEST_F(GlintImageSwitchTest, ImagesGoToTheirViewsAndAreReadBackFromThem) {
     EXPECT_EQ(control->offImage(), image);
     control->setThumbImage(image);
     EXPECT_EQ(control->thumbImage(), image);
-    const auto& halves = control->backgroundView()->peer().subviews();
-    EXPECT_EQ(dynamicCast<UIImageView>(halves[0])->image(), image);
-    EXPECT_EQ(dynamicCast<UIImageView>(halves[1])->image(), image);
-    const auto& inThumb = control->thumbView()->peer().subviews();
-    ASSERT_EQ(inThumb.size(), 1U);
-    EXPECT_EQ(dynamicCast<UIImageView>(inThumb[0])->image(), image);
+    EXPECT_EQ(onImageView()->image(), image);
+    EXPECT_EQ(offImageView()->image(), image);
+    EXPECT_EQ(control->thumbView()->peer().subviews().size(), 1U);
+    EXPECT_EQ(thumbImageView()->image(), image);
     control->setOnImage(nullptr);
     EXPECT_FALSE(control->onImage());
 }
 
 TEST_F(GlintImageSwitchTest, TheThumbsImageGrowsWithTheThumb) {
+    EXPECT_EQ(thumbImageView()->frame(), CGRectMake(0, 0, 28, 28));
     down(10);
-    const auto& inThumb = control->thumbView()->peer().subviews();
-    EXPECT_EQ(inThumb[0]->frame(), CGRectMake(0, 0, 33, 28));
-    EXPECT_EQ(inThumb[0]->peer().autoresizingMask(), UIViewAutoresizing::FlexibleWidth);
+    EXPECT_EQ(thumbImageView()->frame(), CGRectMake(0, 0, 33, 28));
+    EXPECT_EQ(thumbImageView()->peer().autoresizingMask(), UIViewAutoresizing::FlexibleWidth);
 }
 
 TEST_F(GlintImageSwitchTest, SetInCodeItChangesItsLookAtOnceAndSendsNothing) {
@@ -151,16 +168,14 @@ TEST_F(GlintImageSwitchTest, SetInCodeItChangesItsLookAtOnceAndSendsNothing) {
     EXPECT_EQ(shownThumbLeft(), restingOn.origin.x);
     EXPECT_EQ(trackColor(), control->onTintColor());
     EXPECT_TRUE(borderIs(control->onTintColor()));
-    EXPECT_EQ(control->onLabel()->alpha(), 1);
-    EXPECT_EQ(control->offLabel()->alpha(), 0);
+    expectTrackContents(true);
     control->setOn(false, true);
     EXPECT_FALSE(control->isOn());
     EXPECT_EQ(thumbFrame(), restingOff);
     EXPECT_EQ(shownThumbLeft(), restingOn.origin.x) << "animated";
     settle();
     EXPECT_EQ(shownThumbLeft(), restingOff.origin.x);
-    EXPECT_EQ(control->onLabel()->alpha(), 0);
-    EXPECT_EQ(control->offLabel()->alpha(), 1);
+    expectTrackContents(false);
     EXPECT_EQ(events->count, 0);
 }
 
@@ -185,6 +200,8 @@ TEST_F(GlintImageSwitchTest, AfterANewSizeEverythingLiesInItsPlace) {
     EXPECT_EQ(control->thumbView()->layer().cornerRadius(), 19);
     EXPECT_EQ(control->onLabel()->frame(), CGRectMake(0, 0, 60, 40));
     EXPECT_EQ(control->offLabel()->frame(), CGRectMake(40, 0, 60, 40));
+    EXPECT_EQ(onImageView()->frame(), CGRectMake(0, 0, 60, 40));
+    EXPECT_EQ(offImageView()->frame(), CGRectMake(40, 0, 60, 40));
     control->setOn(false);
     control->layoutSubviews();
     EXPECT_EQ(thumbFrame(), CGRectMake(1, 1, 38, 38));

@@ -36,6 +36,48 @@ TEST_F(GlintImageSwitchTouchTest, AFingerOnASwitchThatIsOnWidensTheThumbToTheLef
     EXPECT_EQ(thumbColor(), control->onThumbTintColor());
 }
 
+TEST_F(GlintImageSwitchTouchTest, APressLeavesTheThumbOfASwitchThatIsOffWhereItIs) {
+    control->showOnAnimated(false);
+    down(40);
+    EXPECT_EQ(thumbFrame(), CGRectMake(restingOn.origin.x, 1, 33, 28));
+    EXPECT_EQ(trackColor(), control->activeColor());
+}
+
+TEST_F(GlintImageSwitchTouchTest, APressBringsTheThumbOfASwitchThatIsOnToTheRight) {
+    control->setOn(true);
+    control->showOffAnimated(false);
+    down(10);
+    EXPECT_EQ(thumbFrame(), pressedOn);
+    EXPECT_EQ(trackColor(), control->onTintColor());
+    EXPECT_EQ(thumbColor(), control->onThumbTintColor());
+}
+
+TEST_F(GlintImageSwitchTouchTest, APressLeavesBorderAndContentsAsTheyAre) {
+    down(10);
+    EXPECT_TRUE(borderIs(control->borderColor()));
+    expectTrackContents(false);
+    cancel(10);
+    control->setOn(true);
+    settle();
+    down(10);
+    EXPECT_TRUE(borderIs(control->onTintColor()));
+    expectTrackContents(true);
+}
+
+TEST_F(GlintImageSwitchTouchTest, EveryMoveShowsTheFingersSideAnew) {
+    for (const auto x : {40.0, 10.0}) {
+        down(x);
+        for (auto count = 0; count < 2; ++count) {
+            control->thumbView()->setFrame(CGRectMake(10, 1, 20, 28));
+            move(x);
+            EXPECT_EQ(thumbFrame(), x > 25 ? pressedOn : pressedOff);
+            settle();
+        }
+        cancel(x);
+        settle();
+    }
+}
+
 TEST_F(GlintImageSwitchTouchTest, ADragAcrossTheMiddleShowsTheOtherStateAndSendsItsEventAtTheEnd) {
     down(10);
     move(40);
