@@ -7,6 +7,15 @@
 
 #define EXPORTED extern "C" __attribute__((visibility("default")))
 
+#ifdef CALLS_WHAT_NOBODY_HAS
+// NOLINTNEXTLINE(*-identifier-naming): beside libroot's own
+extern "C" int libroot_function_that_nobody_has();
+
+EXPORTED int libroot_caller_of_it() {
+    return libroot_function_that_nobody_has();
+}
+#endif
+
 #ifndef WITHOUT_libroot_get_root_prefix
 EXPORTED const char* libroot_get_root_prefix() {
     return "/system";

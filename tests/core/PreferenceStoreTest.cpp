@@ -127,9 +127,12 @@ TEST_F(PreferenceStoreTest, RemovingAllFromAFreshSystemIsNoFailure) {
     EXPECT_EQ(preferences->dictionaryRepresentation(), Dictionary());
 }
 
-TEST_F(PreferenceStoreTest, AnAbsentMasterSwitchReadsOff) {
-    EXPECT_EQ(preferences->objectForKey("kEnabled"), std::nullopt);
-    store({{"kEnabled", true}});
-    EXPECT_TRUE(preferences->objectForKey("kEnabled")->boolValue());
-    EXPECT_NE(preferences->objectForKey("kEnabled")->getIf<bool>(), nullptr);
+TEST_F(PreferenceStoreTest, TheMasterSwitchIsReadAsTheBooleanThatWasStored) {
+    for (const auto on : {true, false}) {
+        store({{"kEnabled", on}});
+        const auto read = PreferenceStore::open()->objectForKey("kEnabled");
+        ASSERT_TRUE(read);
+        EXPECT_EQ(read->boolValue(), on);
+        EXPECT_NE(read->getIf<bool>(), nullptr);
+    }
 }

@@ -78,6 +78,12 @@ TEST_F(RootPrefixResolverLibrootTest, AFileThatIsNoLibraryLeavesTheFallbacks) {
     EXPECT_EQ(ask({"libroot_get_jbroot_prefix"}), (std::vector<std::string>{"/var/jb"}));
 }
 
+TEST_F(RootPrefixResolverLibrootTest, ALibrootThatCannotBeBoundAtOnceLeavesTheFallbacks) {
+    install("unbound");
+    EXPECT_EQ(ask({"libroot_get_jbroot_prefix", "libroot_jbrootpath:/a"}),
+              (std::vector<std::string>{"/var/jb", "/var/jb/a"}));
+}
+
 TEST_P(WithoutOneSymbol, OnlyThatSlotFallsBack) {
     install(std::string("without_") + GetParam());
     const auto answers = ask(everyAccessor);
