@@ -1,7 +1,7 @@
 #include "CALayerPeer.h"
 #include "DesktopColor.h"
 #include "DesktopImage.h"
-#include "OnBoardingKit/OBWelcomeController.h"
+#include "OBWelcomeControllerPeer.h"
 #include "PreferenceStore.h"
 #include "RootPageFixture.h"
 #include "UIKit/_UIBackdropView.h"
@@ -37,6 +37,12 @@ protected:
 
     [[nodiscard]] const SheetContent& content() const {
         return dynamic_cast<const SheetContent&>(sheet()->peer());
+    }
+
+    /// What the sheet shows above its title.
+    [[nodiscard]] Ref<DesktopImage> icon() const {
+        return dynamicCast<DesktopImage>(
+            OBWelcomeControllerPeer::of(*sheet()).welcomeView().header().content().image);
     }
 
     /// As the user does.
@@ -129,13 +135,23 @@ TEST_F(cxRootListControllerChangelogTest, ItTellsSixThingsInOrder) {
 
 TEST_F(cxRootListControllerChangelogTest, WithoutAnIconFileItsIconIsTheGear) {
     show();
-    EXPECT_EQ(content().sheetSymbol(), "gear");
+    ASSERT_TRUE(icon());
+    EXPECT_EQ(icon()->symbolName(), "gear");
+}
+
+TEST_F(cxRootListControllerChangelogTest, AnIconFileThatIsNoPictureCountsAsNone) {
+    device.write(std::string(bundlePath) + "/icon.png", "no picture");
+    show();
+    ASSERT_TRUE(icon());
+    EXPECT_EQ(icon()->symbolName(), "gear");
 }
 
 TEST_F(cxRootListControllerChangelogTest, ItsIconIsTheBundlesOwn) {
     device.write(std::string(bundlePath) + "/icon.png", iconBytes());
     show();
-    EXPECT_EQ(content().sheetSymbol(), "") << "a picture";
+    ASSERT_TRUE(icon());
+    EXPECT_EQ(icon()->symbolName(), "");
+    EXPECT_EQ(icon()->size(), (CGSize{29, 29}));
 }
 
 TEST_F(cxRootListControllerChangelogTest, ABlurLiesBeneathEverythingInIt) {
@@ -159,6 +175,25 @@ TEST_F(cxRootListControllerChangelogTest, ShownAgainItTakesThePlaceOfTheEarlierS
     ASSERT_TRUE(sheet());
     EXPECT_FALSE(earlier.strong());
     EXPECT_EQ(screen.presentations().all().size(), 1U);
+}
+
+TEST_F(cxRootListControllerChangelogTest, ThePageEndsUnderItsSheetAndTheSheetWithIt) {
+    for (const auto time : {std::chrono::milliseconds(0), std::chrono::milliseconds(100)}) {
+        openAnew();
+        page->showWtfChangedInThisVersion();
+        advance(time);
+        const Weak<cxRootListController> endedPage = page;
+        const Weak<OBWelcomeController> endedSheet = sheet();
+        ASSERT_TRUE(endedSheet.strong());
+        page = nullptr;
+        window->setRootViewController(nullptr);
+        navigation = nullptr;
+        settle();
+        EXPECT_FALSE(endedPage.strong());
+        EXPECT_FALSE(endedSheet.strong());
+        EXPECT_TRUE(screen.presentations().all().empty());
+        EXPECT_EQ(device.log().take(), Log());
+    }
 }
 
 TEST_F(cxRootListControllerChangelogTest, AfterASwipeThePageStillHoldsTheSheetUntilItEnds) {

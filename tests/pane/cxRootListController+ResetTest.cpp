@@ -71,6 +71,24 @@ protected:
     Requests requests;
 };
 
+/// The first switch in a view; empty when there is none.
+Ref<UISwitch> rowSwitchIn(const UIView& view) {
+    for (const auto& subview : view.peer().subviews()) {
+        const auto found = dynamicCast<UISwitch>(subview);
+        if (const auto within = found ? found : rowSwitchIn(*subview))
+            return within;
+    }
+    return nullptr;
+}
+
+/// Whether the page's switch in a row, as it is laid out, is on.
+bool isRowOn(UIViewController& page) {
+    page.view().peer().layoutIfNeeded();
+    const auto shown = rowSwitchIn(page.view());
+    EXPECT_TRUE(shown);
+    return shown && UISwitchPeer::of(*shown).isOn();
+}
+
 const Requests settingsEnds{
     {.identifier = "com.apple.Preferences", .reason = 1, .report = false, .description = std::nullopt}};
 
@@ -125,6 +143,33 @@ TEST_F(cxRootListControllerResetTest, ConfirmRemovesEverythingAndEndsSettings) {
     EXPECT_EQ(suspensions, 1);
     EXPECT_EQ(requests, settingsEnds);
     EXPECT_EQ(device.log().take(), Log());
+    EXPECT_TRUE(Device::current().notifications().take().empty()) << "the extension is not told";
+}
+
+TEST_F(cxRootListControllerResetTest, ConfirmSuspendsOnceEverythingIsGoneAndEndsHalfASecondLater) {
+    installServices(BACKBOARD_SERVICES);
+    show();
+    writeFiles();
+    bool isGone = false;
+    DesktopApplication::shared().setSuspendHandler([&] {
+        ++suspensions;
+        isGone = !stored("LastVersionPopupShown") &&
+                 std::filesystem::is_empty(device.hostPath(preferenceFolder + "com.orvel.corvexprefs"));
+    });
+    page->resetSettings();
+    settle();
+    choose("Confirm");
+    while (suspensions == 0) {
+        const auto due = Device::current().mainQueue().nextDue();
+        ASSERT_TRUE(due);
+        advance(*due - device.clock().uptime());
+    }
+    EXPECT_TRUE(isGone);
+    advance(499999us);
+    EXPECT_TRUE(requests.empty());
+    advance(1us);
+    EXPECT_EQ(requests, settingsEnds);
+    EXPECT_EQ(suspensions, 1);
 }
 
 TEST_F(cxRootListControllerResetTest, WithNothingToRemoveItLogsFourFailuresAndGoesOn) {
@@ -156,12 +201,13 @@ TEST_F(cxRootListControllerResetTest, AFileThatIsMissingDoesNotKeepTheOthers) {
 }
 
 TEST_F(cxRootListControllerResetTest, TheRowsShowWhatIsLeftAfterwards) {
-    show();
     store(true, "removeSOS");
-    page->reloadSpecifiers();
-    const auto row = page->specifiers().at(1);
-    ASSERT_EQ(page->readPreferenceValue(*row), PropertyList(true));
+    show();
+    const auto before = page->specifiers();
+    ASSERT_TRUE(isRowOn(*page));
     page->performReset();
+    EXPECT_NE(page->specifiers(), before) << "the list has been read anew";
+    EXPECT_FALSE(isRowOn(*page));
     EXPECT_FALSE(page->readPreferenceValue(*page->specifiers().at(1)));
 }
 
