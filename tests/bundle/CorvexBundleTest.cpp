@@ -38,6 +38,19 @@ protected:
     TestDevice device;
 };
 
+/// Where a symbol is that the code exports which holds a class; null when it exports none of that name.
+void* exportedBeside(const Class& loaded, const char* symbol) {
+    Dl_info code{};
+    if (dladdr(&loaded, &code) == 0)
+        return nullptr;
+    void* const handle = dlopen(code.dli_fname, RTLD_LAZY | RTLD_NOLOAD);
+    if (handle == nullptr)
+        return nullptr;
+    void* const found = dlsym(handle, symbol);
+    dlclose(handle);
+    return found;
+}
+
 bool isInCatalogue(const std::string& key) {
     return std::ranges::find(PreferenceKeyCatalogue, key) != PreferenceKeyCatalogue.end();
 }
@@ -90,4 +103,16 @@ TEST_F(CorvexBundleTest, ItsCodeLoadsAndMakesTheRootPage) {
     ASSERT_TRUE(page) << page.error();
     EXPECT_EQ((*page)->isa().name(), "cxRootListController");
     EXPECT_TRUE(device.log().take().empty());
+}
+
+TEST_F(CorvexBundleTest, ItsOneExportIsEmptyUntilTheServiceHasBeenLookedUp) {
+    const auto bundle = PreferenceBundle::load("corvexPrefs");
+    ASSERT_TRUE(bundle) << bundle.error();
+    const auto& pageClass = *NSClassFromString("cxRootListController");
+    auto* const* const exported = static_cast<void**>(
+        exportedBeside(pageClass, "BKSTerminateApplicationForReasonAndReportWithDescription"));
+    ASSERT_NE(exported, nullptr);
+    EXPECT_EQ(*exported, nullptr);
+    pageClass.create()->performSelector("terminateSettingsUsingBKS");
+    EXPECT_NE(*exported, nullptr);
 }
