@@ -183,11 +183,25 @@ TEST_F(GlintImageSwitchTest, ShowingAStateLeavesTheValueAlone) {
     control->showOnAnimated(false);
     EXPECT_FALSE(control->isOn());
     EXPECT_EQ(thumbFrame(), restingOn);
+    control->layoutSubviews();
+    EXPECT_EQ(thumbFrame(), restingOff) << "layout goes by the value";
     control->setOn(true);
     control->showOffAnimated(false);
     EXPECT_TRUE(control->isOn());
     EXPECT_EQ(thumbFrame(), restingOff);
+    control->layoutSubviews();
+    EXPECT_EQ(thumbFrame(), restingOn);
     EXPECT_EQ(events->count, 0);
+}
+
+TEST_F(GlintImageSwitchTest, TheThumbMovesAcrossTheTrackOnly) {
+    control->thumbView()->setFrame(CGRectMake(1, 4, 28, 20));
+    control->setOn(true);
+    EXPECT_EQ(thumbFrame(), CGRectMake(21, 4, 28, 20));
+    control->setOn(false);
+    EXPECT_EQ(thumbFrame(), CGRectMake(1, 4, 28, 20));
+    down(10);
+    EXPECT_EQ(thumbFrame(), CGRectMake(1, 4, 33, 20));
 }
 
 TEST_F(GlintImageSwitchTest, AfterANewSizeEverythingLiesInItsPlace) {

@@ -131,6 +131,17 @@ TEST_F(GlintImageSwitchTouchTest, AMoveToTheMiddleTurnsASwitchThatIsOnOff) {
     EXPECT_EQ(events->count, 1);
 }
 
+TEST_F(GlintImageSwitchTouchTest, ATapAfterADragIsATapAgain) {
+    down(10);
+    move(40);
+    move(10);
+    up(10);
+    ASSERT_FALSE(control->isOn());
+    tap();
+    EXPECT_TRUE(control->isOn());
+    EXPECT_EQ(events->count, 1);
+}
+
 TEST_F(GlintImageSwitchTouchTest, AMoveWithinTheLeftHalfIsStillATap) {
     down(5);
     move(20);
