@@ -128,6 +128,13 @@ TEST_F(cxRootListControllerTest, ItsSwitchStandsInTheBarWithItsColours) {
     EXPECT_FALSE(shown->onLabel()->text());
 }
 
+TEST_F(cxRootListControllerTest, TheThumbsColourStandsForBothStates) {
+    show();
+    masterSwitch()->setThumbTintColor(UIColor::yellowColor());
+    EXPECT_EQ(DesktopColor::resolve(masterSwitch()->onThumbTintColor(), Traits()),
+              DesktopColor::resolve(UIColor::yellowColor(), Traits()));
+}
+
 TEST_F(cxRootListControllerTest, TheSwitchIsMadeInThePageBelowItsMiddle) {
     page->view().setFrame(CGRectMake(0, 0, 300, 500));
     const auto made = page->createNavigationSwitch();

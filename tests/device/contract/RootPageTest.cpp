@@ -140,6 +140,24 @@ TEST_F(RootPageTest, TheMasterSwitchIsInTheBarWithAllItsProperties) {
         EXPECT_NE(perform(objectOf(*shown), property, nullptr), nullptr) << property;
 }
 
+TEST_F(RootPageTest, TheMasterSwitchGetsItsColoursBeforeItsValue) {
+    store(true, "kEnabled");
+    load();
+    auto* const control = newWithFrame("GlintImageSwitch", CGRect());
+    takeJournal();
+    perform(page, "configureNavigationSwitch:", control);
+    EXPECT_EQ(
+        takeJournal(),
+        (Lines{"-[UIView setBackgroundColor:] rgba(0.19, 0.23, 0.33, 1)",
+               "-[UIView setBackgroundColor:] rgba(0.07, 0.09, 0.11, 1)", "-[CALayer setBorderColor:] clear",
+               "-[CALayer setShadowColor:] black", "-[UIView setFrame:] {{21, 1}, {28, 28}}",
+               "-[UIView setBackgroundColor:] rgba(0.45, 0.58, 0.67, 1)",
+               "-[CALayer setBorderColor:] rgba(0.45, 0.58, 0.67, 1)",
+               "-[UIView setBackgroundColor:] rgba(0.19, 0.23, 0.33, 1)", "-[UIImageView setAlpha:] 1",
+               "-[UIImageView setAlpha:] 0", "-[UILabel setAlpha:] 1", "-[UILabel setAlpha:] 0"}));
+    objc_release(control);
+}
+
 TEST_F(RootPageTest, AChangedValueReachesThePageAndIsStored) {
     load();
     auto* const control = titleViewOf(page);
