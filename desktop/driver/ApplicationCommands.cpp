@@ -40,6 +40,11 @@ Answer relaunch(DrivenApplication& application) {
     return QJsonObject();
 }
 
+/// Heads of groups, and rows that only lead somewhere, have none.
+bool hasValue(const DesktopSpecifier& specifier) {
+    return !specifier.textForKey("key").empty() || !specifier.textForKey("set").empty();
+}
+
 Answer set(const DrivenApplication& application, const CommandTable::Arguments& arguments) {
     const auto page = dynamicCast<PSListController>(application.page());
     if (!page)
@@ -47,6 +52,8 @@ Answer set(const DrivenApplication& application, const CommandTable::Arguments& 
     const auto specifier = dynamicCast<DesktopSpecifier>(page->specifierForID(arguments[0].text));
     if (!specifier)
         return std::unexpected("the page has no row of that identifier");
+    if (!hasValue(*specifier))
+        return std::unexpected("the row has no value");
     const auto value = propertyListFromJson(arguments[1].text);
     if (!value)
         return std::unexpected(value.error());

@@ -52,6 +52,28 @@ protected:
                                    version + "</string></dict></plist>");
     }
 
+    [[nodiscard]] QJsonValue masterSwitch() {
+        return program.done("views GlintImageSwitch").value("views").toArray().at(0);
+    }
+
+    [[nodiscard]] bool isMasterSwitchOn() { return masterSwitch()["properties"]["isOn"].toBool(); }
+
+    /// With a finger.
+    void flipMasterSwitch() {
+        const auto place = masterSwitch()["screenFrame"];
+        const auto x = place[0].toDouble() + place[2].toDouble() / 2;
+        const auto y = place[1].toDouble() + place[3].toDouble() / 2;
+        const auto at = " " + std::to_string(x) + " " + std::to_string(y);
+        program.done("touch down" + at);
+        program.done("touch up" + at);
+    }
+
+    /// How far the list of the sheet is scrolled.
+    [[nodiscard]] double sheetOffset() {
+        const auto scrolls = program.done("views UIScrollView").value("views").toArray();
+        return scrolls.last()["properties"]["contentOffset"][1].toDouble(-1);
+    }
+
     /// Whether code of the pane is in the program.
     [[nodiscard]] bool isLoaded() {
         return program.done("live cxRootListController").value("known").toBool();
@@ -88,6 +110,35 @@ TEST_F(PaneSessionTest, AFreshDeviceShowsWhatIsNewOnceAndNeverAgain) {
     give({"relaunch", "settle", "open", "settle"});
     EXPECT_EQ(screen("presented"), QJsonArray());
     EXPECT_EQ(events("log"), QJsonArray());
+}
+
+TEST_F(PaneSessionTest, ASwipeDownScrollsAScrolledListBackBeforeItTakesTheSheetAway) {
+    give({"open", "settle", "touch down 195 600", "touch move 195 560", "touch move 195 500", "advance 0.5",
+          "touch up 195 500", "settle"});
+    EXPECT_GT(sheetOffset(), 0);
+    EXPECT_EQ(program.done("swipe-down").value("dismissed"), false);
+    program.done("settle");
+    EXPECT_EQ(sheetOffset(), 0);
+    EXPECT_EQ(program.done("swipe-down").value("dismissed"), true);
+}
+
+TEST_F(PaneSessionTest, BackWhileThePageComesInWaitsForIt) {
+    program.openPane();
+    give({"back", "settle", "tap Corvex", "advance 0.1"});
+    EXPECT_EQ(program.done("back").value("title"), "Corvex");
+    EXPECT_EQ(screen("page"), "cxRootListController");
+    program.done("settle");
+    EXPECT_EQ(screen("page"), "SettingsRootPage");
+}
+
+TEST_F(PaneSessionTest, WhatKeepsNoValueCannotBeSet) {
+    program.openPane();
+    const auto head = screen("rows").toArray().at(0).toObject();
+    ASSERT_EQ(head["cell"], "PSGroupCell");
+    const auto id = head["id"].toString().toStdString();
+    EXPECT_EQ(program.ask("set \"" + id + "\" true").value("error"), "the row has no value");
+    give({"back", "settle"});
+    EXPECT_EQ(program.ask("set corvexPrefs true").value("error"), "the row has no value");
 }
 
 TEST_F(PaneSessionTest, AnotherVersionsMarkerIsReplaced) {
@@ -136,8 +187,7 @@ TEST_F(PaneSessionTest, TheHomeScreensIconStartsSettingsAfreshWithTheValuesOnDis
     EXPECT_EQ(screen("page"), "SettingsRootPage");
     give({"tap Corvex", "settle"});
     EXPECT_EQ(screen("presented"), QJsonArray());
-    const auto master = program.done("views GlintImageSwitch").value("views").toArray().at(0);
-    EXPECT_EQ(master["properties"]["isOn"], true);
+    EXPECT_TRUE(isMasterSwitchOn());
     EXPECT_NE(valueOf("kcircleIcons"), true) << "as it is on disk by now";
 }
 
@@ -153,12 +203,7 @@ TEST_F(PaneSessionTest, ASecondTapOnApplyFindsNothingToTap) {
 
 TEST_F(PaneSessionTest, ApplyEndsSettingsWhileThePageStillMoves) {
     program.openPane();
-    const auto place = program.done("views GlintImageSwitch").value("views").toArray().at(0)["screenFrame"];
-    const auto x = place[0].toDouble() + place[2].toDouble() / 2;
-    const auto y = place[1].toDouble() + place[3].toDouble() / 2;
-    const auto at = " " + std::to_string(x) + " " + std::to_string(y);
-    program.done("touch down" + at);
-    program.done("touch up" + at);
+    flipMasterSwitch();
     program.done("advance 0.02");
     give({"tap gear.badge", "advance 0.5", "tap Apply", "settle"});
     EXPECT_EQ(program.shell().settings(), nullptr);
@@ -206,6 +251,34 @@ TEST_F(PaneSessionTest, AConfirmedResetWipesTheValuesAndEndsSettings) {
     EXPECT_FALSE(isLoaded());
     give({"open", "settle"});
     EXPECT_EQ(presented()["title"], "Corvex") << "what is new is shown again";
+}
+
+TEST_F(PaneSessionTest, AConfirmedResetEndsSettingsHalfASecondAfterItHasLeft) {
+    program.openPane();
+    give({"tap gear.badge", "settle", "tap \"Reset Settings\"", "settle", "tap Confirm"});
+    while (screen("app") == "Settings")
+        program.done("advance 0.001");
+    program.done("advance 0.498");
+    EXPECT_TRUE(isLoaded());
+    EXPECT_NE(program.shell().settings(), nullptr);
+    program.done("advance 0.002");
+    EXPECT_FALSE(isLoaded());
+    EXPECT_EQ(program.shell().settings(), nullptr);
+    EXPECT_EQ(events("notifications"), QJsonArray());
+}
+
+TEST_F(PaneSessionTest, AfterAResetThePaneShowsWhatItShowedAtFirst) {
+    program.openPane();
+    const auto rowsAtFirst = screen("rows");
+    ASSERT_FALSE(rowsAtFirst.toArray().isEmpty());
+    flipMasterSwitch();
+    give({"settle", "set kcircleIcons true", "settle"});
+    ASSERT_TRUE(isMasterSwitchOn());
+    ASSERT_NE(screen("rows"), rowsAtFirst);
+    give({"tap gear.badge", "settle", "tap \"Reset Settings\"", "settle", "tap Confirm", "settle", "open",
+          "settle", "swipe-down", "settle"});
+    EXPECT_EQ(screen("rows"), rowsAtFirst);
+    EXPECT_FALSE(isMasterSwitchOn());
 }
 
 TEST_F(PaneSessionTest, ASheetThatComesInIsInTheWayOfTheGear) {

@@ -132,6 +132,20 @@ TEST_F(TouchCommandsTest, TouchFollowsAFinger) {
     EXPECT_EQ(presses, 1);
 }
 
+TEST_F(TouchCommandsTest, ASecondDownTakesTheFirstTouchAway) {
+    auto first = 0;
+    auto second = 0;
+    const auto upperButton = addButton(upper, "Apply", first);
+    const auto lowerButton = addButton(lower, "Reset", second);
+    static_cast<void>(ask("touch down 60 120"));
+    static_cast<void>(ask("touch down 60 220"));
+    EXPECT_FALSE(upperButton->isTracking());
+    EXPECT_TRUE(lowerButton->isTracking());
+    static_cast<void>(ask("touch up 60 220"));
+    EXPECT_EQ(first, 0);
+    EXPECT_EQ(second, 1);
+}
+
 class BadTouch : public DriverFixture, public testing::WithParamInterface<const char*> {};
 
 TEST_P(BadTouch, IsRefused) {
