@@ -126,6 +126,14 @@ TEST_F(ImageSwitchTest, IsMadeOfItsPartsInOrder) {
     objc_release(fresh);
 }
 
+TEST_F(ImageSwitchTest, ItsPartsAreFoundByTheirNames) {
+    const auto part = [this](const char* name) { return perform(control, name, nullptr); };
+    EXPECT_EQ(part("onLabel"), objectOf(*instance().onLabel()));
+    EXPECT_EQ(part("offLabel"), objectOf(*instance().offLabel()));
+    EXPECT_EQ(part("backgroundView"), objectOf(*instance().backgroundView()));
+    EXPECT_EQ(part("thumbView"), objectOf(*instance().thumbView()));
+}
+
 TEST_F(ImageSwitchTest, ItsLookChangesOnePartAfterTheOther) {
     instance().setOn(true);
     EXPECT_EQ(takeJournal(),
