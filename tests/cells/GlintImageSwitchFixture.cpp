@@ -25,19 +25,10 @@ void EventCounter::valueChanged(const Ref<NSObject>& sender) {
 }
 
 GlintImageSwitchFixture::GlintImageSwitchFixture() {
-    screen.addWindow(window);
     window->addSubview(control);
     control->setFrame(CGRectMake(origin.x, origin.y, 50, 30));
     control->addTarget(*events, "valueChanged:", UIControlEvents::ValueChanged);
     settle();
-}
-
-void GlintImageSwitchFixture::advance(std::chrono::nanoseconds duration) {
-    Device::current().mainQueue().advance(device.clock(), duration);
-}
-
-void GlintImageSwitchFixture::settle() {
-    ASSERT_TRUE(Device::current().mainQueue().settle(device.clock(), std::chrono::minutes(1)));
 }
 
 double GlintImageSwitchFixture::shownThumbLeft() const {

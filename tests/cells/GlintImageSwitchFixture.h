@@ -1,12 +1,7 @@
 #pragma once
 
 #include "GlintImageSwitch.h"
-#include "TestDevice.h"
-#include "screen/Screen.h"
-#include "screen/TouchDispatcher.h"
-#include "screen/UIWindow.h"
-
-#include <gtest/gtest.h>
+#include "Phone.h"
 
 /// Counts the value-changed events of the control that it is a target of.
 class EventCounter final : public NSObject {
@@ -18,7 +13,7 @@ public:
 };
 
 /// A switch of 50 x 30 points at the place `origin` of a phone's screen, and a finger.
-class GlintImageSwitchFixture : public testing::Test {
+class GlintImageSwitchFixture : public Phone {
 protected:
     static constexpr CGPoint origin{100, 200};
     static constexpr auto restingOff = CGRectMake(1, 1, 28, 28);
@@ -41,9 +36,6 @@ protected:
         down(25);
         up(25);
     }
-
-    void advance(std::chrono::nanoseconds duration);
-    void settle();
 
     [[nodiscard]] CGRect thumbFrame() const { return control->thumbView()->frame(); }
 
@@ -68,13 +60,9 @@ protected:
     [[nodiscard]] bool borderIs(const Ref<UIColor>& color) const;
     [[nodiscard]] bool shadowIs(const Ref<UIColor>& color) const;
 
-    TestDevice device;
-    Screen screen{{}};
-    TouchDispatcher fingers;
-    Ref<UIWindow> window = make<UIWindow>();
     Ref<GlintImageSwitch> control = make<GlintImageSwitch>();
     Ref<EventCounter> events = make<EventCounter>();
 
 private:
-    void touch(TouchPhase phase, double x) { fingers.touch(phase, {origin.x + x, origin.y + 15}); }
+    void touch(TouchPhase phase, double x) { finger.touch(phase, {origin.x + x, origin.y + 15}); }
 };

@@ -1,9 +1,9 @@
 #include "RootPageFixture.h"
 
+#include "Device.h"
 #include "Foundation/NSDictionary.h"
 #include "LoadedBundles.h"
 #include "PreferenceStore.h"
-#include "Device.h"
 #include "controllers/UIViewControllerPeer.h"
 #include "navigation/UINavigationControllerPeer.h"
 #include "views/UIViewPeer.h"
@@ -33,18 +33,9 @@ RootPageFixture::~RootPageFixture() {
 }
 
 void RootPageFixture::show() {
-    window->setRootViewController(navigation);
-    screen.addWindow(window);
+    Phone::show(navigation);
     peerOf<UINavigationControllerPeer>(*navigation).push(page, false);
     settle();
-}
-
-void RootPageFixture::settle() {
-    ASSERT_TRUE(Device::current().mainQueue().settle(device.clock(), std::chrono::minutes(1)));
-}
-
-void RootPageFixture::advance(std::chrono::nanoseconds time) {
-    Device::current().mainQueue().advance(device.clock(), time);
 }
 
 DesktopNavigationItem& RootPageFixture::item() const {
@@ -77,6 +68,5 @@ std::optional<PropertyList> RootPageFixture::stored(std::string_view key) {
 
 void RootPageFixture::tapMasterSwitch() {
     const auto middle = masterSwitch()->peer().convertToScreen(CGPoint{25, 15});
-    fingers.touch(TouchPhase::Began, middle);
-    fingers.touch(TouchPhase::Ended, middle);
+    tap(middle);
 }

@@ -1,25 +1,19 @@
 #pragma once
 
-#include "TestDevice.h"
+#include "Phone.h"
 #include "UIKit/UINavigationController.h"
 #include "controllers/DesktopBarButtonItem.h"
 #include "controllers/DesktopNavigationItem.h"
 #include "cxRootListController.h"
 #include "menus/DesktopMenu.h"
-#include "screen/Screen.h"
-#include "screen/TouchDispatcher.h"
-#include "screen/UIWindow.h"
 
-#include <gtest/gtest.h>
-
-#include <chrono>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 /// The root page on a phone's screen, in a navigation controller.
-class RootPageFixture : public testing::Test {
+class RootPageFixture : public Phone {
 protected:
     using Log = std::vector<std::string>;
     using Sounds = std::vector<std::uint32_t>;
@@ -31,8 +25,6 @@ protected:
     ~RootPageFixture() override;
 
     void show();
-    void settle();
-    void advance(std::chrono::nanoseconds time);
 
     [[nodiscard]] DesktopNavigationItem& item() const;
     [[nodiscard]] Ref<GlintImageSwitch> masterSwitch() const;
@@ -45,10 +37,6 @@ protected:
 
     void tapMasterSwitch();
 
-    TestDevice device;
-    Screen screen{{}};
-    TouchDispatcher fingers;
-    Ref<UIWindow> window = make<UIWindow>();
     Ref<UINavigationController> navigation = make<UINavigationController>();
     Ref<cxRootListController> page;
 };

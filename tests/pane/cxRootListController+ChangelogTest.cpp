@@ -42,7 +42,7 @@ protected:
     /// What the sheet shows above its title.
     [[nodiscard]] Ref<DesktopImage> icon() const {
         return dynamicCast<DesktopImage>(
-            OBWelcomeControllerPeer::of(*sheet()).welcomeView().header().content().image);
+            peerOf<OBWelcomeControllerPeer>(*sheet()).welcomeView().header().content().image);
     }
 
     /// As the user does.

@@ -60,8 +60,7 @@ protected:
             if (button.title != title)
                 continue;
             const CGPoint middle{CGRectGetMidX(button.frame), CGRectGetMidY(button.frame)};
-            fingers.touch(TouchPhase::Began, middle);
-            fingers.touch(TouchPhase::Ended, middle);
+            tap(middle);
             return;
         }
         ADD_FAILURE() << "there is no button " << title;
@@ -86,7 +85,7 @@ bool isRowOn(UIViewController& page) {
     page.view().peer().layoutIfNeeded();
     const auto shown = rowSwitchIn(page.view());
     EXPECT_TRUE(shown);
-    return shown && UISwitchPeer::of(*shown).isOn();
+    return shown && peerOf<UISwitchPeer>(*shown).isOn();
 }
 
 const Requests settingsEnds{

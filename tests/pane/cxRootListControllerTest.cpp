@@ -6,11 +6,11 @@
 #include "ObjectiveC/Class.h"
 #include "PreferenceStore.h"
 #include "RootPageFixture.h"
-#include "system/SystemSounds.h"
 #include "controllers/UIViewControllerPeer.h"
 #include "controls/UIControlPeer.h"
 #include "menus/DesktopAction.h"
 #include "navigation/UINavigationControllerPeer.h"
+#include "system/SystemSounds.h"
 
 #include <gtest/gtest.h>
 

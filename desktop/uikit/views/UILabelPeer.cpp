@@ -192,6 +192,8 @@ PropertyList::Dictionary UILabelPeer::inspectedProperties() const {
         components.emplace_back(component);
     return {{"text", text_.value_or(std::string())},
             {"textColor", components},
+            {"fontSize", fontStyle_.size},
+            {"fontWeight", static_cast<int>(fontStyle_.weight)},
             {"font", PropertyList::Dictionary{{"size", fontStyle_.size},
                                               {"weight", static_cast<int>(fontStyle_.weight)}}},
             {"textAlignment", static_cast<int>(textAlignment_)},
