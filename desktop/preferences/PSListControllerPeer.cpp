@@ -184,7 +184,7 @@ bool PSListControllerPeer::openDetail(DesktopSpecifier& specifier) {
         return false;
     const auto detail = makeDetail(specifier);
     if (const auto list = dynamicCast<PSListController>(detail))
-        of(*list).setSpecifier(retain(&specifier));
+        peerOf<PSListControllerPeer>(*list).setSpecifier(retain(&specifier));
     if (detail)
         navigation->pushViewController(detail, true);
     return static_cast<bool>(detail);
