@@ -14,3 +14,10 @@ target_compile_options(corvex_portable INTERFACE -fno-exceptions)
 # Code that only tests, which is not optimised: that would take more time than it saves.
 add_library(corvex_unoptimised INTERFACE)
 target_compile_options(corvex_unoptimised INTERFACE $<$<CONFIG:RelWithDebInfo>:-O0>)
+
+# The cache has to be told that precompiled headers are meant to be used.
+option(CORVEX_CCACHE "Compile through ccache where it is installed" ON)
+find_program(CCACHE ccache)
+if(CORVEX_CCACHE AND CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${CCACHE})
+endif()

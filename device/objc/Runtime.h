@@ -53,10 +53,10 @@ void objc_destroyWeak(id* slot);
 id objc_getAssociatedObject(id owner, const void* key);
 void objc_setAssociatedObject(id owner, const void* key, id value, std::uintptr_t policy);
 
-// NOLINTBEGIN(*-reserved-identifier): the runtime's names
+// NOLINTBEGIN(*-reserved-identifier,*-redundant-declaration): the runtime's names; libc++ has them too
 void* _Block_copy(const void* block);
 void _Block_release(const void* block);
-// NOLINTEND(*-reserved-identifier)
+// NOLINTEND(*-reserved-identifier,*-redundant-declaration)
 }
 
 /// The function to call, as one of the message's own type, to send `selector` to `receiver`, which is not

@@ -62,11 +62,11 @@ class TidyTest(unittest.TestCase):
         target.parent.mkdir(parents=True, exist_ok=True)
         target.write_text(content)
 
-    def database(self, build, *commands):
+    def database(self, build, *commands, compiler="c++"):
         """The database of a build, of (source, arguments)."""
         folder = self.root / "build" / build
         entries = [
-            {"directory": str(folder), "file": str(self.root / source), "command": f"c++ {arguments} {self.root / source}"}
+            {"directory": str(folder), "file": str(self.root / source), "command": f"{compiler} {arguments} {self.root / source}"}
             for source, arguments in commands
         ]
         self.write(f"build/{build}/compile_commands.json", json.dumps(entries))
@@ -178,6 +178,13 @@ class TidyTest(unittest.TestCase):
             self.assertEqual(looked_at["Store.cpp"], ["c++", "-Wall", "-include", "own.h", "-O2", source])
             for kept in (self.root / "build" / "tidy").glob("*.clean"):
                 kept.unlink()
+
+    def test_a_compilers_cache_is_left_out_of_the_command(self):
+        self.one_source()
+        for compiler in ["/usr/bin/g++", "/opt/clang++-22"]:
+            cached = f"/usr/bin/cmake -E env A=b /usr/bin/ccache {compiler}"
+            looked_at = self.tidy(self.database("desktop", ("core/Store.cpp", "-O2"), compiler=cached))
+            self.assertEqual(looked_at["Store.cpp"], [compiler, "-O2", str(self.root / "core/Store.cpp")])
 
     def test_a_source_for_several_processors_is_looked_at_for_the_first(self):
         looked_at = self.tidy(self.one_source(arguments="-arch arm64 -arch arm64e -fuse-lipo=lipo -Os"))

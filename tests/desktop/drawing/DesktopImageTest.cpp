@@ -1,7 +1,6 @@
 #include "DesktopImage.h"
 
 #include "TestDevice.h"
-#include "screen/Screen.h"
 
 #include <gtest/gtest.h>
 
@@ -40,9 +39,8 @@ Ref<DesktopImage> plain(QColor color, double scale = 1) {
 
 TEST(DesktopImage, IsReadFromAFileOfTheDevice) {
     const TestDevice device;
-    const Screen screen({});
     device.write("/a/icon.png", png(29, 20));
-    const auto image = UIImage::imageWithContentsOfFile("/a/icon.png");
+    const auto image = DesktopImage::withContentsOfFile("/a/icon.png", 1);
     ASSERT_TRUE(image);
     EXPECT_EQ(image->size(), (CGSize{29, 20}));
     EXPECT_EQ(image->renderingMode(), UIImageRenderingMode::Automatic);
@@ -52,21 +50,20 @@ TEST(DesktopImage, HasThePixelsPerPointThatItsFileNameTells) {
     const TestDevice device;
     device.write("/icon@2x.png", png(58, 58));
     device.write("/icon@3x.png", png(87, 87));
-    EXPECT_EQ(UIImage::imageWithContentsOfFile("/icon@2x.png")->size(), (CGSize{29, 29}));
-    EXPECT_EQ(UIImage::imageWithContentsOfFile("/icon@3x.png")->size(), (CGSize{29, 29}));
+    EXPECT_EQ(DesktopImage::withContentsOfFile("/icon@2x.png", 1)->size(), (CGSize{29, 29}));
+    EXPECT_EQ(DesktopImage::withContentsOfFile("/icon@3x.png", 1)->size(), (CGSize{29, 29}));
 }
 
 TEST(DesktopImage, IsNothingWithoutAFileThatCanBeRead) {
     const TestDevice device;
-    const Screen screen{{}};
     device.write("/text.png", "no picture");
     device.write("/cut.png", png(50, 50).substr(0, 40));
     device.write("/empty.png", "");
-    EXPECT_FALSE(UIImage::imageWithContentsOfFile("/missing.png"));
-    EXPECT_FALSE(UIImage::imageWithContentsOfFile("/text.png"));
-    EXPECT_FALSE(UIImage::imageWithContentsOfFile("/cut.png"));
-    EXPECT_FALSE(UIImage::imageWithContentsOfFile("/empty.png"));
-    EXPECT_FALSE(UIImage::imageWithContentsOfFile("/"));
+    EXPECT_FALSE(DesktopImage::withContentsOfFile("/missing.png", 1));
+    EXPECT_FALSE(DesktopImage::withContentsOfFile("/text.png", 1));
+    EXPECT_FALSE(DesktopImage::withContentsOfFile("/cut.png", 1));
+    EXPECT_FALSE(DesktopImage::withContentsOfFile("/empty.png", 1));
+    EXPECT_FALSE(DesktopImage::withContentsOfFile("/", 1));
 }
 
 TEST(DesktopImage, IsReadInThePixelsPerPointOfTheDisplayWhereAFileBesideItHasThem) {
@@ -74,8 +71,7 @@ TEST(DesktopImage, IsReadInThePixelsPerPointOfTheDisplayWhereAFileBesideItHasThe
     device.write("/icon.png", png(10, 10, Qt::red));
     device.write("/icon@2x.png", png(20, 20, Qt::green));
     const auto color = [](double scale) {
-        const Screen screen({.scale = scale});
-        const auto image = dynamicCast<DesktopImage>(UIImage::imageWithContentsOfFile("/icon.png"));
+        const auto image = DesktopImage::withContentsOfFile("/icon.png", scale);
         EXPECT_EQ(image->size(), (CGSize{10, 10}));
         return drawn(*image, CGRectMake(0, 0, 20, 20)).pixelColor(10, 10);
     };
@@ -83,7 +79,7 @@ TEST(DesktopImage, IsReadInThePixelsPerPointOfTheDisplayWhereAFileBesideItHasThe
     EXPECT_EQ(color(2), QColor(Qt::green));
     EXPECT_EQ(color(3), QColor(Qt::green));
     ASSERT_TRUE(std::filesystem::remove(device.hostPath("/icon.png")));
-    EXPECT_FALSE(UIImage::imageWithContentsOfFile("/icon.png"));
+    EXPECT_FALSE(DesktopImage::withContentsOfFile("/icon.png", 3));
 }
 
 TEST(DesktopImage, IsTakenInTheSizeThatSuitsTheDisplay) {

@@ -21,7 +21,7 @@ uint64_t bits(uint64_t number, unsigned first, unsigned count) {
 
 uint64_t signedPointer(uint64_t pointer, uint64_t modifier, unsigned key) {
     switch (key) {
-    case 0:
+    case 0: // NOLINT(bugprone-branch-clone): the instructions differ
         __asm("pacia %0, %1" : "+r"(pointer) : "r"(modifier));
         break;
     case 1:
@@ -50,7 +50,7 @@ Image::Image(const char* path, unsigned disturbedKey)
     bindImports();
     const auto* const starts = fixups_ + read<uint32_t>(fixups_ + 4);
     for (uint32_t i = 0; i < read<uint32_t>(starts); ++i)
-        if (const auto offset = read<uint32_t>(starts + 4 + 4 * i); offset != 0)
+        if (const auto offset = read<uint32_t>(starts + 4 + 4ULL * i); offset != 0)
             fillSegment(starts + offset, disturbedKey);
 }
 
@@ -114,7 +114,7 @@ void Image::fillSegment(const uint8_t* starts, unsigned disturbedKey) {
     if (read<uint16_t>(starts + 6) != 12)
         fail("the bundle's pointers are not of the format for arm64e");
     for (uint16_t page = 0; page < read<uint16_t>(starts + 20); ++page)
-        if (const auto first = read<uint16_t>(starts + 22 + 2 * page); first != 0xFFFF)
+        if (const auto first = read<uint16_t>(starts + 22 + 2ULL * page); first != 0xFFFF)
             fillChain(memory_ + read<uint64_t>(starts + 8) + page * pageSize + first, disturbedKey);
 }
 

@@ -15,19 +15,20 @@ constexpr long privatelyWithoutFile = 0x22;
 constexpr long lowestError = -4095;
 
 long call(long number, long a, long b = 0, long c = 0, long d = 0, long e = 0, long f = 0) {
-    register long x8 __asm("x8") = number;
-    register long x0 __asm("x0") = a;
-    register long x1 __asm("x1") = b;
-    register long x2 __asm("x2") = c;
-    register long x3 __asm("x3") = d;
-    register long x4 __asm("x4") = e;
-    register long x5 __asm("x5") = f;
+    register const long x8 __asm("x8") = number;
+    register long x0 __asm("x0") = a; // NOLINT(misc-const-correctness): the answer comes here
+    register const long x1 __asm("x1") = b;
+    register const long x2 __asm("x2") = c;
+    register const long x3 __asm("x3") = d;
+    register const long x4 __asm("x4") = e;
+    register const long x5 __asm("x5") = f;
     __asm volatile("svc 0" : "+r"(x0) : "r"(x8), "r"(x1), "r"(x2), "r"(x3), "r"(x4), "r"(x5) : "memory");
     return x0;
 }
 
 uint8_t* map(size_t size, long protection, long flags, long file) {
     const auto address = call(mapCall, 0, static_cast<long>(size), protection, flags, file);
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): the kernel answers all calls with numbers
     return address >= lowestError && address < 0 ? nullptr : reinterpret_cast<uint8_t*>(address);
 }
 

@@ -1,0 +1,37 @@
+#include "DesktopImage.h"
+#include "Phone.h"
+
+#include <QBuffer>
+
+namespace {
+
+/// A tablet, whose display has two pixels per point.
+class UIImageTest : public Phone {
+protected:
+    UIImageTest() : Phone({.idiom = Idiom::Pad, .scale = 2}) {}
+
+    /// A picture file of so many pixels in both directions.
+    void writePicture(const std::string& path, int pixels) {
+        QImage picture(pixels, pixels, QImage::Format_ARGB32);
+        picture.fill(Qt::red);
+        QByteArray bytes;
+        QBuffer buffer(&bytes);
+        picture.save(&buffer, "PNG");
+        device.write(path, bytes.toStdString());
+    }
+};
+
+} // namespace
+
+TEST_F(UIImageTest, AFileIsReadInThePixelsPerPointOfTheScreen) {
+    writePicture("/icon.png", 10);
+    writePicture("/icon@2x.png", 24);
+    writePicture("/icon@3x.png", 30);
+    const auto image = UIImage::imageWithContentsOfFile("/icon.png");
+    ASSERT_TRUE(image);
+    EXPECT_EQ(dynamic_cast<DesktopImage&>(*image).size(), (CGSize{12, 12}));
+}
+
+TEST_F(UIImageTest, AMissingFileIsNoImage) {
+    EXPECT_FALSE(UIImage::imageWithContentsOfFile("/icon.png"));
+}
