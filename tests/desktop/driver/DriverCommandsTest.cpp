@@ -142,12 +142,12 @@ TEST_F(DriverCommandsTest, ViewsRefusesWhatIsNoClassOfViews) {
 }
 
 TEST_F(DriverCommandsTest, ScreenTellsOfTheHomeScreen) {
-    const auto screen = ask("screen");
-    EXPECT_EQ(screen.value("app").toString(), "home");
-    EXPECT_TRUE(screen.value("page").isNull());
-    EXPECT_TRUE(screen.value("navigation").isNull());
-    EXPECT_EQ(screen.value("rows").toArray(), QJsonArray());
-    EXPECT_EQ(screen.value("presented").toArray(), QJsonArray());
+    const auto told = ask("screen");
+    EXPECT_EQ(told.value("app").toString(), "home");
+    EXPECT_TRUE(told.value("page").isNull());
+    EXPECT_TRUE(told.value("navigation").isNull());
+    EXPECT_EQ(told.value("rows").toArray(), QJsonArray());
+    EXPECT_EQ(told.value("presented").toArray(), QJsonArray());
     EXPECT_GT(application_.refreshes_, 0);
 }
 

@@ -60,7 +60,7 @@ TEST_F(UITableViewSelectionTest, ADragTakesTheHighlightAway) {
 TEST_F(UITableViewSelectionTest, ACancelledTouchSelectsNothing) {
     down(middleOf({0, 2}));
     advance(200ms);
-    touch(TouchPhase::Cancelled, middleOf({0, 2}));
+    cancel();
     EXPECT_FALSE(peerOf<UITableViewCellPeer>(cell({0, 2})).isHighlighted());
     EXPECT_TRUE(content_.selected.empty());
 }
