@@ -6,8 +6,10 @@ Phone::Phone(const Screen::Options& options) : screen(options) {
     screen.addWindow(window);
 }
 
-Phone::~Phone() {
+void Phone::TearDown() {
+    cancel();
     screen.removeWindow(*window);
+    window = nullptr;
 }
 
 void Phone::show(const Ref<UIViewController>& controller) {

@@ -14,7 +14,9 @@
 class Phone : public testing::Test {
 protected:
     explicit Phone(const Screen::Options& options = {});
-    ~Phone() override;
+
+    /// The finger and the window end while the test still has what they tell of it to.
+    void TearDown() override;
 
     /// Has the window show a controller, or a view above what it shows, in all of it; laid out.
     void show(const Ref<UIViewController>& controller);

@@ -51,7 +51,6 @@ PageFixture::PageFixture() {
 }
 
 PageFixture::~PageFixture() {
-    window->setRootViewController(nullptr);
     LoadedBundles::shared().removeBundle(bundlePath);
 }
 
