@@ -24,6 +24,7 @@ TEST_F(UIViewControllerTest, itsViewIsMadeWhenItIsFirstAskedForAndAnnouncedOnce)
 
 TEST_F(UIViewControllerTest, theRootOfAWindowAppearsWithTheWindowAndLeavesWithIt) {
     const auto page = this->page("A");
+    screen.removeWindow(*window);
     window->setRootViewController(page);
     EXPECT_THAT(log, ElementsAre("viewDidLoad A"));
     log.clear();
