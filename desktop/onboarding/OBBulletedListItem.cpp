@@ -1,7 +1,7 @@
 #include "OBBulletedListItem.h"
 
 #include "ObjectiveC/Class.h"
-#include "touches/UITapGestureRecognizer.h"
+#include "touches/TapGestureRecognizer.h"
 #include "views/UIViewPeer.h"
 #include "views/WrappedLabel.h"
 
@@ -38,7 +38,7 @@ OBBulletedListItem::OBBulletedListItem(const Content& content)
 
 bool OBBulletedListItem::isTappable() const {
     const auto isTap = [](const Ref<AttachedRecognizer>& recognizer) {
-        const auto tap = dynamicCast<UITapGestureRecognizer>(recognizer);
+        const auto tap = dynamicCast<TapGestureRecognizer>(recognizer);
         return tap && tap->isEnabled();
     };
     return peer().isUserInteractionEnabled() && std::ranges::any_of(peer().gestureRecognizers(), isTap);

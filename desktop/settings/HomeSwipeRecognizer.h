@@ -1,12 +1,12 @@
 #pragma once
 
-#include "touches/UIScreenEdgePanGestureRecognizer.h"
+#include "touches/ScreenEdgePanGestureRecognizer.h"
 
 #include <functional>
 
 /// The finger that draws an application up from the screen's lower edge, to the home screen. Made by the
 /// shell, for the application's window.
-class HomeSwipeRecognizer final : public UIScreenEdgePanGestureRecognizer {
+class HomeSwipeRecognizer final : public ScreenEdgePanGestureRecognizer {
 public:
     /// Whom it tells how far the finger has come.
     struct Follower {

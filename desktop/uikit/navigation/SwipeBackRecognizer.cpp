@@ -18,7 +18,7 @@ SwipeBackRecognizer::SwipeBackRecognizer(UIViewController& navigation)
 bool SwipeBackRecognizer::shouldBegin() {
     const auto navigation = navigation_.strong();
     return navigation && peerOf<UINavigationControllerPeer>(*navigation).canPopInteractively() &&
-           UIScreenEdgePanGestureRecognizer::shouldBegin();
+           ScreenEdgePanGestureRecognizer::shouldBegin();
 }
 
 void SwipeBackRecognizer::follow() {

@@ -2,12 +2,12 @@
 
 #include "ObjectiveC/Weak.h"
 #include "UIKit/UIViewController.h"
-#include "touches/UIScreenEdgePanGestureRecognizer.h"
+#include "touches/ScreenEdgePanGestureRecognizer.h"
 
 class UINavigationControllerPeer;
 
 /// The finger that draws a page aside, back to the one before. Made by the navigation controller.
-class SwipeBackRecognizer final : public UIScreenEdgePanGestureRecognizer {
+class SwipeBackRecognizer final : public ScreenEdgePanGestureRecognizer {
 public:
     /// \param navigation whose peer is a UINavigationControllerPeer
     explicit SwipeBackRecognizer(UIViewController& navigation);

@@ -9,7 +9,7 @@
 namespace {
 
 const Class classObject =
-    Class::define<SheetPanGestureRecognizer, UIPanGestureRecognizer>("SheetPanGestureRecognizer");
+    Class::define<SheetPanGestureRecognizer, PanGestureRecognizer>("SheetPanGestureRecognizer");
 
 bool isAtItsTop(const UIScrollView& scroll) {
     const auto& peer = peerOf<UIScrollViewPeer>(scroll);

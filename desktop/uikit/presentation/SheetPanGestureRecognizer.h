@@ -1,12 +1,12 @@
 #pragma once
 
-#include "touches/UIPanGestureRecognizer.h"
+#include "touches/PanGestureRecognizer.h"
 
 class SheetPresentationView;
 
 /// The finger that draws a sheet down, and a little up. What scrolls in the sheet goes first unless it is at
 /// its top and the finger moves down. Made by the sheet's view.
-class SheetPanGestureRecognizer final : public UIPanGestureRecognizer {
+class SheetPanGestureRecognizer final : public PanGestureRecognizer {
 public:
     /// \param sheet outlives the recogniser's view
     explicit SheetPanGestureRecognizer(SheetPresentationView& sheet);

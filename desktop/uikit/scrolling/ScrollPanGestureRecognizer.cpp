@@ -6,7 +6,7 @@
 namespace {
 
 const Class classObject =
-    Class::define<ScrollPanGestureRecognizer, UIPanGestureRecognizer>("UIScrollViewPanGestureRecognizer");
+    Class::define<ScrollPanGestureRecognizer, PanGestureRecognizer>("ScrollPanGestureRecognizer");
 
 } // namespace
 
@@ -24,7 +24,7 @@ std::chrono::nanoseconds ScrollPanGestureRecognizer::contentTouchDelay() const {
 }
 
 void ScrollPanGestureRecognizer::touchBegan(DesktopTouch& touch) {
-    UIPanGestureRecognizer::touchBegan(touch);
+    PanGestureRecognizer::touchBegan(touch);
     if (scroll_.isMoving())
         begin();
 }

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "touches/UIPanGestureRecognizer.h"
+#include "touches/PanGestureRecognizer.h"
 
 class UIScrollViewPeer;
 
 /// The pan that moves a scroll view's contents. Begins at once in contents that move, so that the touch stops
 /// them. Made and kept by the scroll view's peer.
-class ScrollPanGestureRecognizer final : public UIPanGestureRecognizer {
+class ScrollPanGestureRecognizer final : public PanGestureRecognizer {
 public:
     /// How long contents wait for a touch.
     static constexpr std::chrono::milliseconds contentDelay{150};

@@ -63,7 +63,7 @@ public:
 
     void setShowsIndicators(bool shows);
 
-    [[nodiscard]] UIPanGestureRecognizer& panGestureRecognizer() const { return *pan_; }
+    [[nodiscard]] PanGestureRecognizer& panGestureRecognizer() const { return *pan_; }
 
     /// Whether a finger moves the contents.
     [[nodiscard]] bool isDragging() const { return dragStart_.has_value(); }

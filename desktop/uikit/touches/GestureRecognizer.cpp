@@ -10,7 +10,7 @@
 
 namespace {
 
-const Class classObject = Class::define<GestureRecognizer>("UIGestureRecognizer");
+const Class classObject = Class::define<GestureRecognizer>("GestureRecognizer");
 
 } // namespace
 

@@ -1,7 +1,7 @@
 #include "OBBulletedListItem.h"
 
 #include "WelcomeFixture.h"
-#include "touches/UILongPressGestureRecognizer.h"
+#include "touches/PanGestureRecognizer.h"
 
 namespace {
 
@@ -93,9 +93,9 @@ TEST_F(OBBulletedListItemTest, HasNoLabelForATextThatIsNotThere) {
 TEST_F(OBBulletedListItemTest, IsTappableWhileATapIsWatchedFor) {
     make({"Title", "A text", symbol("gear")});
     EXPECT_FALSE(item_->isTappable());
-    item_->peer().addGestureRecognizer(::make<UILongPressGestureRecognizer>());
+    item_->peer().addGestureRecognizer(::make<PanGestureRecognizer>());
     EXPECT_FALSE(item_->isTappable());
-    const auto tap = ::make<UITapGestureRecognizer>();
+    const auto tap = ::make<TapGestureRecognizer>();
     item_->peer().addGestureRecognizer(tap);
     EXPECT_TRUE(item_->isTappable());
     tap->setEnabled(false);

@@ -96,7 +96,7 @@ TEST_F(OBWelcomeControllerTest, TellsOfItsItems) {
     page->addBulletedListItemWithTitle("plain", "text", symbol("gear"));
     page->addBulletedListItemWithTitle("red", "", picture(9, 9), DesktopColor::fixed(red));
     page->addBulletedListItemWithTitle("tapped", "", nullptr);
-    items()[2]->peer().addGestureRecognizer(make<UITapGestureRecognizer>());
+    items()[2]->peer().addGestureRecognizer(make<TapGestureRecognizer>());
     const auto told = peer().sheetItems();
     ASSERT_EQ(told.size(), 3U);
     EXPECT_EQ(told[0].title, "plain");

@@ -6,7 +6,7 @@
 #include "Phone.h"
 #include "screen/Compositor.h"
 #include "scrolling/UIScrollViewPeer.h"
-#include "touches/UITapGestureRecognizer.h"
+#include "touches/TapGestureRecognizer.h"
 #include "views/UILabelPeer.h"
 #include "views/UIViewPeer.h"
 

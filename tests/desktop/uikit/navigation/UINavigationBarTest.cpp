@@ -259,9 +259,9 @@ TEST_F(UINavigationBarTest, theLargeTitleComesToRestOpenOrClosed) {
     peer().setPrefersLargeTitles(true);
     const auto scrollView = showScrollingPage();
     const auto dragUpBy = [&](double points) {
-        drag({200, 600}, {200, 600 - points - UIPanGestureRecognizer::slop}, 40);
+        drag({200, 600}, {200, 600 - points - PanGestureRecognizer::slop}, 40);
         advance(std::chrono::milliseconds(300));
-        up({200, 600 - points - UIPanGestureRecognizer::slop});
+        up({200, 600 - points - PanGestureRecognizer::slop});
         settle();
     };
     dragUpBy(20);

@@ -3,8 +3,8 @@
 #include "menus/DesktopMenu.h"
 #include "menus/MenuPresentation.h"
 #include "screen/TouchFixture.h"
-#include "touches/UIPanGestureRecognizer.h"
-#include "touches/UITapGestureRecognizer.h"
+#include "touches/PanGestureRecognizer.h"
+#include "touches/TapGestureRecognizer.h"
 #include "views/RecordingViews.h"
 
 #include <algorithm>
@@ -85,7 +85,7 @@ TEST_F(TouchDispatcherTest, ViewWhoseSuperviewEndsLosesTheTouch) {
 }
 
 TEST_F(TouchDispatcherTest, ViewMayEndWhileTouched) {
-    const auto tap = watch<UITapGestureRecognizer>(*inner, "tap");
+    const auto tap = watch<TapGestureRecognizer>(*inner, "tap");
     down(50, 150);
     inner->peer().removeFromSuperview();
     inner = nullptr;
@@ -96,7 +96,7 @@ TEST_F(TouchDispatcherTest, ViewMayEndWhileTouched) {
 }
 
 TEST_F(TouchDispatcherTest, RecognisedGestureTakesTheTouchFromTheView) {
-    const auto tap = watch<UITapGestureRecognizer>(*outer, "tap");
+    const auto tap = watch<TapGestureRecognizer>(*outer, "tap");
     down(50, 150);
     up(50, 150);
     EXPECT_EQ(takeEvents(), (Events{"inner began", "inner cancelled", "tap ended"}));
@@ -107,8 +107,8 @@ TEST_F(TouchDispatcherTest, RecognisedGestureTakesTheTouchFromTheView) {
 }
 
 TEST_F(TouchDispatcherTest, InnermostOfTwoTapsWins) {
-    const auto outerTap = watch<UITapGestureRecognizer>(*outer, "outer tap");
-    const auto innerTap = watch<UITapGestureRecognizer>(*inner, "inner tap");
+    const auto outerTap = watch<TapGestureRecognizer>(*outer, "outer tap");
+    const auto innerTap = watch<TapGestureRecognizer>(*inner, "inner tap");
     tap(50, 150);
     EXPECT_EQ(takeEvents(), (Events{"inner began", "inner cancelled", "inner tap ended"}));
     tap(200, 150);
@@ -116,8 +116,8 @@ TEST_F(TouchDispatcherTest, InnermostOfTwoTapsWins) {
 }
 
 TEST_F(TouchDispatcherTest, OneGestureExcludesTheOthers) {
-    const auto pan = watch<UIPanGestureRecognizer>(*outer, "pan");
-    const auto tap = watch<UITapGestureRecognizer>(*inner, "tap");
+    const auto pan = watch<PanGestureRecognizer>(*outer, "pan");
+    const auto tap = watch<TapGestureRecognizer>(*inner, "tap");
     down(50, 150);
     move(60, 150);
     move(50, 150);
@@ -127,19 +127,19 @@ TEST_F(TouchDispatcherTest, OneGestureExcludesTheOthers) {
 }
 
 TEST_F(TouchDispatcherTest, ControlGoesBeforeATapAroundIt) {
-    const auto tapAround = watch<UITapGestureRecognizer>(*outer, "tap");
+    const auto tapAround = watch<TapGestureRecognizer>(*outer, "tap");
     const auto control = make<RecordingControl>(events);
     control->setFrame(CGRectMake(150, 0, 50, 50));
     outer->addSubview(control);
     tap(160, 110);
     EXPECT_EQ(takeEvents(), (Events{"begin t", "down th", "end", "up inside"}));
-    const auto ownTap = watch<UITapGestureRecognizer>(*control, "own tap");
+    const auto ownTap = watch<TapGestureRecognizer>(*control, "own tap");
     tap(160, 110);
     EXPECT_EQ(events, (Events{"begin t", "down th", "cancel", "touch cancel", "own tap ended"}));
 }
 
 TEST_F(TouchDispatcherTest, PanAroundAControlTakesItsTouch) {
-    const auto pan = watch<UIPanGestureRecognizer>(*outer, "pan");
+    const auto pan = watch<PanGestureRecognizer>(*outer, "pan");
     const auto control = make<RecordingControl>(events);
     control->setFrame(CGRectMake(150, 0, 50, 50));
     outer->addSubview(control);
@@ -149,7 +149,7 @@ TEST_F(TouchDispatcherTest, PanAroundAControlTakesItsTouch) {
 }
 
 TEST_F(TouchDispatcherTest, RecogniserOfAViewThatGoesIsCancelled) {
-    const auto pan = watch<UIPanGestureRecognizer>(*inner, "pan");
+    const auto pan = watch<PanGestureRecognizer>(*inner, "pan");
     down(50, 150);
     move(70, 150);
     takeEvents();
@@ -160,7 +160,7 @@ TEST_F(TouchDispatcherTest, RecogniserOfAViewThatGoesIsCancelled) {
 }
 
 TEST_F(TouchDispatcherTest, RecogniserAroundAViewThatGoesGoesOn) {
-    const auto pan = watch<UIPanGestureRecognizer>(*outer, "pan");
+    const auto pan = watch<PanGestureRecognizer>(*outer, "pan");
     down(50, 150);
     move(70, 150);
     inner->peer().removeFromSuperview();
@@ -171,7 +171,7 @@ TEST_F(TouchDispatcherTest, RecogniserAroundAViewThatGoesGoesOn) {
 }
 
 TEST_F(TouchDispatcherTest, SwitchedOffRecogniserIsCancelledAndFollowsNoMore) {
-    const auto pan = watch<UIPanGestureRecognizer>(*outer, "pan");
+    const auto pan = watch<PanGestureRecognizer>(*outer, "pan");
     down(50, 150);
     move(70, 150);
     takeEvents();
@@ -185,8 +185,8 @@ TEST_F(TouchDispatcherTest, SwitchedOffRecogniserIsCancelledAndFollowsNoMore) {
 
 TEST_F(TouchDispatcherTest, SingleTapWaitsForTheDoubleTapToFail) {
     using namespace std::chrono_literals;
-    const auto single = watch<UITapGestureRecognizer>(*inner, "single");
-    const auto twice = watch<UITapGestureRecognizer>(*inner, "double");
+    const auto single = watch<TapGestureRecognizer>(*inner, "single");
+    const auto twice = watch<TapGestureRecognizer>(*inner, "double");
     twice->setNumberOfTapsRequired(2);
     single->requireToFail(twice);
     tap(50, 150);
@@ -206,7 +206,7 @@ TEST_F(TouchDispatcherTest, SingleTapWaitsForTheDoubleTapToFail) {
 }
 
 TEST_F(TouchDispatcherTest, HandlerMayEndTheView) {
-    const auto tapped = make<UITapGestureRecognizer>();
+    const auto tapped = make<TapGestureRecognizer>();
     tapped->addHandler([this] {
         inner->peer().removeFromSuperview();
         inner = nullptr;
@@ -320,7 +320,7 @@ TEST_F(CancelledTouchTest, WhateverIsDoneThenEveryTouchIsToldItsEndOnce) {
         [this] { TouchDispatcher::cancelTouchesIn(*window); },
         [this] { move(150, 150); }, // the pan takes it
     };
-    const auto pan = make<UIPanGestureRecognizer>();
+    const auto pan = make<PanGestureRecognizer>();
     window->peer().addGestureRecognizer(pan);
     for (std::size_t way = 0; way < ways.size(); ++way) {
         for (std::size_t reaction = 0; reaction < reactions.size(); ++reaction) {

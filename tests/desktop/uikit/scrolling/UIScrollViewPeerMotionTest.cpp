@@ -1,6 +1,6 @@
 #include "scrolling/ScrollFixture.h"
 #include "scrolling/UIScrollViewPeer.h"
-#include "touches/UITapGestureRecognizer.h"
+#include "touches/TapGestureRecognizer.h"
 
 #include <cmath>
 
@@ -88,7 +88,7 @@ TEST_F(UIScrollViewPeerMotionTest, DerivedPeerChoosesWhereContentsComeToRest) {
 }
 
 TEST_F(UIScrollViewPeerMotionTest, TouchStopsContentsAndIsEaten) {
-    const auto tapRecognizer = make<UITapGestureRecognizer>();
+    const auto tapRecognizer = make<TapGestureRecognizer>();
     content->peer().addGestureRecognizer(tapRecognizer);
     record(*tapRecognizer, "tap", events);
     flick();

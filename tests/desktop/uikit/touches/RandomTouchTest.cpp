@@ -1,10 +1,9 @@
 #include "AnimationGroup.h"
 #include "screen/TouchFixture.h"
 #include "scrolling/UIScrollViewPeer.h"
-#include "touches/UILongPressGestureRecognizer.h"
-#include "touches/UIPanGestureRecognizer.h"
-#include "touches/UIScreenEdgePanGestureRecognizer.h"
-#include "touches/UITapGestureRecognizer.h"
+#include "touches/PanGestureRecognizer.h"
+#include "touches/ScreenEdgePanGestureRecognizer.h"
+#include "touches/TapGestureRecognizer.h"
 #include "views/RecordingViews.h"
 
 #include <random>
@@ -69,14 +68,12 @@ protected:
     }
 
     Ref<GestureRecognizer> makeRecognizer() {
-        const auto kind = below(5);
+        const auto kind = below(4);
         if (kind == 0)
-            return make<UIPanGestureRecognizer>();
+            return make<PanGestureRecognizer>();
         if (kind == 1)
-            return make<UILongPressGestureRecognizer>();
-        if (kind == 2)
-            return make<UIScreenEdgePanGestureRecognizer>();
-        const auto taps = make<UITapGestureRecognizer>();
+            return make<ScreenEdgePanGestureRecognizer>();
+        const auto taps = make<TapGestureRecognizer>();
         taps->setNumberOfTapsRequired(1 + below(2));
         return taps;
     }

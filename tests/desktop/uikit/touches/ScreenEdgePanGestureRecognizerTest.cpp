@@ -1,4 +1,4 @@
-#include "touches/UIScreenEdgePanGestureRecognizer.h"
+#include "touches/ScreenEdgePanGestureRecognizer.h"
 
 #include "screen/TouchFixture.h"
 #include "views/RecordingViews.h"
@@ -6,9 +6,9 @@
 namespace {
 
 /// A page with an edge pan and, in it, a view with a pan of its own, both as large as the window.
-class UIScreenEdgePanGestureRecognizerTest : public TouchFixture {
+class ScreenEdgePanGestureRecognizerTest : public TouchFixture {
 protected:
-    UIScreenEdgePanGestureRecognizerTest() {
+    ScreenEdgePanGestureRecognizerTest() {
         page->setFrame(screen.bounds());
         inner->setFrame(screen.bounds());
         window->addSubview(page);
@@ -21,11 +21,11 @@ protected:
 
     Ref<UIView> page = make<UIView>();
     Ref<UIView> inner = make<UIView>();
-    Ref<UIScreenEdgePanGestureRecognizer> edge = make<UIScreenEdgePanGestureRecognizer>();
-    Ref<UIPanGestureRecognizer> pan = make<UIPanGestureRecognizer>();
+    Ref<ScreenEdgePanGestureRecognizer> edge = make<ScreenEdgePanGestureRecognizer>();
+    Ref<PanGestureRecognizer> pan = make<PanGestureRecognizer>();
 };
 
-TEST_F(UIScreenEdgePanGestureRecognizerTest, GoesBeforeAPanWithinItsView) {
+TEST_F(ScreenEdgePanGestureRecognizerTest, GoesBeforeAPanWithinItsView) {
     down(5, 400);
     move(15, 400);
     move(30, 400);
@@ -33,7 +33,7 @@ TEST_F(UIScreenEdgePanGestureRecognizerTest, GoesBeforeAPanWithinItsView) {
     EXPECT_EQ(events, (Events{"edge began", "edge changed", "edge ended"}));
 }
 
-TEST_F(UIScreenEdgePanGestureRecognizerTest, OtherPanGoesOnWhereThisOneFails) {
+TEST_F(ScreenEdgePanGestureRecognizerTest, OtherPanGoesOnWhereThisOneFails) {
     down(5, 400);
     move(5, 420);
     EXPECT_EQ(events, Events{"pan began"}) << "downward is not inward";
@@ -49,8 +49,8 @@ TEST_F(UIScreenEdgePanGestureRecognizerTest, OtherPanGoesOnWhereThisOneFails) {
     EXPECT_EQ(events, Events{"edge began"});
 }
 
-TEST_F(UIScreenEdgePanGestureRecognizerTest, TheLowerEdgeIsLeftUpward) {
-    edge->setEdge(UIScreenEdgePanGestureRecognizer::Edge::Bottom);
+TEST_F(ScreenEdgePanGestureRecognizerTest, TheLowerEdgeIsLeftUpward) {
+    edge->setEdge(ScreenEdgePanGestureRecognizer::Edge::Bottom);
     down(200, 825);
     move(200, 805);
     EXPECT_EQ(events, Events{"edge began"});
@@ -66,9 +66,9 @@ TEST_F(UIScreenEdgePanGestureRecognizerTest, TheLowerEdgeIsLeftUpward) {
     EXPECT_EQ(events, Events{"pan began"}) << "sideways is not upward";
 }
 
-TEST_F(UIScreenEdgePanGestureRecognizerTest, InACornerTheDirectionDecides) {
-    const auto bottom = make<UIScreenEdgePanGestureRecognizer>();
-    bottom->setEdge(UIScreenEdgePanGestureRecognizer::Edge::Bottom);
+TEST_F(ScreenEdgePanGestureRecognizerTest, InACornerTheDirectionDecides) {
+    const auto bottom = make<ScreenEdgePanGestureRecognizer>();
+    bottom->setEdge(ScreenEdgePanGestureRecognizer::Edge::Bottom);
     page->peer().addGestureRecognizer(bottom);
     record(*bottom, "bottom", events);
     down(5, 840);

@@ -1,4 +1,4 @@
-#include "touches/UIPanGestureRecognizer.h"
+#include "touches/PanGestureRecognizer.h"
 
 #include "ObjectiveC/Class.h"
 
@@ -6,22 +6,22 @@
 
 namespace {
 
-const Class classObject = Class::define<UIPanGestureRecognizer, GestureRecognizer>("UIPanGestureRecognizer");
+const Class classObject = Class::define<PanGestureRecognizer, GestureRecognizer>("PanGestureRecognizer");
 
 /// What is older tells nothing of the speed.
 constexpr std::chrono::milliseconds speedWindow{100};
 
 } // namespace
 
-CGPoint UIPanGestureRecognizer::translation() const {
+CGPoint PanGestureRecognizer::translation() const {
     return {movement().x - slopUsed_.x, movement().y - slopUsed_.y};
 }
 
-CGPoint UIPanGestureRecognizer::movement() const {
+CGPoint PanGestureRecognizer::movement() const {
     return {location().x - start_.x, location().y - start_.y};
 }
 
-CGPoint UIPanGestureRecognizer::velocity() const {
+CGPoint PanGestureRecognizer::velocity() const {
     if (samples_.size() < 2)
         return {};
     const auto& first = samples_.front();
@@ -32,12 +32,12 @@ CGPoint UIPanGestureRecognizer::velocity() const {
     return {(last.place.x - first.place.x) / seconds, (last.place.y - first.place.y) / seconds};
 }
 
-void UIPanGestureRecognizer::touchBegan(DesktopTouch& touch) {
+void PanGestureRecognizer::touchBegan(DesktopTouch& touch) {
     start_ = touch.place();
     record(touch);
 }
 
-void UIPanGestureRecognizer::touchMoved(DesktopTouch& touch) {
+void PanGestureRecognizer::touchMoved(DesktopTouch& touch) {
     record(touch);
     if (state() != State::Possible) {
         change();
@@ -50,18 +50,18 @@ void UIPanGestureRecognizer::touchMoved(DesktopTouch& touch) {
     begin();
 }
 
-void UIPanGestureRecognizer::touchEnded(DesktopTouch& touch) {
+void PanGestureRecognizer::touchEnded(DesktopTouch& touch) {
     record(touch);
     end();
     fail();
 }
 
-void UIPanGestureRecognizer::didReset() {
+void PanGestureRecognizer::didReset() {
     slopUsed_ = {};
     samples_.clear();
 }
 
-void UIPanGestureRecognizer::record(const DesktopTouch& touch) {
+void PanGestureRecognizer::record(const DesktopTouch& touch) {
     samples_.push_back({touch.place(), touch.time()});
     while (samples_.front().time < touch.time() - speedWindow)
         samples_.pop_front();

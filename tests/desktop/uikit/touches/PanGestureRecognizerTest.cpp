@@ -1,4 +1,4 @@
-#include "touches/UIPanGestureRecognizer.h"
+#include "touches/PanGestureRecognizer.h"
 
 #include "screen/TouchFixture.h"
 #include "views/RecordingViews.h"
@@ -7,9 +7,9 @@ namespace {
 
 using namespace std::chrono_literals;
 
-class UIPanGestureRecognizerTest : public TouchFixture {
+class PanGestureRecognizerTest : public TouchFixture {
 protected:
-    UIPanGestureRecognizerTest() {
+    PanGestureRecognizerTest() {
         view->setFrame(screen.bounds());
         window->addSubview(view);
         view->peer().addGestureRecognizer(pan);
@@ -17,10 +17,10 @@ protected:
     }
 
     Ref<UIView> view = make<UIView>();
-    Ref<UIPanGestureRecognizer> pan = make<UIPanGestureRecognizer>();
+    Ref<PanGestureRecognizer> pan = make<PanGestureRecognizer>();
 };
 
-TEST_F(UIPanGestureRecognizerTest, BeginsOnceTheFingerHasMovedByTen) {
+TEST_F(PanGestureRecognizerTest, BeginsOnceTheFingerHasMovedByTen) {
     down(100, 100);
     move(109.9, 100);
     EXPECT_EQ(events, Events());
@@ -31,7 +31,7 @@ TEST_F(UIPanGestureRecognizerTest, BeginsOnceTheFingerHasMovedByTen) {
     EXPECT_EQ(events, (Events{"pan changed", "pan ended"}));
 }
 
-TEST_F(UIPanGestureRecognizerTest, TranslationLeavesOutTheFirstTenPoints) {
+TEST_F(PanGestureRecognizerTest, TranslationLeavesOutTheFirstTenPoints) {
     down(100, 100);
     move(130, 140);
     EXPECT_DOUBLE_EQ(pan->movement().x, 30);
@@ -43,7 +43,7 @@ TEST_F(UIPanGestureRecognizerTest, TranslationLeavesOutTheFirstTenPoints) {
     EXPECT_DOUBLE_EQ(pan->translation().y, -8);
 }
 
-TEST_F(UIPanGestureRecognizerTest, VelocityIsThatOfTheLastTenthOfASecond) {
+TEST_F(PanGestureRecognizerTest, VelocityIsThatOfTheLastTenthOfASecond) {
     down(100, 100);
     advance(1s);
     for (auto step = 1; step <= 10; ++step) {
@@ -54,7 +54,7 @@ TEST_F(UIPanGestureRecognizerTest, VelocityIsThatOfTheLastTenthOfASecond) {
     EXPECT_NEAR(pan->velocity().y, -200, 1e-6);
 }
 
-TEST_F(UIPanGestureRecognizerTest, FingerHeldStillHasNoVelocity) {
+TEST_F(PanGestureRecognizerTest, FingerHeldStillHasNoVelocity) {
     down(100, 100);
     advance(10ms);
     move(150, 100);
@@ -65,7 +65,7 @@ TEST_F(UIPanGestureRecognizerTest, FingerHeldStillHasNoVelocity) {
     EXPECT_EQ(atEnd, CGPoint());
 }
 
-TEST_F(UIPanGestureRecognizerTest, CancelledTouchCancelsIt) {
+TEST_F(PanGestureRecognizerTest, CancelledTouchCancelsIt) {
     down(100, 100);
     move(150, 100);
     cancel();

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "touches/UIPanGestureRecognizer.h"
+#include "touches/PanGestureRecognizer.h"
 
 /// A finger that draws something in from an edge of its view, the leading one at first. Goes before other
 /// pans of its touch. Made by whoever adds it to a view.
-class UIScreenEdgePanGestureRecognizer : public UIPanGestureRecognizer {
+class ScreenEdgePanGestureRecognizer : public PanGestureRecognizer {
 public:
     enum class Edge { Leading, Bottom };
 

@@ -1,4 +1,4 @@
-#include "touches/UITapGestureRecognizer.h"
+#include "touches/TapGestureRecognizer.h"
 
 #include "ObjectiveC/Class.h"
 
@@ -6,7 +6,7 @@
 
 namespace {
 
-const Class classObject = Class::define<UITapGestureRecognizer, GestureRecognizer>("UITapGestureRecognizer");
+const Class classObject = Class::define<TapGestureRecognizer, GestureRecognizer>("TapGestureRecognizer");
 
 /// How far the finger may stray from where it first came down; points.
 constexpr double slop = 10;
@@ -15,19 +15,19 @@ constexpr std::chrono::milliseconds longestGap{350};
 
 } // namespace
 
-void UITapGestureRecognizer::touchBegan(DesktopTouch& touch) {
+void TapGestureRecognizer::touchBegan(DesktopTouch& touch) {
     stopTimer();
     if (taps_ == 0)
         start_ = touch.place();
     touchMoved(touch);
 }
 
-void UITapGestureRecognizer::touchMoved(DesktopTouch& touch) {
+void TapGestureRecognizer::touchMoved(DesktopTouch& touch) {
     if (std::hypot(touch.place().x - start_.x, touch.place().y - start_.y) > slop)
         fail();
 }
 
-void UITapGestureRecognizer::touchEnded(DesktopTouch& touch) {
+void TapGestureRecognizer::touchEnded(DesktopTouch& touch) {
     touchMoved(touch);
     if (state() != State::Possible)
         return;

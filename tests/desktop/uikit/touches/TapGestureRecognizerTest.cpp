@@ -1,4 +1,4 @@
-#include "touches/UITapGestureRecognizer.h"
+#include "touches/TapGestureRecognizer.h"
 
 #include "ObjectiveC/Class.h"
 #include "screen/TouchFixture.h"
@@ -19,9 +19,9 @@ const Class targetClass =
     Class::define<TapTarget>("TapTestTarget", {method<"tapped:", &TapTarget::tapped>()});
 
 /// A view that is as large as the window, with a tap recogniser.
-class UITapGestureRecognizerTest : public TouchFixture {
+class TapGestureRecognizerTest : public TouchFixture {
 protected:
-    UITapGestureRecognizerTest() {
+    TapGestureRecognizerTest() {
         view->setFrame(screen.bounds());
         window->addSubview(view);
         view->peer().addGestureRecognizer(tapRecognizer);
@@ -29,17 +29,17 @@ protected:
     }
 
     Ref<UIView> view = make<UIView>();
-    Ref<UITapGestureRecognizer> tapRecognizer = make<UITapGestureRecognizer>();
+    Ref<TapGestureRecognizer> tapRecognizer = make<TapGestureRecognizer>();
 };
 
-TEST_F(UITapGestureRecognizerTest, FingerMayStrayByTenPoints) {
+TEST_F(TapGestureRecognizerTest, FingerMayStrayByTenPoints) {
     down(100, 100);
     move(110, 100);
     up(100, 110);
     EXPECT_EQ(events, Events{"tap ended"});
 }
 
-TEST_F(UITapGestureRecognizerTest, FailsBeyondTenPoints) {
+TEST_F(TapGestureRecognizerTest, FailsBeyondTenPoints) {
     down(100, 100);
     move(110.1, 100);
     move(100, 100);
@@ -51,13 +51,13 @@ TEST_F(UITapGestureRecognizerTest, FailsBeyondTenPoints) {
     EXPECT_EQ(events, Events{"tap ended"}) << "a failure is over with the touch";
 }
 
-TEST_F(UITapGestureRecognizerTest, CancelledTouchIsNoTap) {
+TEST_F(TapGestureRecognizerTest, CancelledTouchIsNoTap) {
     down(100, 100);
     cancel();
     EXPECT_EQ(events, Events());
 }
 
-TEST_F(UITapGestureRecognizerTest, TwoTapsAreNearInTimeAndPlace) {
+TEST_F(TapGestureRecognizerTest, TwoTapsAreNearInTimeAndPlace) {
     tapRecognizer->setNumberOfTapsRequired(2);
     tap(100, 100);
     advance(349ms);
@@ -76,7 +76,7 @@ TEST_F(UITapGestureRecognizerTest, TwoTapsAreNearInTimeAndPlace) {
     EXPECT_EQ(takeEvents(), Events()) << "too far";
 }
 
-TEST_F(UITapGestureRecognizerTest, TargetGetsTheRecogniser) {
+TEST_F(TapGestureRecognizerTest, TargetGetsTheRecogniser) {
     const auto target = make<TapTarget>();
     tapRecognizer->addTarget(*target, "tapped:");
     tap(100, 100);
@@ -84,7 +84,7 @@ TEST_F(UITapGestureRecognizerTest, TargetGetsTheRecogniser) {
     EXPECT_EQ(target->senders[0], tapRecognizer);
 }
 
-TEST_F(UITapGestureRecognizerTest, TellsWhereTheFingerWas) {
+TEST_F(TapGestureRecognizerTest, TellsWhereTheFingerWas) {
     view->setFrame(CGRectMake(20, 30, 300, 300));
     tap(100, 100);
     EXPECT_EQ(tapRecognizer->location(), (CGPoint{100, 100}));

@@ -7,7 +7,7 @@
 
 /// A finger that draws something along; begins once it has moved by `slop`. Made by whoever adds it to a
 /// view.
-class UIPanGestureRecognizer : public GestureRecognizer {
+class PanGestureRecognizer : public GestureRecognizer {
 public:
     /// How far a finger moves before that counts as a movement; points.
     static constexpr double slop = 10;
