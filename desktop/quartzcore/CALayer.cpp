@@ -6,6 +6,8 @@
 #include "LayerDelegate.h"
 #include "ObjectiveC/Class.h"
 
+#include <utility>
+
 namespace {
 
 const Class classObject = Class::define<CALayer>("CALayer");
@@ -18,7 +20,17 @@ ColorComponents presentLook(const CALayerPeer& peer, const Ref<UIColor>& color) 
 
 CALayer::CALayer() : peer_(std::make_unique<CALayerPeer>(*this)) {}
 
+CALayer::CALayer(std::unique_ptr<CALayerPeer> peer) : peer_(std::move(peer)) {}
+
 CALayer::~CALayer() = default;
+
+void CALayer::setFrame(const CGRect& frame) {
+    peer_->setFrame(frame);
+}
+
+void CALayer::insertSublayer(const Ref<CALayer>& sublayer, std::size_t index) {
+    peer_->insertSublayer(sublayer, index);
+}
 
 double CALayer::cornerRadius() const {
     return peer_->number(LayerProperty::CornerRadius);

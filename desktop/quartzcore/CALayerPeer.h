@@ -28,7 +28,7 @@ class CALayerPeer {
 public:
     explicit CALayerPeer(CALayer& layer);
 
-    ~CALayerPeer();
+    virtual ~CALayerPeer();
     CALayerPeer(const CALayerPeer&) = delete;
     CALayerPeer& operator=(const CALayerPeer&) = delete;
 

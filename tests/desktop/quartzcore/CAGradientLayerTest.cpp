@@ -1,4 +1,4 @@
-#include "CAGradientLayer.h"
+#include "QuartzCore/CAGradientLayer.h"
 
 #include "CALayerPeer.h"
 #include "screen/ShownScreen.h"
@@ -12,8 +12,8 @@ class CAGradientLayerTest : public testing::Test {
 protected:
     CAGradientLayerTest() {
         gradient->setColors({UIColor::blackColor(), UIColor::whiteColor()});
-        gradient->peer().setFrame(CGRectMake(0, 0, 40, 40));
-        view->layer().peer().addSublayer(gradient);
+        gradient->setFrame(CGRectMake(0, 0, 40, 40));
+        view->layer().insertSublayer(gradient, 0);
     }
 
     int grey(int x, int y) { return shown.pixel(x, y).red(); }

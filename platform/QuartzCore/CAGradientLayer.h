@@ -3,15 +3,13 @@
 #include "QuartzCore/CALayer.h"
 #include "UIKit/UIColor.h"
 
-#include <memory>
 #include <vector>
 
 /// A layer filled with colours that go over into each other along a line, within its corners. Put among the
 /// sublayers of another by whoever makes it. Main thread only.
-class CAGradientLayer final : public CALayer {
+class CAGradientLayer : public CALayer {
 public:
     CAGradientLayer();
-    ~CAGradientLayer() override;
 
     /// At equal distances along the line, the first at its start. One is a plain fill, none shows nothing.
     /// A colour is taken as it looks at the moment.
@@ -22,9 +20,4 @@ public:
     /// first.
     void setStartPoint(CGPoint point);
     void setEndPoint(CGPoint point);
-
-private:
-    class Filling;
-
-    const std::unique_ptr<Filling> filling_;
 };
