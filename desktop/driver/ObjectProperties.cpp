@@ -60,6 +60,8 @@ QJsonObject viewProperties(UIView& view) {
     auto properties = jsonOf(PropertyList(view.peer().inspectedProperties())).toObject();
     for (const auto* stated = &view.isa(); stated != nullptr; stated = stated->superclass())
         addStatedProperties(view, *stated, properties);
+    if (const auto tag = view.peer().tag(); tag != 0)
+        properties.insert("tag", tag);
     if (const auto* const control = peerIf<UIControlPeer>(view)) {
         properties.insert("enabled", control->isEnabled());
         properties.insert("highlighted", control->isHighlighted());

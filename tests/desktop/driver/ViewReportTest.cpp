@@ -74,6 +74,9 @@ TEST_F(ViewReportTest, LooksAndStateAreToldOf) {
     EXPECT_EQ(report.value("accessibility")["label"], "Apply");
     EXPECT_EQ(report.value("accessibility")["isElement"], true);
     EXPECT_EQ(report.value("properties")["enabled"], true);
+    EXPECT_FALSE(report.value("properties").toObject().contains("tag"));
+    button->setTag(12);
+    EXPECT_EQ(viewReport(*button).value("properties")["tag"], 12);
     static_cast<void>(ask("touch down 100 120"));
     EXPECT_EQ(viewReport(*button).value("properties")["tracking"], true);
 }
