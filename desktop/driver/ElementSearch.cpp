@@ -1,10 +1,10 @@
 #include "ElementSearch.h"
 
 #include "UIKit/UIControl.h"
+#include "UIKit/UITableViewCell.h"
 #include "accessibility/AccessibilityElement.h"
 #include "screen/Screen.h"
 #include "scrolling/UIScrollViewPeer.h"
-#include "tables/UITableViewCell.h"
 #include "views/UIViewPeer.h"
 
 #include <algorithm>

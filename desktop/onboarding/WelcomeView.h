@@ -2,7 +2,7 @@
 
 #include "OBBulletedList.h"
 #include "OBHeaderView.h"
-#include "scrolling/UIScrollView.h"
+#include "UIKit/UIScrollView.h"
 
 /// The view of a welcome page: its header and its list, which scroll together. Made by the page's controller.
 class WelcomeView final : public UIView {

@@ -1,7 +1,7 @@
-#include "PSControlTableCell.h"
+#include "Preferences/PSControlTableCell.h"
 
 #include "ObjectiveC/Class.h"
-#include "PSTableCellPeer.h"
+#include "PSControlTableCellPeer.h"
 
 #include <utility>
 
@@ -11,16 +11,6 @@ const Class cellClass = Class::define<PSControlTableCell, PSTableCell>("PSContro
 
 } // namespace
 
-PSControlTableCell::PSControlTableCell() = default;
+PSControlTableCell::PSControlTableCell() : PSControlTableCell(std::make_unique<PSControlTableCellPeer>()) {}
 
-PSControlTableCell::PSControlTableCell(std::unique_ptr<PSTableCellPeer> peer)
-    : PSTableCell(std::move(peer)) {}
-
-Ref<UIControl> PSControlTableCell::control() const {
-    return control_;
-}
-
-void PSControlTableCell::setControl(const Ref<UIControl>& control) {
-    control_ = control;
-    setAccessoryView(control);
-}
+PSControlTableCell::PSControlTableCell(std::unique_ptr<UIViewPeer> peer) : PSTableCell(std::move(peer)) {}

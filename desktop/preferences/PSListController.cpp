@@ -86,6 +86,10 @@ void PSListController::setPreferenceValue(const std::optional<PropertyList>& val
     keepValue(value, desktopHalf(specifier));
 }
 
+Ref<UITableView> PSListController::table() {
+    return retain(&dynamic_cast<UITableView&>(peerOf<PSListControllerPeer>(*this).table().view()));
+}
+
 Ref<PSSpecifier> PSListController::specifierForID(std::string_view identifier) {
     for (const auto& specifier : specifiers()) {
         if (desktopHalf(*specifier).identifier() == identifier)

@@ -1,7 +1,7 @@
-#include "PSSwitchTableCell.h"
+#include "Preferences/PSSwitchTableCell.h"
 
 #include "ObjectiveC/Class.h"
-#include "PSTableCellPeer.h"
+#include "PSControlTableCellPeer.h"
 #include "controls/UISwitchPeer.h"
 
 #include <memory>
@@ -11,35 +11,38 @@ namespace {
 const Class cellClass = Class::define<PSSwitchTableCell, PSControlTableCell>("PSSwitchTableCell");
 
 /// Keeps the switch and the row's value the same.
-class PSSwitchTableCellPeer final : public PSTableCellPeer {
+class PSSwitchTableCellPeer final : public PSControlTableCellPeer {
 public:
-    [[nodiscard]] Ref<UIControl> makeSwitch();
-
     // PSTableCellPeer:
     void refresh() override;
+
+protected:
+    // UITableViewCellPeer:
+    void viewMade() override;
 
 private:
     [[nodiscard]] bool isNegated() const { return specifier()->boolForKey("negate", false); }
 
     void write() const;
 
-    Ref<UISwitch> switch_;
+    [[nodiscard]] UISwitchPeer& switchPeer() const {
+        return peerOf<UISwitchPeer>(dynamic_cast<UISwitch&>(*control()));
+    }
 };
 
-Ref<UIControl> PSSwitchTableCellPeer::makeSwitch() {
-    switch_ = make<UISwitch>();
-    auto& peer = peerOf<UISwitchPeer>(*switch_);
-    peer.sizeToFit();
-    peer.addHandler(UIControlEvents::ValueChanged, [this] { write(); });
-    return switch_;
+void PSSwitchTableCellPeer::viewMade() {
+    PSControlTableCellPeer::viewMade();
+    setControl(make<UISwitch>());
+    switchPeer().sizeToFit();
+    switchPeer().addHandler(UIControlEvents::ValueChanged, [this] { write(); });
 }
 
 void PSSwitchTableCellPeer::refresh() {
-    PSTableCellPeer::refresh();
-    if (!specifier() || !switch_)
+    PSControlTableCellPeer::refresh();
+    if (!specifier())
         return;
     const auto value = specifier()->performGetter();
-    auto& peer = peerOf<UISwitchPeer>(*switch_);
+    auto& peer = switchPeer();
     peer.setOn((value && value->boolValue()) != isNegated(), false);
     peer.setEnabled(specifier()->isEnabled());
     Accessibility told;
@@ -49,17 +52,9 @@ void PSSwitchTableCellPeer::refresh() {
 
 void PSSwitchTableCellPeer::write() const {
     if (specifier())
-        specifier()->performSetter(peerOf<UISwitchPeer>(*switch_).isOn() != isNegated());
+        specifier()->performSetter(switchPeer().isOn() != isNegated());
 }
 
 } // namespace
 
 PSSwitchTableCell::PSSwitchTableCell() : PSControlTableCell(std::make_unique<PSSwitchTableCellPeer>()) {}
-
-bool PSSwitchTableCell::initWithStyle(UITableViewCellStyle style, const std::string& reuseIdentifier,
-                                      PSSpecifier& specifier) {
-    if (!PSControlTableCell::initWithStyle(style, reuseIdentifier, specifier))
-        return false;
-    setControl(peerOf<PSSwitchTableCellPeer>(*this).makeSwitch());
-    return true;
-}

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "DesktopSpecifier.h"
-#include "PSTableCell.h"
+#include "Preferences/PSTableCell.h"
 #include "tables/UITableViewCellPeer.h"
 
 #include <optional>

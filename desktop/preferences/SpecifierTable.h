@@ -1,9 +1,9 @@
 #pragma once
 
-#include "PSTableCell.h"
+#include "Preferences/PSTableCell.h"
 #include "SpecifierSections.h"
+#include "UIKit/UITableView.h"
 #include "tables/TableContent.h"
-#include "tables/UITableView.h"
 #include "tables/UITableViewPeer.h"
 
 #include <functional>

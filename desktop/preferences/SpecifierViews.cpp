@@ -3,8 +3,8 @@
 #include "Foundation/NSLog.h"
 #include "ObjectiveC/Class.h"
 #include "PSHeaderFooterView.h"
-#include "PSSwitchTableCell.h"
 #include "PSTableCellPeer.h"
+#include "Preferences/PSSwitchTableCell.h"
 
 namespace {
 

@@ -2,6 +2,7 @@
 
 #include "Foundation/PropertyList.h"
 #include "Preferences/PSSpecifier.h"
+#include "UIKit/UITableView.h"
 #include "UIKit/UIViewController.h"
 
 #include <memory>
@@ -39,6 +40,9 @@ public:
 
     /// The row of that identifier; empty when there is none.
     [[nodiscard]] Ref<PSSpecifier> specifierForID(std::string_view identifier);
+
+    /// What shows the rows; made with the view.
+    [[nodiscard]] Ref<UITableView> table();
 
 protected:
     explicit PSListController(std::unique_ptr<UIViewControllerPeer> peer);

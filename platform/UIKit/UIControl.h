@@ -24,6 +24,12 @@ constexpr UIControlEvents operator|(UIControlEvents left, UIControlEvents right)
     return static_cast<UIControlEvents>(static_cast<unsigned>(left) | static_cast<unsigned>(right));
 }
 
+/// Where a control's content stands from left to right. The numbers are the platform's.
+enum class UIControlContentHorizontalAlignment : int { Center = 0, Fill = 3 };
+
+/// And from top to bottom.
+enum class UIControlContentVerticalAlignment : int { Center = 0, Fill = 3 };
+
 /// A view that is handled with a finger and sends messages to its targets when something happens to it.
 class UIControl : public UIView {
 public:
@@ -35,6 +41,10 @@ public:
 
     /// Sends the messages of those events.
     void sendActionsForControlEvents(UIControlEvents events);
+
+    /// In the middle at first.
+    void setContentHorizontalAlignment(UIControlContentHorizontalAlignment alignment);
+    void setContentVerticalAlignment(UIControlContentVerticalAlignment alignment);
 
     /// Whether a finger is handling the control.
     [[nodiscard]] bool isTracking() const;

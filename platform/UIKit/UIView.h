@@ -9,6 +9,13 @@
 #include <cstddef>
 #include <functional>
 #include <memory>
+#include <vector>
+
+class NSLayoutDimension;
+class NSLayoutXAxisAnchor;
+class NSLayoutYAxisAnchor;
+class UILayoutGuide;
+class UITapGestureRecognizer;
 
 /// The platform's half of a view; each platform defines it.
 class UIViewPeer;
@@ -62,6 +69,8 @@ public:
     /// The colour of symbols and template images in the view and in those within it that have no tint of
     /// their own. An empty one is the superview's.
     void setTintColor(const Ref<UIColor>& color);
+    /// The nearest one set at the view or above it, else the platform's.
+    [[nodiscard]] Ref<UIColor> tintColor() const;
     /// 0..1, for the view with its subviews.
     [[nodiscard]] double alpha() const;
     void setAlpha(double alpha);
@@ -70,14 +79,39 @@ public:
     void setUserInteractionEnabled(bool enabled);
     void setAutoresizingMask(UIViewAutoresizing mask);
     [[nodiscard]] CALayer& layer() const;
+    /// A number of the caller's own.
+    void setTag(int tag);
+    /// Has the recogniser watch the touches in the view and those within it.
+    void addGestureRecognizer(const Ref<UITapGestureRecognizer>& recognizer);
 
     /// Puts a view above the other subviews, taking it away from its present superview.
     void addSubview(const Ref<UIView>& view);
     /// Likewise at a place among the subviews, 0 being beneath all others. A place beyond the end is the end.
     void insertSubview(const Ref<UIView>& view, std::size_t index);
+    /// The lowest first.
+    [[nodiscard]] std::vector<Ref<UIView>> subviews() const;
+
+    /// Whether the frame holds as it is set, as it does at first; else constraints decide it.
+    void setTranslatesAutoresizingMaskIntoConstraints(bool translates);
+    [[nodiscard]] Ref<NSLayoutXAxisAnchor> leadingAnchor() const;
+    [[nodiscard]] Ref<NSLayoutXAxisAnchor> trailingAnchor() const;
+    [[nodiscard]] Ref<NSLayoutXAxisAnchor> centerXAnchor() const;
+    [[nodiscard]] Ref<NSLayoutYAxisAnchor> topAnchor() const;
+    [[nodiscard]] Ref<NSLayoutYAxisAnchor> bottomAnchor() const;
+    [[nodiscard]] Ref<NSLayoutYAxisAnchor> centerYAnchor() const;
+    [[nodiscard]] Ref<NSLayoutDimension> widthAnchor() const;
+    [[nodiscard]] Ref<NSLayoutDimension> heightAnchor() const;
+    /// What the bars and the device's own edges leave uncovered.
+    [[nodiscard]] Ref<UILayoutGuide> safeAreaLayoutGuide() const;
+    /// What a layout within the view keeps away from its edges where it heeds margins; 8 points at first.
+    void setLayoutMargins(const UIEdgeInsets& margins);
 
     /// Places the subviews. Called before the view is drawn when its size or its subviews have changed.
     virtual void layoutSubviews();
+    /// The view's tint is another one now. An override calls its base.
+    virtual void tintColorDidChange();
+    /// The view has got another superview, or none. An override calls its base.
+    virtual void didMoveToSuperview();
 
     /// Runs `animations` at once and lets what it changes appear to go from the old values to the new ones.
     /// \param duration, delay in seconds

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "UIKit/UILabel.h"
-#include "scrolling/UIScrollView.h"
+#include "UIKit/UIScrollView.h"
 
 #include <optional>
 #include <string>

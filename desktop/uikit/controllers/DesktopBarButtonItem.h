@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ObjectiveC/Weak.h"
 #include "UIKit/UIBarButtonItem.h"
 
 #include <functional>
@@ -14,7 +15,9 @@ public:
         Ref<UIImage> image;           ///< may be empty
         Ref<UIMenu> menu;             ///< opened when it is tapped; may be empty
         std::function<void()> action; ///< run when it is tapped and there is no menu; may be empty
-        bool emphasised = false;      ///< as a bar's "Done" is
+        Weak<NSObject> target;        ///< gets the selector then; may be empty
+        std::string selector;
+        bool emphasised = false; ///< as a bar's "Done" is
     };
 
     explicit DesktopBarButtonItem(Content content) : content_(std::move(content)) {}
@@ -22,6 +25,9 @@ public:
     [[nodiscard]] const Content& content() const { return content_; }
 
     [[nodiscard]] const Ref<UIColor>& tintColor() const { return tintColor_; }
+
+    /// Does what the item does when it is tapped; nothing when that is to open a menu.
+    void perform();
 
     /// Called when the tint has changed; empty for nobody.
     void setObserver(std::function<void()> observer) { observer_ = std::move(observer); }

@@ -36,6 +36,8 @@ public:
 
     // UINavigationItem:
     void setTitleView(const Ref<UIView>& view) override;
+    void setLeftBarButtonItem(const Ref<UIBarButtonItem>& item) override;
+    void setRightBarButtonItem(const Ref<UIBarButtonItem>& item) override;
     void setRightBarButtonItems(std::vector<Ref<UIBarButtonItem>> items) override;
 
 private:

@@ -2,6 +2,7 @@
 
 #include "AnimationGroup.h"
 #include "DesktopColor.h"
+#include "DesktopImage.h"
 #include "views/UIImageViewPeer.h"
 #include "views/UILabelPeer.h"
 
@@ -14,6 +15,7 @@ namespace {
 constexpr FontStyle systemStyle{.size = 15};
 /// Buttons are never smaller, so that a finger finds them.
 constexpr double leastSide = 30;
+constexpr double infoSymbolSize = 19; ///< the points that the symbol is set in
 constexpr double pressedAlpha = 0.2;
 constexpr std::chrono::milliseconds releaseTime{250};
 
@@ -25,11 +27,18 @@ void UIButtonPeer::viewMade() {
     titleLabel_->setUserInteractionEnabled(false);
     titleLabel_->setTextAlignment(NSTextAlignment::Center);
     imageView_->setUserInteractionEnabled(false);
-    imageView_->setContentMode(UIViewContentMode::ScaleAspectFit);
     addSubview(imageView_);
     addSubview(titleLabel_);
     peerOf<UILabelPeer>(*titleLabel_).setFontStyle(systemStyle);
     updateColors();
+}
+
+void UIButtonPeer::becomeOfType(UIButtonType type) {
+    if (type != UIButtonType::InfoDark)
+        return;
+    setImage(DesktopImage::symbol("info.circle", infoSymbolSize));
+    setAccessibility(
+        {.label = "More Info", .value = {}, .role = AccessibilityRole::Button, .isElement = true});
 }
 
 void UIButtonPeer::setTitle(const std::optional<std::string>& title) {
@@ -40,6 +49,11 @@ void UIButtonPeer::setTitle(const std::optional<std::string>& title) {
 void UIButtonPeer::setImage(const Ref<UIImage>& image) {
     imageView_->setImage(image);
     contentDidChange();
+}
+
+void UIButtonPeer::setImageInsets(const UIEdgeInsets& insets) {
+    imageInsets_ = insets;
+    setNeedsLayout();
 }
 
 void UIButtonPeer::setFontStyle(const FontStyle& style) {
@@ -108,13 +122,30 @@ std::optional<double> UIButtonPeer::intrinsicHeight() const {
     return sizeThatFits({}).height;
 }
 
+CGRect UIButtonPeer::imageFrame(const CGRect& room, double left) const {
+    const auto isAlone = !titleLabel_->text();
+    const auto own = imageSize();
+    const auto filled = UIEdgeInsetsInsetRect(room, imageInsets_);
+    auto frame = CGRectMake(left + (imageInsets_.left - imageInsets_.right) / 2,
+                            CGRectGetMidY(filled) - own.height / 2, own.width, own.height);
+    if (isAlone && horizontalAlignment() == UIControlContentHorizontalAlignment::Fill) {
+        frame.origin.x = filled.origin.x;
+        frame.size.width = filled.size.width;
+    }
+    if (isAlone && verticalAlignment() == UIControlContentVerticalAlignment::Fill) {
+        frame.origin.y = filled.origin.y;
+        frame.size.height = filled.size.height;
+    }
+    return frame;
+}
+
 void UIButtonPeer::layoutSubviews() {
     const auto room = UIEdgeInsetsInsetRect(view().bounds(), contentInsets_);
     const auto image = imageSize();
     auto title = titleSize();
     title.width = std::clamp(title.width, 0.0, std::max(0.0, room.size.width - image.width));
     const auto left = room.origin.x + (room.size.width - image.width - title.width) / 2;
-    imageView_->setFrame(CGRectMake(left, CGRectGetMidY(room) - image.height / 2, image.width, image.height));
+    imageView_->setFrame(imageFrame(room, left));
     titleLabel_->setFrame(
         CGRectMake(left + image.width, CGRectGetMidY(room) - title.height / 2, title.width, title.height));
 }

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "FontStyle.h"
+#include "UIKit/UIButton.h"
 #include "UIKit/UIImageView.h"
 #include "UIKit/UILabel.h"
-#include "controls/UIButton.h"
 #include "controls/UIControlPeer.h"
 
 #include <optional>
@@ -17,10 +17,16 @@ public:
 
     UIButtonPeer();
 
+    /// Gives a new button what buttons of the type show.
+    void becomeOfType(UIButtonType type);
+
     void setTitle(const std::optional<std::string>& title);
 
     /// Empty for none. It stands before the title.
     void setImage(const Ref<UIImage>& image);
+
+    /// What the image keeps away from the content's edges; none until it is set.
+    void setImageInsets(const UIEdgeInsets& insets);
 
     /// Regular and 15 points until another is set.
     void setFontStyle(const FontStyle& style);
@@ -56,10 +62,14 @@ private:
     void updatePressedLook();
     [[nodiscard]] CGSize imageSize() const;
     [[nodiscard]] CGSize titleSize() const;
+    /// \param room for the content
+    /// \param left of image and title, when they stand in the middle
+    [[nodiscard]] CGRect imageFrame(const CGRect& room, double left) const;
 
     Ref<UILabel> titleLabel_;
     Ref<UIImageView> imageView_;
     Ref<UIColor> titleColor_;
     UIEdgeInsets contentInsets_;
+    UIEdgeInsets imageInsets_;
     bool isPale_ = false;
 };

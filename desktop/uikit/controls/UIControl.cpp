@@ -26,6 +26,14 @@ void UIControl::sendActionsForControlEvents(UIControlEvents events) {
     peerOf<UIControlPeer>(*this).sendActions(events, nullptr);
 }
 
+void UIControl::setContentHorizontalAlignment(UIControlContentHorizontalAlignment alignment) {
+    peerOf<UIControlPeer>(*this).setHorizontalAlignment(alignment);
+}
+
+void UIControl::setContentVerticalAlignment(UIControlContentVerticalAlignment alignment) {
+    peerOf<UIControlPeer>(*this).setVerticalAlignment(alignment);
+}
+
 bool UIControl::isTracking() const {
     return peerOf<UIControlPeer>(*this).isTracking();
 }

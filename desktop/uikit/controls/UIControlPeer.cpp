@@ -40,6 +40,16 @@ void UIControlPeer::setHighlighted(bool highlighted) {
     stateDidChange();
 }
 
+void UIControlPeer::setHorizontalAlignment(UIControlContentHorizontalAlignment alignment) {
+    horizontalAlignment_ = alignment;
+    setNeedsLayout();
+}
+
+void UIControlPeer::setVerticalAlignment(UIControlContentVerticalAlignment alignment) {
+    verticalAlignment_ = alignment;
+    setNeedsLayout();
+}
+
 void UIControlPeer::addTarget(NSObject& target, std::string selector, UIControlEvents events) {
     targets_.push_back(
         {.target = Weak<NSObject>(&target), .selector = std::move(selector), .events = events});

@@ -34,6 +34,16 @@ public:
 
     [[nodiscard]] bool isTracking() const { return static_cast<bool>(tracked_); }
 
+    [[nodiscard]] UIControlContentHorizontalAlignment horizontalAlignment() const {
+        return horizontalAlignment_;
+    }
+
+    void setHorizontalAlignment(UIControlContentHorizontalAlignment alignment);
+
+    [[nodiscard]] UIControlContentVerticalAlignment verticalAlignment() const { return verticalAlignment_; }
+
+    void setVerticalAlignment(UIControlContentVerticalAlignment alignment);
+
     void addTarget(NSObject& target, std::string selector, UIControlEvents events);
     /// The engine's own way to hear of an event.
     void addHandler(UIControlEvents events, std::function<void()> handler);
@@ -68,6 +78,8 @@ private:
     std::vector<TargetAction> targets_;
     std::vector<Handler> handlers_;
     Ref<DesktopTouch> tracked_;
+    UIControlContentHorizontalAlignment horizontalAlignment_ = UIControlContentHorizontalAlignment::Center;
+    UIControlContentVerticalAlignment verticalAlignment_ = UIControlContentVerticalAlignment::Center;
     bool enabled_ = true;
     bool highlighted_ = false;
     bool touchInside_ = false;

@@ -3,6 +3,8 @@
 #include "ObjectiveC/Weak.h"
 #include "UIKit/UIView.h"
 
+#include <utility>
+
 /// An edge, a middle or a length of a view.
 enum class LayoutAttribute { Left, Right, Top, Bottom, CenterX, CenterY, Width, Height };
 
@@ -16,7 +18,10 @@ enum class LayoutGuide {
 /// What a constraint ties. Does not keep the view alive.
 struct LayoutAnchor {
     LayoutAnchor(UIView& anchored, LayoutAttribute which, LayoutGuide of = LayoutGuide::Bounds)
-        : view(&anchored),
+        : LayoutAnchor(Weak<UIView>(&anchored), which, of) {}
+
+    LayoutAnchor(Weak<UIView> anchored, LayoutAttribute which, LayoutGuide of)
+        : view(std::move(anchored)),
           attribute(which),
           guide(of) {}
 

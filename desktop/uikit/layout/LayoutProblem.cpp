@@ -1,6 +1,7 @@
 #include "layout/LayoutProblem.h"
 
 #include "Foundation/NSLog.h"
+#include "layout/NSLayoutConstraintPeer.h"
 #include "views/UIViewPeer.h"
 #include "views/ViewLayout.h"
 
@@ -96,7 +97,7 @@ void LayoutProblem::add(const LinearConstraint& constraint) {
 
 void LayoutProblem::addConstraints(const UIView& view) {
     for (const auto& constraint : view.peer().layoutRules().constraints) {
-        const auto& terms = constraint->terms();
+        const auto& terms = constraint->peer().terms();
         const auto first = expression(terms.first);
         const auto second = terms.second ? expression(*terms.second) : LinearExpression();
         if (first && second)

@@ -1,16 +1,12 @@
 #include "layout/UIStackViewPeer.h"
 
-#include "ObjectiveC/Class.h"
 #include "layout/LayoutProblem.h"
-#include "layout/UIStackView.h"
 #include "views/ViewLayout.h"
 
 #include <algorithm>
 #include <utility>
 
 namespace {
-
-const Class classObject = Class::define<UIStackView, UIView>("UIStackView");
 
 /// Just below what is required, so that a stack in too little room gives way instead of breaking.
 constexpr double nearlyRequired = 999;
@@ -29,7 +25,6 @@ void UIStackViewPeer::addArrangedSubview(const Ref<UIView>& view) {
 }
 
 void UIStackViewPeer::removeArrangedSubview(const UIView& view) {
-    customSpacing_.erase(&view);
     std::erase_if(arranged_, [&view](const auto& arranged) { return arranged.get() == &view; });
     setNeedsConstraintLayout();
 }
@@ -54,19 +49,9 @@ void UIStackViewPeer::setSpacing(double spacing) {
     setNeedsConstraintLayout();
 }
 
-void UIStackViewPeer::setCustomSpacing(double spacing, const UIView& after) {
-    customSpacing_[&after] = spacing;
-    setNeedsConstraintLayout();
-}
-
 void UIStackViewPeer::setLayoutMarginsRelativeArrangement(bool relative) {
     marginsRelative_ = relative;
     setNeedsConstraintLayout();
-}
-
-double UIStackViewPeer::spacingAfter(const UIView& view) const {
-    const auto custom = customSpacing_.find(&view);
-    return custom != customSpacing_.end() ? custom->second : spacing_;
 }
 
 UIStackViewPeer::Place UIStackViewPeer::placeOf(LayoutProblem& problem, UIView& view,
@@ -76,8 +61,8 @@ UIStackViewPeer::Place UIStackViewPeer::placeOf(LayoutProblem& problem, UIView& 
     };
     using enum LayoutAttribute;
     if (axis_ == UILayoutConstraintAxis::Horizontal)
-        return {&view, at(Left), at(Right), at(Top), at(Bottom)};
-    return {&view, at(Top), at(Bottom), at(Left), at(Right)};
+        return {at(Left), at(Right), at(Top), at(Bottom)};
+    return {at(Top), at(Bottom), at(Left), at(Right)};
 }
 
 std::vector<UIStackViewPeer::Place> UIStackViewPeer::shownPlaces(LayoutProblem& problem) const {
@@ -97,36 +82,24 @@ void UIStackViewPeer::addOwnConstraints(LayoutProblem& problem) const {
     addAlong(problem, own, places);
     for (const auto& place : places)
         addAcross(problem, own, place);
-    addSizes(problem, places);
+    if (distribution_ == UIStackViewDistribution::FillEqually)
+        addEqualLengths(problem, places);
+    else if (distribution_ == UIStackViewDistribution::EqualSpacing)
+        addEqualGaps(problem, places);
 }
 
 void UIStackViewPeer::addAlong(LayoutProblem& problem, const Place& own,
                                const std::vector<Place>& places) const {
     problem.add({places.front().begin, LinearRelation::Equal, own.begin});
     problem.add({places.back().end, LinearRelation::Equal, own.end});
-    const auto gapsMayGrow = distribution_ == UIStackViewDistribution::EqualSpacing ||
-                             distribution_ == UIStackViewDistribution::EqualCentering;
+    const auto gapsMayGrow = distribution_ == UIStackViewDistribution::EqualSpacing;
     for (std::size_t index = 1; index < places.size(); ++index) {
-        const auto& before = places[index - 1];
-        const auto least = before.end + spacingAfter(*before.view);
+        const auto least = places[index - 1].end + spacing_;
         problem.add({places[index].begin,
                      gapsMayGrow ? LinearRelation::GreaterOrEqual : LinearRelation::Equal, least});
         if (gapsMayGrow)
             problem.add({places[index].begin, LinearRelation::Equal, least, huggingPriority});
     }
-    if (gapsMayGrow)
-        addEqualGaps(problem, places);
-}
-
-void UIStackViewPeer::addEqualGaps(LayoutProblem& problem, const std::vector<Place>& places) const {
-    const auto gap = [&](std::size_t index) {
-        if (distribution_ == UIStackViewDistribution::EqualSpacing)
-            return places[index].begin - places[index - 1].end;
-        return (places[index].begin + places[index].end - places[index - 1].begin - places[index - 1].end) *
-               0.5;
-    };
-    for (std::size_t index = 2; index < places.size(); ++index)
-        problem.add({gap(index), LinearRelation::Equal, gap(1), nearlyRequired});
 }
 
 void UIStackViewPeer::addAcross(LayoutProblem& problem, const Place& own, const Place& place) const {
@@ -142,18 +115,14 @@ void UIStackViewPeer::addAcross(LayoutProblem& problem, const Place& own, const 
     problem.add({own.crossEnd - own.crossBegin, LinearRelation::Equal, 0, 1}); // no larger than the largest
 }
 
-void UIStackViewPeer::addSizes(LayoutProblem& problem, const std::vector<Place>& places) const {
+void UIStackViewPeer::addEqualGaps(LayoutProblem& problem, const std::vector<Place>& places) {
+    const auto gap = [&](std::size_t index) { return places[index].begin - places[index - 1].end; };
+    for (std::size_t index = 2; index < places.size(); ++index)
+        problem.add({gap(index), LinearRelation::Equal, gap(1), nearlyRequired});
+}
+
+void UIStackViewPeer::addEqualLengths(LayoutProblem& problem, const std::vector<Place>& places) {
     const auto length = [](const Place& place) { return place.end - place.begin; };
-    const auto intrinsic = [this](const Place& place) {
-        const auto& peer = place.view->peer();
-        return (axis_ == UILayoutConstraintAxis::Horizontal ? peer.intrinsicWidth() : peer.intrinsicHeight())
-            .value_or(0);
-    };
-    for (std::size_t index = 1; index < places.size(); ++index) {
-        if (distribution_ == UIStackViewDistribution::FillEqually)
-            problem.add({length(places[index]), LinearRelation::Equal, length(places[0]), nearlyRequired});
-        else if (distribution_ == UIStackViewDistribution::FillProportionally)
-            problem.add({length(places[index]) * intrinsic(places[0]), LinearRelation::Equal,
-                         length(places[0]) * intrinsic(places[index]), nearlyRequired});
-    }
+    for (std::size_t index = 1; index < places.size(); ++index)
+        problem.add({length(places[index]), LinearRelation::Equal, length(places[0]), nearlyRequired});
 }

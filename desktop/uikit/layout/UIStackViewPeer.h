@@ -1,25 +1,13 @@
 #pragma once
 
 #include "LinearExpression.h"
+#include "UIKit/UIStackView.h"
 #include "layout/LayoutAnchor.h"
 #include "views/UIViewPeer.h"
 
-#include <map>
 #include <vector>
 
 class LayoutProblem;
-class UIStackView;
-
-/// The numbers are the platform's.
-enum class UILayoutConstraintAxis : int { Horizontal = 0, Vertical = 1 };
-enum class UIStackViewDistribution : int {
-    Fill = 0,
-    FillEqually = 1,
-    FillProportionally = 2,
-    EqualSpacing = 3,
-    EqualCentering = 4
-};
-enum class UIStackViewAlignment : int { Fill = 0, Leading = 1, Center = 3, Trailing = 4 };
 
 /// The desktop's half of a stack view: what it asks of its arranged subviews.
 class UIStackViewPeer final : public UIViewPeer {
@@ -38,8 +26,6 @@ public:
     void setAlignment(UIStackViewAlignment alignment);
     /// Points between two arranged subviews.
     void setSpacing(double spacing);
-    /// In place of the spacing after that view.
-    void setCustomSpacing(double spacing, const UIView& after);
     /// Whether the arranged subviews keep to the layout margins instead of the bounds.
     void setLayoutMarginsRelativeArrangement(bool relative);
 
@@ -49,7 +35,6 @@ public:
 private:
     /// Where one arranged subview lies along and across the axis.
     struct Place {
-        const UIView* view = nullptr;
         LinearExpression begin;
         LinearExpression end;
         LinearExpression crossBegin;
@@ -58,14 +43,12 @@ private:
 
     [[nodiscard]] Place placeOf(LayoutProblem& problem, UIView& view, LayoutGuide guide) const;
     [[nodiscard]] std::vector<Place> shownPlaces(LayoutProblem& problem) const;
-    [[nodiscard]] double spacingAfter(const UIView& view) const;
     void addAlong(LayoutProblem& problem, const Place& own, const std::vector<Place>& places) const;
     void addAcross(LayoutProblem& problem, const Place& own, const Place& place) const;
-    void addSizes(LayoutProblem& problem, const std::vector<Place>& places) const;
-    void addEqualGaps(LayoutProblem& problem, const std::vector<Place>& places) const;
+    static void addEqualGaps(LayoutProblem& problem, const std::vector<Place>& places);
+    static void addEqualLengths(LayoutProblem& problem, const std::vector<Place>& places);
 
     std::vector<Ref<UIView>> arranged_;
-    std::map<const UIView*, double> customSpacing_;
     UILayoutConstraintAxis axis_ = UILayoutConstraintAxis::Horizontal;
     UIStackViewDistribution distribution_ = UIStackViewDistribution::Fill;
     UIStackViewAlignment alignment_ = UIStackViewAlignment::Fill;

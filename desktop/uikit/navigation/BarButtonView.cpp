@@ -47,11 +47,7 @@ BarButtonView::BarButtonView(const Ref<DesktopBarButtonItem>& item) : item_(item
     }
     peer().setAccessibility(
         {.label = nameOf(shows), .value = {}, .role = AccessibilityRole::Button, .isElement = true});
-    peerOf<UIControlPeer>(*this).addHandler(UIControlEvents::TouchUpInside, [this] {
-        const auto& content = item_->content();
-        if (content.action && !content.menu)
-            content.action();
-    });
+    peerOf<UIControlPeer>(*this).addHandler(UIControlEvents::TouchUpInside, [this] { item_->perform(); });
     item_->setObserver([button = Weak<BarButtonView>(this)] {
         if (const auto living = button.strong())
             living->updateTint();

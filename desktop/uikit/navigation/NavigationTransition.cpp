@@ -29,7 +29,8 @@ void NavigationTransition::setProgress(double progress) {
     const auto& above = isPush ? to_ : from_;
     const auto& beneath = isPush ? from_ : to_;
     const auto covered = isPush ? progress : 1 - progress;
-    bar_->showBetween({.from = from_.content, .to = to_.content, .progress = progress, .isPush = isPush});
+    peerOf<UINavigationBarPeer>(*bar_).showBetween(
+        {.from = from_.content, .to = to_.content, .progress = progress, .isPush = isPush});
     above.view->placeAbove(1 - covered);
     beneath.view->placeBeneath(covered);
     above.content->setPhase(1 - covered);

@@ -3,7 +3,7 @@
 #include "UIKit/UIViewController.h"
 #include "navigation/NavigationBarContentView.h"
 #include "navigation/NavigationPageView.h"
-#include "navigation/UINavigationBar.h"
+#include "navigation/UINavigationBarPeer.h"
 
 /// One page of a navigation controller giving way to another: where both are, and what the bar shows, at each
 /// part of the way. Made and owned by the navigation controller.

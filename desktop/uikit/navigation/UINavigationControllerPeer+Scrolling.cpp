@@ -29,7 +29,7 @@ void UINavigationControllerPeer::followScroll(const Page& page) {
     if (scrollView == nullptr)
         return;
     page.content->setOverlap(overlapAt(*scrollView, peerOf<UIScrollViewPeer>(*scrollView).contentOffset().y));
-    bar_->contentChanged();
+    bar().contentChanged();
     std::erase_if(followed_, [](const auto& followed) { return !followed.strong(); });
     const auto isFollowed = [scrollView](const auto& followed) {
         return followed.strong().get() == scrollView;

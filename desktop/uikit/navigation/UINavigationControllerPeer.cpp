@@ -32,9 +32,9 @@ Ref<UIViewController> UINavigationControllerPeer::top() const {
     return stack_.empty() ? nullptr : stack_.back();
 }
 
-UINavigationBar& UINavigationControllerPeer::bar() {
+UINavigationBarPeer& UINavigationControllerPeer::bar() {
     static_cast<void>(view());
-    return *bar_;
+    return peerOf<UINavigationBarPeer>(*bar_);
 }
 
 Ref<UIView> UINavigationControllerPeer::makeView() {
@@ -207,7 +207,7 @@ void UINavigationControllerPeer::finish(const Page& gone, const Page& shown, boo
     }
     if (shown.view) {
         shown.view->placeAlone();
-        bar_->show(shown.content);
+        bar().show(shown.content);
     }
     for (const auto& page : {gone, shown}) {
         if (page.controller)
@@ -289,15 +289,16 @@ void UINavigationControllerPeer::placeBar() {
     const auto top = peer.safeAreaInsets().top;
     const auto size = view().bounds().size;
     container_->setFrame({{}, size});
-    bar_->place(top, size.width,
-                top > 0 ? UINavigationBar::rowHeight(peer.traits().idiom) : UINavigationBar::sheetRowHeight);
+    bar().place(top, size.width,
+                top > 0 ? UINavigationBarPeer::rowHeight(peer.traits().idiom)
+                        : UINavigationBarPeer::sheetRowHeight);
 }
 
 void UINavigationControllerPeer::layoutPage(const Page& page) {
     const auto size = container_->bounds().size;
     page.view->peer().setBounds({{}, size});
     page.view->setCenter({size.width / 2, size.height / 2});
-    const auto barHeight = bar_->rowHeight() + (page.content->hasLargeTitle() ? LargeTitleView::height : 0);
+    const auto barHeight = bar().rowHeight() + (page.content->hasLargeTitle() ? LargeTitleView::height : 0);
     page.view->peer().setAdditionalSafeAreaInsets({.top = barHeight, .left = 0, .bottom = 0, .right = 0});
     page.view->peer().layoutIfNeeded(); // so that what scrolls has gone along with the safe area
     followScroll(page);
@@ -307,6 +308,6 @@ void UINavigationControllerPeer::updateTop() {
     if (!shown_.controller || transition_)
         return;
     shown_.content = makeContent(shown_.controller);
-    bar_->show(shown_.content);
+    bar().show(shown_.content);
     layoutPage(shown_);
 }

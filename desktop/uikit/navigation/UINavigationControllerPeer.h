@@ -2,10 +2,10 @@
 
 #include "ObjectiveC/Weak.h"
 #include "UIKit/UINavigationController.h"
+#include "UIKit/UIScrollView.h"
 #include "controllers/UIViewControllerPeer.h"
 #include "navigation/NavigationTransition.h"
-#include "navigation/UINavigationBar.h"
-#include "scrolling/UIScrollView.h"
+#include "navigation/UINavigationBarPeer.h"
 
 #include <functional>
 #include <memory>
@@ -54,7 +54,7 @@ public:
     /// items ask for it. Not so until it is set.
     void setPrefersLargeTitles(bool prefers);
 
-    [[nodiscard]] UINavigationBar& bar();
+    [[nodiscard]] UINavigationBarPeer& bar();
 
     // UIViewControllerPeer:
     [[nodiscard]] Ref<UIView> makeView() override;

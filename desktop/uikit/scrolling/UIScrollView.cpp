@@ -1,7 +1,9 @@
-#include "scrolling/UIScrollView.h"
+#include "UIKit/UIScrollView.h"
 
 #include "ObjectiveC/Class.h"
 #include "scrolling/UIScrollViewPeer.h"
+
+#include <utility>
 
 namespace {
 
@@ -11,6 +13,6 @@ const Class classObject = Class::define<UIScrollView, UIView>("UIScrollView");
 
 UIScrollView::UIScrollView() : UIScrollView(std::make_unique<UIScrollViewPeer>()) {}
 
-UIScrollView::UIScrollView(std::unique_ptr<UIScrollViewPeer> peer) : UIView(std::move(peer)) {
+UIScrollView::UIScrollView(std::unique_ptr<UIViewPeer> peer) : UIView(std::move(peer)) {
     peerOf<UIScrollViewPeer>(*this).viewMade();
 }

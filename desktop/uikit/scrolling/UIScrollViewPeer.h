@@ -1,8 +1,8 @@
 #pragma once
 
+#include "UIKit/UIScrollView.h"
 #include "scrolling/ScrollMotion.h"
 #include "scrolling/ScrollPanGestureRecognizer.h"
-#include "scrolling/UIScrollView.h"
 #include "views/UIViewPeer.h"
 
 #include <chrono>

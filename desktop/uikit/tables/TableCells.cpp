@@ -21,7 +21,6 @@ Ref<UITableViewCell> TableCells::takeWaiting(std::string_view identifier) {
         return nullptr;
     auto cell = std::move(found->second);
     waiting_.erase(found);
-    cell->prepareForReuse();
     return cell;
 }
 
@@ -50,6 +49,7 @@ std::vector<Ref<UITableViewCell>> TableCells::move(const TableEdits& edits) {
 
 void TableCells::retire(const Ref<UITableViewCell>& cell) {
     cell->peer().removeFromSuperview();
-    if (!cell->reuseIdentifier().empty())
-        waiting_.emplace(cell->reuseIdentifier(), cell);
+    const auto& identifier = peerOf<UITableViewCellPeer>(*cell).reuseIdentifier();
+    if (!identifier.empty())
+        waiting_.emplace(identifier, cell);
 }

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "UIKit/UITableViewCell.h"
 #include "tables/IndexPath.h"
 #include "tables/TableEdits.h"
-#include "tables/UITableViewCell.h"
 
 #include <map>
 #include <optional>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "UIKit/UILabel.h"
+#include "UIKit/UITableViewCell.h"
 #include "tables/IndexPath.h"
-#include "tables/UITableViewCell.h"
 
 #include <cstddef>
 #include <optional>

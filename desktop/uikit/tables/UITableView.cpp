@@ -1,4 +1,4 @@
-#include "tables/UITableView.h"
+#include "UIKit/UITableView.h"
 
 #include "ObjectiveC/Class.h"
 #include "tables/UITableViewPeer.h"
@@ -10,3 +10,11 @@ const Class tableClass = Class::define<UITableView, UIScrollView>("UITableView")
 } // namespace
 
 UITableView::UITableView() : UIScrollView(std::make_unique<UITableViewPeer>()) {}
+
+void UITableView::beginUpdates() {
+    peerOf<UITableViewPeer>(*this).beginUpdates();
+}
+
+void UITableView::endUpdates() {
+    peerOf<UITableViewPeer>(*this).endUpdates();
+}

@@ -1,4 +1,4 @@
-#include "tables/UITableViewCell.h"
+#include "UIKit/UITableViewCell.h"
 
 #include "ObjectiveC/Class.h"
 #include "tables/UITableViewCellPeer.h"
@@ -13,48 +13,18 @@ const Class cellClass = Class::define<UITableViewCell, UIView>("UITableViewCell"
 
 UITableViewCell::UITableViewCell() : UITableViewCell(std::make_unique<UITableViewCellPeer>()) {}
 
-UITableViewCell::UITableViewCell(std::unique_ptr<UITableViewCellPeer> peer) : UIView(std::move(peer)) {}
-
-bool UITableViewCell::initWithFrame(const CGRect& frame) {
-    if (!initWithStyle(UITableViewCellStyle::Default, {}))
-        return false;
-    setFrame(frame);
-    return true;
+UITableViewCell::UITableViewCell(std::unique_ptr<UIViewPeer> peer) : UIView(std::move(peer)) {
+    peerOf<UITableViewCellPeer>(*this).viewMade();
 }
 
-bool UITableViewCell::initWithStyle(UITableViewCellStyle style, const std::string& reuseIdentifier) {
+bool UITableViewCell::initWithStyle(UITableViewCellStyle style,
+                                    const std::optional<std::string>& reuseIdentifier) {
     if (!UIView::initWithFrame({}))
         return false;
-    peerOf<UITableViewCellPeer>(*this).setUp(style, reuseIdentifier);
+    peerOf<UITableViewCellPeer>(*this).setUp(style, reuseIdentifier.value_or(""));
     return true;
-}
-
-const std::string& UITableViewCell::reuseIdentifier() const {
-    return peerOf<UITableViewCellPeer>(*this).reuseIdentifier();
 }
 
 UIView& UITableViewCell::contentView() const {
     return peerOf<UITableViewCellPeer>(*this).contentView();
 }
-
-UILabel& UITableViewCell::textLabel() const {
-    return peerOf<UITableViewCellPeer>(*this).textLabel();
-}
-
-UILabel& UITableViewCell::detailTextLabel() const {
-    return peerOf<UITableViewCellPeer>(*this).detailTextLabel();
-}
-
-UIImageView& UITableViewCell::imageView() const {
-    return peerOf<UITableViewCellPeer>(*this).imageView();
-}
-
-void UITableViewCell::setAccessoryType(UITableViewCellAccessoryType type) {
-    peerOf<UITableViewCellPeer>(*this).setAccessoryType(type);
-}
-
-void UITableViewCell::setAccessoryView(const Ref<UIView>& view) {
-    peerOf<UITableViewCellPeer>(*this).setAccessoryView(view);
-}
-
-void UITableViewCell::prepareForReuse() {}

@@ -4,7 +4,6 @@
 #include "DesktopColor.h"
 #include "DesktopImage.h"
 #include "tables/TableMetrics.h"
-#include "tables/UITableView.h"
 #include "tables/UITableViewPeer.h"
 #include "views/UIImageViewPeer.h"
 #include "views/UILabelPeer.h"
@@ -84,9 +83,7 @@ UITableViewCell& UITableViewCellPeer::cell() const {
     return dynamic_cast<UITableViewCell&>(view());
 }
 
-void UITableViewCellPeer::setUp(UITableViewCellStyle style, const std::string& reuseIdentifier) {
-    style_ = style;
-    reuseIdentifier_ = reuseIdentifier;
+void UITableViewCellPeer::viewMade() {
     slice_ = make<UIView>();
     background_ = make<UIView>();
     contentView_ = make<UIView>();
@@ -99,15 +96,21 @@ void UITableViewCellPeer::setUp(UITableViewCellStyle style, const std::string& r
         slice_->addSubview(part);
     for (const auto& part : {Ref<UIView>(imageView_), Ref<UIView>(textLabel_), Ref<UIView>(detailTextLabel_)})
         contentView_->addSubview(part);
-    const auto subtitle = style == UITableViewCellStyle::Subtitle;
     peerOf<UILabelPeer>(*textLabel_).setFontStyle({.size = titleSize});
-    peerOf<UILabelPeer>(*detailTextLabel_).setFontStyle({.size = subtitle ? subtitleSize : titleSize});
     detailTextLabel_->setTextColor(DesktopColor::system(SystemColor::SecondaryLabel));
-    detailTextLabel_->peer().setHidden(style == UITableViewCellStyle::Default);
     background_->layer().setCornerRadius(TableMetrics::cornerRadius);
     background_->layer().peer().continuousCorners = true;
     separator_->setBackgroundColor(DesktopColor::system(SystemColor::Separator));
     setPlaceInCard(true, true);
+    setUp(UITableViewCellStyle::Default, {});
+}
+
+void UITableViewCellPeer::setUp(UITableViewCellStyle style, const std::string& reuseIdentifier) {
+    style_ = style;
+    reuseIdentifier_ = reuseIdentifier;
+    const auto subtitle = style == UITableViewCellStyle::Subtitle;
+    peerOf<UILabelPeer>(*detailTextLabel_).setFontStyle({.size = subtitle ? subtitleSize : titleSize});
+    detailTextLabel_->peer().setHidden(style == UITableViewCellStyle::Default);
 }
 
 void UITableViewCellPeer::setAccessoryType(UITableViewCellAccessoryType type) {

@@ -1,11 +1,16 @@
 #pragma once
 
-#include "tables/UITableViewCell.h"
+#include "UIKit/UIImageView.h"
+#include "UIKit/UILabel.h"
+#include "UIKit/UITableViewCell.h"
 #include "views/UIViewPeer.h"
 
 #include <string>
 
 class UITableViewPeer;
+
+/// What a cell shows at its right edge. The numbers are the platform's.
+enum class UITableViewCellAccessoryType : int { None = 0, DisclosureIndicator = 1, Checkmark = 3 };
 
 /// The desktop's half of a cell: its slice of the card with the separator, and the places of what it shows.
 /// Made with the cell.
@@ -16,24 +21,28 @@ public:
     /// Between a text and what stands to its right.
     static constexpr double textGap = 8;
 
-    /// Makes the cell's views; called once, by the cell's initialiser.
+    /// Called once, by the cell's initialiser. Before that the style is the default one.
     void setUp(UITableViewCellStyle style, const std::string& reuseIdentifier);
 
     [[nodiscard]] UITableViewCell& cell() const;
 
+    /// Empty for none.
     [[nodiscard]] const std::string& reuseIdentifier() const { return reuseIdentifier_; }
 
     [[nodiscard]] UIView& contentView() const { return *contentView_; }
 
     [[nodiscard]] UILabel& textLabel() const { return *textLabel_; }
 
+    /// Not shown in the default style.
     [[nodiscard]] UILabel& detailTextLabel() const { return *detailTextLabel_; }
 
+    /// Takes no room without an image.
     [[nodiscard]] UIImageView& imageView() const { return *imageView_; }
 
     [[nodiscard]] UITableViewCellAccessoryType accessoryType() const { return accessoryType_; }
 
     void setAccessoryType(UITableViewCellAccessoryType type);
+    /// Shown in place of the accessory type; empty for none.
     void setAccessoryView(const Ref<UIView>& view);
 
     /// Whether the detail keeps its width and the title is cut short, instead of the other way round.
@@ -69,7 +78,13 @@ public:
     void touchCancelled(DesktopTouch& touch, UIEvent& event) override;
     [[nodiscard]] PropertyList::Dictionary inspectedProperties() const override;
 
+protected:
+    /// Makes the cell's views, once the peer has its cell.
+    virtual void viewMade();
+
 private:
+    friend class UITableViewCell;
+
     /// The room for texts, from its left edge to its right one, in the cell.
     struct TextRoom {
         double left;

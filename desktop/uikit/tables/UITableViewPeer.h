@@ -1,5 +1,6 @@
 #pragma once
 
+#include "UIKit/UITableView.h"
 #include "scrolling/UIScrollViewPeer.h"
 #include "tables/TableCaptionViews.h"
 #include "tables/TableCells.h"
@@ -7,7 +8,6 @@
 #include "tables/TableEdits.h"
 #include "tables/TableHeights.h"
 #include "tables/TableLayout.h"
-#include "tables/UITableView.h"
 
 #include <cstddef>
 #include <optional>

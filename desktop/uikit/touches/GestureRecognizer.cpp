@@ -26,10 +26,6 @@ void GestureRecognizer::addHandler(std::function<void()> handler) {
     handlers_.push_back(std::move(handler));
 }
 
-void GestureRecognizer::addTarget(NSObject& target, std::string selector) {
-    targets_.push_back({.object = Weak<NSObject>(&target), .selector = std::move(selector)});
-}
-
 void GestureRecognizer::requireToFail(const Ref<GestureRecognizer>& other) {
     required_.emplace_back(other);
 }
@@ -159,10 +155,6 @@ void GestureRecognizer::tell() {
     const auto kept = retain(this);
     for (const auto& handler : std::vector(handlers_))
         handler();
-    for (const auto& target : std::vector(targets_)) {
-        if (const auto object = target.object.strong())
-            object->performSelector(target.selector, {Ref<NSObject>(kept)});
-    }
 }
 
 bool GestureRecognizer::isOver() const {

@@ -7,7 +7,6 @@
 #include <chrono>
 #include <functional>
 #include <optional>
-#include <string>
 #include <vector>
 
 class GestureArena;
@@ -45,9 +44,6 @@ public:
 
     /// Calls `handler` whenever the gesture is recognised, changes, ends or is cancelled.
     void addHandler(std::function<void()> handler);
-    /// Sends `selector` then, with the recogniser when the selector takes something. The target is not kept
-    /// alive.
-    void addTarget(NSObject& target, std::string selector);
 
     /// This gesture is only recognised once the other one has failed.
     void requireToFail(const Ref<GestureRecognizer>& other);
@@ -138,11 +134,6 @@ protected:
     void stopTimer() { ++timer_; }
 
 private:
-    struct Target {
-        Weak<NSObject> object;
-        std::string selector;
-    };
-
     void want(State state);
     void enter(State state);
     void tell();
@@ -157,7 +148,6 @@ private:
     State state_ = State::Possible;
     std::optional<State> wanted_;
     std::vector<Weak<GestureRecognizer>> required_;
-    std::vector<Target> targets_;
     std::vector<std::function<void()>> handlers_;
     unsigned timer_ = 0;
     bool enabled_ = true;

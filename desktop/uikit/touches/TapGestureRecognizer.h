@@ -4,7 +4,7 @@
 
 /// One or more short touches at one place. Leaves a single tap on a control to the control. Made by whoever
 /// adds it to a view.
-class TapGestureRecognizer final : public GestureRecognizer {
+class TapGestureRecognizer : public GestureRecognizer {
 public:
     void setNumberOfTapsRequired(unsigned taps) { required_ = taps; }
 

@@ -76,6 +76,10 @@ void UIView::setTintColor(const Ref<UIColor>& color) {
     peer_->setTintColor(color);
 }
 
+Ref<UIColor> UIView::tintColor() const {
+    return peer_->tintColor();
+}
+
 double UIView::alpha() const {
     return layer().peer().number(LayerProperty::Opacity);
 }
@@ -104,6 +108,10 @@ CALayer& UIView::layer() const {
     return peer_->layer();
 }
 
+void UIView::setTag(int tag) {
+    peer_->setTag(tag);
+}
+
 void UIView::addSubview(const Ref<UIView>& view) {
     peer_->addSubview(view);
 }
@@ -112,8 +120,20 @@ void UIView::insertSubview(const Ref<UIView>& view, std::size_t index) {
     peer_->insertSubview(view, index);
 }
 
+std::vector<Ref<UIView>> UIView::subviews() const {
+    return peer_->subviews();
+}
+
 void UIView::layoutSubviews() {
     peer_->layoutSubviews();
+}
+
+void UIView::tintColorDidChange() {
+    peer_->tintColorDidChange();
+}
+
+void UIView::didMoveToSuperview() {
+    peer_->didMoveToSuperview();
 }
 
 void UIView::animateWithDuration(double duration, double delay, UIViewAnimationOptions options,

@@ -110,9 +110,9 @@ void UIViewPeer::removeFromSuperview() {
 void UIViewPeer::movedInTree(const UIWindow* before) {
     AnimationGroup::runWithoutAnimation([this] {
         traitsDidChange();
-        tintColorDidChange();
+        tellOfTint();
     });
-    didMoveToSuperview();
+    view_->didMoveToSuperview();
     if (window() != before)
         movedToWindow();
 }
@@ -338,14 +338,14 @@ bool UIViewPeer::isTintDimmed() const {
 void UIViewPeer::setTintDimmed(bool dimmed) {
     if (std::exchange(tintDimmed_, dimmed) == dimmed)
         return;
-    tintColorDidChange();
+    tellOfTint();
     tellViewsOfOwnTint();
 }
 
 void UIViewPeer::tellViewsOfOwnTint() const {
     for (const auto& subview : std::vector(subviews_)) {
         if (subview->peer().tintColor_)
-            subview->peer().tintColorDidChange();
+            subview->peer().tellOfTint();
         subview->peer().tellViewsOfOwnTint();
     }
 }
@@ -360,14 +360,15 @@ Ref<UIColor> UIViewPeer::tintColor() const {
 
 void UIViewPeer::setTintColor(const Ref<UIColor>& color) {
     tintColor_ = color;
-    tintColorDidChange();
+    tellOfTint();
 }
 
-void UIViewPeer::tintColorDidChange() {
-    setNeedsDisplay();
+void UIViewPeer::tellOfTint() const {
+    const auto kept = retain(view_);
+    view_->tintColorDidChange();
     for (const auto& subview : std::vector(subviews_)) {
         if (!subview->peer().tintColor_)
-            subview->peer().tintColorDidChange();
+            subview->peer().tellOfTint();
     }
 }
 

@@ -130,10 +130,18 @@ public:
     [[nodiscard]] const Ref<UIColor>& ownTintColor() const { return tintColor_; }
 
     void setTintColor(const Ref<UIColor>& color);
-    virtual void tintColorDidChange();
+
+    /// What `UIView::tintColorDidChange` does.
+    virtual void tintColorDidChange() { setNeedsDisplay(); }
+
     /// Whether this view and those within it are grey where they would be tinted, as what something modal
     /// covers is. Not so until it is told.
     void setTintDimmed(bool dimmed);
+
+    /// The number that was given to the view; 0 before.
+    [[nodiscard]] int tag() const { return tag_; }
+
+    void setTag(int tag) { tag_ = tag; }
 
     [[nodiscard]] const Ref<UIColor>& backgroundColor() const { return backgroundColor_; }
 
@@ -167,6 +175,7 @@ public:
     /// The view has come into a window or left one.
     virtual void didMoveToWindow() {}
 
+    /// What `UIView::didMoveToSuperview` does.
     virtual void didMoveToSuperview() {}
 
     // What it tells of itself.
@@ -215,6 +224,8 @@ private:
     void movedInTree(const UIWindow* before);
     void movedToWindow();
     [[nodiscard]] bool isTintDimmed() const;
+    /// Tells the view, and those that inherit its tint, that it is another one now.
+    void tellOfTint() const;
     /// Of a change of their tint, which those that inherit theirs have heard of.
     void tellViewsOfOwnTint() const;
     void resolveColors();
@@ -234,6 +245,7 @@ private:
     std::unique_ptr<ViewLayout> layout_;
     UIViewContentMode contentMode_ = UIViewContentMode::ScaleToFill;
     UIViewAutoresizing autoresizingMask_ = UIViewAutoresizing::None;
+    int tag_ = 0;
     bool userInteractionEnabled_ = true;
     bool tintDimmed_ = false;
     bool needsLayout_ = true;

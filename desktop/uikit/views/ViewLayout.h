@@ -1,7 +1,7 @@
 #pragma once
 
 #include "CoreGraphics/CGGeometry.h"
-#include "layout/NSLayoutConstraint.h"
+#include "UIKit/NSLayoutConstraint.h"
 
 #include <vector>
 

@@ -35,7 +35,7 @@ TEST_F(PSListControllerTest, ShowsTheRowsOfItsBundlesList) {
     EXPECT_EQ(identifiers(rows), (Texts{"head", "a", "b"}));
     EXPECT_EQ(rows[1].label, "Row a");
     EXPECT_EQ(rows[1].cell, "PSStaticTextCell");
-    EXPECT_EQ(cell("a").textLabel().text(), "Row a");
+    EXPECT_EQ(cellPeer("a").textLabel().text(), "Row a");
     EXPECT_EQ(page_->loads, 1U);
     EXPECT_TRUE(log().empty());
 }
@@ -121,7 +121,7 @@ TEST_F(PSListControllerTest, RowsMayHaveTheirOwnGetterAndSetter) {
         {keptRow("PSTitleValueCell", "a", text("get", "ownValue:") + text("set", "setOwnValue:specifier:"))});
     show();
     EXPECT_EQ(listRow("a").value, PropertyList("own value of a"));
-    EXPECT_EQ(cell("a").detailTextLabel().text(), "own value of a");
+    EXPECT_EQ(cellPeer("a").detailTextLabel().text(), "own value of a");
     peer().setValue(specifier("a"), 3);
     EXPECT_EQ(page_->events, (Texts{"set a to 3"}));
 }
@@ -129,9 +129,9 @@ TEST_F(PSListControllerTest, RowsMayHaveTheirOwnGetterAndSetter) {
 TEST_F(PSListControllerTest, SettingAValueShowsIt) {
     writeList({keptRow("PSTitleValueCell", "a")});
     show();
-    EXPECT_EQ(cell("a").detailTextLabel().text(), std::nullopt);
+    EXPECT_EQ(cellPeer("a").detailTextLabel().text(), std::nullopt);
     peer().setValue(specifier("a"), "shown");
-    EXPECT_EQ(cell("a").detailTextLabel().text(), "shown");
+    EXPECT_EQ(cellPeer("a").detailTextLabel().text(), "shown");
 }
 
 TEST_F(PSListControllerTest, ReloadingARowShowsItsProperties) {
@@ -139,13 +139,13 @@ TEST_F(PSListControllerTest, ReloadingARowShowsItsProperties) {
     show();
     specifier("a").setProperty("Other", "label");
     specifier("a").setProperty(70, "height");
-    EXPECT_EQ(cell("a").textLabel().text(), "Row a");
+    EXPECT_EQ(cellPeer("a").textLabel().text(), "Row a");
     peer().reloadSpecifier(specifier("a"));
-    EXPECT_EQ(cell("a").textLabel().text(), "Other");
+    EXPECT_EQ(cellPeer("a").textLabel().text(), "Other");
     EXPECT_EQ(listRow("b").frame.origin.y, 105);
     peer().reloadSpecifier(*make<DesktopSpecifier>(PropertyList::Dictionary{}));
     screen.layoutIfNeeded();
-    EXPECT_EQ(cell("a").textLabel().text(), "Other");
+    EXPECT_EQ(cellPeer("a").textLabel().text(), "Other");
 }
 
 TEST_F(PSListControllerTest, ReloadingAllAsksForTheListAnew) {
@@ -155,7 +155,7 @@ TEST_F(PSListControllerTest, ReloadingAllAsksForTheListAnew) {
     page_->reloadSpecifiers();
     EXPECT_EQ(identifiers(peer().rows()), (Texts{"b", "c"}));
     EXPECT_EQ(page_->loads, 2U);
-    EXPECT_EQ(cell("c").textLabel().text(), "Row c");
+    EXPECT_EQ(cellPeer("c").textLabel().text(), "Row c");
 }
 
 TEST_F(PSListControllerTest, RowsThatArePutInSlide) {
@@ -170,7 +170,7 @@ TEST_F(PSListControllerTest, RowsThatArePutInSlide) {
     EXPECT_EQ(moving.shownValue(LayerProperty::Position)[1], before);
     advance(301ms);
     EXPECT_EQ(moving.shownValue(LayerProperty::Position)[1], before + 88);
-    EXPECT_EQ(cell("x").textLabel().text(), "x");
+    EXPECT_EQ(cellPeer("x").textLabel().text(), "x");
 }
 
 TEST_F(PSListControllerTest, RowsAreTakenOut) {

@@ -1,5 +1,5 @@
 #include "Foundation/NSUserDefaults.h"
-#include "PSControlTableCell.h"
+#include "PSControlTableCellPeer.h"
 #include "PageFixture.h"
 #include "controls/UISwitchPeer.h"
 
@@ -10,7 +10,7 @@ using namespace std::chrono_literals;
 class PSSwitchTableCellTest : public PageFixture {
 protected:
     UISwitchPeer& switchOf(const std::string& id) {
-        const auto control = dynamic_cast<PSControlTableCell&>(cell(id)).control();
+        const auto control = peerOf<PSControlTableCellPeer>(cell(id)).control();
         return peerOf<UISwitchPeer>(dynamic_cast<UISwitch&>(*control));
     }
 

@@ -1,9 +1,11 @@
 #include "DesktopColor.h"
 #include "ObjectiveC/Class.h"
-#include "PSControlTableCell.h"
+#include "PSControlTableCellPeer.h"
 #include "PSHeaderFooterView.h"
 #include "PSTableCellPeer.h"
 #include "PageFixture.h"
+#include "Preferences/PSSwitchTableCell.h"
+#include "controls/UISwitchPeer.h"
 #include "views/UILabelPeer.h"
 
 namespace {
@@ -17,7 +19,8 @@ class OwnCell : public PSTableCell {
 public:
     using PSTableCell::initWithStyle;
 
-    [[nodiscard]] bool initWithStyle(UITableViewCellStyle style, const std::string& reuseIdentifier,
+    [[nodiscard]] bool initWithStyle(UITableViewCellStyle style,
+                                     const std::optional<std::string>& reuseIdentifier,
                                      PSSpecifier& specifier) override {
         ++made;
         return PSTableCell::initWithStyle(style, reuseIdentifier, specifier);
@@ -25,7 +28,8 @@ public:
 
     void refreshCellContentsWithSpecifier(PSSpecifier& specifier) override {
         PSTableCell::refreshCellContentsWithSpecifier(specifier);
-        textLabel().setText("own " + *textLabel().text());
+        auto& title = peerOf<PSTableCellPeer>(*this).textLabel();
+        title.setText("own " + *title.text());
     }
 
     static int made;
@@ -33,11 +37,29 @@ public:
 
 int OwnCell::made = 0;
 
+/// A switch's row with a view of its own.
+class OwnSwitchCell final : public PSSwitchTableCell {
+public:
+    using PSSwitchTableCell::initWithStyle;
+
+    [[nodiscard]] bool initWithStyle(UITableViewCellStyle style,
+                                     const std::optional<std::string>& reuseIdentifier,
+                                     PSSpecifier& specifier) override {
+        if (!PSSwitchTableCell::initWithStyle(style, reuseIdentifier, specifier))
+            return false;
+        contentView().addSubview(mark);
+        return true;
+    }
+
+    Ref<UIView> mark = make<UIView>();
+};
+
 class RefusingCell : public PSTableCell {
 public:
     using PSTableCell::initWithStyle;
 
-    [[nodiscard]] bool initWithStyle(UITableViewCellStyle /*style*/, const std::string& /*reuseIdentifier*/,
+    [[nodiscard]] bool initWithStyle(UITableViewCellStyle /*style*/,
+                                     const std::optional<std::string>& /*reuseIdentifier*/,
                                      PSSpecifier& /*specifier*/) override {
         return false;
     }
@@ -59,6 +81,7 @@ public:
 class NoCell : public NSObject {};
 
 const Class ownCellClass = Class::define<OwnCell, PSTableCell>("CellTestOwnCell");
+const Class ownSwitchCellClass = Class::define<OwnSwitchCell, PSSwitchTableCell>("CellTestOwnSwitchCell");
 const Class refusingCellClass = Class::define<RefusingCell, PSTableCell>("CellTestRefusingCell");
 const Class bannerClass = Class::define<Banner, UIView>("CellTestBanner");
 const Class noCellClass = Class::define<NoCell>("CellTestNoCell");
@@ -79,8 +102,8 @@ TEST_F(PSTableCellTest, LinksHaveAChevronAndTheirValue) {
     show();
     EXPECT_EQ(peerOf<UITableViewCellPeer>(cell("a")).accessoryType(),
               UITableViewCellAccessoryType::DisclosureIndicator);
-    EXPECT_EQ(cell("a").detailTextLabel().text(), "value");
-    EXPECT_EQ(cell("b").detailTextLabel().text(), std::nullopt);
+    EXPECT_EQ(cellPeer("a").detailTextLabel().text(), "value");
+    EXPECT_EQ(cellPeer("b").detailTextLabel().text(), std::nullopt);
     EXPECT_EQ(peerOf<UITableViewCellPeer>(cell("c")).accessoryType(), UITableViewCellAccessoryType::None);
 }
 
@@ -88,10 +111,10 @@ TEST_F(PSTableCellTest, ButtonsAreTinted) {
     writeList({row("PSButtonCell", "a"), row("PSButtonCell", "b", yes("isDestructive")),
                row("PSButtonCell", "c", no("enabled")), row("PSLinkCell", "d")});
     show();
-    EXPECT_EQ(colorOf(cell("a").textLabel()), color(SystemColor::Blue));
-    EXPECT_EQ(colorOf(cell("b").textLabel()), color(SystemColor::Red));
-    EXPECT_EQ(colorOf(cell("c").textLabel()), color(SystemColor::TertiaryLabel));
-    EXPECT_EQ(colorOf(cell("d").textLabel()), color(SystemColor::Label));
+    EXPECT_EQ(colorOf(cellPeer("a").textLabel()), color(SystemColor::Blue));
+    EXPECT_EQ(colorOf(cellPeer("b").textLabel()), color(SystemColor::Red));
+    EXPECT_EQ(colorOf(cellPeer("c").textLabel()), color(SystemColor::TertiaryLabel));
+    EXPECT_EQ(colorOf(cellPeer("d").textLabel()), color(SystemColor::Label));
 }
 
 TEST_F(PSTableCellTest, ValuesAreShownByTheirTitles) {
@@ -101,7 +124,7 @@ TEST_F(PSTableCellTest, ValuesAreShownByTheirTitles) {
     show();
     const auto shown = [this](const std::optional<PropertyList>& value) {
         peer().setValue(specifier("a"), value);
-        return cell("a").detailTextLabel().text();
+        return cellPeer("a").detailTextLabel().text();
     };
     EXPECT_EQ(shown(1), "One");
     EXPECT_EQ(shown(2), "2");
@@ -126,9 +149,25 @@ TEST_F(PSTableCellTest, RowsMayNameTheirCellsClass) {
     show();
     EXPECT_NE(dynamic_cast<OwnCell*>(&cell("a")), nullptr);
     EXPECT_EQ(dynamic_cast<OwnCell*>(&cell("b")), nullptr);
-    EXPECT_EQ(cell("a").textLabel().text(), "own Row a");
+    EXPECT_EQ(cellPeer("a").textLabel().text(), "own Row a");
     EXPECT_EQ(listRow("a").cellClass, "CellTestOwnCell");
     EXPECT_EQ(OwnCell::made, 1);
+}
+
+TEST_F(PSTableCellTest, RowsMayNameAClassDerivedFromTheSwitchs) {
+    writeList({keptRow("PSSwitchCell", "a", yes("default") + text("cellClass", "CellTestOwnSwitchCell"))});
+    show();
+    auto& own = dynamic_cast<OwnSwitchCell&>(cell("a"));
+    EXPECT_EQ(own.mark->peer().superview(), &own.contentView());
+    EXPECT_EQ(own.specifier().get(), &specifier("a"));
+    const auto& control = peerOf<PSControlTableCellPeer>(own).control();
+    EXPECT_TRUE(peerOf<UISwitchPeer>(dynamic_cast<UISwitch&>(*control)).isOn());
+}
+
+TEST_F(PSTableCellTest, ThePageHasTheTableOfItsCells) {
+    writeList({row("PSLinkCell", "a")});
+    show();
+    EXPECT_TRUE(cell("a").peer().isDescendantOf(*page_->table()));
 }
 
 TEST_F(PSTableCellTest, ACellOfANamedClassServesItsRowAlone) {
@@ -143,7 +182,7 @@ TEST_F(PSTableCellTest, ACellOfANamedClassServesItsRowAlone) {
     peer().scrollRowIntoView(0);
     EXPECT_EQ(&cell("0"), first);
     EXPECT_LE(OwnCell::made, 60);
-    EXPECT_EQ(cell("0").textLabel().text(), "own Row 0");
+    EXPECT_EQ(cellPeer("0").textLabel().text(), "own Row 0");
 }
 
 TEST_F(PSTableCellTest, AClassThatIsNoCellIsLoggedOnceAndAPlainCellStandsForIt) {
@@ -152,7 +191,7 @@ TEST_F(PSTableCellTest, AClassThatIsNoCellIsLoggedOnceAndAPlainCellStandsForIt) 
         show();
         page_->view().peer().setNeedsLayout();
         screen.layoutIfNeeded();
-        EXPECT_EQ(cell("a").textLabel().text(), "Row a");
+        EXPECT_EQ(cellPeer("a").textLabel().text(), "Row a");
         EXPECT_NE(dynamic_cast<PSControlTableCell*>(&cell("a")), nullptr);
         EXPECT_EQ(log(),
                   (Texts{std::string("Row a: 'cellClass' names ") + name + ", which is no such class."}));
@@ -162,7 +201,7 @@ TEST_F(PSTableCellTest, AClassThatIsNoCellIsLoggedOnceAndAPlainCellStandsForIt) 
 TEST_F(PSTableCellTest, APlainCellStandsForOneThatRefuses) {
     writeList({row("PSLinkCell", "a", text("cellClass", "CellTestRefusingCell"))});
     show();
-    EXPECT_EQ(cell("a").textLabel().text(), "Row a");
+    EXPECT_EQ(cellPeer("a").textLabel().text(), "Row a");
 }
 
 TEST_F(PSTableCellTest, GroupsHaveHeadersAndFooters) {
@@ -213,7 +252,7 @@ TEST_F(PSTableCellTest, CellsServeOtherRowsOfTheirKind) {
     EXPECT_LT(near, 30U);
     for (std::size_t number = 0; number < 100; ++number)
         peer().scrollRowIntoView(number);
-    EXPECT_EQ(cell("98").detailTextLabel().text(), "value 98");
-    EXPECT_EQ(cell("98").textLabel().text(), "Row 98");
-    EXPECT_EQ(cell("99").detailTextLabel().text(), std::nullopt);
+    EXPECT_EQ(cellPeer("98").detailTextLabel().text(), "value 98");
+    EXPECT_EQ(cellPeer("98").textLabel().text(), "Row 98");
+    EXPECT_EQ(cellPeer("99").detailTextLabel().text(), std::nullopt);
 }

@@ -3,6 +3,7 @@
 #include "PSListControllerPeer.h"
 #include "Phone.h"
 #include "UIKit/UINavigationController.h"
+#include "tables/UITableViewCellPeer.h"
 
 #include <functional>
 #include <string>
@@ -57,6 +58,10 @@ protected:
     [[nodiscard]] DesktopSpecifier& specifier(const std::string& id) const;
     [[nodiscard]] ListRow listRow(const std::string& id) const;
     [[nodiscard]] UITableViewCell& cell(const std::string& id) const;
+
+    [[nodiscard]] UITableViewCellPeer& cellPeer(const std::string& id) const {
+        return peerOf<UITableViewCellPeer>(cell(id));
+    }
 
     /// The lines since the last call.
     [[nodiscard]] std::vector<std::string> log() { return device.log().take(); }

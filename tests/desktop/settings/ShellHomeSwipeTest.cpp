@@ -1,7 +1,7 @@
 // The finger that draws Settings up from the screen's lower edge.
 
 #include "ShellFixture.h"
-#include "controls/UIButton.h"
+#include "UIKit/UIButton.h"
 #include "views/UIViewPeer.h"
 
 #include <cmath>

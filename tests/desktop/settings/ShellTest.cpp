@@ -22,7 +22,7 @@ protected:
         const auto page = dynamicCast<PSListController>(peerOf<UINavigationControllerPeer>(*first).top());
         auto& table = peerOf<PSListControllerPeer>(*page).table();
         const auto row = table.selectedRow();
-        return row ? *table.cellForRow(*row)->textLabel().text() : "";
+        return row ? *peerOf<UITableViewCellPeer>(*table.cellForRow(*row)).textLabel().text() : "";
     }
 };
 

@@ -71,6 +71,47 @@ TEST_F(UIButtonPeerTest, ImageStandsBeforeTheTitleAndBothInTheMiddle) {
     EXPECT_NEAR(CGRectGetMidY(title), 20, 1e-9);
 }
 
+TEST_F(UIButtonPeerTest, AnImageAloneFillsTheDirectionsThatItIsToldTo) {
+    peerOf<UIButtonPeer>(*button).setTitle(std::nullopt);
+    button->setImage(DesktopImage::symbol("gear", 20), UIControlState::Normal);
+    button->setContentHorizontalAlignment(UIControlContentHorizontalAlignment::Fill);
+    screen.layoutIfNeeded();
+    const auto size = button->imageView().image()->size();
+    EXPECT_EQ(button->imageView().frame(), CGRectMake(0, 20 - size.height / 2, 100, size.height));
+    button->setContentVerticalAlignment(UIControlContentVerticalAlignment::Fill);
+    button->setImageEdgeInsets({.top = 1, .left = 2, .bottom = 3, .right = 4});
+    screen.layoutIfNeeded();
+    EXPECT_EQ(button->imageView().frame(), CGRectMake(2, 1, 94, 36));
+}
+
+TEST_F(UIButtonPeerTest, ImageInsetsMoveAnImageOfItsOwnSize) {
+    peerOf<UIButtonPeer>(*button).setTitle(std::nullopt);
+    button->setImage(DesktopImage::symbol("gear", 20), UIControlState::Normal);
+    button->setImageEdgeInsets({.top = 6, .left = 0, .bottom = 0, .right = 10});
+    screen.layoutIfNeeded();
+    EXPECT_NEAR(CGRectGetMidX(button->imageView().frame()), 45, 1e-9);
+    EXPECT_NEAR(CGRectGetMidY(button->imageView().frame()), 23, 1e-9);
+}
+
+TEST_F(UIButtonPeerTest, TheInfoButtonShowsItsSymbolAndSaysWhatItIs) {
+    const auto info = UIButton::buttonWithType(UIButtonType::InfoDark);
+    const auto image = dynamicCast<DesktopImage>(info->imageView().image());
+    ASSERT_TRUE(image);
+    EXPECT_EQ(image->symbolName(), "info.circle");
+    EXPECT_EQ(info->peer().accessibility().label, "More Info");
+}
+
+TEST_F(UIButtonPeerTest, AClassDerivedFromItIsAButtonToo) {
+    class OwnButton final : public UIButton {};
+
+    const auto own = makeWith<OwnButton>(&UIView::initWithFrame, CGRectMake(0, 0, 50, 60));
+    own->setImage(DesktopImage::symbol("gear", 20), UIControlState::Normal);
+    window->addSubview(own);
+    screen.layoutIfNeeded();
+    EXPECT_EQ(own->frame(), CGRectMake(0, 0, 50, 60));
+    EXPECT_NEAR(CGRectGetMidX(own->imageView().frame()), 25, 1e-9);
+}
+
 TEST_F(UIButtonPeerTest, TitleIsInTheTintUnlessDisabled) {
     const auto color = [&] {
         return DesktopColor::resolve(

@@ -46,18 +46,18 @@ Ref<SizedView> LayoutFixture::addTo(UIView& superview, std::optional<double> wid
     return view;
 }
 
-NSLayoutConstraint& LayoutFixture::constrain(NSLayoutConstraint::Terms terms) {
-    constraints.push_back(make<NSLayoutConstraint>(std::move(terms)));
-    NSLayoutConstraint::activate({constraints.back()});
-    return *constraints.back();
+NSLayoutConstraintPeer& LayoutFixture::constrain(NSLayoutConstraintPeer::Terms terms) {
+    constraints.push_back(NSLayoutConstraintPeer::makeConstraint(std::move(terms)));
+    NSLayoutConstraint::activateConstraints({constraints.back()});
+    return constraints.back()->peer();
 }
 
-NSLayoutConstraint& LayoutFixture::equal(const LayoutAnchor& first, const LayoutAnchor& second,
-                                         double constant) {
+NSLayoutConstraintPeer& LayoutFixture::equal(const LayoutAnchor& first, const LayoutAnchor& second,
+                                             double constant) {
     return constrain({.first = first, .second = second, .constant = constant});
 }
 
-NSLayoutConstraint& LayoutFixture::equal(const LayoutAnchor& first, double constant) {
+NSLayoutConstraintPeer& LayoutFixture::equal(const LayoutAnchor& first, double constant) {
     return constrain({.first = first, .second = std::nullopt, .constant = constant});
 }
 

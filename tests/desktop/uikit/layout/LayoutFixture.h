@@ -1,7 +1,7 @@
 #pragma once
 
 #include "TestDevice.h"
-#include "layout/NSLayoutConstraint.h"
+#include "layout/NSLayoutConstraintPeer.h"
 #include "screen/Screen.h"
 #include "views/UIViewPeer.h"
 #include "views/ViewLayout.h"
@@ -32,9 +32,9 @@ protected:
     static Ref<SizedView> addTo(UIView& superview, std::optional<double> width = std::nullopt,
                                 std::optional<double> height = std::nullopt);
 
-    NSLayoutConstraint& constrain(NSLayoutConstraint::Terms terms);
-    NSLayoutConstraint& equal(const LayoutAnchor& first, const LayoutAnchor& second, double constant = 0);
-    NSLayoutConstraint& equal(const LayoutAnchor& first, double constant);
+    NSLayoutConstraintPeer& constrain(NSLayoutConstraintPeer::Terms terms);
+    NSLayoutConstraintPeer& equal(const LayoutAnchor& first, const LayoutAnchor& second, double constant = 0);
+    NSLayoutConstraintPeer& equal(const LayoutAnchor& first, double constant);
     /// Keeps all four edges of a view to the host's, less an inset.
     void fill(UIView& view, double inset = 0);
 

@@ -1,4 +1,8 @@
+#include "UIKit/NSLayoutDimension.h"
+#include "UIKit/NSLayoutXAxisAnchor.h"
+#include "UIKit/NSLayoutYAxisAnchor.h"
 #include "UIKit/UILabel.h"
+#include "UIKit/UILayoutGuide.h"
 #include "layout/LayoutFixture.h"
 #include "views/UILabelPeer.h"
 
@@ -153,11 +157,10 @@ TEST_F(NSLayoutConstraintTest, AChangedConstantMovesTheView) {
 TEST_F(NSLayoutConstraintTest, ADeactivatedConstraintNoLongerHolds) {
     const auto view = add(10, 10);
     auto& left = equal({*view, Left}, {*host, Left}, 5);
-    const auto right = make<NSLayoutConstraint>(
-        NSLayoutConstraint::Terms{.first = {*view, Right}, .second = LayoutAnchor(*host, Right)});
+    const auto right = view->trailingAnchor()->constraintEqualToAnchor(host->trailingAnchor());
     layOut();
-    NSLayoutConstraint::deactivate({retain(&left)});
-    NSLayoutConstraint::activate({right});
+    left.deactivate();
+    NSLayoutConstraint::activateConstraints({right});
     EXPECT_FALSE(left.isActive());
     layOut();
     EXPECT_EQ(view->frame().origin.x, 290);
@@ -200,4 +203,47 @@ TEST_F(NSLayoutConstraintTest, TheFittingSizeIsTheSmallestThatHoldsEverything) {
     fill(*view, 10);
     EXPECT_EQ(host->peer().fittingSize(std::nullopt), (CGSize{60, 50}));
     EXPECT_EQ(host->peer().fittingSize(200), (CGSize{200, 50}));
+}
+
+TEST_F(NSLayoutConstraintTest, AnchorsOfEdgesPlaceAView) {
+    const auto view = make<UIView>();
+    view->setTranslatesAutoresizingMaskIntoConstraints(false);
+    host->addSubview(view);
+    NSLayoutConstraint::activateConstraints(
+        {view->leadingAnchor()->constraintEqualToAnchor(host->leadingAnchor(), 10),
+         view->trailingAnchor()->constraintEqualToAnchor(host->trailingAnchor(), -20),
+         view->topAnchor()->constraintEqualToAnchor(host->topAnchor(), 30),
+         view->bottomAnchor()->constraintEqualToAnchor(host->bottomAnchor(), -40)});
+    layOut();
+    EXPECT_EQ(view->frame(), CGRectMake(10, 30, 270, 130));
+    view->setTranslatesAutoresizingMaskIntoConstraints(true);
+    view->setFrame(CGRectMake(1, 2, 3, 4));
+    layOut();
+    EXPECT_EQ(view->frame(), CGRectMake(1, 2, 3, 4));
+}
+
+TEST_F(NSLayoutConstraintTest, AnchorsOfMiddlesAndLengthsPlaceAView) {
+    const auto view = add();
+    const auto other = add();
+    NSLayoutConstraint::activateConstraints(
+        {view->centerXAnchor()->constraintEqualToAnchor(host->centerXAnchor(), 5),
+         view->centerYAnchor()->constraintEqualToAnchor(host->centerYAnchor()),
+         view->widthAnchor()->constraintEqualToConstant(60),
+         view->heightAnchor()->constraintEqualToConstant(40),
+         other->widthAnchor()->constraintEqualToAnchor(view->widthAnchor(), 8)});
+    layOut();
+    EXPECT_EQ(view->frame(), CGRectMake(125, 80, 60, 40));
+    EXPECT_EQ(other->frame().size.width, 68);
+}
+
+TEST_F(NSLayoutConstraintTest, TheSafeAreasGuideHasAnchors) {
+    host->peer().setAdditionalSafeAreaInsets({.top = 44, .left = 0, .bottom = 30, .right = 0});
+    const auto above = add(10, 10);
+    const auto middle = add(10, 10);
+    NSLayoutConstraint::activateConstraints(
+        {above->topAnchor()->constraintEqualToAnchor(host->safeAreaLayoutGuide()->topAnchor(), 6),
+         middle->centerYAnchor()->constraintEqualToAnchor(host->safeAreaLayoutGuide()->centerYAnchor())});
+    layOut();
+    EXPECT_EQ(above->frame().origin.y, 50);
+    EXPECT_EQ(middle->frame().origin.y, 102);
 }

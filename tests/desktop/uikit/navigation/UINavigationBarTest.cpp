@@ -9,6 +9,16 @@
 
 namespace {
 
+class BarTarget final : public NSObject {
+public:
+    void barButtonTapped(const Ref<NSObject>& sender) { senders.push_back(sender); }
+
+    std::vector<Ref<NSObject>> senders;
+};
+
+const Class targetClass =
+    Class::define<BarTarget>("BarTestTarget", {method<"barButtonTapped:", &BarTarget::barButtonTapped>()});
+
 class UINavigationBarTest : public NavigationFixture {
 protected:
     static Ref<DesktopBarButtonItem> item(const std::string& title, std::function<void()> action = {}) {
@@ -28,6 +38,16 @@ protected:
         a->view().addSubview(scrollView);
         show({a});
         return scrollView;
+    }
+
+    /// A bar of its own in the window, 300 points wide and 56 high, with an item of that title.
+    Ref<UINavigationBar> showOwnBar(const Ref<UINavigationItem>& item) {
+        auto bar = make<UINavigationBar>();
+        bar->setFrame(CGRectMake(20, 100, 300, 56));
+        bar->setItems({item});
+        window->addSubview(bar);
+        layOut();
+        return bar;
     }
 
     double titleAlpha() { return content().titleView().peer().superview()->alpha(); }
@@ -211,12 +231,12 @@ TEST_F(UINavigationBarTest, theLargeTitleIsScrolledUnderTheBarAndTheSmallOneTake
     EXPECT_DOUBLE_EQ(peerOf<UIScrollViewPeer>(*scrollView).contentOffset().y, -143);
     EXPECT_DOUBLE_EQ(titleAlpha(), 0);
     peerOf<UIScrollViewPeer>(*scrollView).setContentOffset({0, -123});
-    EXPECT_EQ(screenFrame(peer().bar()), CGRectMake(0, 47, 390, 76));
+    EXPECT_EQ(screenFrame(peer().bar().view()), CGRectMake(0, 47, 390, 76));
     EXPECT_DOUBLE_EQ(peer().bar().background().alpha(), 0);
     peerOf<UIScrollViewPeer>(*scrollView).setContentOffset({0, -95});
     EXPECT_DOUBLE_EQ(titleAlpha(), 1);
     peerOf<UIScrollViewPeer>(*scrollView).setContentOffset({0, 0});
-    EXPECT_EQ(screenFrame(peer().bar()), CGRectMake(0, 47, 390, 44));
+    EXPECT_EQ(screenFrame(peer().bar().view()), CGRectMake(0, 47, 390, 44));
     EXPECT_DOUBLE_EQ(peer().bar().background().alpha(), 1);
     peerOf<UIScrollViewPeer>(*scrollView).setContentOffset({0, -143});
     EXPECT_DOUBLE_EQ(titleAlpha(), 0);
@@ -227,7 +247,7 @@ TEST_F(UINavigationBarTest, theLargeTitleIsThereAgainAfterTheWayBackAndOnIt) {
     const auto scrollView = showScrollingPage();
     for (const auto offset : {-143.0, 20.0}) {
         peerOf<UIScrollViewPeer>(*scrollView).setContentOffset({0, offset});
-        const auto before = screenFrame(peer().bar());
+        const auto before = screenFrame(peer().bar().view());
         const auto small = titleAlpha();
         navigation->pushViewController(page("B"), true);
         settle();
@@ -236,7 +256,7 @@ TEST_F(UINavigationBarTest, theLargeTitleIsThereAgainAfterTheWayBackAndOnIt) {
         EXPECT_DOUBLE_EQ(content().height(), before.size.height);
         settle();
         EXPECT_DOUBLE_EQ(peerOf<UIScrollViewPeer>(*scrollView).contentOffset().y, offset);
-        EXPECT_EQ(screenFrame(peer().bar()), before);
+        EXPECT_EQ(screenFrame(peer().bar().view()), before);
         EXPECT_DOUBLE_EQ(titleAlpha(), small);
     }
 }
@@ -276,5 +296,55 @@ TEST_F(UINavigationBarTest, theRoomOfTheLargeTitleBelongsToThePageWhenItIsTouche
     peer().setPrefersLargeTitles(true);
     show({a});
     EXPECT_EQ(screen.hitTest({200, 120}), &a->view());
-    EXPECT_TRUE(screen.hitTest({200, 70})->peer().isDescendantOf(peer().bar()));
+    EXPECT_TRUE(screen.hitTest({200, 70})->peer().isDescendantOf(peer().bar().view()));
+}
+
+TEST_F(UINavigationBarTest, aBarOfItsOwnShowsItsItemInItsFrame) {
+    const auto target = make<BarTarget>();
+    const auto item = UINavigationItem::initWithTitle("Colours");
+    const auto done =
+        UIBarButtonItem::initWithTitle("Done", UIBarButtonItemStyle::Done, *target, "barButtonTapped:");
+    item->setLeftBarButtonItem(
+        UIBarButtonItem::initWithTitle("Reset", UIBarButtonItemStyle::Plain, *target, "barButtonTapped:"));
+    item->setRightBarButtonItem(done);
+    const auto bar = showOwnBar(item);
+    const auto& barPeer = peerOf<UINavigationBarPeer>(*bar);
+    auto& shown = *barPeer.content();
+    EXPECT_EQ(screenFrame(*bar), CGRectMake(20, 100, 300, 56));
+    EXPECT_EQ(screenFrame(barPeer.background()), CGRectMake(20, 100, 300, 56));
+    EXPECT_EQ(shown.titleView().peer().shownText(), "Colours");
+    EXPECT_NEAR(CGRectGetMidX(screenFrame(shown.titleView())), 170, 0.5);
+    EXPECT_NEAR(CGRectGetMidY(screenFrame(shown.titleView())), 128, 0.5);
+    ASSERT_EQ(shown.leftButtons().size(), 1U);
+    ASSERT_EQ(shown.rightButtons().size(), 1U);
+    EXPECT_TRUE(shown.rightButtons()[0]->item()->content().emphasised);
+    EXPECT_FALSE(shown.leftButtons()[0]->item()->content().emphasised);
+
+    tap(*shown.rightButtons()[0]);
+    ASSERT_EQ(target->senders.size(), 1U);
+    EXPECT_EQ(target->senders[0], done);
+    tap(*shown.leftButtons()[0]);
+    EXPECT_EQ(target->senders.size(), 2U);
+
+    item->setLeftBarButtonItem(nullptr);
+    layOut();
+    EXPECT_TRUE(shown.leftButtons().empty());
+}
+
+TEST_F(UINavigationBarTest, aBarOfItsOwnShowsTheLastItemOrNone) {
+    const auto bar = showOwnBar(UINavigationItem::initWithTitle("First"));
+    bar->setItems({UINavigationItem::initWithTitle("Second"), UINavigationItem::initWithTitle("Third")});
+    layOut();
+    const auto& barPeer = peerOf<UINavigationBarPeer>(*bar);
+    EXPECT_EQ(barPeer.content()->titleView().peer().shownText(), "Third");
+    const auto parts = bar->subviews().size();
+    bar->setItems({});
+    EXPECT_EQ(barPeer.content(), nullptr);
+    EXPECT_EQ(bar->subviews().size(), parts - 1);
+}
+
+TEST_F(UINavigationBarTest, aBarOfItsOwnIsAsHighAsARow) {
+    const auto bar = make<UINavigationBar>();
+    EXPECT_EQ(bar->peer().intrinsicHeight(), 44);
+    EXPECT_EQ(bar->peer().sizeThatFits({200, 0}), (CGSize{200, 44}));
 }

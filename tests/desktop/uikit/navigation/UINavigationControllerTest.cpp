@@ -171,21 +171,21 @@ TEST_F(UINavigationControllerTest, theSafeAreaOfAPageEndsAtTheBarAlsoOnItsWay) {
 
 TEST_F(UINavigationControllerTest, theBarOfAPhoneEndsAt91AndWithALargeTitleAt143) {
     show({a});
-    EXPECT_EQ(screenFrame(peer().bar()), CGRectMake(0, 47, 390, 44));
+    EXPECT_EQ(screenFrame(peer().bar().view()), CGRectMake(0, 47, 390, 44));
     EXPECT_EQ(screenFrame(peer().bar().background()), CGRectMake(0, 0, 390, 91));
     peer().setPrefersLargeTitles(true);
-    EXPECT_EQ(screenFrame(peer().bar()), CGRectMake(0, 47, 390, 96));
+    EXPECT_EQ(screenFrame(peer().bar().view()), CGRectMake(0, 47, 390, 96));
     EXPECT_DOUBLE_EQ(a->view().peer().safeAreaInsets().top, 143);
     navigation->pushViewController(b, true);
     settle();
-    EXPECT_EQ(screenFrame(peer().bar()), CGRectMake(0, 47, 390, 44));
+    EXPECT_EQ(screenFrame(peer().bar().view()), CGRectMake(0, 47, 390, 44));
     EXPECT_DOUBLE_EQ(b->view().peer().safeAreaInsets().top, 91);
 }
 
 TEST_F(PadNavigationControllerTest, theBarOfATabletEndsAt74) {
     const auto root = page("A");
     show({root});
-    EXPECT_EQ(screenFrame(peer().bar()), CGRectMake(0, 24, 820, 50));
+    EXPECT_EQ(screenFrame(peer().bar().view()), CGRectMake(0, 24, 820, 50));
     EXPECT_DOUBLE_EQ(root->view().peer().safeAreaInsets().top, 74);
 }
 

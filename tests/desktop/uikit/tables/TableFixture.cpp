@@ -19,7 +19,7 @@ Ref<UITableViewCell> NotedContent::cellForRow(IndexPath row) {
         cell = adopt(new UITableViewCell);
         EXPECT_TRUE(cell->initWithStyle(UITableViewCellStyle::Default, reuseIdentifier));
     }
-    cell->textLabel().setText(sections[row.section].rows[row.row].title);
+    peerOf<UITableViewCellPeer>(*cell).textLabel().setText(sections[row.section].rows[row.row].title);
     return cell;
 }
 

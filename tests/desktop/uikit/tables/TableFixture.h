@@ -1,8 +1,8 @@
 #pragma once
 
 #include "Phone.h"
+#include "UIKit/UITableView.h"
 #include "tables/TableContent.h"
-#include "tables/UITableView.h"
 #include "tables/UITableViewCellPeer.h"
 #include "tables/UITableViewPeer.h"
 
@@ -77,7 +77,9 @@ protected:
     /// Where a row is seen now, on its way.
     [[nodiscard]] CGRect shownFrame(IndexPath row) const;
 
-    [[nodiscard]] std::string titleOf(IndexPath row) const { return *cell(row).textLabel().text(); }
+    [[nodiscard]] std::string titleOf(IndexPath row) const {
+        return *peerOf<UITableViewCellPeer>(cell(row)).textLabel().text();
+    }
 
     Ref<UITableView> table_ = make<UITableView>();
     NotedContent content_{*table_};

@@ -29,36 +29,37 @@ const std::string longText = "A text that is so long that it has no room in the 
 
 TEST_F(UITableViewCellTest, TheTitleKeepsAwayFromTheEdges) {
     const auto cell = cellOf(UITableViewCellStyle::Default);
-    cell->textLabel().setText("Title");
+    peerOf<UITableViewCellPeer>(*cell).textLabel().setText("Title");
     layOut(*cell);
-    EXPECT_EQ(cell->textLabel().frame(), CGRectMake(16, 0, 326, 44));
+    EXPECT_EQ(peerOf<UITableViewCellPeer>(*cell).textLabel().frame(), CGRectMake(16, 0, 326, 44));
     EXPECT_EQ(cell->contentView().frame(), CGRectMake(0, 0, 358, 44));
-    EXPECT_EQ(cell->reuseIdentifier(), "Cell");
+    EXPECT_EQ(peerOf<UITableViewCellPeer>(*cell).reuseIdentifier(), "Cell");
 }
 
 TEST_F(UITableViewCellTest, TheDetailStandsAtTheRightEdge) {
     const auto cell = cellOf(UITableViewCellStyle::Value1);
-    cell->textLabel().setText("Title");
-    cell->detailTextLabel().setText("Detail");
+    peerOf<UITableViewCellPeer>(*cell).textLabel().setText("Title");
+    peerOf<UITableViewCellPeer>(*cell).detailTextLabel().setText("Detail");
     layOut(*cell);
-    EXPECT_NEAR(CGRectGetMaxX(cell->detailTextLabel().frame()), 342, 0.01);
-    EXPECT_FALSE(peerOf<UILabelPeer>(cell->detailTextLabel()).isTruncated());
-    EXPECT_FALSE(peerOf<UILabelPeer>(cell->textLabel()).isTruncated());
+    EXPECT_NEAR(CGRectGetMaxX(peerOf<UITableViewCellPeer>(*cell).detailTextLabel().frame()), 342, 0.01);
+    EXPECT_FALSE(peerOf<UILabelPeer>(peerOf<UITableViewCellPeer>(*cell).detailTextLabel()).isTruncated());
+    EXPECT_FALSE(peerOf<UILabelPeer>(peerOf<UITableViewCellPeer>(*cell).textLabel()).isTruncated());
 }
 
 TEST_F(UITableViewCellTest, TheTitleHasPriorityUnlessToldOtherwise) {
     const auto cell = cellOf(UITableViewCellStyle::Value1);
-    cell->textLabel().setText("A title of some width");
-    cell->detailTextLabel().setText(longText);
+    peerOf<UITableViewCellPeer>(*cell).textLabel().setText("A title of some width");
+    peerOf<UITableViewCellPeer>(*cell).detailTextLabel().setText(longText);
     layOut(*cell);
-    const auto& title = peerOf<UILabelPeer>(cell->textLabel());
-    const auto& detail = peerOf<UILabelPeer>(cell->detailTextLabel());
+    const auto& title = peerOf<UILabelPeer>(peerOf<UITableViewCellPeer>(*cell).textLabel());
+    const auto& detail = peerOf<UILabelPeer>(peerOf<UITableViewCellPeer>(*cell).detailTextLabel());
     EXPECT_FALSE(title.isTruncated());
     EXPECT_TRUE(detail.isTruncated());
-    EXPECT_LE(CGRectGetMaxX(cell->textLabel().frame()) + 6, cell->detailTextLabel().frame().origin.x + 0.01);
+    EXPECT_LE(CGRectGetMaxX(peerOf<UITableViewCellPeer>(*cell).textLabel().frame()) + 6,
+              peerOf<UITableViewCellPeer>(*cell).detailTextLabel().frame().origin.x + 0.01);
 
-    cell->detailTextLabel().setText("A detail of some width");
-    cell->textLabel().setText(longText);
+    peerOf<UITableViewCellPeer>(*cell).detailTextLabel().setText("A detail of some width");
+    peerOf<UITableViewCellPeer>(*cell).textLabel().setText(longText);
     peerOf<UITableViewCellPeer>(*cell).setDetailHasPriority(true);
     layOut(*cell);
     EXPECT_TRUE(title.isTruncated());
@@ -67,38 +68,39 @@ TEST_F(UITableViewCellTest, TheTitleHasPriorityUnlessToldOtherwise) {
 
 TEST_F(UITableViewCellTest, ADetailThatATitleLeavesNoRoomForIsNotSeen) {
     const auto cell = cellOf(UITableViewCellStyle::Value1);
-    cell->textLabel().setText(longText);
-    cell->detailTextLabel().setText("Detail");
+    peerOf<UITableViewCellPeer>(*cell).textLabel().setText(longText);
+    peerOf<UITableViewCellPeer>(*cell).detailTextLabel().setText("Detail");
     layOut(*cell);
-    EXPECT_EQ(cell->detailTextLabel().frame().size.width, 0);
-    EXPECT_NEAR(CGRectGetMaxX(cell->textLabel().frame()), 342, 0.01);
+    EXPECT_EQ(peerOf<UITableViewCellPeer>(*cell).detailTextLabel().frame().size.width, 0);
+    EXPECT_NEAR(CGRectGetMaxX(peerOf<UITableViewCellPeer>(*cell).textLabel().frame()), 342, 0.01);
 }
 
 TEST_F(UITableViewCellTest, AShortDetailStaysBesideATitleThatLeavesItRoom) {
     const auto cell = cellOf(UITableViewCellStyle::Value1);
-    cell->textLabel().setText("Title");
-    cell->detailTextLabel().setText("1");
+    peerOf<UITableViewCellPeer>(*cell).textLabel().setText("Title");
+    peerOf<UITableViewCellPeer>(*cell).detailTextLabel().setText("1");
     layOut(*cell);
-    EXPECT_GT(cell->detailTextLabel().frame().size.width, 0);
-    EXPECT_FALSE(peerOf<UILabelPeer>(cell->detailTextLabel()).isTruncated());
+    EXPECT_GT(peerOf<UITableViewCellPeer>(*cell).detailTextLabel().frame().size.width, 0);
+    EXPECT_FALSE(peerOf<UILabelPeer>(peerOf<UITableViewCellPeer>(*cell).detailTextLabel()).isTruncated());
 }
 
 TEST_F(UITableViewCellTest, ASubtitleMakesTheRowHigher) {
     const auto cell = cellOf(UITableViewCellStyle::Subtitle);
-    cell->textLabel().setText("Title");
+    peerOf<UITableViewCellPeer>(*cell).textLabel().setText("Title");
     EXPECT_EQ(peerOf<UITableViewCellPeer>(*cell).heightFor(358), 44);
-    cell->detailTextLabel().setText("Subtitle");
+    peerOf<UITableViewCellPeer>(*cell).detailTextLabel().setText("Subtitle");
     EXPECT_NEAR(peerOf<UITableViewCellPeer>(*cell).heightFor(358), 59.33, 0.4);
     cell->setFrame(CGRectMake(0, 0, 358, 60));
     layOut(*cell);
-    EXPECT_GE(cell->detailTextLabel().frame().origin.y, CGRectGetMaxY(cell->textLabel().frame()));
+    EXPECT_GE(peerOf<UITableViewCellPeer>(*cell).detailTextLabel().frame().origin.y,
+              CGRectGetMaxY(peerOf<UITableViewCellPeer>(*cell).textLabel().frame()));
 }
 
 TEST_F(UITableViewCellTest, WrappedTextsMakeTheRowHigher) {
     const auto cell = cellOf(UITableViewCellStyle::Default);
-    cell->textLabel().setText(longText);
+    peerOf<UITableViewCellPeer>(*cell).textLabel().setText(longText);
     EXPECT_EQ(peerOf<UITableViewCellPeer>(*cell).heightFor(358), 44);
-    peerOf<UILabelPeer>(cell->textLabel()).setNumberOfLines(0);
+    peerOf<UILabelPeer>(peerOf<UITableViewCellPeer>(*cell).textLabel()).setNumberOfLines(0);
     EXPECT_NEAR(peerOf<UITableViewCellPeer>(*cell).heightFor(358), 2 * 20.33 + 23.33, 0.7);
     EXPECT_GT(peerOf<UITableViewCellPeer>(*cell).heightFor(150),
               peerOf<UITableViewCellPeer>(*cell).heightFor(358));
@@ -106,40 +108,43 @@ TEST_F(UITableViewCellTest, WrappedTextsMakeTheRowHigher) {
 
 TEST_F(UITableViewCellTest, TheChevronStandsBeforeTheEdge) {
     const auto cell = cellOf(UITableViewCellStyle::Value1);
-    cell->textLabel().setText("Title");
-    cell->detailTextLabel().setText("Detail");
-    cell->setAccessoryType(UITableViewCellAccessoryType::DisclosureIndicator);
+    peerOf<UITableViewCellPeer>(*cell).textLabel().setText("Title");
+    peerOf<UITableViewCellPeer>(*cell).detailTextLabel().setText("Detail");
+    peerOf<UITableViewCellPeer>(*cell).setAccessoryType(UITableViewCellAccessoryType::DisclosureIndicator);
     layOut(*cell);
     const auto chevron = cell->peer().subviews().front()->peer().subviews().back()->frame();
     EXPECT_NEAR(CGRectGetMaxX(chevron), 342, 0.01);
     EXPECT_NEAR(CGRectGetMidY(chevron), 22, 0.4);
-    EXPECT_NEAR(chevron.origin.x - CGRectGetMaxX(cell->detailTextLabel().frame()), 8, 0.01);
+    EXPECT_NEAR(chevron.origin.x -
+                    CGRectGetMaxX(peerOf<UITableViewCellPeer>(*cell).detailTextLabel().frame()),
+                8, 0.01);
     EXPECT_EQ(cell->contentView().frame().size.width, chevron.origin.x);
-    cell->setAccessoryType(UITableViewCellAccessoryType::None);
+    peerOf<UITableViewCellPeer>(*cell).setAccessoryType(UITableViewCellAccessoryType::None);
     layOut(*cell);
-    EXPECT_NEAR(CGRectGetMaxX(cell->detailTextLabel().frame()), 342, 0.01);
+    EXPECT_NEAR(CGRectGetMaxX(peerOf<UITableViewCellPeer>(*cell).detailTextLabel().frame()), 342, 0.01);
 }
 
 TEST_F(UITableViewCellTest, AnAccessoryViewKeepsItsSize) {
     const auto cell = cellOf(UITableViewCellStyle::Default);
     const auto view = makeWith<UIView>(&UIView::initWithFrame, CGRectMake(0, 0, 51, 31));
-    cell->setAccessoryType(UITableViewCellAccessoryType::DisclosureIndicator);
-    cell->setAccessoryView(view);
+    peerOf<UITableViewCellPeer>(*cell).setAccessoryType(UITableViewCellAccessoryType::DisclosureIndicator);
+    peerOf<UITableViewCellPeer>(*cell).setAccessoryView(view);
     layOut(*cell);
     EXPECT_NEAR(view->frame().origin.x, 291, 0.01);
     EXPECT_NEAR(view->frame().origin.y, 6.5, 0.2);
     EXPECT_EQ(view->frame().size, (CGSize{51, 31}));
-    cell->setAccessoryView(nullptr);
+    peerOf<UITableViewCellPeer>(*cell).setAccessoryView(nullptr);
     EXPECT_EQ(view->peer().superview(), nullptr);
 }
 
 TEST_F(UITableViewCellTest, TextAndSeparatorMakeRoomForTheImage) {
     const auto cell = cellOf(UITableViewCellStyle::Default);
-    cell->textLabel().setText("Title");
-    cell->imageView().setImage(make<DesktopImage>(QImage(87, 87, QImage::Format_ARGB32_Premultiplied), 3));
+    peerOf<UITableViewCellPeer>(*cell).textLabel().setText("Title");
+    peerOf<UITableViewCellPeer>(*cell).imageView().setImage(
+        make<DesktopImage>(QImage(87, 87, QImage::Format_ARGB32_Premultiplied), 3));
     layOut(*cell);
-    EXPECT_EQ(cell->imageView().frame(), CGRectMake(16, 7.5, 29, 29));
-    EXPECT_EQ(cell->textLabel().frame().origin.x, 61);
+    EXPECT_EQ(peerOf<UITableViewCellPeer>(*cell).imageView().frame(), CGRectMake(16, 7.5, 29, 29));
+    EXPECT_EQ(peerOf<UITableViewCellPeer>(*cell).textLabel().frame().origin.x, 61);
     const auto separator = cell->peer().subviews().front()->peer().subviews()[2]->frame();
     EXPECT_NEAR(separator.origin.x, 61, 0.01);
     EXPECT_NEAR(separator.size.width, 358 - 61, 0.01);
@@ -149,9 +154,10 @@ TEST_F(UITableViewCellTest, TextAndSeparatorMakeRoomForTheImage) {
 
 TEST_F(UITableViewCellTest, LargeImagesAreShownSmaller) {
     const auto cell = cellOf(UITableViewCellStyle::Default);
-    cell->imageView().setImage(make<DesktopImage>(QImage(120, 60, QImage::Format_ARGB32_Premultiplied), 1));
+    peerOf<UITableViewCellPeer>(*cell).imageView().setImage(
+        make<DesktopImage>(QImage(120, 60, QImage::Format_ARGB32_Premultiplied), 1));
     layOut(*cell);
-    EXPECT_EQ(cell->imageView().frame(), CGRectMake(16, 14.75, 29, 14.5));
+    EXPECT_EQ(peerOf<UITableViewCellPeer>(*cell).imageView().frame(), CGRectMake(16, 14.75, 29, 14.5));
 }
 
 TEST_F(UITableViewCellTest, APressedRowHasNoSeparator) {

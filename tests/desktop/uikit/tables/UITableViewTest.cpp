@@ -37,7 +37,7 @@ TEST_F(UITableViewPadTest, HasWiderMarginsWhereItIsWide) {
     content_.sections = {NotedContent::sectionOf(1)};
     show();
     EXPECT_EQ(cell({0, 0}).frame(), CGRectMake(20, 35, 780, 44));
-    EXPECT_EQ(cell({0, 0}).textLabel().frame().origin.x, 20);
+    EXPECT_EQ(peerOf<UITableViewCellPeer>(cell({0, 0})).textLabel().frame().origin.x, 20);
 }
 
 TEST_F(UITableViewTest, FollowsItsWidth) {

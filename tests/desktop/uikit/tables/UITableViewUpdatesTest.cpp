@@ -12,8 +12,8 @@ protected:
     }
 
     void askHeightsAgain() {
-        peer().beginUpdates();
-        peer().endUpdates();
+        table_->beginUpdates();
+        table_->endUpdates();
     }
 
     [[nodiscard]] std::vector<std::string> titles(std::size_t section) const {

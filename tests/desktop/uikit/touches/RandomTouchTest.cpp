@@ -193,6 +193,7 @@ TEST_P(RandomTouchTest, NothingIsLeftBehind) {
     EXPECT_GT(scrolls, 20) << "and scroll views";
     cancel();
     EXPECT_FALSE(finger.isTouching());
+    settle(); // what ends an animation may add a view
     for (const auto& view : std::vector(window->peer().subviews()))
         view->peer().removeFromSuperview();
     settle();

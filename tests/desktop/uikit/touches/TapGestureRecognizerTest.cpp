@@ -1,22 +1,11 @@
 #include "touches/TapGestureRecognizer.h"
 
-#include "ObjectiveC/Class.h"
 #include "screen/TouchFixture.h"
 #include "views/RecordingViews.h"
 
 namespace {
 
 using namespace std::chrono_literals;
-
-class TapTarget final : public NSObject {
-public:
-    void tapped(const Ref<NSObject>& sender) { senders.push_back(sender); }
-
-    std::vector<Ref<NSObject>> senders;
-};
-
-const Class targetClass =
-    Class::define<TapTarget>("TapTestTarget", {method<"tapped:", &TapTarget::tapped>()});
 
 /// A view that is as large as the window, with a tap recogniser.
 class TapGestureRecognizerTest : public TouchFixture {
@@ -74,14 +63,6 @@ TEST_F(TapGestureRecognizerTest, TwoTapsAreNearInTimeAndPlace) {
     tap(100, 100);
     tap(120, 100);
     EXPECT_EQ(takeEvents(), Events()) << "too far";
-}
-
-TEST_F(TapGestureRecognizerTest, TargetGetsTheRecogniser) {
-    const auto target = make<TapTarget>();
-    tapRecognizer->addTarget(*target, "tapped:");
-    tap(100, 100);
-    ASSERT_EQ(target->senders.size(), 1U);
-    EXPECT_EQ(target->senders[0], tapRecognizer);
 }
 
 TEST_F(TapGestureRecognizerTest, TellsWhereTheFingerWas) {

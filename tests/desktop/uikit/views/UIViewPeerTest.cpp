@@ -6,6 +6,8 @@
 
 #include <chrono>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -29,6 +31,22 @@ private:
 class NotingView final : public UIView {
 public:
     explicit NotingView(std::string& notes) : UIView(std::make_unique<NotingPeer>(notes)) {}
+};
+
+/// Notes what the pane's classes may override.
+class OverridingView final : public UIView {
+public:
+    void tintColorDidChange() override {
+        UIView::tintColorDidChange();
+        notes += "tint ";
+    }
+
+    void didMoveToSuperview() override {
+        UIView::didMoveToSuperview();
+        notes += peer().superview() != nullptr ? "added " : "removed ";
+    }
+
+    std::string notes;
 };
 
 std::vector<const UIView*> subviewsOf(const UIView& view) {
@@ -95,6 +113,32 @@ TEST_F(UIViewPeerTest, TakesAViewAwayFromItsSuperview) {
     first_->peer().removeFromSuperview();
     EXPECT_EQ(first_->peer().superview(), nullptr);
     expectOrder({});
+}
+
+TEST_F(UIViewPeerTest, TellsAClassThatOverridesIt) {
+    const auto view = make<OverridingView>();
+    first_->addSubview(view);
+    EXPECT_EQ(std::exchange(view->notes, {}), "tint added ");
+    root_->addSubview(first_);
+    EXPECT_EQ(std::exchange(view->notes, {}), "tint ");
+    root_->setTintColor(UIColor::systemRedColor());
+    EXPECT_EQ(std::exchange(view->notes, {}), "tint ");
+    EXPECT_EQ(view->tintColor(), root_->tintColor());
+    view->setTintColor(UIColor::yellowColor());
+    EXPECT_EQ(std::exchange(view->notes, {}), "tint ");
+    root_->setTintColor({});
+    EXPECT_EQ(std::exchange(view->notes, {}), "") << "it has a tint of its own";
+    view->peer().removeFromSuperview();
+    EXPECT_EQ(std::exchange(view->notes, {}), "tint removed ");
+}
+
+TEST_F(UIViewPeerTest, ListsItsSubviewsAndKeepsItsTag) {
+    root_->addSubview(first_);
+    root_->insertSubview(second_, 0);
+    EXPECT_EQ(root_->subviews(), (std::vector{second_, first_}));
+    EXPECT_EQ(root_->peer().tag(), 0);
+    root_->setTag(-7);
+    EXPECT_EQ(root_->peer().tag(), -7);
 }
 
 TEST_F(UIViewPeerTest, KnowsWhatItIsWithin) {

@@ -1,12 +1,11 @@
 #pragma once
 
 #include "Preferences/PSSpecifier.h"
-#include "tables/UITableViewCell.h"
+#include "UIKit/UITableViewCell.h"
 
 #include <memory>
+#include <optional>
 #include <string>
-
-class PSTableCellPeer;
 
 /// Shows one row of a page. Made by the framework, by the name in the row's "cellClass" too; owned by the
 /// page's table.
@@ -16,7 +15,8 @@ public:
 
     using UITableViewCell::initWithStyle;
     /// Readies a new cell for a row.
-    [[nodiscard]] virtual bool initWithStyle(UITableViewCellStyle style, const std::string& reuseIdentifier,
+    [[nodiscard]] virtual bool initWithStyle(UITableViewCellStyle style,
+                                             const std::optional<std::string>& reuseIdentifier,
                                              PSSpecifier& specifier);
 
     /// Shows a row's properties and value as they are now. Called whenever the cell is about to be shown for
@@ -27,5 +27,5 @@ public:
     [[nodiscard]] Ref<PSSpecifier> specifier() const;
 
 protected:
-    explicit PSTableCell(std::unique_ptr<PSTableCellPeer> peer);
+    explicit PSTableCell(std::unique_ptr<UIViewPeer> peer);
 };
