@@ -46,6 +46,8 @@ template <>
 inline constexpr std::string_view encodingOf<CGSize> = "{CGSize=dd}";
 template <>
 inline constexpr std::string_view encodingOf<CGRect> = "{CGRect={CGPoint=dd}{CGSize=dd}}";
+template <>
+inline constexpr std::string_view encodingOf<UIEdgeInsets> = "{UIEdgeInsets=dddd}";
 
 /// A block, as it is passed to the frameworks.
 struct BlockObject;

@@ -73,3 +73,7 @@ void PSListController::setPreferenceValue(const std::optional<PropertyList>& val
 Ref<PSSpecifier> PSListController::specifierForID(std::string_view identifier) {
     return send<"-[PSListController specifierForID:]", Ref<PSSpecifier>>(*this, identifier);
 }
+
+Ref<UITableView> PSListController::table() {
+    return send<"-[PSListController table]", Ref<UITableView>>(*this);
+}

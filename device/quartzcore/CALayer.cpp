@@ -1,5 +1,6 @@
 #include "QuartzCore/CALayer.h"
 
+#include "CoreColor.h"
 #include "FrameworkClass.h"
 
 /// Nothing is known of a layer beside its Objective-C object.
@@ -9,15 +10,20 @@ namespace {
 
 const FrameworkClassOf<CALayer> frameworkClass("CALayer");
 
-/// A colour as layers take it; null for none.
-void* coreColor(const Ref<UIColor>& color) {
-    return send<"-[UIColor CGColor]", void*>(objectOf(color.get()));
-}
-
 } // namespace
 
 CALayer::CALayer() = default;
 CALayer::~CALayer() = default;
+
+CALayer::CALayer(std::unique_ptr<CALayerPeer> peer) : peer_(std::move(peer)) {}
+
+void CALayer::setFrame(const CGRect& frame) {
+    send<"-[CALayer setFrame:]", void>(*this, frame);
+}
+
+void CALayer::insertSublayer(const Ref<CALayer>& sublayer, std::size_t index) {
+    send<"-[CALayer insertSublayer:atIndex:]", void>(*this, sublayer, static_cast<std::uint32_t>(index));
+}
 
 double CALayer::cornerRadius() const {
     return send<"-[CALayer cornerRadius]", double>(*this);

@@ -38,6 +38,14 @@ void UIControl::sendActionsForControlEvents(UIControlEvents events) {
     send<"-[UIControl sendActionsForControlEvents:]", void>(*this, events);
 }
 
+void UIControl::setContentHorizontalAlignment(UIControlContentHorizontalAlignment alignment) {
+    send<"-[UIControl setContentHorizontalAlignment:]", void>(*this, alignment);
+}
+
+void UIControl::setContentVerticalAlignment(UIControlContentVerticalAlignment alignment) {
+    send<"-[UIControl setContentVerticalAlignment:]", void>(*this, alignment);
+}
+
 bool UIControl::isTracking() const {
     return send<"-[UIControl isTracking]", bool>(*this);
 }

@@ -10,6 +10,14 @@ public:
         send<"-[UINavigationItem setTitleView:]", void>(*this, view);
     }
 
+    void setLeftBarButtonItem(const Ref<UIBarButtonItem>& item) override {
+        send<"-[UINavigationItem setLeftBarButtonItem:]", void>(*this, item);
+    }
+
+    void setRightBarButtonItem(const Ref<UIBarButtonItem>& item) override {
+        send<"-[UINavigationItem setRightBarButtonItem:]", void>(*this, item);
+    }
+
     void setRightBarButtonItems(std::vector<Ref<UIBarButtonItem>> items) override {
         send<"-[UINavigationItem setRightBarButtonItems:]", void>(*this, items);
     }
@@ -18,3 +26,7 @@ public:
 const FrameworkClassOf<SystemNavigationItem> frameworkClass("UINavigationItem");
 
 } // namespace
+
+Ref<UINavigationItem> UINavigationItem::initWithTitle(std::string_view title) {
+    return makeObject<"-[UINavigationItem initWithTitle:]", UINavigationItem>(title);
+}

@@ -1,6 +1,11 @@
 #include "UIKit/UIView.h"
 
 #include "FrameworkClass.h"
+#include "UIKit/NSLayoutDimension.h"
+#include "UIKit/NSLayoutXAxisAnchor.h"
+#include "UIKit/NSLayoutYAxisAnchor.h"
+#include "UIKit/UILayoutGuide.h"
+#include "UIKit/UITapGestureRecognizer.h"
 #include "UIViewPeer.h"
 
 namespace {
@@ -10,7 +15,9 @@ const FrameworkClassOf<NSCoder> coderClass("NSCoder");
 const FrameworkClassOf<UIView, UIResponder>
     frameworkClass("UIView", {initialiser<"-[UIView initWithFrame:]", &UIView::initWithFrame>(),
                               initialiser<"-[UIView initWithCoder:]", &UIView::initWithCoder>(),
-                              overridable<"-[UIView layoutSubviews]", &UIView::layoutSubviews>()});
+                              overridable<"-[UIView layoutSubviews]", &UIView::layoutSubviews>(),
+                              overridable<"-[UIView tintColorDidChange]", &UIView::tintColorDidChange>(),
+                              overridable<"-[UIView didMoveToSuperview]", &UIView::didMoveToSuperview>()});
 
 } // namespace
 
@@ -63,6 +70,10 @@ void UIView::setTintColor(const Ref<UIColor>& color) {
     send<"-[UIView setTintColor:]", void>(*this, color);
 }
 
+Ref<UIColor> UIView::tintColor() const {
+    return send<"-[UIView tintColor]", Ref<UIColor>>(*this);
+}
+
 double UIView::alpha() const {
     return send<"-[UIView alpha]", double>(*this);
 }
@@ -91,6 +102,14 @@ CALayer& UIView::layer() const {
     return *send<"-[UIView layer]", Ref<CALayer>>(*this);
 }
 
+void UIView::setTag(int tag) {
+    send<"-[UIView setTag:]", void>(*this, static_cast<std::int64_t>(tag));
+}
+
+void UIView::addGestureRecognizer(const Ref<UITapGestureRecognizer>& recognizer) {
+    send<"-[UIView addGestureRecognizer:]", void>(*this, recognizer);
+}
+
 void UIView::addSubview(const Ref<UIView>& view) {
     send<"-[UIView addSubview:]", void>(*this, view);
 }
@@ -99,8 +118,64 @@ void UIView::insertSubview(const Ref<UIView>& view, std::size_t index) {
     send<"-[UIView insertSubview:atIndex:]", void>(*this, view, static_cast<std::int64_t>(index));
 }
 
+std::vector<Ref<UIView>> UIView::subviews() const {
+    return send<"-[UIView subviews]", std::vector<Ref<UIView>>>(*this);
+}
+
+void UIView::setTranslatesAutoresizingMaskIntoConstraints(bool translates) {
+    send<"-[UIView setTranslatesAutoresizingMaskIntoConstraints:]", void>(*this, translates);
+}
+
+Ref<NSLayoutXAxisAnchor> UIView::leadingAnchor() const {
+    return send<"-[UIView leadingAnchor]", Ref<NSLayoutXAxisAnchor>>(*this);
+}
+
+Ref<NSLayoutXAxisAnchor> UIView::trailingAnchor() const {
+    return send<"-[UIView trailingAnchor]", Ref<NSLayoutXAxisAnchor>>(*this);
+}
+
+Ref<NSLayoutXAxisAnchor> UIView::centerXAnchor() const {
+    return send<"-[UIView centerXAnchor]", Ref<NSLayoutXAxisAnchor>>(*this);
+}
+
+Ref<NSLayoutYAxisAnchor> UIView::topAnchor() const {
+    return send<"-[UIView topAnchor]", Ref<NSLayoutYAxisAnchor>>(*this);
+}
+
+Ref<NSLayoutYAxisAnchor> UIView::bottomAnchor() const {
+    return send<"-[UIView bottomAnchor]", Ref<NSLayoutYAxisAnchor>>(*this);
+}
+
+Ref<NSLayoutYAxisAnchor> UIView::centerYAnchor() const {
+    return send<"-[UIView centerYAnchor]", Ref<NSLayoutYAxisAnchor>>(*this);
+}
+
+Ref<NSLayoutDimension> UIView::widthAnchor() const {
+    return send<"-[UIView widthAnchor]", Ref<NSLayoutDimension>>(*this);
+}
+
+Ref<NSLayoutDimension> UIView::heightAnchor() const {
+    return send<"-[UIView heightAnchor]", Ref<NSLayoutDimension>>(*this);
+}
+
+Ref<UILayoutGuide> UIView::safeAreaLayoutGuide() const {
+    return send<"-[UIView safeAreaLayoutGuide]", Ref<UILayoutGuide>>(*this);
+}
+
+void UIView::setLayoutMargins(const UIEdgeInsets& margins) {
+    send<"-[UIView setLayoutMargins:]", void>(*this, margins);
+}
+
 void UIView::layoutSubviews() {
     sendToBase<"-[UIView layoutSubviews]", void>(*this);
+}
+
+void UIView::tintColorDidChange() {
+    sendToBase<"-[UIView tintColorDidChange]", void>(*this);
+}
+
+void UIView::didMoveToSuperview() {
+    sendToBase<"-[UIView didMoveToSuperview]", void>(*this);
 }
 
 void UIView::animateWithDuration(double duration, double delay, UIViewAnimationOptions options,
