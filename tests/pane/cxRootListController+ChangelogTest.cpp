@@ -73,7 +73,6 @@ TEST_F(cxRootListControllerChangelogTest, TheFirstOpeningShowsWhatIsNew) {
 TEST_F(cxRootListControllerChangelogTest, TheMarkerIsStoredAsSoonAsTheSheetIsPresented) {
     static_cast<void>(navigation->view());
     window->setRootViewController(navigation);
-    screen.addWindow(window);
     navigation->pushViewController(page, false);
     EXPECT_EQ(stored(markerKey), PropertyList("3.0.1")) << "no time has passed";
     settle();

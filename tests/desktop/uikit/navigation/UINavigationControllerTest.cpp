@@ -68,7 +68,6 @@ TEST_F(UINavigationControllerTest, whileItIsNotShownPagesAreTakenInSilently) {
     EXPECT_THAT(log, ElementsAre());
     EXPECT_THAT(titles(), ElementsAre("A", "B"));
     window->setRootViewController(navigation);
-    screen.addWindow(window);
     EXPECT_THAT(log, ElementsAre("viewDidLoad B", "viewWillAppear B", "viewDidAppear B"));
 }
 
