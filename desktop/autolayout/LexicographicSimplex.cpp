@@ -121,25 +121,6 @@ void LexicographicSimplex::removeCondition(const OwnSymbols& own) {
     restoreOptimum(std::move(suspects));
 }
 
-void LexicographicSimplex::addConstant(const OwnSymbols& errors, double amount) {
-    journal_.clear();
-    const auto above = errors[0];
-    const auto below = errors[1];
-    const auto add = [this](Symbol basic, double change) {
-        tableau_.addConstant(basic, change);
-        suspects_.insert(basic);
-    };
-    if (tableau_.isBasic(above)) {
-        add(above, amount);
-    } else if (tableau_.isBasic(below)) {
-        add(below, -amount);
-    } else {
-        for (const auto basic : tableau_.column(above))
-            add(basic, -amount * tableau_.row(basic).coefficient(above));
-    }
-    restoreFeasibility();
-}
-
 double LexicographicSimplex::evaluate(const SparseRow& row) const {
     double sum = row.constant();
     for (const auto& [symbol, coefficient] : row.terms())

@@ -9,7 +9,7 @@
 #include <vector>
 
 /// A linear programme over symbols that are zero or more, at its least cost at all times: the dual simplex
-/// method follows conditions that come and constants that change, the primal one conditions that go. Owned by
+/// method follows conditions that come, the primal one conditions that go. Owned by
 /// a solver.
 class LexicographicSimplex {
 public:
@@ -46,9 +46,6 @@ public:
     /// gets the same conditions afresh does better.
     [[nodiscard]] bool isStuck() const { return stuck_; }
 
-    /// Adds to the constant of the row of a soft equation.
-    void addConstant(const OwnSymbols& errors, double amount);
-
 private:
     struct Pivot {
         Symbol leaving;
@@ -73,6 +70,6 @@ private:
     LexicographicCosts costs_;
     std::vector<bool> fixed_;    ///< whether a symbol has to stay zero, by symbol
     std::set<Symbol> suspects_;  ///< basic symbols that may have become negative
-    std::vector<Pivot> journal_; ///< of the last condition to be added, or of the last change of a constant
+    std::vector<Pivot> journal_; ///< of the last condition to be added
     bool stuck_ = false;
 };

@@ -37,42 +37,6 @@ std::expected<void, LinearSolverError> LinearSolver::removeConstraint(Constraint
     return {};
 }
 
-std::expected<void, LinearSolverError> LinearSolver::addEdit(const LinearVariable& variable,
-                                                             double priority) {
-    if (edits_.contains(variable))
-        return std::unexpected(LinearSolverError::AlreadyEdited);
-    if (priority >= LinearConstraint::required)
-        return std::unexpected(LinearSolverError::EditIsRequired);
-    const auto constraint = addConstraint({variable, LinearRelation::Equal, value(variable), priority});
-    if (!constraint)
-        return std::unexpected(constraint.error());
-    edits_.emplace(variable, *constraint);
-    return {};
-}
-
-std::expected<void, LinearSolverError> LinearSolver::suggestValue(const LinearVariable& variable,
-                                                                  double value) {
-    const auto place = edits_.find(variable);
-    if (place == edits_.end())
-        return std::unexpected(LinearSolverError::UnknownEdit);
-    if (!std::isfinite(value))
-        return std::unexpected(LinearSolverError::NotFinite);
-    auto& edit = constraints_.at(place->second);
-    const LinearConstraint suggestion(variable, LinearRelation::Equal, value, edit.statement.priority());
-    simplex_.addConstant(edit.own,
-                         suggestion.difference().constant() - edit.statement.difference().constant());
-    edit.statement = suggestion;
-    rebuildIfStuck();
-    return {};
-}
-
-std::expected<void, LinearSolverError> LinearSolver::removeEdit(const LinearVariable& variable) {
-    const auto edit = edits_.extract(variable);
-    if (edit.empty())
-        return std::unexpected(LinearSolverError::UnknownEdit);
-    return removeConstraint(edit.mapped());
-}
-
 double LinearSolver::value(const LinearVariable& variable) const {
     const auto place = variables_.find(variable);
     if (place == variables_.end())
@@ -81,7 +45,7 @@ double LinearSolver::value(const LinearVariable& variable) const {
 }
 
 bool LinearSolver::isEmpty() const {
-    return constraints_.empty() && variables_.empty() && edits_.empty() && !simplex_.hasSymbols();
+    return constraints_.empty() && variables_.empty() && !simplex_.hasSymbols();
 }
 
 const LinearSolver::Parts& LinearSolver::use(const LinearVariable& variable) {

@@ -12,9 +12,6 @@ enum class LinearSolverError {
     Unsatisfiable,     ///< it is required, and contradicts others that are
     NotFinite,         ///< a number in it is infinite or none
     UnknownConstraint, ///< the solver does not hold it
-    UnknownEdit,       ///< the variable is not being edited
-    AlreadyEdited,     ///< the variable is
-    EditIsRequired,    ///< an edit has to be able to give way
 };
 
 /// Finds the values of variables that satisfy all required linear constraints and, as well as can be, the
@@ -32,19 +29,10 @@ public:
 
     std::expected<void, LinearSolverError> removeConstraint(ConstraintId constraint);
 
-    /// Begins to hold a variable at a value, first at the one that it has.
-    /// \param priority below `LinearConstraint::required`
-    std::expected<void, LinearSolverError> addEdit(const LinearVariable& variable, double priority);
-
-    /// Changes the value that a variable is held at.
-    std::expected<void, LinearSolverError> suggestValue(const LinearVariable& variable, double value);
-
-    std::expected<void, LinearSolverError> removeEdit(const LinearVariable& variable);
-
     /// 0 for a variable that no constraint has.
     [[nodiscard]] double value(const LinearVariable& variable) const;
 
-    /// Whether it holds no constraint, no edit and nothing that remains of earlier ones.
+    /// Whether it holds no constraint and nothing that remains of earlier ones.
     [[nodiscard]] bool isEmpty() const;
 
 private:
@@ -70,6 +58,5 @@ private:
     LexicographicSimplex simplex_;
     std::map<LinearVariable, Parts> variables_;
     std::map<ConstraintId, Constraint> constraints_;
-    std::map<LinearVariable, ConstraintId> edits_;
     std::uint64_t added_ = 0;
 };

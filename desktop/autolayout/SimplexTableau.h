@@ -36,8 +36,6 @@ public:
     /// Solves the row of `leaving` for `entering`, which stands in it. \returns the other rows that changed
     std::vector<Symbol> pivot(Symbol leaving, Symbol entering);
 
-    void addConstant(Symbol basic, double amount) { entries_[basic].row.addConstant(amount); }
-
 private:
     struct Entry {
         bool basic = false;

@@ -75,23 +75,6 @@ TEST_F(LexicographicSimplexTest, ASoftInequalityIsChargedOnlyBelowZero) {
     expectValues(8, 12);
 }
 
-TEST_F(LexicographicSimplexTest, ConstantsOfSoftEquationsChangeWhoeverIsBasic) {
-    const auto soft = simplex.addSoftEquation(row(-10, 1), 250, 0);
-    ASSERT_TRUE(simplex.addInequality(row(15, -1))); // x <= 15
-    simplex.addConstant(soft, -2);
-    expectValues(12, 0);
-    simplex.addConstant(soft, -8);
-    expectValues(15, 0);
-    EXPECT_DOUBLE_EQ(simplex.value(soft[1]), 5);
-    simplex.addConstant(soft, 25);
-    expectValues(0, 0);
-    EXPECT_DOUBLE_EQ(simplex.value(soft[0]), 5);
-    simplex.addConstant(soft, 1);
-    EXPECT_DOUBLE_EQ(simplex.value(soft[0]), 6);
-    simplex.addConstant(soft, -7);
-    expectValues(1, 0);
-}
-
 TEST_F(LexicographicSimplexTest, ARedundantEquationTakesTheOthersPlace) {
     const auto first = simplex.addEquation(row(-10, 1, 1));
     const auto second = simplex.addEquation(row(-20, 2, 2));

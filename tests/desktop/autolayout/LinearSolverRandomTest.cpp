@@ -6,30 +6,25 @@
 #include <algorithm>
 #include <array>
 #include <iterator>
-#include <map>
 #include <optional>
 #include <random>
+#include <vector>
 
 namespace {
 
 /// A solver that random steps are taken with, and what it should hold.
 class Walk {
 public:
-    static constexpr double editPriority = 500;
-
     Walk(unsigned seed, std::size_t variableCount, std::size_t constraintLimit)
         : random_(seed),
           variables_(variableCount),
           limit_(constraintLimit) {}
 
     void step() {
-        const auto choice = pick(0, 9);
-        if (choice < 4 && held_.size() < limit_)
+        if (held_.empty() || (held_.size() < limit_ && pick(0, 9) < 6))
             add();
-        else if (choice < 6 && !held_.empty())
-            remove();
         else
-            edit();
+            remove();
     }
 
     void addUntilFull() {
@@ -42,11 +37,11 @@ public:
             remove();
     }
 
-    /// All constraints, and edits as constraints, in order of adding.
+    /// All constraints, in order of adding.
     [[nodiscard]] std::vector<LinearConstraint> constraints() const {
         std::vector<LinearConstraint> all;
         all.reserve(held_.size());
-        for (const auto& [order, held] : held_)
+        for (const auto& held : held_)
             all.push_back(held.constraint);
         return all;
     }
@@ -72,8 +67,7 @@ public:
 private:
     struct Held {
         LinearConstraint constraint;
-        std::optional<LinearSolver::ConstraintId> id; ///< none for an edit
-        std::optional<LinearVariable> edited;
+        LinearSolver::ConstraintId id;
     };
 
     int pick(int least, int most) { return std::uniform_int_distribution(least, most)(random_); }
@@ -103,7 +97,7 @@ private:
         const auto before = values();
         const auto id = solver_.addConstraint(constraint);
         if (id) {
-            held_.emplace(steps_++, Held{constraint, *id, std::nullopt});
+            held_.push_back({constraint, *id});
             return;
         }
         EXPECT_EQ(id.error(), LinearSolverError::Unsatisfiable);
@@ -115,30 +109,8 @@ private:
 
     void remove() {
         const auto place = std::next(held_.begin(), pick(0, static_cast<int>(held_.size()) - 1));
-        if (const auto& held = place->second; held.edited)
-            EXPECT_TRUE(solver_.removeEdit(*held.edited));
-        else
-            EXPECT_TRUE(solver_.removeConstraint(*held.id));
+        EXPECT_TRUE(solver_.removeConstraint(place->id));
         held_.erase(place);
-    }
-
-    /// Changes the edit that there is, or begins one.
-    void edit() {
-        const auto isEdit = [](const auto& entry) { return entry.second.edited.has_value(); };
-        auto place = std::ranges::find_if(held_, isEdit);
-        if (place == held_.end())
-            place = beginEdit();
-        auto& held = place->second;
-        const double value = pick(-30, 30);
-        EXPECT_TRUE(solver_.suggestValue(*held.edited, value));
-        held.constraint = {*held.edited, LinearRelation::Equal, value, editPriority};
-    }
-
-    std::map<int, Held>::iterator beginEdit() {
-        const auto variable = pickVariable();
-        EXPECT_TRUE(solver_.addEdit(variable, editPriority));
-        const LinearConstraint constraint(variable, LinearRelation::Equal, 0, editPriority);
-        return held_.emplace(steps_++, Held{constraint, std::nullopt, variable}).first;
     }
 
     [[nodiscard]] std::vector<double> valuesOf(const LinearSolver& solver) const {
@@ -153,8 +125,7 @@ private:
     std::vector<LinearVariable> variables_;
     std::size_t limit_;
     LinearSolver solver_;
-    std::map<int, Held> held_; ///< by order of adding
-    int steps_ = 0;
+    std::vector<Held> held_; ///< in order of adding
     std::optional<LinearConstraint> refused_;
 };
 

@@ -88,8 +88,3 @@ TEST_F(SimplexTableauTest, ADroppedSymbolLeavesTheRows) {
     EXPECT_EQ(tableau.row(c).terms().size(), 1U);
     EXPECT_TRUE(tableau.row(d).terms().empty());
 }
-
-TEST_F(SimplexTableauTest, ConstantsChangeByThemselves) {
-    tableau.addConstant(d, -6);
-    EXPECT_EQ(tableau.value(d), -2);
-}
