@@ -4,7 +4,6 @@
 #include "ObjectiveC/Class.h"
 #include "UIKit/UINavigationController.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace {
@@ -83,29 +82,6 @@ void PSListControllerPeer::reloadSpecifiers() {
 void PSListControllerPeer::reloadSpecifier(const PSSpecifier& specifier) {
     if (rows_)
         rows_->refresh(specifier);
-}
-
-void PSListControllerPeer::insertSpecifiers(const Specifiers& specifiers, std::size_t index, bool animated) {
-    const auto place = static_cast<std::ptrdiff_t>(std::min(index, cachedSpecifiers_.size()));
-    cachedSpecifiers_.insert(cachedSpecifiers_.begin() + place, specifiers.begin(), specifiers.end());
-    showKept(animated);
-}
-
-void PSListControllerPeer::removeSpecifiers(const Specifiers& specifiers, bool animated) {
-    std::erase_if(cachedSpecifiers_, [&specifiers](const Ref<PSSpecifier>& kept) {
-        return std::ranges::find(specifiers, kept) != specifiers.end();
-    });
-    showKept(animated);
-}
-
-void PSListControllerPeer::showKept(bool animated) {
-    if (!rows_)
-        return;
-    auto sections = sectionsOf(cachedSpecifiers_);
-    if (animated)
-        rows_->slideTo(std::move(sections));
-    else
-        rows_->show(std::move(sections));
 }
 
 std::vector<PSListControllerPeer::Place> PSListControllerPeer::places() {

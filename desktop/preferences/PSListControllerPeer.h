@@ -42,12 +42,6 @@ public:
     /// Shows one row's properties and value as they are now. A row that is not shown is ignored.
     void reloadSpecifier(const PSSpecifier& specifier);
 
-    /// Puts rows among the kept ones, before the one at `index`; beyond the end is the end.
-    void insertSpecifiers(const Specifiers& specifiers, std::size_t index, bool animated);
-
-    /// Takes rows out of the kept ones.
-    void removeSpecifiers(const Specifiers& specifiers, bool animated);
-
     /// Every row that the page has, hidden ones and the heads of groups too, in the order of its list.
     [[nodiscard]] std::vector<ListRow> rows();
 
@@ -80,7 +74,6 @@ private:
     [[nodiscard]] SpecifierTable& shownRows();
     [[nodiscard]] std::vector<Place> places();
     [[nodiscard]] ListRow rowAt(const Place& place);
-    void showKept(bool animated);
     void select(DesktopSpecifier& specifier);
     [[nodiscard]] bool openDetail(DesktopSpecifier& specifier);
 

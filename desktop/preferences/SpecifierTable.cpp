@@ -25,26 +25,8 @@ NSTextAlignment alignmentOf(const DesktopSpecifier& group) {
                                                               : NSTextAlignment::Natural;
 }
 
-bool hasSameGroups(const SpecifierTable::Sections& left, const SpecifierTable::Sections& right) {
-    return std::ranges::equal(left, right, {}, &SpecifierSection::group, &SpecifierSection::group);
-}
-
 bool isAmong(const std::vector<Ref<DesktopSpecifier>>& rows, const Ref<DesktopSpecifier>& row) {
     return std::ranges::find(rows, row) != rows.end();
-}
-
-/// The places of the rows of `all` that `lacking` has not.
-std::vector<IndexPath> missingFrom(const SpecifierTable::Sections& lacking,
-                                   const SpecifierTable::Sections& all) {
-    std::vector<IndexPath> missing;
-    for (std::size_t section = 0; section < all.size(); ++section) {
-        const auto& rows = all[section].rows;
-        for (std::size_t row = 0; row < rows.size(); ++row) {
-            if (!isAmong(lacking[section].rows, rows[row]))
-                missing.push_back({section, row});
-        }
-    }
-    return missing;
 }
 
 } // namespace
@@ -69,22 +51,6 @@ void SpecifierTable::show(Sections sections) {
     sections_ = std::move(sections);
     forgetViewsOfOthers();
     table().reloadData();
-}
-
-void SpecifierTable::slideTo(Sections sections) {
-    const auto before = this->sections();
-    if (!hasSameGroups(before, sections)) {
-        show(std::move(sections));
-        return;
-    }
-    const auto gone = missingFrom(sections, before);
-    const auto come = missingFrom(before, sections);
-    sections_ = std::move(sections);
-    forgetViewsOfOthers();
-    table().beginUpdates();
-    table().deleteRows(gone);
-    table().insertRows(come);
-    table().endUpdates();
 }
 
 void SpecifierTable::refresh(const PSSpecifier& specifier) {

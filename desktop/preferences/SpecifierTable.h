@@ -34,9 +34,6 @@ public:
     /// Shows other rows, or the same ones with other properties.
     void show(Sections sections);
 
-    /// Shows other rows. When the groups are the same the rows that come and go slide.
-    void slideTo(Sections sections);
-
     /// Shows one row's or group's properties and value as they are now.
     void refresh(const PSSpecifier& specifier);
 

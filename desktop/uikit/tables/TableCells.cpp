@@ -33,20 +33,6 @@ void TableCells::keepOnly(const std::set<IndexPath>& rows) {
     });
 }
 
-std::vector<Ref<UITableViewCell>> TableCells::move(const TableEdits& edits) {
-    std::vector<Ref<UITableViewCell>> leaving;
-    Cells moved;
-    for (const auto& [row, cell] : std::exchange(shown_, {})) {
-        const auto after = edits.after(row);
-        if (after && !edits.isReloaded(row))
-            moved.emplace(*after, cell);
-        else
-            leaving.push_back(cell);
-    }
-    shown_ = std::move(moved);
-    return leaving;
-}
-
 void TableCells::retire(const Ref<UITableViewCell>& cell) {
     cell->peer().removeFromSuperview();
     const auto& identifier = peerOf<UITableViewCellPeer>(*cell).reuseIdentifier();

@@ -2,14 +2,12 @@
 
 #include "UIKit/UITableViewCell.h"
 #include "tables/IndexPath.h"
-#include "tables/TableEdits.h"
 
 #include <map>
 #include <optional>
 #include <set>
 #include <string>
 #include <string_view>
-#include <vector>
 
 /// The cells of a table: those that show rows, and those that wait to show others.
 class TableCells {
@@ -32,13 +30,10 @@ public:
     /// The cells of all other rows leave the table and wait.
     void keepOnly(const std::set<IndexPath>& rows);
 
-    /// Cells go to where their rows move. \returns those whose rows are taken out or shown anew
-    [[nodiscard]] std::vector<Ref<UITableViewCell>> move(const TableEdits& edits);
-
+private:
     /// A cell leaves the table; it waits when it has an identifier.
     void retire(const Ref<UITableViewCell>& cell);
 
-private:
     Cells shown_;
     std::multimap<std::string, Ref<UITableViewCell>, std::less<>> waiting_;
 };

@@ -58,12 +58,3 @@ bool TableHeights::setMeasured(IndexPath row, double height) {
     measured_.insert_or_assign(row, height);
     return std::exchange(sections_[row.section].rows[row.row], height) != height;
 }
-
-void TableHeights::move(const TableEdits& edits) {
-    std::map<IndexPath, double> moved;
-    for (const auto& [row, height] : measured_) {
-        if (const auto after = edits.after(row); after && !edits.isReloaded(row))
-            moved.emplace(*after, height);
-    }
-    measured_ = std::move(moved);
-}

@@ -2,7 +2,6 @@
 
 #include "tables/IndexPath.h"
 #include "tables/TableContent.h"
-#include "tables/TableEdits.h"
 #include "tables/TableLayout.h"
 #include "tables/TableMetrics.h"
 
@@ -34,9 +33,6 @@ public:
 
     /// \returns whether the height is another than before
     bool setMeasured(IndexPath row, double height);
-
-    /// What has been measured goes to where its rows have moved to.
-    void move(const TableEdits& edits);
 
     void forgetMeasured() { measured_.clear(); }
 

@@ -23,7 +23,6 @@ void UITableViewPeer::setContent(TableContent* content) {
 void UITableViewPeer::reloadData() {
     cells_.keepOnly({});
     captions_.clear();
-    edits_ = {};
     selected_.reset();
     highlighted_.reset();
     heights_.forgetMeasured();

@@ -5,7 +5,6 @@
 #include "tables/TableCaptionViews.h"
 #include "tables/TableCells.h"
 #include "tables/TableContent.h"
-#include "tables/TableEdits.h"
 #include "tables/TableHeights.h"
 #include "tables/TableLayout.h"
 
@@ -13,7 +12,6 @@
 #include <optional>
 #include <set>
 #include <string_view>
-#include <vector>
 
 /// The desktop's half of a table: makes cells for the rows near the screen, places them, and follows the
 /// fingers on them. Made with the table.
@@ -32,15 +30,11 @@ public:
         return cells_.takeWaiting(identifier);
     }
 
-    // Changes between the first begin and the last end go together, and slide. Without any, heights are asked
-    // anew. Rows taken out or reloaded are named by their places before the changes, rows put in by those
-    // after. When the content's rows do not agree in number, a log line says so and all is shown anew.
+    // At the last end heights are asked anew, and the rows slide to where they are now. When the content's
+    // rows are others in number, a log line says so and all is shown anew.
     void beginUpdates() { ++updateDepth_; }
 
     void endUpdates();
-    void insertRows(const std::vector<IndexPath>& rows);
-    void deleteRows(const std::vector<IndexPath>& rows);
-    void reloadRows(const std::vector<IndexPath>& rows);
 
     // Where things are, in the table's content.
     [[nodiscard]] const TableLayout& layout();
@@ -90,7 +84,6 @@ public:
 
 private:
     using Rows = std::set<IndexPath>;
-    using Cells = std::vector<Ref<UITableViewCell>>;
 
     [[nodiscard]] TableMetrics metrics() const;
     /// Asks for the heights when they may have changed.
@@ -110,21 +103,18 @@ private:
     [[nodiscard]] CGRect cardRect(const TableLayout::Span& span) const;
     void setHighlighted(std::optional<IndexPath> row);
 
-    [[nodiscard]] bool editsAgree(const TableEdits& edits) const;
-    void applyEdits(const TableEdits& edits);
-    /// Makes what comes near the screen, where it was before. \returns the cells of rows that are put in
-    [[nodiscard]] Cells makeEnteringCells(const TableEdits& edits, const TableLayout& before);
-    [[nodiscard]] CGRect rectBefore(IndexPath row, const TableEdits& edits, const TableLayout& before) const;
-    void cutOffWhatComesAndGoes(const TableEdits& edits, const TableLayout& before);
-    void slide(const Cells& entering, const Cells& leaving);
-    void slideEnded(const Cells& leaving);
+    /// Whether the content has as many rows as were laid out.
+    [[nodiscard]] bool hasSameRows() const;
+    void slideToNewHeights();
+    /// Makes what comes near the screen, where it was before.
+    void makeComingCells(const TableLayout& before);
+    void cutOffWhatComesAndGoes(const TableLayout& before);
 
     TableContent* content_ = nullptr;
     TableHeights heights_;
     TableLayout layout_;
     TableCells cells_;
     TableCaptionViews captions_;
-    TableEdits edits_;
     std::optional<IndexPath> selected_;
     std::optional<IndexPath> highlighted_;
     double laidOutWidth_ = -1;

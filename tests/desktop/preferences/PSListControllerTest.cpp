@@ -18,14 +18,6 @@ Texts identifiers(const std::vector<ListRow>& rows) {
     return found;
 }
 
-PSListController::Specifiers newRows(const Texts& ids) {
-    PSListController::Specifiers specifiers;
-    for (const auto& id : ids)
-        specifiers.emplace_back(make<DesktopSpecifier>(
-            PropertyList::Dictionary{{"cell", "PSStaticTextCell"}, {"id", id}, {"label", id}}));
-    return specifiers;
-}
-
 } // namespace
 
 TEST_F(PSListControllerTest, ShowsTheRowsOfItsBundlesList) {
@@ -158,45 +150,6 @@ TEST_F(PSListControllerTest, ReloadingAllAsksForTheListAnew) {
     EXPECT_EQ(cellPeer("c").textLabel().text(), "Row c");
 }
 
-TEST_F(PSListControllerTest, RowsThatArePutInSlide) {
-    writeList({row("PSGroupCell", "head"), row("PSStaticTextCell", "a"), row("PSStaticTextCell", "b")});
-    show();
-    const auto top = listRow("b").frame.origin.y;
-    const auto& moving = cell("b").layer().peer();
-    const auto before = moving.shownValue(LayerProperty::Position)[1];
-    peer().insertSpecifiers(newRows({"x", "y"}), 2, true);
-    EXPECT_EQ(identifiers(peer().rows()), (Texts{"head", "a", "x", "y", "b"}));
-    EXPECT_EQ(listRow("b").frame.origin.y, top + 88);
-    EXPECT_EQ(moving.shownValue(LayerProperty::Position)[1], before);
-    advance(301ms);
-    EXPECT_EQ(moving.shownValue(LayerProperty::Position)[1], before + 88);
-    EXPECT_EQ(cellPeer("x").textLabel().text(), "x");
-}
-
-TEST_F(PSListControllerTest, RowsAreTakenOut) {
-    writeList({row("PSGroupCell", "head"), row("PSStaticTextCell", "a"), row("PSStaticTextCell", "b")});
-    show();
-    const auto top = listRow("a").frame.origin.y;
-    peer().removeSpecifiers({page_->specifierForID("a")}, true);
-    advance(301ms);
-    EXPECT_EQ(identifiers(peer().rows()), (Texts{"head", "b"}));
-    EXPECT_EQ(listRow("b").frame.origin.y, top);
-    peer().removeSpecifiers({page_->specifierForID("b")}, false);
-    EXPECT_EQ(identifiers(peer().rows()), (Texts{"head"}));
-}
-
-TEST_F(PSListControllerTest, GroupsComeAndGoAtOnce) {
-    writeList({row("PSGroupCell", "head"), row("PSStaticTextCell", "a"), row("PSStaticTextCell", "b")});
-    show();
-    auto group = make<DesktopSpecifier>(PropertyList::Dictionary{{"cell", "PSGroupCell"}, {"id", "second"}});
-    peer().insertSpecifiers({group}, 2, true);
-    screen.layoutIfNeeded();
-    EXPECT_EQ(identifiers(peer().rows()), (Texts{"head", "a", "second", "b"}));
-    EXPECT_EQ(peer().table().layout().sectionCount(), 2U);
-    peer().insertSpecifiers(newRows({"last"}), 100, true);
-    EXPECT_EQ(identifiers(peer().rows()).back(), "last");
-}
-
 TEST_F(PSListControllerTest, ScrollsRowsIntoView) {
     std::vector<std::string> items(60);
     for (std::size_t number = 0; number < items.size(); ++number)
@@ -225,9 +178,8 @@ TEST_F(PSListControllerTest, ValuesAndReloadsBeforeTheViewIsThereDoNoHarm) {
     page->reloadSpecifiers();
     auto& early = peerOf<PSListControllerPeer>(*page);
     early.setValue(dynamic_cast<DesktopSpecifier&>(*page->specifierForID("a")), true);
-    early.insertSpecifiers(newRows({"b"}), 0, true);
     EXPECT_FALSE(early.isViewLoaded());
-    EXPECT_EQ(identifiers(early.rows()), (Texts{"b", "a"}));
+    EXPECT_EQ(identifiers(early.rows()), (Texts{"a"}));
 }
 
 TEST_F(PSListControllerTest, TheTableOutlivesThePage) {
