@@ -76,14 +76,6 @@ void UINavigationControllerPeer::pop(bool animated) {
     });
 }
 
-void UINavigationControllerPeer::popTo(const Ref<UIViewController>& page, bool animated) {
-    whenIdle([this, page, animated] {
-        const auto found = std::ranges::find(stack_, page);
-        if (found != stack_.end())
-            replaceStack(Stack(stack_.begin(), found + 1), animated);
-    });
-}
-
 void UINavigationControllerPeer::setViewControllers(const Stack& stack, bool animated) {
     whenIdle([this, stack, animated] { replaceStack(stack, animated); });
 }

@@ -33,8 +33,6 @@ public:
     void push(const Ref<UIViewController>& page, bool animated);
     /// Takes the top away; the root stays.
     void pop(bool animated);
-    /// Takes away all that is above `page`; nothing happens when it is not on the stack.
-    void popTo(const Ref<UIViewController>& page, bool animated);
     /// A top that was on the stack before comes as by a pop, another one as by a push.
     void setViewControllers(const Stack& stack, bool animated);
 

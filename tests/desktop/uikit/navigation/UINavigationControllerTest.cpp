@@ -100,17 +100,6 @@ TEST_F(UINavigationControllerTest, aPageIsOnTheStackOnce) {
     EXPECT_THAT(device.log().take(), ElementsAre(HasSubstr("which it shows already")));
 }
 
-TEST_F(UINavigationControllerTest, popToTakesAwayAllThatIsAbove) {
-    show({a, b, c});
-    peer().popTo(a, true);
-    settle();
-    EXPECT_THAT(titles(), ElementsAre("A"));
-    EXPECT_FALSE(b->navigationController());
-    EXPECT_FALSE(c->navigationController());
-    peer().popTo(c, true);
-    EXPECT_THAT(titles(), ElementsAre("A"));
-}
-
 TEST_F(UINavigationControllerTest, anotherStackComesFromTheSideThatItsTopBelongsTo) {
     show({a, b});
     peer().setViewControllers({a}, true);
