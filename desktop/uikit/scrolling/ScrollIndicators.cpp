@@ -79,8 +79,6 @@ void ScrollIndicators::place() {
 }
 
 void ScrollIndicators::show() {
-    if (!enabled_)
-        return;
     scroll_.bringSubviewToFront(*horizontal_);
     scroll_.bringSubviewToFront(*vertical_);
     place();

@@ -10,8 +10,6 @@ class ScrollIndicators {
 public:
     explicit ScrollIndicators(UIScrollViewPeer& scroll);
 
-    void setEnabled(bool enabled) { enabled_ = enabled; }
-
     /// Brings the bars to where the contents now stand.
     void place();
     void show();
@@ -24,5 +22,4 @@ private:
     UIScrollViewPeer& scroll_;
     Ref<UIView> vertical_;
     Ref<UIView> horizontal_;
-    bool enabled_ = true;
 };

@@ -109,10 +109,6 @@ void UIScrollViewPeer::setScrollEnabled(bool enabled) {
     pan_->setEnabled(enabled);
 }
 
-void UIScrollViewPeer::setShowsIndicators(bool shows) {
-    indicators_->setEnabled(shows);
-}
-
 bool UIScrollViewPeer::scrollsHorizontally() const {
     return maximumOffset().x > minimumOffset().x;
 }

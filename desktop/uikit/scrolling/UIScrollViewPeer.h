@@ -61,8 +61,6 @@ public:
 
     [[nodiscard]] bool delaysContentTouches() const { return delaysContentTouches_; }
 
-    void setShowsIndicators(bool shows);
-
     [[nodiscard]] PanGestureRecognizer& panGestureRecognizer() const { return *pan_; }
 
     /// Whether a finger moves the contents.
