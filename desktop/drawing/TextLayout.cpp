@@ -136,14 +136,9 @@ void TextLayout::breakParagraph(qsizetype begin, qsizetype end) {
 void TextLayout::cutLastLine(qsizetype paragraphEnd) {
     auto& line = lines_.back();
     const auto begin = line.offset + line.textLine().textStart();
-    auto text = text_.string().mid(begin, paragraphEnd - begin);
-    line.end = paragraphEnd;
-    if (options_.truncation == Truncation::Tail) {
-        text = beginningWithRoomForEllipsis(text);
-        line.end = begin + text.size();
-        text += ellipsis;
-    }
-    line.layout = layoutOf(text);
+    const auto text = beginningWithRoomForEllipsis(text_.string().mid(begin, paragraphEnd - begin));
+    line.end = begin + text.size();
+    line.layout = layoutOf(text + ellipsis);
     line.number = 0;
     line.offset = begin;
     layOutFirstLine(*line.layout, QTextOption::NoWrap, unlimited);
@@ -264,8 +259,6 @@ void TextLayout::paint(QPainter& painter, QPointF origin, const QColor& color) c
     painter.save();
     painter.setPen(color);
     painter.setRenderHint(QPainter::TextAntialiasing);
-    if (isTruncated_ && options_.truncation == Truncation::Clip)
-        painter.setClipRect(QRectF(origin, QSizeF(boxWidth(), size().height())), Qt::IntersectClip);
     painter.translate(origin);
     painter.scale(unit_, unit_);
     for (std::size_t number = 0; number < lines_.size(); ++number) {

@@ -18,22 +18,16 @@ class QPainter;
 
 enum class HorizontalAlignment { Left, Center, Right };
 
-/// What becomes of the last line that may be shown when there is more text than fits.
-enum class Truncation {
-    Tail, ///< it ends with an ellipsis
-    Clip  ///< it goes on, and what is too wide is not painted
-};
-
 struct TextLayoutOptions {
     double maximumWidth = std::numeric_limits<double>::infinity(); ///< in points
     std::size_t maximumLines = 0;                                  ///< 0 is without limit
     HorizontalAlignment alignment = HorizontalAlignment::Left;
-    Truncation truncation = Truncation::Tail;
     double pixelScale = 1; ///< pixels in a point; sizes are whole pixels
 };
 
 /// A text in one style, broken into lines as the platform's labels break it. Wraps between words, within a
-/// word only where it does not fit a line alone; a line feed starts a new line. Its owner makes another when
+/// word only where it does not fit a line alone; a line feed starts a new line. The last line that may be
+/// shown ends with an ellipsis when there is more text. Its owner makes another when
 /// text, style or room change. Positions are points from the layout's upper left corner, indexes are bytes of
 /// the UTF-8 text and stand before a character as a reader counts them (a grapheme cluster) or at the end.
 class TextLayout {

@@ -68,11 +68,6 @@ void UILabelPeer::setNumberOfLines(std::size_t lines) {
     changed();
 }
 
-void UILabelPeer::setTruncation(Truncation truncation) {
-    truncation_ = truncation;
-    changed();
-}
-
 void UILabelPeer::setMinimumScaleFactor(double factor) {
     minimumScaleFactor_ = factor;
     changed();
@@ -96,11 +91,9 @@ CGSize UILabelPeer::textSize(double width) const {
     const auto& text = text_.value_or(std::string());
     if (text.empty())
         return {};
-    const TextLayout layout(text, fontStyle_,
-                            {.maximumWidth = width,
-                             .maximumLines = numberOfLines_,
-                             .truncation = truncation_,
-                             .pixelScale = traits().displayScale});
+    const TextLayout layout(
+        text, fontStyle_,
+        {.maximumWidth = width, .maximumLines = numberOfLines_, .pixelScale = traits().displayScale});
     return {layout.size().width(), layout.size().height()};
 }
 
@@ -151,7 +144,6 @@ const TextLayout& UILabelPeer::layoutFor(CGSize size, double scale) const {
         const TextLayoutOptions options{.maximumWidth = size.width,
                                         .maximumLines = lineLimit(style, size.height),
                                         .alignment = horizontal(textAlignment_),
-                                        .truncation = truncation_,
                                         .pixelScale = scale};
         laid_.emplace(Laid{size, scale, TextLayout(text_.value_or(std::string()), style, options)});
     }

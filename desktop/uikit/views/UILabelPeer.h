@@ -41,8 +41,6 @@ public:
 
     void setNumberOfLines(std::size_t lines);
 
-    void setTruncation(Truncation truncation);
-
     /// How small a text of one line may be made to fit the bounds' width, as a part of its size; 1 keeps the
     /// size.
     void setMinimumScaleFactor(double factor);
@@ -87,7 +85,6 @@ private:
     Ref<UIColor> textColor_;
     NSTextAlignment textAlignment_ = NSTextAlignment::Natural;
     std::size_t numberOfLines_ = 1;
-    Truncation truncation_ = Truncation::Tail;
     double minimumScaleFactor_ = 1;
     double preferredMaxLayoutWidth_ = 0;
     mutable std::optional<Laid> laid_;

@@ -171,14 +171,6 @@ TEST(TextLayoutTest, NoLineIsWiderThanAllowed) {
     }
 }
 
-TEST(TextLayoutTest, AClippedLineIsAsWideAsTheRoom) {
-    const TextLayout layout("Automatic Updates", body,
-                            {.maximumWidth = 50, .maximumLines = 1, .truncation = Truncation::Clip});
-    EXPECT_TRUE(layout.isTruncated());
-    EXPECT_EQ(layout.lineCount(), 1U);
-    EXPECT_DOUBLE_EQ(layout.size().width(), 50);
-}
-
 TEST(TextLayoutTest, LinesAreAlignedWithinTheMaximumWidth) {
     for (const auto* const text : {"one", "אחת"}) {
         const auto lineIn = [&](HorizontalAlignment alignment) {
