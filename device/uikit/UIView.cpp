@@ -50,16 +50,8 @@ CGRect UIView::bounds() const {
     return send<"-[UIView bounds]", CGRect>(*this);
 }
 
-CGPoint UIView::center() const {
-    return send<"-[UIView center]", CGPoint>(*this);
-}
-
 void UIView::setCenter(CGPoint center) {
     send<"-[UIView setCenter:]", void>(*this, center);
-}
-
-Ref<UIColor> UIView::backgroundColor() const {
-    return send<"-[UIView backgroundColor]", Ref<UIColor>>(*this);
 }
 
 void UIView::setBackgroundColor(const Ref<UIColor>& color) {
@@ -72,10 +64,6 @@ void UIView::setTintColor(const Ref<UIColor>& color) {
 
 Ref<UIColor> UIView::tintColor() const {
     return send<"-[UIView tintColor]", Ref<UIColor>>(*this);
-}
-
-double UIView::alpha() const {
-    return send<"-[UIView alpha]", double>(*this);
 }
 
 void UIView::setAlpha(double alpha) {

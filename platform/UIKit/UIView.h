@@ -60,11 +60,9 @@ public:
     [[nodiscard]] CGRect frame() const;
     void setFrame(const CGRect& frame);
     [[nodiscard]] CGRect bounds() const;
-    [[nodiscard]] CGPoint center() const;
     void setCenter(CGPoint center);
 
-    /// Empty when none was set.
-    [[nodiscard]] Ref<UIColor> backgroundColor() const;
+    /// An empty one is none.
     void setBackgroundColor(const Ref<UIColor>& color);
     /// The colour of symbols and template images in the view and in those within it that have no tint of
     /// their own. An empty one is the superview's.
@@ -72,7 +70,6 @@ public:
     /// The nearest one set at the view or above it, else the platform's.
     [[nodiscard]] Ref<UIColor> tintColor() const;
     /// 0..1, for the view with its subviews.
-    [[nodiscard]] double alpha() const;
     void setAlpha(double alpha);
     void setContentMode(UIViewContentMode mode);
     void setClipsToBounds(bool clips);

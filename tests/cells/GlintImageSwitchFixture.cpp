@@ -1,5 +1,6 @@
 #include "GlintImageSwitchFixture.h"
 
+#include "CALayerPeer.h"
 #include "DesktopColor.h"
 #include "ObjectiveC/Class.h"
 #include "views/UIViewPeer.h"
@@ -53,10 +54,10 @@ Ref<UIImageView> GlintImageSwitchFixture::thumbImageView() const {
 }
 
 void GlintImageSwitchFixture::expectTrackContents(bool on) const {
-    EXPECT_EQ(onImageView()->alpha(), on ? 1 : 0);
-    EXPECT_EQ(control->onLabel()->alpha(), on ? 1 : 0);
-    EXPECT_EQ(offImageView()->alpha(), on ? 0 : 1);
-    EXPECT_EQ(control->offLabel()->alpha(), on ? 0 : 1);
+    EXPECT_EQ(onImageView()->layer().peer().number(LayerProperty::Opacity), on ? 1 : 0);
+    EXPECT_EQ(control->onLabel()->layer().peer().number(LayerProperty::Opacity), on ? 1 : 0);
+    EXPECT_EQ(offImageView()->layer().peer().number(LayerProperty::Opacity), on ? 0 : 1);
+    EXPECT_EQ(control->offLabel()->layer().peer().number(LayerProperty::Opacity), on ? 0 : 1);
 }
 
 bool GlintImageSwitchFixture::borderIs(const Ref<UIColor>& color) const {

@@ -2,6 +2,7 @@
 
 #include "GlintImageSwitch.h"
 #include "Phone.h"
+#include "views/UIViewPeer.h"
 
 /// Counts the value-changed events of the control that it is a target of.
 class EventCounter final : public NSObject {
@@ -43,9 +44,11 @@ protected:
     [[nodiscard]] double shownThumbLeft() const;
     [[nodiscard]] double shownThumbWidth() const;
 
-    [[nodiscard]] Ref<UIColor> trackColor() const { return control->backgroundView()->backgroundColor(); }
+    [[nodiscard]] Ref<UIColor> trackColor() const {
+        return control->backgroundView()->peer().backgroundColor();
+    }
 
-    [[nodiscard]] Ref<UIColor> thumbColor() const { return control->thumbView()->backgroundColor(); }
+    [[nodiscard]] Ref<UIColor> thumbColor() const { return control->thumbView()->peer().backgroundColor(); }
 
     /// The views of the images on the two parts of the track, and in the thumb.
     [[nodiscard]] Ref<UIImageView> onImageView() const;

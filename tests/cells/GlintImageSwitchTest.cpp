@@ -130,7 +130,7 @@ TEST_F(GlintImageSwitchTest, TextsAreSmallLightGrayAndCentred) {
 
 TEST_F(GlintImageSwitchTest, AFreshSwitchHasTheLookOfOneThatIsOff) {
     const auto& track = *control->backgroundView();
-    EXPECT_TRUE(same(track.backgroundColor(), UIColor::clearColor()));
+    EXPECT_TRUE(same(track.peer().backgroundColor(), UIColor::clearColor()));
     EXPECT_TRUE(borderIs(control->borderColor()));
     EXPECT_EQ(thumbColor(), control->thumbTintColor());
     expectTrackContents(false);

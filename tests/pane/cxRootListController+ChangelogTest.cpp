@@ -161,7 +161,7 @@ TEST_F(cxRootListControllerChangelogTest, ABlurLiesBeneathEverythingInIt) {
     EXPECT_TRUE(beneath->layer().peer().masksToBounds);
     EXPECT_EQ(beneath->frame(), view.bounds());
     EXPECT_TRUE(beneath->layer().peer().backdrop);
-    EXPECT_EQ(DesktopColor::resolve(view.backgroundColor(), Traits()).alpha, 0);
+    EXPECT_EQ(DesktopColor::resolve(view.peer().backgroundColor(), Traits()).alpha, 0);
     EXPECT_EQ(DesktopColor::resolve(view.peer().tintColor(), Traits()),
               (ColorComponents{.red = 1, .green = 1, .blue = 0, .alpha = 1}));
 }

@@ -138,7 +138,7 @@ TEST_F(cxRootListControllerTest, TheThumbsColourStandsForBothStates) {
 TEST_F(cxRootListControllerTest, TheSwitchIsMadeInThePageBelowItsMiddle) {
     page->view().setFrame(CGRectMake(0, 0, 300, 500));
     const auto made = page->createNavigationSwitch();
-    EXPECT_EQ(made->center(), (CGPoint{150, 320}));
+    EXPECT_EQ(made->layer().peer().position(), (CGPoint{150, 320}));
     EXPECT_EQ(made->peer().superview(), &page->view());
 }
 

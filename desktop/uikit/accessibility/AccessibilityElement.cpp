@@ -84,7 +84,7 @@ UIView* viewInFront() {
 
 bool isShown(const UIView& view) {
     constexpr auto leastAlpha = 0.01;
-    return !view.peer().isHidden() && view.alpha() >= leastAlpha;
+    return !view.peer().isHidden() && view.layer().peer().number(LayerProperty::Opacity) >= leastAlpha;
 }
 
 void scrollIntoView(UIView& view) {

@@ -93,7 +93,7 @@ std::vector<Presented::Action> MenuPresentation::actions() const {
 }
 
 void MenuPresentation::showOpened(bool opened) {
-    const auto center = menu_->center();
+    const auto center = menu_->layer().peer().position();
     const auto scale = opened ? 1 : closedScale;
     const auto towardsSource = [scale](double from, double to) { return (to - from) * (1 - scale); };
     menu_->peer().setTransform(AffineTransform::translation(towardsSource(center.x, CGRectGetMidX(source_)),

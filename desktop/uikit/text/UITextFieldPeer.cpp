@@ -125,7 +125,7 @@ void UITextFieldPeer::stateDidChange() {
 
 void UITextFieldPeer::setCaretLit(bool lit) {
     const auto alpha = lit ? 1.0 : 0.0;
-    if (!std::equal_to()(caret_->alpha(), alpha))
+    if (!std::equal_to()(caret_->layer().peer().number(LayerProperty::Opacity), alpha))
         AnimationGroup::runWithoutAnimation([this, alpha] { caret_->setAlpha(alpha); });
 }
 

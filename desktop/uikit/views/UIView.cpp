@@ -56,16 +56,8 @@ CGRect UIView::bounds() const {
     return layer().peer().bounds();
 }
 
-CGPoint UIView::center() const {
-    return layer().peer().position();
-}
-
 void UIView::setCenter(CGPoint center) {
     peer_->setCenter(center);
-}
-
-Ref<UIColor> UIView::backgroundColor() const {
-    return peer_->backgroundColor();
 }
 
 void UIView::setBackgroundColor(const Ref<UIColor>& color) {
@@ -78,10 +70,6 @@ void UIView::setTintColor(const Ref<UIColor>& color) {
 
 Ref<UIColor> UIView::tintColor() const {
     return peer_->tintColor();
-}
-
-double UIView::alpha() const {
-    return layer().peer().number(LayerProperty::Opacity);
 }
 
 void UIView::setAlpha(double alpha) {

@@ -1,3 +1,4 @@
+#include "CALayerPeer.h"
 #include "Foundation/NSUserDefaults.h"
 #include "PSControlTableCellPeer.h"
 #include "PageFixture.h"
@@ -83,7 +84,7 @@ TEST_F(PSSwitchTableCellTest, ADisabledRowsSwitchIsInert) {
     show();
     tapSwitch("a");
     EXPECT_EQ(kept("a"), std::nullopt);
-    EXPECT_EQ(switchOf("a").view().alpha(), 0.5);
+    EXPECT_EQ(switchOf("a").view().layer().peer().number(LayerProperty::Opacity), 0.5);
 }
 
 TEST_F(PSSwitchTableCellTest, WritesForTheRowThatItShowsNow) {

@@ -1,5 +1,6 @@
 #include "HomeView.h"
 
+#include "CALayerPeer.h"
 #include "TestDevice.h"
 #include "controls/UIControlPeer.h"
 #include "screen/Screen.h"
@@ -71,9 +72,9 @@ TEST_F(HomeViewTest, AnIconUnderAFingerIsDimmed) {
     ASSERT_NE(icon, nullptr);
     auto& peer = peerOf<UIControlPeer>(*icon);
     const auto& picture = peer.subviews().front();
-    EXPECT_EQ(picture->alpha(), 1);
+    EXPECT_EQ(picture->layer().peer().number(LayerProperty::Opacity), 1);
     peer.setHighlighted(true);
-    EXPECT_LT(picture->alpha(), 1);
+    EXPECT_LT(picture->layer().peer().number(LayerProperty::Opacity), 1);
     peer.setHighlighted(false);
-    EXPECT_EQ(picture->alpha(), 1);
+    EXPECT_EQ(picture->layer().peer().number(LayerProperty::Opacity), 1);
 }

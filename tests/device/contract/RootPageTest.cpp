@@ -123,7 +123,7 @@ TEST_F(RootPageTest, TheMasterSwitchIsInTheBarWithAllItsProperties) {
     ASSERT_TRUE(shown);
     EXPECT_TRUE(shown->isOn());
     EXPECT_TRUE(shown->isRounded());
-    EXPECT_EQ(shown->center(), (CGPoint{160, 354}));
+    EXPECT_EQ(shown->frame(), CGRectMake(135, 339, 50, 30));
     const auto description = [&](const char* property) {
         return textOf(perform(perform(objectOf(*shown), property, nullptr), "description", nullptr));
     };

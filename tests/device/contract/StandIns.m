@@ -243,16 +243,11 @@ static NSMutableArray *completions;
     CGRect bounds = {{0, 0}, frame.size};
     return bounds;
 }
-- (CGPoint)center {
-    CGPoint center = {frame.origin.x + frame.size.width / 2, frame.origin.y + frame.size.height / 2};
-    return center;
-}
 - (void)setCenter:(CGPoint)center {
     record(self, _cmd, @"{%g, %g}", center.x, center.y);
     frame.origin.x = center.x - frame.size.width / 2;
     frame.origin.y = center.y - frame.size.height / 2;
 }
-- (UIColor *)backgroundColor { return backgroundColor; }
 - (void)setBackgroundColor:(UIColor *)color {
     record(self, _cmd, @"%@", describe(color));
     ASSIGN(backgroundColor, color);

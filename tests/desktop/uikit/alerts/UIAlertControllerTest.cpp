@@ -1,3 +1,4 @@
+#include "CALayerPeer.h"
 #include "DesktopColor.h"
 #include "DesktopFont.h"
 #include "alerts/AlertView.h"
@@ -239,7 +240,7 @@ TEST_F(UIAlertControllerTest, isTheSameWhenItIsPresentedAgain) {
         present(shown, true);
         settle();
         EXPECT_EQ(screenFrame(shown->view()), frame);
-        EXPECT_DOUBLE_EQ(shown->view().alpha(), 1);
+        EXPECT_DOUBLE_EQ(shown->view().layer().peer().number(LayerProperty::Opacity), 1);
         EXPECT_FALSE(shown->view().peer().isHidden());
     }
 }

@@ -1,4 +1,5 @@
 #include "AnimationGroup.h"
+#include "CALayerPeer.h"
 #include "Phone.h"
 #include "controls/UISwitchPeer.h"
 
@@ -107,13 +108,13 @@ TEST_F(UISwitchTest, ACancelledTouchTakesTheChangeBack) {
 
 TEST_F(UISwitchTest, ADisabledSwitchIsDimAndInert) {
     peer().setEnabled(false);
-    EXPECT_EQ(switch_->alpha(), 0.5);
+    EXPECT_EQ(switch_->layer().peer().number(LayerProperty::Opacity), 0.5);
     down(110);
     up(110);
     EXPECT_FALSE(peer().isOn());
     EXPECT_EQ(changes_, 0);
     peer().setEnabled(true);
-    EXPECT_EQ(switch_->alpha(), 1);
+    EXPECT_EQ(switch_->layer().peer().number(LayerProperty::Opacity), 1);
 }
 
 TEST_F(UISwitchTest, DisablingUnderTheFingerTakesTheChangeBack) {

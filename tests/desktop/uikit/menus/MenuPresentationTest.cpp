@@ -177,9 +177,9 @@ TEST_F(MenuPresentationTest, itsButtonIsPaleUntilItCloses) {
     tap(gear());
     settle();
     const auto& pale = dynamic_cast<BarButtonView&>(gear()).content();
-    EXPECT_DOUBLE_EQ(pale.alpha(), 0.2);
+    EXPECT_DOUBLE_EQ(pale.layer().peer().number(LayerProperty::Opacity), 0.2);
     menu()->dismissPresented();
-    EXPECT_DOUBLE_EQ(pale.alpha(), 1);
+    EXPECT_DOUBLE_EQ(pale.layer().peer().number(LayerProperty::Opacity), 1);
 }
 
 TEST_F(MenuPresentationTest, theActionMayTakeTheWholeApplicationAway) {

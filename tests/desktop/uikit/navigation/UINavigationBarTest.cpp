@@ -50,7 +50,9 @@ protected:
         return bar;
     }
 
-    double titleAlpha() { return content().titleView().peer().superview()->alpha(); }
+    double titleAlpha() {
+        return content().titleView().peer().superview()->layer().peer().number(LayerProperty::Opacity);
+    }
 
     const Ref<LoggedPage> a = page("A");
 };
@@ -120,10 +122,10 @@ TEST_F(UINavigationBarTest, aButtonRunsItsActionAndIsPaleWhileItIsPressed) {
     const auto& button = *content().rightButtons().at(0);
     const auto middle = CGPoint{CGRectGetMidX(screenFrame(button)), CGRectGetMidY(screenFrame(button))};
     finger.touch(TouchPhase::Began, middle);
-    EXPECT_DOUBLE_EQ(button.content().alpha(), 0.2);
+    EXPECT_DOUBLE_EQ(button.content().layer().peer().number(LayerProperty::Opacity), 0.2);
     EXPECT_EQ(runs, 0);
     finger.touch(TouchPhase::Ended, middle);
-    EXPECT_DOUBLE_EQ(button.content().alpha(), 1);
+    EXPECT_DOUBLE_EQ(button.content().layer().peer().number(LayerProperty::Opacity), 1);
     EXPECT_EQ(runs, 1);
 }
 
@@ -186,13 +188,13 @@ TEST_F(UINavigationBarTest, hasNoBackgroundUntilContentIsBeneathIt) {
     const auto scrollView = showScrollingPage();
     const auto& background = peer().bar().background();
     EXPECT_DOUBLE_EQ(peerOf<UIScrollViewPeer>(*scrollView).contentOffset().y, -91);
-    EXPECT_DOUBLE_EQ(background.alpha(), 0);
+    EXPECT_DOUBLE_EQ(background.layer().peer().number(LayerProperty::Opacity), 0);
     peerOf<UIScrollViewPeer>(*scrollView).setContentOffset({0, -87});
-    EXPECT_DOUBLE_EQ(background.alpha(), 0.5);
+    EXPECT_DOUBLE_EQ(background.layer().peer().number(LayerProperty::Opacity), 0.5);
     peerOf<UIScrollViewPeer>(*scrollView).setContentOffset({0, 0});
-    EXPECT_DOUBLE_EQ(background.alpha(), 1);
+    EXPECT_DOUBLE_EQ(background.layer().peer().number(LayerProperty::Opacity), 1);
     peerOf<UIScrollViewPeer>(*scrollView).setContentOffset({0, -120});
-    EXPECT_DOUBLE_EQ(background.alpha(), 0);
+    EXPECT_DOUBLE_EQ(background.layer().peer().number(LayerProperty::Opacity), 0);
 }
 
 TEST_F(UINavigationBarTest, eachPageKeepsItsBackgroundAboveItWhileOneSlidesOverTheOther) {
@@ -202,8 +204,8 @@ TEST_F(UINavigationBarTest, eachPageKeepsItsBackgroundAboveItWhileOneSlidesOverT
     navigation->pushViewController(b, true);
     const auto& leaving = peer().bar().leavingBackground();
     const auto& arriving = peer().bar().background();
-    EXPECT_DOUBLE_EQ(leaving.alpha(), 1);
-    EXPECT_DOUBLE_EQ(arriving.alpha(), 0);
+    EXPECT_DOUBLE_EQ(leaving.layer().peer().number(LayerProperty::Opacity), 1);
+    EXPECT_DOUBLE_EQ(arriving.layer().peer().number(LayerProperty::Opacity), 0);
     advance(std::chrono::milliseconds(100));
     const auto shown = 390 * AnimationCurve::system().progress(0.2);
     const auto shownWidth = [](const UIView& view) {
@@ -214,14 +216,14 @@ TEST_F(UINavigationBarTest, eachPageKeepsItsBackgroundAboveItWhileOneSlidesOverT
     for (const auto& part : leaving.peer().subviews())
         EXPECT_NEAR(shownWidth(*part), 390 - shown, 1e-6);
     settle();
-    EXPECT_DOUBLE_EQ(leaving.alpha(), 0);
-    EXPECT_DOUBLE_EQ(arriving.alpha(), 0);
+    EXPECT_DOUBLE_EQ(leaving.layer().peer().number(LayerProperty::Opacity), 0);
+    EXPECT_DOUBLE_EQ(arriving.layer().peer().number(LayerProperty::Opacity), 0);
     EXPECT_EQ(screenFrame(arriving), CGRectMake(0, 0, 390, 91));
     peer().pop(true);
-    EXPECT_DOUBLE_EQ(arriving.alpha(), 1);
-    EXPECT_DOUBLE_EQ(leaving.alpha(), 0);
+    EXPECT_DOUBLE_EQ(arriving.layer().peer().number(LayerProperty::Opacity), 1);
+    EXPECT_DOUBLE_EQ(leaving.layer().peer().number(LayerProperty::Opacity), 0);
     settle();
-    EXPECT_DOUBLE_EQ(arriving.alpha(), 1);
+    EXPECT_DOUBLE_EQ(arriving.layer().peer().number(LayerProperty::Opacity), 1);
     EXPECT_EQ(screenFrame(arriving), CGRectMake(0, 0, 390, 91));
 }
 
@@ -238,6 +240,13 @@ TEST_F(UINavigationBarTest, theLargeTitleIsScrolledUnderTheBarAndTheSmallOneTake
     peerOf<UIScrollViewPeer>(*scrollView).setContentOffset({0, 0});
     EXPECT_EQ(screenFrame(peer().bar().view()), CGRectMake(0, 47, 390, 44));
     EXPECT_DOUBLE_EQ(peer().bar().background().alpha(), 1);
+    EXPECT_EQ(screenFrame(peer().bar()), CGRectMake(0, 47, 390, 76));
+    EXPECT_DOUBLE_EQ(peer().bar().background().layer().peer().number(LayerProperty::Opacity), 0);
+    peerOf<UIScrollViewPeer>(*scrollView).setContentOffset({0, -95});
+    EXPECT_DOUBLE_EQ(titleAlpha(), 1);
+    peerOf<UIScrollViewPeer>(*scrollView).setContentOffset({0, 0});
+    EXPECT_EQ(screenFrame(peer().bar()), CGRectMake(0, 47, 390, 44));
+    EXPECT_DOUBLE_EQ(peer().bar().background().layer().peer().number(LayerProperty::Opacity), 1);
     peerOf<UIScrollViewPeer>(*scrollView).setContentOffset({0, -143});
     EXPECT_DOUBLE_EQ(titleAlpha(), 0);
 }

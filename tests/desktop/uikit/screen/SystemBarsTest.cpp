@@ -118,8 +118,8 @@ TEST(SystemBarsTest, areWhiteAndWithoutAnIndicatorAboveTheWallpaper) {
     EXPECT_TRUE(bars.whiteStatusBar().peer().isHidden());
     bars.setBehind(SystemBars::Behind::Wallpaper, false);
     EXPECT_FALSE(bars.whiteStatusBar().peer().isHidden());
-    EXPECT_EQ(bars.statusBar().alpha(), 0);
-    EXPECT_EQ(bars.homeIndicator().alpha(), 0);
+    EXPECT_EQ(bars.statusBar().layer().peer().number(LayerProperty::Opacity), 0);
+    EXPECT_EQ(bars.homeIndicator().layer().peer().number(LayerProperty::Opacity), 0);
 }
 
 TEST(SystemBarsTest, fadeOneIntoTheOtherWithTheWhiteBarBeneath) {
@@ -134,7 +134,7 @@ TEST(SystemBarsTest, fadeOneIntoTheOtherWithTheWhiteBarBeneath) {
     Device::current().mainQueue().advance(device.clock(), std::chrono::milliseconds(125));
     EXPECT_NEAR(shownAlpha(), 0.5, 1e-6);
     EXPECT_FALSE(bars.whiteStatusBar().peer().isHidden());
-    EXPECT_EQ(bars.whiteStatusBar().alpha(), 1);
+    EXPECT_EQ(bars.whiteStatusBar().layer().peer().number(LayerProperty::Opacity), 1);
     Device::current().mainQueue().advance(device.clock(), std::chrono::milliseconds(126));
     EXPECT_EQ(shownAlpha(), 1);
     EXPECT_TRUE(bars.whiteStatusBar().peer().isHidden());
@@ -151,7 +151,7 @@ TEST(SystemBarsTest, endAsTheyWereLastToldWhenToldInMidFade) {
     bars.setBehind(SystemBars::Behind::Wallpaper, true);
     EXPECT_TRUE(Device::current().mainQueue().settle(device.clock(), std::chrono::seconds(1)));
     EXPECT_FALSE(bars.whiteStatusBar().peer().isHidden());
-    EXPECT_EQ(bars.homeIndicator().alpha(), 0);
+    EXPECT_EQ(bars.homeIndicator().layer().peer().number(LayerProperty::Opacity), 0);
 }
 
 TEST(SystemBarsTest, bothShowTheTimeInTheSamePlace) {

@@ -1,3 +1,4 @@
+#include "CALayerPeer.h"
 #include "scrolling/ScrollFixture.h"
 #include "scrolling/UIScrollViewPeer.h"
 #include "touches/TapGestureRecognizer.h"
@@ -146,10 +147,10 @@ TEST_F(UIScrollViewPeerMotionTest, OffsetChangesInThreeTenthsOfASecond) {
 }
 
 TEST_F(UIScrollViewPeerMotionTest, IndicatorShowsWhileContentsMove) {
-    EXPECT_EQ(scroll->peer().subviews().front()->alpha(), 0);
+    EXPECT_EQ(scroll->peer().subviews().front()->layer().peer().number(LayerProperty::Opacity), 0);
     drawUp(700);
     const auto& shown = *scroll->peer().subviews().back();
-    EXPECT_EQ(shown.alpha(), 1);
+    EXPECT_EQ(shown.layer().peer().number(LayerProperty::Opacity), 1);
     EXPECT_EQ(shown.frame().size.width, 3);
     EXPECT_EQ(CGRectGetMaxX(shown.frame()), 297);
     EXPECT_NEAR(shown.frame().size.height, 594 * 600 / 2000.0, 1e-9);

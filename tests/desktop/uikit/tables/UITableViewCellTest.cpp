@@ -1,3 +1,4 @@
+#include "CALayerPeer.h"
 #include "DesktopImage.h"
 #include "TestDevice.h"
 #include "screen/Screen.h"
@@ -179,9 +180,9 @@ TEST_F(UITableViewCellTest, TheSeparatorComesBackAsTheSelectionFades) {
     peerOf<UITableViewCellPeer>(*cell).setSelected(true, false);
     peerOf<UITableViewCellPeer>(*cell).setSelectionFade(0.25);
     EXPECT_FALSE(separator.peer().isHidden());
-    EXPECT_EQ(separator.alpha(), 0.25);
+    EXPECT_EQ(separator.layer().peer().number(LayerProperty::Opacity), 0.25);
     peerOf<UITableViewCellPeer>(*cell).setSelected(false, false);
-    EXPECT_EQ(separator.alpha(), 1);
+    EXPECT_EQ(separator.layer().peer().number(LayerProperty::Opacity), 1);
 }
 
 TEST_F(UITableViewCellTest, TheLastRowOfACardHasNoSeparator) {

@@ -1,3 +1,4 @@
+#include "CALayerPeer.h"
 #include "screen/Compositor.h"
 #include "text/TextFieldFixture.h"
 
@@ -244,7 +245,7 @@ TEST_F(UITextFieldTest, CaretIsLitAndDarkInTurnsAndLitWhileTyping) {
     type("a");
     const auto alpha = [&] {
         static_cast<void>(compositor.render());
-        return peer().caretView().alpha();
+        return peer().caretView().layer().peer().number(LayerProperty::Opacity);
     };
     EXPECT_EQ(alpha(), 1);
     advance(milliseconds(600));

@@ -1,3 +1,4 @@
+#include "CALayerPeer.h"
 #include "PresentedStandIn.h"
 #include "text/TextFieldFixture.h"
 
@@ -79,10 +80,10 @@ TEST_F(FirstResponderTest, CountsBlinksFromTheLastEdit) {
     advance(milliseconds(700));
     EXPECT_EQ(responder_.untilBlink(), milliseconds(300));
     responder_.followTime();
-    EXPECT_EQ(peer().caretView().alpha(), 0);
+    EXPECT_EQ(peer().caretView().layer().peer().number(LayerProperty::Opacity), 0);
     responder_.noteEdit();
     responder_.followTime();
-    EXPECT_EQ(peer().caretView().alpha(), 1);
+    EXPECT_EQ(peer().caretView().layer().peer().number(LayerProperty::Opacity), 1);
     EXPECT_EQ(responder_.untilBlink(), milliseconds(500));
     responder_.clear();
 }
