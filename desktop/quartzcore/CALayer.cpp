@@ -40,10 +40,6 @@ void CALayer::setCornerRadius(double radius) {
     peer_->setNumber(LayerProperty::CornerRadius, radius);
 }
 
-double CALayer::borderWidth() const {
-    return peer_->number(LayerProperty::BorderWidth);
-}
-
 void CALayer::setBorderWidth(double width) {
     peer_->setNumber(LayerProperty::BorderWidth, width);
 }

@@ -33,10 +33,6 @@ void CALayer::setCornerRadius(double radius) {
     send<"-[CALayer setCornerRadius:]", void>(*this, radius);
 }
 
-double CALayer::borderWidth() const {
-    return send<"-[CALayer borderWidth]", double>(*this);
-}
-
 void CALayer::setBorderWidth(double width) {
     send<"-[CALayer setBorderWidth:]", void>(*this, width);
 }

@@ -28,7 +28,6 @@ public:
     [[nodiscard]] double cornerRadius() const;
     void setCornerRadius(double radius);
 
-    [[nodiscard]] double borderWidth() const;
     void setBorderWidth(double width);
     void setBorderColor(const Ref<UIColor>& color);
 

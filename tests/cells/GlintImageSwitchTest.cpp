@@ -78,7 +78,7 @@ TEST_F(GlintImageSwitchTest, TheTrackIsAPillWithABorderThatCutsNothingOff) {
     const auto& track = control->backgroundView();
     EXPECT_EQ(track->frame(), (CGRect{{}, defaultSize}));
     EXPECT_EQ(track->layer().cornerRadius(), 15);
-    EXPECT_EQ(track->layer().borderWidth(), 1);
+    EXPECT_EQ(track->layer().peer().number(LayerProperty::BorderWidth), 1);
     EXPECT_TRUE(borderIs(control->borderColor()));
     EXPECT_FALSE(track->layer().peer().masksToBounds);
     EXPECT_FALSE(track->peer().isUserInteractionEnabled());

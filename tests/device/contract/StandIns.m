@@ -153,7 +153,6 @@ void callBlockWithObject(void *block, id object) {
     record(self, _cmd, @"%g", radius);
     cornerRadius = radius;
 }
-- (double)borderWidth { return borderWidth; }
 - (void)setBorderWidth:(double)width {
     record(self, _cmd, @"%g", width);
     borderWidth = width;
