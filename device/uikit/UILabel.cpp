@@ -13,10 +13,6 @@ UILabel::UILabel() = default;
 
 UILabel::UILabel(std::unique_ptr<UIViewPeer> peer) : UIView(std::move(peer)) {}
 
-std::optional<std::string> UILabel::text() const {
-    return send<"-[UILabel text]", std::optional<std::string>>(*this);
-}
-
 void UILabel::setText(const std::optional<std::string>& text) {
     send<"-[UILabel setText:]", void>(*this, text);
 }

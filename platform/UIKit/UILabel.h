@@ -15,7 +15,6 @@ class UILabel : public UIView {
 public:
     UILabel();
 
-    [[nodiscard]] std::optional<std::string> text() const;
     void setText(const std::optional<std::string>& text);
     void setFont(const Ref<UIFont>& font);
     void setTextColor(const Ref<UIColor>& color);

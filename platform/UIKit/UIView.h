@@ -62,7 +62,7 @@ public:
     [[nodiscard]] CGRect bounds() const;
     void setCenter(CGPoint center);
 
-    /// An empty one is none.
+    /// Empty for none.
     void setBackgroundColor(const Ref<UIColor>& color);
     /// The colour of symbols and template images in the view and in those within it that have no tint of
     /// their own. An empty one is the superview's.

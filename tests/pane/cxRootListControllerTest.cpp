@@ -11,6 +11,7 @@
 #include "menus/DesktopAction.h"
 #include "navigation/UINavigationControllerPeer.h"
 #include "system/SystemSounds.h"
+#include "views/UILabelPeer.h"
 
 #include <gtest/gtest.h>
 
@@ -125,7 +126,7 @@ TEST_F(cxRootListControllerTest, ItsSwitchStandsInTheBarWithItsColours) {
     expect(shown->borderColor(), 0, 0, 0, 0);
     expect(shown->shadowColor(), 0, 0, 0, 1);
     EXPECT_FALSE(shown->onImage());
-    EXPECT_FALSE(shown->onLabel()->text());
+    EXPECT_FALSE(peerOf<UILabelPeer>(*shown->onLabel()).text());
 }
 
 TEST_F(cxRootListControllerTest, TheThumbsColourStandsForBothStates) {

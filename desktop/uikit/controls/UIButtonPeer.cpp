@@ -163,7 +163,7 @@ Accessibility UIButtonPeer::accessibility() const {
 }
 
 std::optional<std::string> UIButtonPeer::shownText() const {
-    return titleLabel_->text();
+    return peerOf<UILabelPeer>(*titleLabel_).text();
 }
 
 void UIButtonPeer::contentDidChange() {

@@ -3,6 +3,7 @@
 #include "UIKit/UIImageView.h"
 #include "UIKit/UILabel.h"
 #include "navigation/BarControl.h"
+#include "views/UILabelPeer.h"
 
 #include <optional>
 #include <string>
@@ -28,7 +29,7 @@ public:
     void showTitle(std::optional<std::size_t> index);
 
     /// What is shown beside the chevron.
-    [[nodiscard]] std::optional<std::string> title() const { return label_->text(); }
+    [[nodiscard]] std::optional<std::string> title() const { return peerOf<UILabelPeer>(*label_).text(); }
 
     /// Of what is shown beside the chevron, in points.
     [[nodiscard]] double titleWidth() const { return label_->bounds().size.width; }

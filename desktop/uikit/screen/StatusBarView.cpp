@@ -6,6 +6,7 @@
 #include "Foundation/NSDateFormatter.h"
 #include "ObjectiveC/Class.h"
 #include "screen/StatusGlyphs.h"
+#include "views/UILabelPeer.h"
 #include "views/UIViewPeer.h"
 
 #include <QPainter>
@@ -81,7 +82,7 @@ StatusBarView::StatusBarView()
 }
 
 std::string StatusBarView::time() const {
-    return time_->text().value_or("");
+    return peerOf<UILabelPeer>(*time_).text().value_or("");
 }
 
 void StatusBarView::refresh() {
@@ -91,7 +92,7 @@ void StatusBarView::refresh() {
     const auto time = withoutHalfOfDay(formatter->stringFromDate(now));
     formatter->setDateFormat("EEE MMM d");
     const auto date = formatter->stringFromDate(now);
-    if (time == this->time() && date == date_->text())
+    if (time == this->time() && date == peerOf<UILabelPeer>(*date_).text())
         return;
     time_->setText(time);
     date_->setText(date);

@@ -50,7 +50,8 @@ double widthOfDetail(double needed, double left) {
 }
 
 bool hasText(const UILabel& label) {
-    return label.text().has_value() && !label.text()->empty();
+    const auto& text = peerOf<UILabelPeer>(label).text();
+    return text.has_value() && !text->empty();
 }
 
 /// Of a row that looks pressed by that part.

@@ -16,10 +16,6 @@ UILabel::UILabel() : UILabel(std::make_unique<UILabelPeer>()) {}
 
 UILabel::UILabel(std::unique_ptr<UIViewPeer> peer) : UIView(std::move(peer)) {}
 
-std::optional<std::string> UILabel::text() const {
-    return peerOf<UILabelPeer>(*this).text();
-}
-
 void UILabel::setText(const std::optional<std::string>& text) {
     peerOf<UILabelPeer>(*this).setText(text);
 }

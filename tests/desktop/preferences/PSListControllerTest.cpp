@@ -2,6 +2,7 @@
 #include "Foundation/NSUserDefaults.h"
 #include "PageFixture.h"
 #include "preferences/PreferenceFolder.h"
+#include "views/UILabelPeer.h"
 
 #include <algorithm>
 #include <iterator>
@@ -27,7 +28,7 @@ TEST_F(PSListControllerTest, ShowsTheRowsOfItsBundlesList) {
     EXPECT_EQ(identifiers(rows), (Texts{"head", "a", "b"}));
     EXPECT_EQ(rows[1].label, "Row a");
     EXPECT_EQ(rows[1].cell, "PSStaticTextCell");
-    EXPECT_EQ(cellPeer("a").textLabel().text(), "Row a");
+    EXPECT_EQ(peerOf<UILabelPeer>(cellPeer("a").textLabel()).text(), "Row a");
     EXPECT_EQ(page_->loads, 1U);
     EXPECT_TRUE(log().empty());
 }
@@ -113,7 +114,7 @@ TEST_F(PSListControllerTest, RowsMayHaveTheirOwnGetterAndSetter) {
         {keptRow("PSTitleValueCell", "a", text("get", "ownValue:") + text("set", "setOwnValue:specifier:"))});
     show();
     EXPECT_EQ(listRow("a").value, PropertyList("own value of a"));
-    EXPECT_EQ(cellPeer("a").detailTextLabel().text(), "own value of a");
+    EXPECT_EQ(peerOf<UILabelPeer>(cellPeer("a").detailTextLabel()).text(), "own value of a");
     peer().setValue(specifier("a"), 3);
     EXPECT_EQ(page_->events, (Texts{"set a to 3"}));
 }
@@ -121,9 +122,9 @@ TEST_F(PSListControllerTest, RowsMayHaveTheirOwnGetterAndSetter) {
 TEST_F(PSListControllerTest, SettingAValueShowsIt) {
     writeList({keptRow("PSTitleValueCell", "a")});
     show();
-    EXPECT_EQ(cellPeer("a").detailTextLabel().text(), std::nullopt);
+    EXPECT_EQ(peerOf<UILabelPeer>(cellPeer("a").detailTextLabel()).text(), std::nullopt);
     peer().setValue(specifier("a"), "shown");
-    EXPECT_EQ(cellPeer("a").detailTextLabel().text(), "shown");
+    EXPECT_EQ(peerOf<UILabelPeer>(cellPeer("a").detailTextLabel()).text(), "shown");
 }
 
 TEST_F(PSListControllerTest, ReloadingARowShowsItsProperties) {
@@ -131,13 +132,13 @@ TEST_F(PSListControllerTest, ReloadingARowShowsItsProperties) {
     show();
     specifier("a").setProperty("Other", "label");
     specifier("a").setProperty(70, "height");
-    EXPECT_EQ(cellPeer("a").textLabel().text(), "Row a");
+    EXPECT_EQ(peerOf<UILabelPeer>(cellPeer("a").textLabel()).text(), "Row a");
     peer().reloadSpecifier(specifier("a"));
-    EXPECT_EQ(cellPeer("a").textLabel().text(), "Other");
+    EXPECT_EQ(peerOf<UILabelPeer>(cellPeer("a").textLabel()).text(), "Other");
     EXPECT_EQ(listRow("b").frame.origin.y, 105);
     peer().reloadSpecifier(*make<DesktopSpecifier>(PropertyList::Dictionary{}));
     screen.layoutIfNeeded();
-    EXPECT_EQ(cellPeer("a").textLabel().text(), "Other");
+    EXPECT_EQ(peerOf<UILabelPeer>(cellPeer("a").textLabel()).text(), "Other");
 }
 
 TEST_F(PSListControllerTest, ReloadingAllAsksForTheListAnew) {
@@ -147,7 +148,7 @@ TEST_F(PSListControllerTest, ReloadingAllAsksForTheListAnew) {
     page_->reloadSpecifiers();
     EXPECT_EQ(identifiers(peer().rows()), (Texts{"b", "c"}));
     EXPECT_EQ(page_->loads, 2U);
-    EXPECT_EQ(cellPeer("c").textLabel().text(), "Row c");
+    EXPECT_EQ(peerOf<UILabelPeer>(cellPeer("c").textLabel()).text(), "Row c");
 }
 
 TEST_F(PSListControllerTest, ScrollsRowsIntoView) {

@@ -28,8 +28,7 @@ public:
 
     void refreshCellContentsWithSpecifier(PSSpecifier& specifier) override {
         PSTableCell::refreshCellContentsWithSpecifier(specifier);
-        auto& title = peerOf<PSTableCellPeer>(*this).textLabel();
-        title.setText("own " + *title.text());
+        textLabel().setText("own " + *peerOf<UILabelPeer>(textLabel()).text());
     }
 
     static int made;
@@ -102,8 +101,8 @@ TEST_F(PSTableCellTest, LinksHaveAChevronAndTheirValue) {
     show();
     EXPECT_EQ(peerOf<UITableViewCellPeer>(cell("a")).accessoryType(),
               UITableViewCellAccessoryType::DisclosureIndicator);
-    EXPECT_EQ(cellPeer("a").detailTextLabel().text(), "value");
-    EXPECT_EQ(cellPeer("b").detailTextLabel().text(), std::nullopt);
+    EXPECT_EQ(peerOf<UILabelPeer>(cellPeer("a").detailTextLabel()).text(), "value");
+    EXPECT_EQ(peerOf<UILabelPeer>(cellPeer("b").detailTextLabel()).text(), std::nullopt);
     EXPECT_EQ(peerOf<UITableViewCellPeer>(cell("c")).accessoryType(), UITableViewCellAccessoryType::None);
 }
 
@@ -124,7 +123,7 @@ TEST_F(PSTableCellTest, ValuesAreShownByTheirTitles) {
     show();
     const auto shown = [this](const std::optional<PropertyList>& value) {
         peer().setValue(specifier("a"), value);
-        return cellPeer("a").detailTextLabel().text();
+        return peerOf<UILabelPeer>(cellPeer("a").detailTextLabel()).text();
     };
     EXPECT_EQ(shown(1), "One");
     EXPECT_EQ(shown(2), "2");
@@ -149,7 +148,7 @@ TEST_F(PSTableCellTest, RowsMayNameTheirCellsClass) {
     show();
     EXPECT_NE(dynamic_cast<OwnCell*>(&cell("a")), nullptr);
     EXPECT_EQ(dynamic_cast<OwnCell*>(&cell("b")), nullptr);
-    EXPECT_EQ(cellPeer("a").textLabel().text(), "own Row a");
+    EXPECT_EQ(peerOf<UILabelPeer>(cellPeer("a").textLabel()).text(), "own Row a");
     EXPECT_EQ(listRow("a").cellClass, "CellTestOwnCell");
     EXPECT_EQ(OwnCell::made, 1);
 }
@@ -182,7 +181,7 @@ TEST_F(PSTableCellTest, ACellOfANamedClassServesItsRowAlone) {
     peer().scrollRowIntoView(0);
     EXPECT_EQ(&cell("0"), first);
     EXPECT_LE(OwnCell::made, 60);
-    EXPECT_EQ(cellPeer("0").textLabel().text(), "own Row 0");
+    EXPECT_EQ(peerOf<UILabelPeer>(cellPeer("0").textLabel()).text(), "own Row 0");
 }
 
 TEST_F(PSTableCellTest, AClassThatIsNoCellIsLoggedOnceAndAPlainCellStandsForIt) {
@@ -191,7 +190,7 @@ TEST_F(PSTableCellTest, AClassThatIsNoCellIsLoggedOnceAndAPlainCellStandsForIt) 
         show();
         page_->view().peer().setNeedsLayout();
         screen.layoutIfNeeded();
-        EXPECT_EQ(cellPeer("a").textLabel().text(), "Row a");
+        EXPECT_EQ(peerOf<UILabelPeer>(cellPeer("a").textLabel()).text(), "Row a");
         EXPECT_NE(dynamic_cast<PSControlTableCell*>(&cell("a")), nullptr);
         EXPECT_EQ(log(),
                   (Texts{std::string("Row a: 'cellClass' names ") + name + ", which is no such class."}));
@@ -201,7 +200,7 @@ TEST_F(PSTableCellTest, AClassThatIsNoCellIsLoggedOnceAndAPlainCellStandsForIt) 
 TEST_F(PSTableCellTest, APlainCellStandsForOneThatRefuses) {
     writeList({row("PSLinkCell", "a", text("cellClass", "CellTestRefusingCell"))});
     show();
-    EXPECT_EQ(cellPeer("a").textLabel().text(), "Row a");
+    EXPECT_EQ(peerOf<UILabelPeer>(cellPeer("a").textLabel()).text(), "Row a");
 }
 
 TEST_F(PSTableCellTest, GroupsHaveHeadersAndFooters) {
@@ -212,8 +211,8 @@ TEST_F(PSTableCellTest, GroupsHaveHeadersAndFooters) {
     const auto header = dynamicCast<UILabel>(peer().table().captionView(0, Edge::Header));
     const auto footer = dynamicCast<UILabel>(peer().table().captionView(0, Edge::Footer));
     ASSERT_TRUE(header && footer);
-    EXPECT_EQ(header->text(), "ROW G");
-    EXPECT_EQ(footer->text(), "Below");
+    EXPECT_EQ(peerOf<UILabelPeer>(*header).text(), "ROW G");
+    EXPECT_EQ(peerOf<UILabelPeer>(*footer).text(), "Below");
     EXPECT_EQ(peerOf<UILabelPeer>(*footer).textAlignment(), NSTextAlignment::Center);
     EXPECT_FALSE(peer().table().captionView(1, Edge::Header));
     EXPECT_FALSE(peer().table().captionView(1, Edge::Footer));
@@ -252,7 +251,7 @@ TEST_F(PSTableCellTest, CellsServeOtherRowsOfTheirKind) {
     EXPECT_LT(near, 30U);
     for (std::size_t number = 0; number < 100; ++number)
         peer().scrollRowIntoView(number);
-    EXPECT_EQ(cellPeer("98").detailTextLabel().text(), "value 98");
-    EXPECT_EQ(cellPeer("98").textLabel().text(), "Row 98");
-    EXPECT_EQ(cellPeer("99").detailTextLabel().text(), std::nullopt);
+    EXPECT_EQ(peerOf<UILabelPeer>(cellPeer("98").detailTextLabel()).text(), "value 98");
+    EXPECT_EQ(peerOf<UILabelPeer>(cellPeer("98").textLabel()).text(), "Row 98");
+    EXPECT_EQ(peerOf<UILabelPeer>(cellPeer("99").detailTextLabel()).text(), std::nullopt);
 }

@@ -9,6 +9,7 @@
 #include "menus/MenuPresentation.h"
 #include "navigation/UINavigationControllerPeer.h"
 #include "screen/Compositor.h"
+#include "views/UILabelPeer.h"
 
 namespace {
 
@@ -23,7 +24,9 @@ protected:
         const auto page = dynamicCast<PSListController>(peerOf<UINavigationControllerPeer>(*first).top());
         auto& table = peerOf<PSListControllerPeer>(*page).table();
         const auto row = table.selectedRow();
-        return row ? *peerOf<UITableViewCellPeer>(*table.cellForRow(*row)).textLabel().text() : "";
+        if (!row)
+            return "";
+        return *peerOf<UILabelPeer>(peerOf<UITableViewCellPeer>(*table.cellForRow(*row)).textLabel()).text();
     }
 };
 

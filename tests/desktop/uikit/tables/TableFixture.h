@@ -5,6 +5,7 @@
 #include "tables/TableContent.h"
 #include "tables/UITableViewCellPeer.h"
 #include "tables/UITableViewPeer.h"
+#include "views/UILabelPeer.h"
 
 #include <optional>
 #include <set>
@@ -78,7 +79,7 @@ protected:
     [[nodiscard]] CGRect shownFrame(IndexPath row) const;
 
     [[nodiscard]] std::string titleOf(IndexPath row) const {
-        return *peerOf<UITableViewCellPeer>(cell(row)).textLabel().text();
+        return *peerOf<UILabelPeer>(peerOf<UITableViewCellPeer>(cell(row)).textLabel()).text();
     }
 
     Ref<UITableView> table_ = make<UITableView>();

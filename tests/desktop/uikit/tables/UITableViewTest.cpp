@@ -128,8 +128,8 @@ TEST_F(UITableViewTest, HeadersAndFootersStandAtTheTextOfTheRows) {
     const auto header = dynamicCast<UILabel>(peer().captionView(0, Edge::Header));
     const auto footer = dynamicCast<UILabel>(peer().captionView(0, Edge::Footer));
     ASSERT_TRUE(header && footer);
-    EXPECT_EQ(header->text(), "GENERAL");
-    EXPECT_EQ(footer->text(), "What these rows do.");
+    EXPECT_EQ(peerOf<UILabelPeer>(*header).text(), "GENERAL");
+    EXPECT_EQ(peerOf<UILabelPeer>(*footer).text(), "What these rows do.");
     EXPECT_EQ(header->frame().origin.x, 32);
     EXPECT_EQ(header->frame().size.width, 326);
     EXPECT_NEAR(CGRectGetMaxY(header->frame()), peer().rectForRow({0, 0}).origin.y - 19 * pixel, 0.01);

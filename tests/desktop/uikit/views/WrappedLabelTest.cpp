@@ -21,7 +21,7 @@ TEST_F(WrappedLabelTest, HasTheLooksThatItIsMadeWith) {
     constexpr FontStyle style{.size = 22, .weight = FontWeight::Bold};
     const auto label = wrappedLabel("Text", style, SystemColor::SecondaryLabel, NSTextAlignment::Center);
     const auto properties = label->peer().inspectedProperties();
-    EXPECT_EQ(label->text(), "Text");
+    EXPECT_EQ(peerOf<UILabelPeer>(*label).text(), "Text");
     EXPECT_EQ(peerOf<UILabelPeer>(*label).fontStyle(), style);
     EXPECT_EQ(properties.at("textAlignment").integerValue(), static_cast<int>(NSTextAlignment::Center));
     EXPECT_EQ(properties.at("numberOfLines").integerValue(), 0);
