@@ -13,9 +13,6 @@ public:
     /// What the font is; the system's 17 points for none.
     [[nodiscard]] static FontStyle styleOf(const Ref<UIFont>& font);
 
-    // UIFont:
-    [[nodiscard]] double pointSize() const override { return style_.size; }
-
 private:
     FontStyle style_;
 };

@@ -4,12 +4,7 @@
 
 namespace {
 
-class SystemFont final : public UIFont {
-public:
-    [[nodiscard]] double pointSize() const override { return send<"-[UIFont pointSize]", double>(*this); }
-};
-
-const FrameworkClassOf<SystemFont> frameworkClass("UIFont");
+const FrameworkClassOf<UIFont> frameworkClass("UIFont");
 
 } // namespace
 

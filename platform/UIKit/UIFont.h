@@ -7,7 +7,4 @@ class UIFont : public NSObject {
 public:
     /// The regular weight; `size` in points.
     [[nodiscard]] static Ref<UIFont> systemFontOfSize(double size);
-
-    /// In points.
-    [[nodiscard]] virtual double pointSize() const = 0;
 };

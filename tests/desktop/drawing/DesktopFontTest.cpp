@@ -6,7 +6,7 @@ namespace {
 
 TEST(DesktopFont, IsRegularWhenItIsTheSystems) {
     const auto font = UIFont::systemFontOfSize(20);
-    EXPECT_EQ(font->pointSize(), 20);
+    EXPECT_EQ(DesktopFont::styleOf(font).size, 20);
     EXPECT_EQ(DesktopFont::styleOf(font), (FontStyle{.size = 20, .weight = FontWeight::Regular}));
 }
 

@@ -201,7 +201,8 @@ TEST(FoundationTest, ALibraryIsOpenedLookedIntoAndClosedOnce) {
 }
 
 TEST(UIKitTest, ImagesAndFontsTellTheirMeasures) {
-    EXPECT_EQ(UIFont::systemFontOfSize(12)->pointSize(), 12);
+    EXPECT_EQ(std::get<PropertyList>(UIFont::systemFontOfSize(12)->performSelector("pointSize")),
+              PropertyList(12.0));
     const auto image = UIImage::systemImageNamed("gear");
     EXPECT_EQ(image->size(), (CGSize{20, 10}));
     EXPECT_EQ(image->imageWithRenderingMode(UIImageRenderingMode::AlwaysOriginal)->renderingMode(),
