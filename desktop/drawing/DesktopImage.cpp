@@ -140,6 +140,10 @@ Ref<DesktopImage> DesktopImage::withContentsOfFile(std::string_view path, double
     return named(path, displayScale);
 }
 
+CGSize DesktopImage::sizeOf(const UIImage& image) {
+    return dynamic_cast<const DesktopImage&>(image).size();
+}
+
 bool DesktopImage::isTemplate() const {
     if (mode_ == UIImageRenderingMode::Automatic)
         return !symbolName_.empty();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ColorComponents.h"
+#include "CoreGraphics/CGGeometry.h"
 #include "SymbolOutline.h"
 #include "UIKit/UIImage.h"
 
@@ -33,6 +34,14 @@ public:
     /// Empty for a picture.
     [[nodiscard]] const std::string& symbolName() const { return symbolName_; }
 
+    [[nodiscard]] UIImageRenderingMode renderingMode() const { return mode_; }
+
+    /// In points.
+    [[nodiscard]] CGSize size() const { return size_; }
+
+    /// The same of any image.
+    [[nodiscard]] static CGSize sizeOf(const UIImage& image);
+
     /// Whether the image is drawn in the tint.
     [[nodiscard]] bool isTemplate() const;
 
@@ -41,10 +50,6 @@ public:
 
     // UIImage:
     [[nodiscard]] Ref<UIImage> imageWithRenderingMode(UIImageRenderingMode mode) const override;
-
-    [[nodiscard]] UIImageRenderingMode renderingMode() const override { return mode_; }
-
-    [[nodiscard]] CGSize size() const override { return size_; }
 
 private:
     using Content = std::variant<QImage, QPainterPath>;

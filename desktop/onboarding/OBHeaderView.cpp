@@ -27,7 +27,7 @@ double shownHeightOf(const UIImage& image) {
     const auto* const drawn = dynamic_cast<const DesktopImage*>(&image);
     if (drawn != nullptr && !drawn->symbolName().empty())
         return symbolHeight;
-    return std::clamp(image.size().height, pictureHeightAtLeast, pictureHeightAtMost);
+    return std::clamp(DesktopImage::sizeOf(image).height, pictureHeightAtLeast, pictureHeightAtMost);
 }
 
 } // namespace
@@ -55,7 +55,7 @@ CGRect OBHeaderView::imageFrame(double width) const {
     if (!content_.image)
         return {};
     const auto height = shownHeightOf(*content_.image);
-    const auto size = content_.image->size();
+    const auto size = DesktopImage::sizeOf(*content_.image);
     const auto shown = std::min(width, std::ceil(height * size.width / size.height));
     return CGRectMake(std::floor((width - shown) / 2), imageTop, shown, height);
 }

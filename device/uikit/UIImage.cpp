@@ -9,12 +9,6 @@ public:
     [[nodiscard]] Ref<UIImage> imageWithRenderingMode(UIImageRenderingMode mode) const override {
         return send<"-[UIImage imageWithRenderingMode:]", Ref<UIImage>>(*this, mode);
     }
-
-    [[nodiscard]] UIImageRenderingMode renderingMode() const override {
-        return send<"-[UIImage renderingMode]", UIImageRenderingMode>(*this);
-    }
-
-    [[nodiscard]] CGSize size() const override { return send<"-[UIImage size]", CGSize>(*this); }
 };
 
 const FrameworkClassOf<SystemImage> frameworkClass("UIImage");

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "CoreGraphics/CGGeometry.h"
 #include "ObjectiveC/NSObject.h"
 
 #include <string_view>
@@ -22,9 +21,4 @@ public:
 
     /// The same image, drawn in that mode.
     [[nodiscard]] virtual Ref<UIImage> imageWithRenderingMode(UIImageRenderingMode mode) const = 0;
-
-    [[nodiscard]] virtual UIImageRenderingMode renderingMode() const = 0;
-
-    /// In points.
-    [[nodiscard]] virtual CGSize size() const = 0;
 };

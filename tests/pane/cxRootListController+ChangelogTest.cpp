@@ -150,7 +150,7 @@ TEST_F(cxRootListControllerChangelogTest, ItsIconIsTheBundlesOwn) {
     show();
     ASSERT_TRUE(icon());
     EXPECT_EQ(icon()->symbolName(), "");
-    EXPECT_EQ(icon()->size(), (CGSize{29, 29}));
+    EXPECT_EQ(DesktopImage::sizeOf(*icon()), (CGSize{29, 29}));
 }
 
 TEST_F(cxRootListControllerChangelogTest, ABlurLiesBeneathEverythingInIt) {

@@ -205,12 +205,13 @@ TEST_F(cxRootListControllerTest, TheGearsMenuHasApplyAboveTheDestructiveReset) {
     EXPECT_EQ(apply.title(), "Apply");
     EXPECT_FALSE(apply.isDestructive());
     EXPECT_EQ(dynamicCast<DesktopImage>(apply.image())->symbolName(), "gear.badge.checkmark");
-    EXPECT_EQ(apply.image()->renderingMode(), UIImageRenderingMode::AlwaysTemplate);
+    EXPECT_EQ(dynamicCast<DesktopImage>(apply.image())->renderingMode(),
+              UIImageRenderingMode::AlwaysTemplate);
     const auto& reset = *menu().actions()[1];
     EXPECT_EQ(reset.title(), "Reset Settings");
     EXPECT_TRUE(reset.isDestructive());
     EXPECT_EQ(dynamicCast<DesktopImage>(reset.image())->symbolName(), "gear.badge.xmark");
-    EXPECT_EQ(reset.image()->renderingMode(), UIImageRenderingMode::Automatic);
+    EXPECT_EQ(dynamicCast<DesktopImage>(reset.image())->renderingMode(), UIImageRenderingMode::Automatic);
 }
 
 TEST_F(cxRootListControllerTest, TheMenuDoesNotKeepThePageAlive) {

@@ -99,7 +99,7 @@ void UIButtonPeer::updatePressedLook() {
 
 CGSize UIButtonPeer::imageSize() const {
     const auto image = imageView_->image();
-    return image ? image->size() : CGSize();
+    return image ? DesktopImage::sizeOf(*image) : CGSize();
 }
 
 CGSize UIButtonPeer::titleSize() const {

@@ -20,7 +20,7 @@ Ref<UIImage> barImage(const Ref<UIImage>& image) {
     if (!known || known->symbolName().empty())
         return image;
     const auto larger = DesktopImage::symbol(known->symbolName(), symbolSize);
-    return larger ? larger->imageWithRenderingMode(image->renderingMode()) : image;
+    return larger ? larger->imageWithRenderingMode(known->renderingMode()) : image;
 }
 
 std::string nameOf(const DesktopBarButtonItem::Content& content) {

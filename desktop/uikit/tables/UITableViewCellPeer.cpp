@@ -37,7 +37,7 @@ double heightOf(const UILabel& label, double width) {
 
 /// Of the image as it is shown, which is no larger than an icon.
 CGSize sizeOf(const UIImage& image) {
-    const auto size = image.size();
+    const auto size = DesktopImage::sizeOf(image);
     const auto factor = std::min(1.0, iconSize / std::max({size.width, size.height, 1.0}));
     return {size.width * factor, size.height * factor};
 }

@@ -1,5 +1,6 @@
 #include "SpecifierList.h"
 
+#include "DesktopImage.h"
 #include "Foundation/NSBundle.h"
 #include "TestDevice.h"
 
@@ -153,7 +154,7 @@ TEST_F(SpecifierListTest, IconsComeFromTheBundle) {
                                 "<dict><key>icon</key><string>none.png</string></dict>"
                                 "<dict><key>icon</key><string>../../etc/passwd</string></dict><dict/>");
     ASSERT_TRUE(at(list, 0).icon());
-    EXPECT_EQ(at(list, 0).icon()->size(), (CGSize{29, 29}));
+    EXPECT_EQ(DesktopImage::sizeOf(*at(list, 0).icon()), (CGSize{29, 29}));
     EXPECT_TRUE(at(list, 1).icon());
     EXPECT_FALSE(at(list, 2).icon());
     EXPECT_FALSE(at(list, 3).icon());

@@ -1,5 +1,6 @@
 #include "SettingsRootPage.h"
 
+#include "DesktopImage.h"
 #include "EntryFixture.h"
 #include "PSListControllerPeer.h"
 #include "PreferenceBundle.h"
@@ -127,7 +128,7 @@ TEST_F(SettingsRootPageTest, AnEntrysIconComesFromItsBundle) {
     writeBundleEntry("good", "Good", "<key>icon</key><string>icon.png</string>");
     show();
     ASSERT_TRUE(iconOf("good"));
-    EXPECT_EQ(iconOf("good")->size(), (CGSize{1, 1}));
+    EXPECT_EQ(DesktopImage::sizeOf(*iconOf("good")), (CGSize{1, 1}));
 }
 
 TEST_F(SettingsRootPageTest, AnIconThatIsNoPictureIsNone) {
