@@ -7,6 +7,7 @@
 #include "screen/Screen.h"
 #include "screen/TouchDispatcher.h"
 #include "scrolling/UIScrollViewPeer.h"
+#include "typing/TextFieldContent.h"
 #include "typing/TextInput.h"
 
 #include <QGuiApplication>
@@ -48,6 +49,11 @@ std::chrono::milliseconds untilNextMinute(const Clock& clock) {
     constexpr double minute = 60;
     const auto passed = std::fmod(clock.date().timeIntervalSince1970(), minute);
     return std::chrono::ceil<std::chrono::milliseconds>(std::chrono::duration<double>(minute - passed));
+}
+
+bool hasKeyboard(const UIView& view) {
+    const auto* const field = peerIf<TextFieldContent>(view);
+    return field != nullptr && field->fieldIsFirstResponder();
 }
 
 TouchPhase phaseOf(QEventPoint::State state) {
@@ -217,7 +223,7 @@ void DeviceWindow::keyPressEvent(QKeyEvent* event) {
         moveFocus(event->key() == Qt::Key_Tab);
     else if (event->key() == Qt::Key_Escape)
         escape();
-    else if (presses && element && !element->view->isFirstResponder())
+    else if (presses && element && !hasKeyboard(*element->view))
         press(*element);
     else if (!type(*event))
         event->ignore();

@@ -14,14 +14,6 @@ std::string UITextField::text() const {
     return send<"-[UITextField text]", std::string>(*this);
 }
 
-void UITextField::setText(const std::string& text) {
-    send<"-[UITextField setText:]", void>(*this, text);
-}
-
-std::string UITextField::placeholder() const {
-    return send<"-[UITextField placeholder]", std::string>(*this);
-}
-
 void UITextField::setPlaceholder(const std::string& placeholder) {
     send<"-[UITextField setPlaceholder:]", void>(*this, placeholder);
 }
@@ -32,12 +24,4 @@ void UITextField::setBorderStyle(UITextBorderStyle style) {
 
 bool UITextField::becomeFirstResponder() {
     return UIControl::becomeFirstResponder();
-}
-
-bool UITextField::resignFirstResponder() {
-    return UIControl::resignFirstResponder();
-}
-
-bool UITextField::isFirstResponder() const {
-    return UIControl::isFirstResponder();
 }

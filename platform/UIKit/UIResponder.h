@@ -7,8 +7,4 @@ class UIResponder : public NSObject {
 public:
     /// Asks for the keyboard. \returns whether it has it now; what takes no text never has
     virtual bool becomeFirstResponder();
-    /// Gives the keyboard up. \returns whether it is without it now
-    virtual bool resignFirstResponder();
-    /// Whether it has the keyboard.
-    [[nodiscard]] virtual bool isFirstResponder() const;
 };

@@ -14,15 +14,11 @@ public:
 
     /// Empty when there is none.
     [[nodiscard]] std::string text() const;
-    void setText(const std::string& text);
     /// Shown while there is no text.
-    [[nodiscard]] std::string placeholder() const;
     void setPlaceholder(const std::string& placeholder);
     /// None until another is set.
     void setBorderStyle(UITextBorderStyle style);
 
     /// A field that is in no window has the keyboard as soon as it comes into one.
     bool becomeFirstResponder() override;
-    bool resignFirstResponder() override;
-    [[nodiscard]] bool isFirstResponder() const override;
 };

@@ -19,14 +19,6 @@ std::string UITextField::text() const {
     return peerOf<UITextFieldPeer>(*this).fieldText();
 }
 
-void UITextField::setText(const std::string& text) {
-    peerOf<UITextFieldPeer>(*this).setText(text);
-}
-
-std::string UITextField::placeholder() const {
-    return peerOf<UITextFieldPeer>(*this).fieldPlaceholder();
-}
-
 void UITextField::setPlaceholder(const std::string& placeholder) {
     peerOf<UITextFieldPeer>(*this).setPlaceholder(placeholder);
 }
@@ -37,12 +29,4 @@ void UITextField::setBorderStyle(UITextBorderStyle style) {
 
 bool UITextField::becomeFirstResponder() {
     return peerOf<UITextFieldPeer>(*this).becomeFirstResponder();
-}
-
-bool UITextField::resignFirstResponder() {
-    return peerOf<UITextFieldPeer>(*this).resignFirstResponder();
-}
-
-bool UITextField::isFirstResponder() const {
-    return peerOf<UITextFieldPeer>(*this).fieldIsFirstResponder();
 }

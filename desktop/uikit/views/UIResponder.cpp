@@ -3,11 +3,3 @@
 bool UIResponder::becomeFirstResponder() {
     return false;
 }
-
-bool UIResponder::resignFirstResponder() {
-    return true;
-}
-
-bool UIResponder::isFirstResponder() const {
-    return false;
-}

@@ -32,7 +32,7 @@ TEST_F(TextCommandsTest, TypesIntoWhatWasTapped) {
     static_cast<void>(ask("key backspace"));
     EXPECT_EQ(field_->text(), "My backup \"");
     static_cast<void>(ask("key return"));
-    EXPECT_TRUE(field_->isFirstResponder());
+    EXPECT_TRUE(peerOf<UITextFieldPeer>(*field_).fieldIsFirstResponder());
     EXPECT_EQ(field_->text(), "My backup \"");
 }
 

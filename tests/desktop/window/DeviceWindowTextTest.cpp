@@ -1,5 +1,6 @@
 #include "TextWindowFixture.h"
 #include "WindowAccessibility.h"
+#include "text/UITextFieldPeer.h"
 
 #include <QAccessible>
 #include <QClipboard>
@@ -22,7 +23,7 @@ TEST_F(DeviceWindowTextTest, TypesIntoTheFieldThatWasClicked) {
     type("x");
     EXPECT_EQ(field_->text(), "");
     click({60, 160}); // half a unit for a point
-    EXPECT_TRUE(field_->isFirstResponder());
+    EXPECT_TRUE(peerOf<UITextFieldPeer>(*field_).fieldIsFirstResponder());
     type("H");
     type("i");
     type(" ", Qt::Key_Space);
@@ -34,9 +35,9 @@ TEST_F(DeviceWindowTextTest, TypesIntoTheFieldThatWasClicked) {
 TEST_F(DeviceWindowTextTest, TabBringsTheKeyboardToAField) {
     press(Qt::Key_Tab);
     press(Qt::Key_Tab);
-    EXPECT_FALSE(field_->isFirstResponder());
+    EXPECT_FALSE(peerOf<UITextFieldPeer>(*field_).fieldIsFirstResponder());
     press(Qt::Key_Tab);
-    EXPECT_TRUE(field_->isFirstResponder());
+    EXPECT_TRUE(peerOf<UITextFieldPeer>(*field_).fieldIsFirstResponder());
     type("a b", Qt::Key_Space);
     EXPECT_EQ(field_->text(), "a b");
 }
@@ -50,7 +51,7 @@ TEST_F(DeviceWindowTextTest, AssistiveProgramsBringTheKeyboardToAField) {
     EXPECT_TRUE(child->state().editable);
     EXPECT_FALSE(root->child(0)->state().editable);
     child->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
-    EXPECT_TRUE(field_->isFirstResponder());
+    EXPECT_TRUE(peerOf<UITextFieldPeer>(*field_).fieldIsFirstResponder());
     type("x");
     EXPECT_EQ(child->text(QAccessible::Name), "Name");
     EXPECT_EQ(child->text(QAccessible::Value), "x");

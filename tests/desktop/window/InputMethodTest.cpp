@@ -1,6 +1,7 @@
 #include "InputMethod.h"
 
 #include "TextWindowFixture.h"
+#include "text/UITextFieldPeer.h"
 #include "typing/TextInput.h"
 
 #include <QCoreApplication>
@@ -11,7 +12,7 @@ namespace {
 class InputMethodTest : public TextWindowFixture {
 protected:
     InputMethodTest() {
-        field_->setText("one two");
+        peerOf<UITextFieldPeer>(*field_).setText("one two");
         field_->becomeFirstResponder();
     }
 
@@ -107,7 +108,7 @@ TEST_F(InputMethodTest, TellsWhereTheCaretIsInTheWindow) {
 }
 
 TEST_F(InputMethodTest, TellsWhenNobodyTakesText) {
-    field_->resignFirstResponder();
+    peerOf<UITextFieldPeer>(*field_).resignFirstResponder();
     EXPECT_EQ(ask(Qt::ImEnabled), false);
     EXPECT_FALSE(ask(Qt::ImSurroundingText).isValid());
     QInputMethodEvent event("k", {});

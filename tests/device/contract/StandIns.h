@@ -61,8 +61,6 @@ void callBlockWithObject(void* block, id object);
     BOOL hasKeyboard;
 }
 - (BOOL)becomeFirstResponder;
-- (BOOL)resignFirstResponder;
-- (BOOL)isFirstResponder;
 @end
 
 @interface UITouch : NSObject {

@@ -136,10 +136,6 @@ void callBlockWithObject(void *block, id object) {
     return image;
 }
 - (NSInteger)renderingMode { return renderingMode; }
-- (CGSize)size {
-    CGSize size = {20, 10};
-    return size;
-}
 - (NSString *)description { return [NSString stringWithFormat:@"<%@ %ld>", name, (long)renderingMode]; }
 - (void)dealloc {
     [name release];
@@ -169,14 +165,8 @@ void callBlockWithObject(void *block, id object) {
 @implementation UIResponder
 - (BOOL)becomeFirstResponder {
     record(self, _cmd, @"");
-    return hasKeyboard = YES;
-}
-- (BOOL)resignFirstResponder {
-    record(self, _cmd, @"");
-    hasKeyboard = NO;
     return YES;
 }
-- (BOOL)isFirstResponder { return hasKeyboard; }
 @end
 
 @implementation UITouch
@@ -401,7 +391,6 @@ void finishAnimations(void) {
     record(self, _cmd, @"%@", describe(given));
     ASSIGN(text, given);
 }
-- (NSString *)placeholder { return placeholder; }
 - (void)setPlaceholder:(NSString *)given {
     record(self, _cmd, @"%@", describe(given));
     ASSIGN(placeholder, given);

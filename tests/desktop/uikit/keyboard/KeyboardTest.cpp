@@ -37,7 +37,7 @@ TEST_F(KeyboardTest, IsShownWhileATextHasIt) {
     run();
     EXPECT_TRUE(keyboard().isShown());
     EXPECT_EQ(screen.keyboardHeight(), 336);
-    field->resignFirstResponder();
+    peer().resignFirstResponder();
     run();
     EXPECT_FALSE(keyboard().isShown());
     EXPECT_EQ(screen.keyboardHeight(), 0);
@@ -59,7 +59,7 @@ TEST_F(KeyboardTest, SlidesFromBelowTheScreen) {
 
 TEST_F(KeyboardTest, IsGoneWhenItHasSlidDown) {
     show();
-    field->resignFirstResponder();
+    peer().resignFirstResponder();
     run();
     EXPECT_FALSE(keyboard().view()->peer().window()->peer().isHidden());
     settle();
@@ -77,11 +77,11 @@ TEST_F(KeyboardTest, StaysWhenAnotherTextTakesIt) {
     other->becomeFirstResponder();
     settle();
     field->becomeFirstResponder();
-    field->resignFirstResponder();
+    peer().resignFirstResponder();
     other->becomeFirstResponder();
     settle();
     EXPECT_EQ(listener->keyboardHeights, std::vector<double>{336});
-    other->resignFirstResponder();
+    peerOf<UITextFieldPeer>(*other).resignFirstResponder();
     settle();
     EXPECT_EQ(listener->keyboardHeights, (std::vector<double>{336, 0}));
 }
@@ -119,15 +119,15 @@ TEST_F(KeyboardTest, TypesWithItsKeys) {
     tapKey("z");
     EXPECT_EQ(field->text(), "AbcQq7€z");
     tapKey("return");
-    EXPECT_TRUE(field->isFirstResponder());
+    EXPECT_TRUE(peer().fieldIsFirstResponder());
     EXPECT_EQ(field->text(), "AbcQq7€z");
 }
 
 TEST_F(KeyboardTest, BeginsWithALargeLetterInAnEmptyTextOnly) {
     show();
     EXPECT_TRUE(keyboard().view()->isShifted());
-    field->resignFirstResponder();
-    field->setText("x");
+    peer().resignFirstResponder();
+    peer().setText("x");
     settle();
     show();
     EXPECT_FALSE(keyboard().view()->isShifted());
@@ -136,7 +136,7 @@ TEST_F(KeyboardTest, BeginsWithALargeLetterInAnEmptyTextOnly) {
 TEST_F(KeyboardTest, AFingerOnItDoesNotTakeItAway) {
     show();
     tap(195, 520);
-    EXPECT_TRUE(field->isFirstResponder());
+    EXPECT_TRUE(peer().fieldIsFirstResponder());
 }
 
 TEST_F(KeyboardTest, FollowsTheScreensSize) {

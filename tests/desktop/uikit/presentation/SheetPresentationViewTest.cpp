@@ -5,6 +5,7 @@
 #include "presentation/PresentationFixture.h"
 #include "presentation/SheetContent.h"
 #include "scrolling/UIScrollViewPeer.h"
+#include "text/UITextFieldPeer.h"
 #include "typing/TextFieldContent.h"
 
 #include <utility>
@@ -312,12 +313,12 @@ TEST_F(PadSheetTest, aFieldThatIsEditedBringsTheKeyboardAndTheSheetOutOfItsWay) 
     present(sheet);
     tap(*field);
     settle();
-    EXPECT_TRUE(field->isFirstResponder());
+    EXPECT_TRUE(peerOf<UITextFieldPeer>(*field).fieldIsFirstResponder());
     EXPECT_GT(screen.keyboardHeight(), 0);
     EXPECT_LE(CGRectGetMaxY(screenFrame(*field)), 1180 - screen.keyboardHeight());
     sheet->dismissViewControllerAnimated(true, {});
     settle();
-    EXPECT_FALSE(field->isFirstResponder());
+    EXPECT_FALSE(peerOf<UITextFieldPeer>(*field).fieldIsFirstResponder());
     EXPECT_EQ(screen.keyboardHeight(), 0);
 }
 

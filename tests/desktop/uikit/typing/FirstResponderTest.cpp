@@ -28,14 +28,14 @@ TEST_F(FirstResponderTest, IsOneAtATime) {
     responder_.set(peer());
     responder_.set(peer());
     EXPECT_EQ(changes_, 1);
-    EXPECT_TRUE(field->isFirstResponder());
+    EXPECT_TRUE(peer().fieldIsFirstResponder());
     responder_.set(peerOf<UITextFieldPeer>(*other));
     EXPECT_EQ(changes_, 2);
-    EXPECT_FALSE(field->isFirstResponder());
+    EXPECT_FALSE(peer().fieldIsFirstResponder());
     responder_.remove(peer());
     EXPECT_EQ(responder_.input(), &peerOf<UITextFieldPeer>(*other));
     responder_.clear();
-    EXPECT_FALSE(other->isFirstResponder());
+    EXPECT_FALSE(peerOf<UITextFieldPeer>(*other).fieldIsFirstResponder());
     EXPECT_EQ(changes_, 3);
 }
 
@@ -68,10 +68,10 @@ TEST_F(FirstResponderTest, IsNoMoreWhenWhatIsPresentedWithItIsOnItsWayOut) {
     screen.presentations().add(*sheet, *sheet);
     other->becomeFirstResponder();
     screen.presentations().remove(*sheet);
-    EXPECT_FALSE(other->isFirstResponder());
+    EXPECT_FALSE(peerOf<UITextFieldPeer>(*other).fieldIsFirstResponder());
     other->becomeFirstResponder();
     screen.presentations().remove(*sheet);
-    EXPECT_TRUE(other->isFirstResponder());
+    EXPECT_TRUE(peerOf<UITextFieldPeer>(*other).fieldIsFirstResponder());
 }
 
 TEST_F(FirstResponderTest, CountsBlinksFromTheLastEdit) {
