@@ -9,7 +9,6 @@
 /// What happens to a control; a set of flags with the platform's numbers.
 enum class UIControlEvents : unsigned {
     TouchDown = 1U << 0U,
-    TouchDownRepeat = 1U << 1U,
     TouchDragInside = 1U << 2U,
     TouchDragOutside = 1U << 3U,
     TouchDragEnter = 1U << 4U,
