@@ -1,6 +1,7 @@
 #include "JsonValues.h"
 
 #include "ColorComponents.h"
+#include "time/UnixTime.h"
 
 #include <QDateTime>
 #include <QJsonDocument>
@@ -13,7 +14,7 @@
 namespace {
 
 QJsonValue jsonOfDate(NSDate date) {
-    const auto milliseconds = std::llround(date.timeIntervalSince1970() * 1000);
+    const auto milliseconds = std::llround(unixTimeOf(date) * 1000);
     return QDateTime::fromMSecsSinceEpoch(milliseconds, Qt::UTC).toString(Qt::ISODateWithMs);
 }
 

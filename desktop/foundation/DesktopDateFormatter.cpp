@@ -1,6 +1,7 @@
 #include "DesktopDateFormatter.h"
 
 #include "Device.h"
+#include "time/UnixTime.h"
 
 #include <unicode/resbund.h>
 #include <unicode/smpdtfmt.h>
@@ -46,7 +47,7 @@ Ref<NSDateFormatter> NSDateFormatter::dateFormatter() {
 
 std::string DesktopDateFormatter::stringFromDate(NSDate date) const {
     const auto format = pattern_.empty() ? formatOfStyles(dateStyle_, timeStyle_) : formatOfPattern(pattern_);
-    const double milliseconds = date.timeIntervalSince1970() * 1000;
+    const double milliseconds = unixTimeOf(date) * 1000;
     if (format == nullptr || std::isnan(milliseconds))
         return {};
     format->adoptTimeZone(icu::TimeZone::createTimeZone(Device::current().timeZone().c_str()));

@@ -8,6 +8,7 @@
 #include "files/TreeCopy.h"
 #include "files/TreeListing.h"
 #include "files/TreeRemoval.h"
+#include "time/UnixTime.h"
 
 #include <sys/stat.h>
 
@@ -82,8 +83,7 @@ std::expected<struct statx, int> statusOf(const DeviceRoot::Place& place) {
 
 NSDate dateOf(const struct statx_timestamp& time) {
     constexpr double nanosecondsPerSecond = 1e9;
-    return NSDate::dateWithTimeIntervalSince1970(static_cast<double>(time.tv_sec) +
-                                                 time.tv_nsec / nanosecondsPerSecond);
+    return dateOfUnixTime(static_cast<double>(time.tv_sec) + time.tv_nsec / nanosecondsPerSecond);
 }
 
 NSFileType typeOf(mode_t mode) {

@@ -1,6 +1,7 @@
 #include "ProgramOptions.h"
 
 #include "NumberText.h"
+#include "time/UnixTime.h"
 
 #include <QCommandLineParser>
 #include <QDateTime>
@@ -90,8 +91,7 @@ bool readNow(const QString& text, ProgramOptions& options) {
         moment.setTimeZone(QTimeZone(QByteArray::fromStdString(options.timeZone.value_or("UTC"))));
     if (!moment.isValid())
         return false;
-    options.now =
-        NSDate::dateWithTimeIntervalSince1970(static_cast<double>(moment.toMSecsSinceEpoch()) / 1000);
+    options.now = dateOfUnixTime(static_cast<double>(moment.toMSecsSinceEpoch()) / 1000);
     return true;
 }
 

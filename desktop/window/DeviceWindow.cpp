@@ -7,6 +7,7 @@
 #include "screen/Screen.h"
 #include "screen/TouchDispatcher.h"
 #include "scrolling/UIScrollViewPeer.h"
+#include "time/UnixTime.h"
 #include "typing/TextFieldContent.h"
 #include "typing/TextInput.h"
 
@@ -47,7 +48,7 @@ QSize firstSize(CGSize screen) {
 /// The time that is shown is of minutes.
 std::chrono::milliseconds untilNextMinute(const Clock& clock) {
     constexpr double minute = 60;
-    const auto passed = std::fmod(clock.date().timeIntervalSince1970(), minute);
+    const auto passed = std::fmod(unixTimeOf(clock.date()), minute);
     return std::chrono::ceil<std::chrono::milliseconds>(std::chrono::duration<double>(minute - passed));
 }
 

@@ -14,7 +14,8 @@ std::string NSDate::description() const {
         return text.data();
     }
     using namespace std::chrono;
-    const sys_seconds moment(seconds(static_cast<std::int64_t>(std::floor(timeIntervalSince1970()))));
+    const double since1970 = timeIntervalSinceReferenceDate + timeIntervalBetween1970AndReferenceDate;
+    const sys_seconds moment(seconds(static_cast<std::int64_t>(std::floor(since1970))));
     const auto day = floor<days>(moment);
     const year_month_day date(day);
     const hh_mm_ss time(moment - day);

@@ -14,14 +14,6 @@ struct NSDate {
     /// Now, on the platform's clock.
     [[nodiscard]] static NSDate date();
 
-    [[nodiscard]] static constexpr NSDate dateWithTimeIntervalSince1970(double seconds) {
-        return {seconds - timeIntervalBetween1970AndReferenceDate};
-    }
-
-    [[nodiscard]] constexpr double timeIntervalSince1970() const {
-        return timeIntervalSinceReferenceDate + timeIntervalBetween1970AndReferenceDate;
-    }
-
     /// In UTC and to the second: "2026-11-21 03:08:34 +0000".
     [[nodiscard]] std::string description() const;
 

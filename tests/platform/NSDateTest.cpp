@@ -5,8 +5,8 @@
 #include <limits>
 
 TEST(NSDate, CountsFromTheStartOf2001) {
-    EXPECT_EQ(NSDate::dateWithTimeIntervalSince1970(978307200).timeIntervalSinceReferenceDate, 0);
-    EXPECT_EQ(NSDate{0.5}.timeIntervalSince1970(), 978307200.5);
+    EXPECT_EQ(NSDate().timeIntervalSinceReferenceDate, 0);
+    EXPECT_EQ(NSDate::timeIntervalBetween1970AndReferenceDate, 978307200);
 }
 
 TEST(NSDate, ComparesByTime) {
@@ -16,9 +16,12 @@ TEST(NSDate, ComparesByTime) {
 
 TEST(NSDate, DescribesItselfToTheSecondInUTC) {
     EXPECT_EQ(NSDate{0}.description(), "2001-01-01 00:00:00 +0000");
-    EXPECT_EQ(NSDate::dateWithTimeIntervalSince1970(1794798720.9).description(), "2026-11-16 03:12:00 +0000");
-    EXPECT_EQ(NSDate::dateWithTimeIntervalSince1970(-0.5).description(), "1969-12-31 23:59:59 +0000");
-    EXPECT_EQ(NSDate::dateWithTimeIntervalSince1970(951782400).description(), "2000-02-29 00:00:00 +0000");
+    EXPECT_EQ(NSDate{1794798720.9 - NSDate::timeIntervalBetween1970AndReferenceDate}.description(),
+              "2026-11-16 03:12:00 +0000");
+    EXPECT_EQ(NSDate{-0.5 - NSDate::timeIntervalBetween1970AndReferenceDate}.description(),
+              "1969-12-31 23:59:59 +0000");
+    EXPECT_EQ(NSDate{951782400 - NSDate::timeIntervalBetween1970AndReferenceDate}.description(),
+              "2000-02-29 00:00:00 +0000");
     EXPECT_EQ(NSDate{-63113904000.0}.description(), "0001-01-01 00:00:00 +0000");
 }
 

@@ -1,5 +1,7 @@
 #include "TestDevice.h"
 
+#include "time/UnixTime.h"
+
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -11,7 +13,7 @@
 
 namespace {
 
-constexpr NSDate start = NSDate::dateWithTimeIntervalSince1970(1794798720); // 2026-11-16 03:12:00 UTC
+constexpr NSDate start = dateOfUnixTime(1794798720); // 2026-11-16 03:12:00 UTC
 
 Device::Options optionsFor(const TestDevice::Settings& settings, const std::string& folder,
                            VirtualClock*& clock) {

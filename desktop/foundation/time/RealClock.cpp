@@ -1,10 +1,12 @@
 #include "time/RealClock.h"
 
+#include "time/UnixTime.h"
+
 std::chrono::nanoseconds RealClock::uptime() const {
     return std::chrono::steady_clock::now().time_since_epoch();
 }
 
 NSDate RealClock::date() const {
     const std::chrono::duration<double> seconds = std::chrono::system_clock::now().time_since_epoch();
-    return NSDate::dateWithTimeIntervalSince1970(seconds.count());
+    return dateOfUnixTime(seconds.count());
 }

@@ -1,6 +1,7 @@
 #include "JsonValues.h"
 
 #include "ColorComponents.h"
+#include "time/UnixTime.h"
 
 #include <gtest/gtest.h>
 
@@ -24,7 +25,7 @@ TEST(JsonValues, WritesEveryKindOfValue) {
     const PropertyList::Dictionary values{
         {"boolean", true},
         {"data", NSData::dataWithBytes("hi!")},
-        {"date", NSDate::dateWithTimeIntervalSince1970(1794798720.25)},
+        {"date", dateOfUnixTime(1794798720.25)},
         {"integer", -3},
         {"list", PropertyList::Array{1, "a\nb", 0.5}},
     };

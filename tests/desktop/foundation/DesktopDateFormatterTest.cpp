@@ -1,6 +1,7 @@
 #include "DesktopDateFormatter.h"
 
 #include "TestDevice.h"
+#include "time/UnixTime.h"
 
 #include <gtest/gtest.h>
 #include <unicode/locid.h>
@@ -9,7 +10,7 @@
 
 namespace {
 
-constexpr NSDate morning = NSDate::dateWithTimeIntervalSince1970(1794798720); // 2026-11-16 03:12:00 UTC
+constexpr NSDate morning = dateOfUnixTime(1794798720); // 2026-11-16 03:12:00 UTC
 
 using Style = NSDateFormatterStyle;
 
@@ -38,8 +39,7 @@ std::string inShort(const std::string& locale) {
 }
 
 std::string inZone(const std::string& timeZone, double secondsSince1970) {
-    return withPattern({"en_US", timeZone}, "yyyy-MM-dd HH:mm:ss",
-                       NSDate::dateWithTimeIntervalSince1970(secondsSince1970));
+    return withPattern({"en_US", timeZone}, "yyyy-MM-dd HH:mm:ss", dateOfUnixTime(secondsSince1970));
 }
 
 /// The host's locale, for as long as the object lives.

@@ -1,4 +1,5 @@
 #include "NSFileManagerFixture.h"
+#include "time/UnixTime.h"
 
 #include <sys/stat.h>
 
@@ -257,15 +258,15 @@ TEST_F(NSFileManagerTest, AttributesOfALinkAreItsOwn) {
 
 TEST_F(NSFileManagerTest, AttributesTellTheDates) {
     device.write("/file", "");
-    const double madeAt = manager.attributesOfItemAtPath("/file")->fileCreationDate.timeIntervalSince1970();
+    const double madeAt = unixTimeOf(manager.attributesOfItemAtPath("/file")->fileCreationDate);
     const auto times = std::to_array<timespec>(
         {{.tv_sec = 1000, .tv_nsec = 0}, {.tv_sec = 1234567890, .tv_nsec = 500000000}});
     ASSERT_EQ(utimensat(AT_FDCWD, device.hostPath("/file").c_str(), times.data(), 0), 0);
     const auto attributes = manager.attributesOfItemAtPath("/file");
     ASSERT_TRUE(attributes.has_value());
-    EXPECT_EQ(attributes->fileModificationDate.timeIntervalSince1970(), 1234567890.5);
+    EXPECT_EQ(unixTimeOf(attributes->fileModificationDate), 1234567890.5);
     EXPECT_NEAR(madeAt, static_cast<double>(std::time(nullptr)), 600);
-    const double creation = attributes->fileCreationDate.timeIntervalSince1970();
+    const double creation = unixTimeOf(attributes->fileCreationDate);
     EXPECT_TRUE(creation == madeAt || creation == 1234567890.5)
         << creation; // the latter where the host knows none
 }

@@ -58,7 +58,6 @@ void callBlockWithObject(void* block, id object);
 @end
 
 @interface UIResponder : NSObject {
-    BOOL hasKeyboard;
 }
 - (BOOL)becomeFirstResponder;
 @end

@@ -1,5 +1,7 @@
 #include "time/RealClock.h"
 
+#include "time/UnixTime.h"
+
 #include <gtest/gtest.h>
 
 #include <ctime>
@@ -25,7 +27,7 @@ TEST(RealClockTest, UptimeMovesOn) {
 
 TEST(RealClockTest, DateIsTheHostsTime) {
     const auto before = std::time(nullptr);
-    const auto date = RealClock().date().timeIntervalSince1970();
+    const auto date = unixTimeOf(RealClock().date());
     const auto after = std::time(nullptr);
     EXPECT_GE(date, static_cast<double>(before) - 1); // the host's coarse time lags a little
     EXPECT_LE(date, static_cast<double>(after) + 1);
