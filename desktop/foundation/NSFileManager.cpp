@@ -103,8 +103,7 @@ NSFileAttributes attributesOf(const struct statx& status) {
     const bool tellsItsCreation = (status.stx_mask & STATX_BTIME) != 0;
     return {.fileType = typeOf(status.stx_mode),
             .fileSize = status.stx_size,
-            .fileCreationDate = dateOf(tellsItsCreation ? status.stx_btime : status.stx_mtime),
-            .fileModificationDate = dateOf(status.stx_mtime)};
+            .fileCreationDate = dateOf(tellsItsCreation ? status.stx_btime : status.stx_mtime)};
 }
 
 } // namespace

@@ -42,8 +42,7 @@ NSFileType fileTypeOf(const std::string& type) {
 NSFileAttributes attributesFrom(id dictionary) {
     return {.fileType = fileTypeOf(send<"-[NSDictionary fileType]", std::string>(dictionary)),
             .fileSize = send<"-[NSDictionary fileSize]", std::uint64_t>(dictionary),
-            .fileCreationDate = dateOf(send<"-[NSDictionary fileCreationDate]", id>(dictionary)),
-            .fileModificationDate = dateOf(send<"-[NSDictionary fileModificationDate]", id>(dictionary))};
+            .fileCreationDate = dateOf(send<"-[NSDictionary fileCreationDate]", id>(dictionary))};
 }
 
 } // namespace

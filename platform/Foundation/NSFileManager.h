@@ -17,7 +17,6 @@ struct NSFileAttributes {
     NSFileType fileType = NSFileType::Other;
     std::uint64_t fileSize = 0; ///< bytes
     NSDate fileCreationDate;
-    NSDate fileModificationDate;
 };
 
 /// Which folder to search for. The number is the platform's.

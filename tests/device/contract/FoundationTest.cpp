@@ -65,7 +65,7 @@ TEST_F(FileTest, AttributesAreTold) {
     EXPECT_EQ(attributes.fileType, NSFileType::Regular);
     EXPECT_EQ(attributes.fileSize, 4U);
     EXPECT_LT(NSDate::date().timeIntervalSinceReferenceDate -
-                  attributes.fileModificationDate.timeIntervalSinceReferenceDate,
+                  attributes.fileCreationDate.timeIntervalSinceReferenceDate,
               60);
     EXPECT_EQ(files.attributesOfItemAtPath(folder)->fileType, NSFileType::Directory);
 }
