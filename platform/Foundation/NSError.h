@@ -27,10 +27,6 @@ public:
 
     [[nodiscard]] std::int64_t code() const { return code_; }
 
-    [[nodiscard]] const PropertyList::Dictionary& userInfo() const { return userInfo_; }
-
-    [[nodiscard]] const Ref<NSError>& underlyingError() const { return underlyingError_; }
-
     /// The text for the user: the user info's, or else one made of domain and code.
     [[nodiscard]] std::string localizedDescription() const;
 

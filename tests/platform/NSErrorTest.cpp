@@ -20,8 +20,7 @@ TEST(NSError, CarriesDomainCodeAndUserInfo) {
         NSError::errorWithDomain("com.orvel.corvex", 2, info("Failed to open archive for reading"));
     EXPECT_EQ(error->domain(), "com.orvel.corvex");
     EXPECT_EQ(error->code(), 2);
-    EXPECT_EQ(error->userInfo(), info("Failed to open archive for reading"));
-    EXPECT_EQ(error->underlyingError(), nullptr);
+    EXPECT_EQ(error->localizedDescription(), "Failed to open archive for reading");
     EXPECT_EQ(error->isa().name(), "NSError");
 }
 

@@ -1,5 +1,6 @@
 #include "NSFileManagerFixture.h"
 
+#include "Foundation/Format.h"
 #include "files/FileDescriptor.h"
 
 #include <sys/fsuid.h>
@@ -55,10 +56,11 @@ void NSFileManagerFixture::expectError(const NSError& error, std::int64_t code, 
     EXPECT_EQ(error.domain(), NSCocoaErrorDomain);
     EXPECT_EQ(error.code(), code);
     EXPECT_EQ(error.localizedDescription(), text);
-    EXPECT_EQ(error.userInfo().at(std::string(NSFilePathErrorKey)), PropertyList(path));
-    ASSERT_TRUE(error.underlyingError());
-    EXPECT_EQ(error.underlyingError()->domain(), NSPOSIXErrorDomain);
-    EXPECT_EQ(error.underlyingError()->code(), hostError);
+    const auto description = error.description();
+    EXPECT_TRUE(description.contains(stringWithFormat("NSFilePath=%@,", path))) << description;
+    EXPECT_TRUE(description.contains(stringWithFormat(
+        "NSUnderlyingError={Error Domain=NSPOSIXErrorDomain Code=%@ ", std::to_string(hostError))))
+        << description;
 }
 
 WithoutPrivileges::WithoutPrivileges() {
