@@ -96,7 +96,3 @@ std::optional<PropertyList> DesktopSpecifier::propertyForKey(std::string_view ke
     const auto found = properties_.find(key);
     return found != properties_.end() ? std::optional(found->second) : std::nullopt;
 }
-
-void DesktopSpecifier::setProperty(const PropertyList& value, std::string_view key) {
-    properties_.insert_or_assign(std::string(key), value);
-}

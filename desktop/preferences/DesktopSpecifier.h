@@ -81,7 +81,6 @@ public:
 
     // PSSpecifier:
     [[nodiscard]] std::optional<PropertyList> propertyForKey(std::string_view key) const override;
-    void setProperty(const PropertyList& value, std::string_view key) override;
 
 private:
     /// A message that the target does not answer is logged once.

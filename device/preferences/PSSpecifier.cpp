@@ -10,11 +10,6 @@ public:
         const AutoreleasePool pool;
         return send<"-[PSSpecifier propertyForKey:]", std::optional<PropertyList>>(*this, key);
     }
-
-    void setProperty(const PropertyList& value, std::string_view key) override {
-        const AutoreleasePool pool;
-        send<"-[PSSpecifier setProperty:forKey:]", void>(*this, value, key);
-    }
 };
 
 const FrameworkClassOf<SystemSpecifier> frameworkClass("PSSpecifier");

@@ -11,6 +11,4 @@ class PSSpecifier : public NSObject {
 public:
     /// Nothing when the row has no such property.
     [[nodiscard]] virtual std::optional<PropertyList> propertyForKey(std::string_view key) const = 0;
-
-    virtual void setProperty(const PropertyList& value, std::string_view key) = 0;
 };

@@ -85,7 +85,8 @@ TEST_F(RootPageTest, SpecifiersAreLoadedOnceAndAreTheInheritedArrayItself) {
 
 TEST_F(RootPageTest, RowsAreReadAndWrittenByTheFramework) {
     auto* const specifier = emptySpecifier();
-    instanceAs<PSSpecifier>(specifier)->setProperty(0.5, "value");
+    instanceAs<PSSpecifier>(specifier)->performSelector("setProperty:forKey:",
+                                                        {PropertyList(0.5), PropertyList("value")});
     EXPECT_EQ(propertyListOf(readValueOf(page, specifier)), PropertyList(0.5));
     setValueOf(page, number(2), specifier);
     EXPECT_EQ(takeJournal(), (Lines{"-[PSSpecifier setProperty:forKey:] 0.5 \"value\"",
