@@ -42,7 +42,7 @@ Ref<NSBundle> NSBundle::mainBundle() {
     return Device::current().mainBundle();
 }
 
-Ref<NSBundle> NSBundle::bundleWithPath(std::string_view path) {
+Ref<DesktopBundle> DesktopBundle::withPath(std::string_view path) {
     if (!Device::current().root().open(path, O_PATH | O_DIRECTORY))
         return nullptr;
     return make<DesktopBundle>(path);

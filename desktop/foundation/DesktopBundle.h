@@ -8,15 +8,17 @@
 #include <string>
 #include <vector>
 
-/// A bundle in a folder of the current device, which need not exist: it then has no tables. Made by
-/// `NSBundle::bundleWithPath`, and by the device for its main bundle. Any thread.
+/// A bundle in a folder of the current device, which need not exist: it then has no tables. Any thread.
 class DesktopBundle final : public NSBundle {
 public:
     explicit DesktopBundle(std::string_view path) : path_(path) {}
 
-    // NSBundle:
-    [[nodiscard]] std::string bundlePath() const override { return path_; }
+    /// The bundle in that folder; empty when there is no folder at the path.
+    [[nodiscard]] static Ref<DesktopBundle> withPath(std::string_view path);
 
+    [[nodiscard]] const std::string& path() const { return path_; }
+
+    // NSBundle:
     [[nodiscard]] std::string localizedStringForKey(std::string_view key, std::optional<std::string> value,
                                                     std::optional<std::string> table) const override;
 

@@ -1,6 +1,5 @@
 #include "Device.h"
 
-#include "DesktopBundle.h"
 #include "Foundation/NSFileManager.h"
 #include "Foundation/NSLog.h"
 #include "preferences/PreferenceDomains.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Foundation/NSBundle.h"
+#include "DesktopBundle.h"
 #include "files/DeviceRoot.h"
 #include "system/ApplicationTermination.h"
 #include "system/DarwinNotifications.h"
@@ -43,7 +43,7 @@ public:
 
     [[nodiscard]] const std::string& timeZone() const { return timeZone_; }
 
-    [[nodiscard]] const Ref<NSBundle>& mainBundle() const { return mainBundle_; }
+    [[nodiscard]] const Ref<DesktopBundle>& mainBundle() const { return mainBundle_; }
 
     [[nodiscard]] const std::shared_ptr<PreferenceDomains>& preferenceDomains() const {
         return preferenceDomains_;
@@ -68,7 +68,7 @@ private:
     std::unique_ptr<Clock> clock_;
     std::string locale_;
     std::string timeZone_;
-    Ref<NSBundle> mainBundle_;
+    Ref<DesktopBundle> mainBundle_;
     std::shared_ptr<PreferenceDomains> preferenceDomains_;
     MainQueueScheduler mainQueue_;
     DarwinNotifications notifications_;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Foundation/NSBundle.h"
+#include "DesktopBundle.h"
 #include "ObjectiveC/Class.h"
 
 #include <functional>
@@ -18,10 +18,10 @@ public:
 
     /// Runs `load`, and notes the classes that have come into the class table meanwhile as the bundle's own.
     /// Of bundles loaded within `load`, each keeps its own.
-    void addClassesLoadedBy(const std::function<void()>& load, const Ref<NSBundle>& bundle);
+    void addClassesLoadedBy(const std::function<void()>& load, const Ref<DesktopBundle>& bundle);
 
     /// Notes one class as the bundle's own, in place of what was noted of it before.
-    void addClass(const Class& added, const Ref<NSBundle>& bundle);
+    void addClass(const Class& added, const Ref<DesktopBundle>& bundle);
 
     /// Forgets the classes of the bundle at that path.
     void removeBundle(std::string_view path);
@@ -31,10 +31,10 @@ public:
 
     /// The bundle of the class, or of the nearest class it derives from that has one; the main bundle when
     /// none has.
-    [[nodiscard]] Ref<NSBundle> bundleOf(const Class& asked) const;
+    [[nodiscard]] Ref<DesktopBundle> bundleOf(const Class& asked) const;
 
 private:
     LoadedBundles() = default;
 
-    std::map<std::string, Ref<NSBundle>, std::less<>> bundles_; ///< by the class's name
+    std::map<std::string, Ref<DesktopBundle>, std::less<>> bundles_; ///< by the class's name
 };

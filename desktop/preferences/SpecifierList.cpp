@@ -18,8 +18,8 @@ constexpr double iconScale = 3; ///< the pixels per point that icons are picked 
 /// Reads one list.
 class Reader {
 public:
-    Reader(const NSBundle& bundle, std::string_view name, NSObject& target)
-        : folder_(bundle.bundlePath()),
+    Reader(const DesktopBundle& bundle, std::string_view name, NSObject& target)
+        : folder_(bundle.path()),
           path_(stringByAppendingPathComponent(folder_, std::string(name) + ".plist")),
           localizer_(bundle, name),
           target_(target) {}
@@ -90,6 +90,6 @@ Ref<UIImage> Reader::iconOf(const DesktopSpecifier& specifier) const {
 
 } // namespace
 
-SpecifierList SpecifierList::read(const NSBundle& bundle, std::string_view name, NSObject& target) {
+SpecifierList SpecifierList::read(const DesktopBundle& bundle, std::string_view name, NSObject& target) {
     return Reader(bundle, name, target).read();
 }

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "DesktopBundle.h"
 #include "DesktopSpecifier.h"
-#include "Foundation/NSBundle.h"
 
 #include <string>
 #include <string_view>
@@ -15,5 +15,6 @@ struct SpecifierList {
 
     /// Without rows when there is no such list or it is damaged.
     /// \param target gets the rows' messages
-    [[nodiscard]] static SpecifierList read(const NSBundle& bundle, std::string_view name, NSObject& target);
+    [[nodiscard]] static SpecifierList read(const DesktopBundle& bundle, std::string_view name,
+                                            NSObject& target);
 };

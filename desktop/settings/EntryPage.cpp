@@ -1,12 +1,12 @@
 #include "EntryPage.h"
 
+#include "DesktopBundle.h"
 #include "EntryList.h"
-#include "Foundation/NSBundle.h"
 #include "SpecifierList.h"
 
 PSListController::Specifiers EntryPage::specifiers() {
     if (cachedSpecifiers().empty()) {
-        if (const auto folder = NSBundle::bundleWithPath(EntryList::folder))
+        if (const auto folder = DesktopBundle::withPath(EntryList::folder))
             setCachedSpecifiers(SpecifierList::read(*folder, name_, *this).specifiers);
     }
     return cachedSpecifiers();

@@ -1,7 +1,7 @@
 #include "HomeView.h"
 
 #include "CALayerPeer.h"
-#include "Foundation/NSBundle.h"
+#include "Device.h"
 #include "Foundation/NSString.h"
 #include "ObjectiveC/Class.h"
 #include "views/UIViewPeer.h"
@@ -41,7 +41,7 @@ const Measures& measuresFor(const Traits& traits) {
 }
 
 std::string resource(const char* name) {
-    return stringByAppendingPathComponent(NSBundle::mainBundle()->bundlePath(), name);
+    return stringByAppendingPathComponent(Device::current().mainBundle()->path(), name);
 }
 
 class HomeViewPeer final : public UIViewPeer {

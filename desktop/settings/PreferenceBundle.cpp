@@ -59,7 +59,7 @@ std::string PreferenceBundle::pathOf(std::string_view name) {
 
 std::expected<PreferenceBundle, std::string> PreferenceBundle::load(std::string_view name) {
     const auto path = pathOf(name);
-    auto bundle = isBundleName(name) ? NSBundle::bundleWithPath(path) : nullptr;
+    auto bundle = isBundleName(name) ? DesktopBundle::withPath(path) : nullptr;
     if (!bundle)
         return Problem("There is no bundle “" + std::string(name) + "” in " + std::string(folder) + ".");
     const auto info = readInfo(path);
@@ -80,19 +80,19 @@ std::expected<PreferenceBundle, std::string> PreferenceBundle::load(std::string_
     return loaded;
 }
 
-PreferenceBundle::PreferenceBundle(Ref<NSBundle> bundle, BundleCode code, std::string principalClass)
+PreferenceBundle::PreferenceBundle(Ref<DesktopBundle> bundle, BundleCode code, std::string principalClass)
     : bundle_(std::move(bundle)),
       code_(std::move(code)),
       principalClass_(std::move(principalClass)) {}
 
 PreferenceBundle::~PreferenceBundle() {
     if (bundle_)
-        LoadedBundles::shared().removeBundle(bundle_->bundlePath());
+        LoadedBundles::shared().removeBundle(bundle_->path());
 }
 
 std::size_t PreferenceBundle::liveObjects() const {
     std::size_t count = 0;
-    for (const auto* const own : LoadedBundles::shared().classesOf(bundle_->bundlePath()))
+    for (const auto* const own : LoadedBundles::shared().classesOf(bundle_->path()))
         count += LiveObjects::shared().countOf(*own);
     return count;
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "BundleCode.h"
-#include "Foundation/NSBundle.h"
+#include "DesktopBundle.h"
 #include "ObjectiveC/Class.h"
 #include "UIKit/UIViewController.h"
 
@@ -28,7 +28,7 @@ public:
     PreferenceBundle& operator=(PreferenceBundle&& other) = delete;
     ~PreferenceBundle();
 
-    [[nodiscard]] const Ref<NSBundle>& bundle() const { return bundle_; }
+    [[nodiscard]] const Ref<DesktopBundle>& bundle() const { return bundle_; }
 
     /// How many objects of its classes are alive; while there are any, its code must stay.
     [[nodiscard]] std::size_t liveObjects() const;
@@ -40,9 +40,9 @@ public:
     makePage(const std::string& className = "") const;
 
 private:
-    PreferenceBundle(Ref<NSBundle> bundle, BundleCode code, std::string principalClass);
+    PreferenceBundle(Ref<DesktopBundle> bundle, BundleCode code, std::string principalClass);
 
-    Ref<NSBundle> bundle_; ///< empty once moved from
+    Ref<DesktopBundle> bundle_; ///< empty once moved from
     BundleCode code_;
     std::string principalClass_; ///< its name
 };

@@ -1,7 +1,7 @@
 #include "SettingsRootPage.h"
 
 #include "DesktopImage.h"
-#include "Foundation/NSBundle.h"
+#include "Device.h"
 #include "Foundation/NSString.h"
 #include "ObjectiveC/Class.h"
 #include "PSListControllerPeer.h"
@@ -39,7 +39,7 @@ PSListController::Specifiers SettingsRootPage::specifiers() {
     if (!cachedSpecifiers().empty())
         return cachedSpecifiers();
     const auto about = makeRow({{"label", "About"}, {"id", aboutId}, {"action", "openAbout"}},
-                               iconIn(NSBundle::mainBundle()->bundlePath(), "About.png"));
+                               iconIn(Device::current().mainBundle()->path(), "About.png"));
     Specifiers specifiers{makeGroup(), about};
     entries_ = EntryList::read();
     if (!entries_.empty())

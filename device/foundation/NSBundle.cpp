@@ -6,11 +6,6 @@ namespace {
 
 class SystemBundle final : public NSBundle {
 public:
-    [[nodiscard]] std::string bundlePath() const override {
-        const AutoreleasePool pool;
-        return send<"-[NSBundle bundlePath]", std::string>(*this);
-    }
-
     [[nodiscard]] std::string localizedStringForKey(std::string_view key, std::optional<std::string> value,
                                                     std::optional<std::string> table) const override {
         const AutoreleasePool pool;
@@ -25,9 +20,4 @@ const FrameworkClassOf<SystemBundle> frameworkClass("NSBundle");
 Ref<NSBundle> NSBundle::mainBundle() {
     const AutoreleasePool pool;
     return sendToClass<"+[NSBundle mainBundle]", Ref<NSBundle>>();
-}
-
-Ref<NSBundle> NSBundle::bundleWithPath(std::string_view path) {
-    const AutoreleasePool pool;
-    return sendToClass<"+[NSBundle bundleWithPath:]", Ref<NSBundle>>(path);
 }

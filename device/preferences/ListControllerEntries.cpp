@@ -1,6 +1,5 @@
 #include "ListControllerEntries.h"
 
-#include "Foundation/NSBundle.h"
 #include "Foundation/NSString.h"
 #include "Preferences/PSListController.h"
 
@@ -22,9 +21,9 @@ id bundle(id /*self*/, SEL /*selector*/) noexcept {
     return withinPool<id>([] {
         Dl_info image{};
         dladdr(reinterpret_cast<const void*>(&bundleOverridable), &image);
-        const auto found = NSBundle::bundleWithPath(
+        const auto found = sendToClass<"+[NSBundle bundleWithPath:]", id>(
             stringByDeletingLastPathComponent(image.dli_fname != nullptr ? image.dli_fname : ""));
-        return rawAnswer(found);
+        return found;
     });
 }
 

@@ -12,11 +12,6 @@ public:
     /// The bundle of the running application.
     [[nodiscard]] static Ref<NSBundle> mainBundle();
 
-    /// The bundle in that folder; empty when there is no folder at the path.
-    [[nodiscard]] static Ref<NSBundle> bundleWithPath(std::string_view path);
-
-    [[nodiscard]] virtual std::string bundlePath() const = 0;
-
     /// Looks a text up in a string table, in the first of the user's languages that the bundle has.
     /// \param value the answer when the table or the key is missing; the key itself when this is absent or ""
     /// \param table the table's name; "Localizable" when it is absent or ""

@@ -1,5 +1,6 @@
 #include "RootPageFixture.h"
 
+#include "DesktopBundle.h"
 #include "Device.h"
 #include "Foundation/NSDictionary.h"
 #include "LoadedBundles.h"
@@ -22,7 +23,7 @@ constexpr auto list =
 RootPageFixture::RootPageFixture(bool knowsWhatIsNew) {
     device.write(std::string(bundlePath) + "/Root.plist", list);
     LoadedBundles::shared().addClass(*NSClassFromString("cxRootListController"),
-                                     NSBundle::bundleWithPath(bundlePath));
+                                     DesktopBundle::withPath(bundlePath));
     if (knowsWhatIsNew)
         store("3.0.1", "LastVersionPopupShown");
     page = make<cxRootListController>();

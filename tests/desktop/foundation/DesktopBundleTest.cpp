@@ -19,7 +19,7 @@ protected:
         device.reset();
         device.emplace(TestDevice::Settings{.locale = locale});
         std::filesystem::create_directories(device->hostPath(bundlePath));
-        bundle = NSBundle::bundleWithPath(bundlePath);
+        bundle = DesktopBundle::withPath(bundlePath);
         ASSERT_TRUE(bundle);
     }
 
@@ -46,7 +46,7 @@ protected:
     }
 
     std::optional<TestDevice> device;
-    Ref<NSBundle> bundle;
+    Ref<DesktopBundle> bundle;
 };
 
 using Lines = std::vector<std::string>;
@@ -56,9 +56,9 @@ using Lines = std::vector<std::string>;
 TEST_F(DesktopBundleTest, ExistsWhereThereIsAFolder) {
     use("en_US");
     write("file", "");
-    EXPECT_EQ(bundle->bundlePath(), bundlePath);
-    EXPECT_FALSE(NSBundle::bundleWithPath("/Library/None.bundle"));
-    EXPECT_FALSE(NSBundle::bundleWithPath("/Library/Pane.bundle/file"));
+    EXPECT_EQ(bundle->path(), bundlePath);
+    EXPECT_FALSE(DesktopBundle::withPath("/Library/None.bundle"));
+    EXPECT_FALSE(DesktopBundle::withPath("/Library/Pane.bundle/file"));
 }
 
 TEST_F(DesktopBundleTest, FindsATextInTheNamedTable) {
@@ -189,13 +189,13 @@ TEST_F(DesktopBundleTest, ATableIsReadOncePerBundleObject) {
     write("en.lproj/Late.strings", "key = late;");
     EXPECT_EQ(text("key"), "en");
     EXPECT_EQ(text("key", {}, "Late"), "key");
-    EXPECT_EQ(NSBundle::bundleWithPath(bundlePath)->localizedStringForKey("key", {}, {}), "changed");
+    EXPECT_EQ(DesktopBundle::withPath(bundlePath)->localizedStringForKey("key", {}, {}), "changed");
 }
 
 TEST_F(DesktopBundleTest, TheMainBundleNeedNotExist) {
     use("en_US");
     const auto main = NSBundle::mainBundle();
-    EXPECT_EQ(main->bundlePath(), "/Applications/Preferences.app");
+    EXPECT_EQ(Device::current().mainBundle()->path(), "/Applications/Preferences.app");
     EXPECT_EQ(main->localizedStringForKey("key", "value", {}), "value");
     EXPECT_EQ(main->localizedStringForKey("key", {}, "Table"), "key");
 }

@@ -1,6 +1,6 @@
 #include "LoadedBundles.h"
 
-#include "Foundation/NSBundle.h"
+#include "DesktopBundle.h"
 #include "TestDevice.h"
 
 #include <gtest/gtest.h>
@@ -30,7 +30,7 @@ protected:
 
     static LoadedBundles& bundles() { return LoadedBundles::shared(); }
 
-    static std::string pathOf(const Class& asked) { return bundles().bundleOf(asked)->bundlePath(); }
+    static std::string pathOf(const Class& asked) { return bundles().bundleOf(asked)->path(); }
 
     TestDevice device_;
 };
@@ -45,7 +45,7 @@ TEST_F(LoadedBundlesTest, WhatIsLoadedBelongsToItsBundle) {
 
     std::unique_ptr<Statement> statement;
     bundles().addClassesLoadedBy([&statement] { statement = std::make_unique<Statement>(); },
-                                 NSBundle::bundleWithPath("/two"));
+                                 DesktopBundle::withPath("/two"));
     EXPECT_EQ(pathOf(statement->loaded), "/two");
     EXPECT_EQ(pathOf(statement->derived), "/two");
     bundles().removeBundle("/two");
@@ -66,10 +66,10 @@ TEST_F(LoadedBundlesTest, BundlesLoadedByBundlesKeepTheirClasses) {
     bundles().addClassesLoadedBy(
         [&] {
             bundles().addClassesLoadedBy([&inner] { inner = std::make_unique<Inner>(); },
-                                         NSBundle::bundleWithPath("/two"));
+                                         DesktopBundle::withPath("/two"));
             outer = std::make_unique<Outer>();
         },
-        NSBundle::bundleWithPath("/one"));
+        DesktopBundle::withPath("/one"));
     EXPECT_EQ(pathOf(inner->stated), "/two");
     EXPECT_EQ(pathOf(outer->stated), "/one");
 }
@@ -77,9 +77,9 @@ TEST_F(LoadedBundlesTest, BundlesLoadedByBundlesKeepTheirClasses) {
 TEST_F(LoadedBundlesTest, AClassWithoutABundleHasThatOfItsBase) {
     const Class loaded = Class::define<Loaded>("LoadedBundlesTestLoaded");
     const Class derived = Class::define<Derived, Loaded>("LoadedBundlesTestDerived");
-    bundles().addClass(loaded, NSBundle::bundleWithPath("/one"));
+    bundles().addClass(loaded, DesktopBundle::withPath("/one"));
     EXPECT_EQ(pathOf(derived), "/one");
-    bundles().addClass(derived, NSBundle::bundleWithPath("/two"));
+    bundles().addClass(derived, DesktopBundle::withPath("/two"));
     EXPECT_EQ(pathOf(derived), "/two");
     EXPECT_EQ(pathOf(loaded), "/one");
 }

@@ -1,6 +1,6 @@
 #include "PageFixture.h"
 
-#include "Foundation/NSBundle.h"
+#include "DesktopBundle.h"
 #include "LoadedBundles.h"
 #include "ObjectiveC/Class.h"
 
@@ -47,7 +47,7 @@ void ListedPage::setOwnValue(const std::optional<PropertyList>& value, const Ref
 
 PageFixture::PageFixture() {
     device.write(std::string(bundlePath) + "/Info.plist", "{}");
-    LoadedBundles::shared().addClass(listedPageClass, NSBundle::bundleWithPath(bundlePath));
+    LoadedBundles::shared().addClass(listedPageClass, DesktopBundle::withPath(bundlePath));
 }
 
 PageFixture::~PageFixture() {

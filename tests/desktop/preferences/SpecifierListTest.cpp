@@ -1,7 +1,7 @@
 #include "SpecifierList.h"
 
+#include "DesktopBundle.h"
 #include "DesktopImage.h"
-#include "Foundation/NSBundle.h"
 #include "TestDevice.h"
 
 #include <gtest/gtest.h>
@@ -29,7 +29,7 @@ protected:
     }
 
     SpecifierList readAgain() {
-        return SpecifierList::read(*NSBundle::bundleWithPath("/bundle"), "List", *target_);
+        return SpecifierList::read(*DesktopBundle::withPath("/bundle"), "List", *target_);
     }
 
     static DesktopSpecifier& at(const SpecifierList& list, std::size_t index) {

@@ -33,7 +33,7 @@ TEST_F(PreferenceBundleTest, MakesAPageOfItsPrincipalClass) {
     const auto page = bundle->makePage();
     ASSERT_TRUE(page) << page.error();
     EXPECT_EQ((*page)->isa().name(), "standInPage");
-    EXPECT_EQ(LoadedBundles::shared().bundleOf((*page)->isa())->bundlePath(), path);
+    EXPECT_EQ(LoadedBundles::shared().bundleOf((*page)->isa())->path(), path);
 }
 
 TEST_F(PreferenceBundleTest, EachPageIsANewOne) {

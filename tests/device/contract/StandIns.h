@@ -57,8 +57,7 @@ void callBlockWithObject(void* block, id object);
 }
 @end
 
-@interface UIResponder : NSObject {
-}
+@interface UIResponder : NSObject
 - (BOOL)becomeFirstResponder;
 @end
 
