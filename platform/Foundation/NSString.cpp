@@ -66,12 +66,6 @@ std::string stringByAppendingPathComponent(std::string_view path, std::string_vi
     return joined;
 }
 
-std::string lastPathComponent(std::string_view path) {
-    path = withoutTrailingSlashes(path);
-    const auto slash = path.rfind('/');
-    return std::string(slash == std::string_view::npos || path.size() == 1 ? path : path.substr(slash + 1));
-}
-
 std::string stringByDeletingLastPathComponent(std::string_view path) {
     path = withoutTrailingSlashes(path);
     const auto slash = path.rfind('/');

@@ -16,8 +16,5 @@
 /// ("/tmp", "a"), ("/tmp/", "a") and ("/tmp", "/a") all give "/tmp/a".
 [[nodiscard]] std::string stringByAppendingPathComponent(std::string_view path, std::string_view component);
 
-/// What follows the last "/", trailing ones not counted: "b" of "/a/b/", "/" of "/", "" of "".
-[[nodiscard]] std::string lastPathComponent(std::string_view path);
-
 /// What precedes the last component: "/a" of "/a/b", "/" of "/a", "" of "a".
 [[nodiscard]] std::string stringByDeletingLastPathComponent(std::string_view path);

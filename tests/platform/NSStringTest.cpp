@@ -39,15 +39,6 @@ TEST(NSString, AppendsAPathComponentWithOneSlash) {
     EXPECT_EQ(stringByAppendingPathComponent("/tmp", ".."), "/tmp/..");
 }
 
-TEST(NSString, TheLastPathComponentIsWhatFollowsTheLastSlash) {
-    EXPECT_EQ(lastPathComponent("/a/b"), "b");
-    EXPECT_EQ(lastPathComponent("/a/b/"), "b");
-    EXPECT_EQ(lastPathComponent("b"), "b");
-    EXPECT_EQ(lastPathComponent("/"), "/");
-    EXPECT_EQ(lastPathComponent("//"), "/");
-    EXPECT_EQ(lastPathComponent(""), "");
-}
-
 TEST(NSString, DeletingTheLastPathComponentLeavesTheFolder) {
     EXPECT_EQ(stringByDeletingLastPathComponent("/a/b"), "/a");
     EXPECT_EQ(stringByDeletingLastPathComponent("/a//b/"), "/a");

@@ -88,3 +88,15 @@ TEST(FileErrors, NamesThatLookLikePlaceholdersStayAsTheyAre) {
     EXPECT_EQ(fileError(Copy, EEXIST, "/{y}", "/{x}")->localizedDescription(),
               "“{y}” couldn’t be copied to “{x}” because an item with the same name already exists.");
 }
+
+TEST(FileErrors, AThingsNameIsWhatFollowsTheLastSlashOfItsPath) {
+    const auto textFor = [](std::string_view path) {
+        return fileError(Remove, EBUSY, path)->localizedDescription();
+    };
+    EXPECT_EQ(textFor("/a/b"), "“b” couldn’t be removed.");
+    EXPECT_EQ(textFor("/a/b//"), "“b” couldn’t be removed.");
+    EXPECT_EQ(textFor("b"), "“b” couldn’t be removed.");
+    EXPECT_EQ(textFor("/"), "“/” couldn’t be removed.");
+    EXPECT_EQ(textFor("//"), "“/” couldn’t be removed.");
+    EXPECT_EQ(textFor(""), "“” couldn’t be removed.");
+}
