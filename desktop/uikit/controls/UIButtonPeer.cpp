@@ -123,7 +123,7 @@ std::optional<double> UIButtonPeer::intrinsicHeight() const {
 }
 
 CGRect UIButtonPeer::imageFrame(const CGRect& room, double left) const {
-    const auto isAlone = !titleLabel_->text();
+    const auto isAlone = !peerOf<UILabelPeer>(*titleLabel_).text();
     const auto own = imageSize();
     const auto filled = UIEdgeInsetsInsetRect(room, imageInsets_);
     auto frame = CGRectMake(left + (imageInsets_.left - imageInsets_.right) / 2,

@@ -9,6 +9,7 @@
 #include "menus/MenuPresentation.h"
 #include "navigation/UINavigationControllerPeer.h"
 #include "screen/Compositor.h"
+#include "tables/UITableViewCellPeer.h"
 #include "views/UILabelPeer.h"
 
 namespace {
