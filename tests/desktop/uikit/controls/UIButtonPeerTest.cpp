@@ -76,7 +76,7 @@ TEST_F(UIButtonPeerTest, AnImageAloneFillsTheDirectionsThatItIsToldTo) {
     button->setImage(DesktopImage::symbol("gear", 20), UIControlState::Normal);
     button->setContentHorizontalAlignment(UIControlContentHorizontalAlignment::Fill);
     screen.layoutIfNeeded();
-    const auto size = button->imageView().image()->size();
+    const auto size = dynamic_cast<DesktopImage&>(*button->imageView().image()).size();
     EXPECT_EQ(button->imageView().frame(), CGRectMake(0, 20 - size.height / 2, 100, size.height));
     button->setContentVerticalAlignment(UIControlContentVerticalAlignment::Fill);
     button->setImageEdgeInsets({.top = 1, .left = 2, .bottom = 3, .right = 4});
