@@ -51,7 +51,8 @@ void addEventCommands(CommandTable& table, LogRecorder& log) {
     table.add({.usage = "notifications",
                .run = [](const auto&) { return eventsAnswer(Device::current().notifications().take()); }});
     table.add({.usage = "sounds", .run = [](const auto&) { return soundsAnswer(); }});
-    table.add({.usage = "urls", .run = [](const auto&) { return eventsAnswer(Device::current().urls().take()); }});
+    table.add(
+        {.usage = "urls", .run = [](const auto&) { return eventsAnswer(Device::current().urls().take()); }});
     table.add({.usage = "url-handler SCHEME works|fails|none",
                .fewest = 2,
                .most = 2,

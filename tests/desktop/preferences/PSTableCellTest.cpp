@@ -28,7 +28,8 @@ public:
 
     void refreshCellContentsWithSpecifier(PSSpecifier& specifier) override {
         PSTableCell::refreshCellContentsWithSpecifier(specifier);
-        textLabel().setText("own " + *peerOf<UILabelPeer>(textLabel()).text());
+        auto& title = peerOf<PSTableCellPeer>(*this).textLabel();
+        title.setText("own " + *peerOf<UILabelPeer>(title).text());
     }
 
     static int made;

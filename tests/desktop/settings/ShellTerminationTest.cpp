@@ -1,11 +1,11 @@
 // The end of the Settings application.
 
-#include "system/ApplicationTermination.h"
 #include "ShellFixture.h"
 #include "UIKit/UITextField.h"
 #include "keyboard/Keyboard.h"
 #include "objects/LiveObjects.h"
 #include "screen/UIWindow.h"
+#include "system/ApplicationTermination.h"
 #include "views/UIViewPeer.h"
 
 namespace {
