@@ -28,10 +28,6 @@ constexpr auto taps = 20;
 constexpr auto framesOfTap = 18; ///< in the 0.3 seconds that the switch moves
 constexpr auto frame = std::chrono::nanoseconds(std::chrono::seconds(1)) / 60;
 
-void moveTime(TestDevice& device, std::chrono::nanoseconds time) {
-    Device::current().mainQueue().advance(device.clock(), time);
-}
-
 [[noreturn]] void fail(const std::string& reason) {
     std::fprintf(stderr, "%s\n", reason.c_str());
     std::exit(EXIT_FAILURE);
@@ -43,10 +39,10 @@ Ref<UIView> openPane(TestDevice& device, DrivenShell& application) {
     const auto opened = application.open(std::nullopt);
     if (!opened)
         fail("the pane cannot be opened: " + opened.error());
-    moveTime(device, std::chrono::seconds(1));
+    device.advance(std::chrono::seconds(1));
     if (auto* const sheet = Screen::current().presentations().top()) {
         sheet->dismissPresented();
-        moveTime(device, std::chrono::seconds(1));
+        device.advance(std::chrono::seconds(1));
     }
     return application.page()->peer().navigationItem().titleView();
 }
@@ -66,7 +62,7 @@ Milliseconds frameTime(Compositor& compositor, TestDevice& device, const UIView&
     for (auto count = 0; count < taps; ++count) {
         tap(touches, control);
         for (auto index = 0; index < framesOfTap; ++index) {
-            moveTime(device, frame);
+            device.advance(frame);
             prepare();
             const auto begin = SteadyClock::now();
             compositor.render();

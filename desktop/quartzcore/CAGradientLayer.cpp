@@ -2,27 +2,24 @@
 
 #include "CAGradientLayerPeer.h"
 #include "ObjectiveC/Class.h"
+#include "objects/PeerOf.h"
 
 namespace {
 
 const Class classObject = Class::define<CAGradientLayer, CALayer>("CAGradientLayer");
-
-CAGradientLayerPeer& peerOf(const CAGradientLayer& layer) {
-    return dynamic_cast<CAGradientLayerPeer&>(layer.peer());
-}
 
 } // namespace
 
 CAGradientLayer::CAGradientLayer() : CALayer(std::make_unique<CAGradientLayerPeer>(*this)) {}
 
 void CAGradientLayer::setColors(const std::vector<Ref<UIColor>>& colors) {
-    peerOf(*this).setColors(colors);
+    peerOf<CAGradientLayerPeer>(*this).setColors(colors);
 }
 
 void CAGradientLayer::setStartPoint(CGPoint point) {
-    peerOf(*this).setStartPoint(point);
+    peerOf<CAGradientLayerPeer>(*this).setStartPoint(point);
 }
 
 void CAGradientLayer::setEndPoint(CGPoint point) {
-    peerOf(*this).setEndPoint(point);
+    peerOf<CAGradientLayerPeer>(*this).setEndPoint(point);
 }

@@ -9,8 +9,11 @@
 #include <vector>
 
 /// The desktop's half of a gradient layer, which paints it. Made with the layer.
+// NOLINTNEXTLINE(misc-multiple-inheritance): an interface whose answers may be left out
 class CAGradientLayerPeer final : public CALayerPeer, public LayerDelegate {
 public:
+    using Object = CAGradientLayer;
+
     explicit CAGradientLayerPeer(CAGradientLayer& layer);
 
     void setColors(const std::vector<Ref<UIColor>>& colors);

@@ -2,7 +2,7 @@
 
 #include "ObjectiveC/Weak.h"
 #include "UIKit/UIViewController.h"
-#include "views/PeerOf.h"
+#include "objects/PeerOf.h"
 #include "views/ViewOwner.h"
 
 #include <functional>

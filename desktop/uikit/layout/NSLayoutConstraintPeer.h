@@ -4,7 +4,7 @@
 #include "ObjectiveC/Weak.h"
 #include "UIKit/NSLayoutConstraint.h"
 #include "layout/LayoutAnchor.h"
-#include "views/PeerOf.h"
+#include "objects/PeerOf.h"
 
 #include <optional>
 #include <utility>

@@ -5,8 +5,8 @@
 #include "LayerDelegate.h"
 #include "Traits.h"
 #include "UIKit/UIView.h"
+#include "objects/PeerOf.h"
 #include "views/Accessibility.h"
-#include "views/PeerOf.h"
 
 #include <functional>
 #include <memory>

@@ -154,7 +154,7 @@ TEST_F(UINavigationBarTest, theBackButtonNamesThePageBeforeAsFarAsThereIsRoom) {
     b->peer().setTitle("A title that is much longer than any bar of a phone can show");
     settle();
     EXPECT_FALSE(content().backButton()->title());
-    EXPECT_TRUE(dynamic_cast<UILabelPeer&>(content().titleView().peer()).isTruncated());
+    EXPECT_TRUE(peerOf<UILabelPeer>(content().titleView()).isTruncated());
 }
 
 TEST_F(UINavigationBarTest, thePageBeforeWithoutATitleIsCalledBack) {

@@ -48,9 +48,7 @@ struct ShownScreen {
     QColor pixel(int x, int y) { return compositor.render().pixelColor(x, y); }
 
     /// Lets time pass, and runs what is due.
-    void advance(std::chrono::nanoseconds duration) {
-        Device::current().mainQueue().advance(device.clock(), duration);
-    }
+    void advance(std::chrono::nanoseconds duration) { device.advance(duration); }
 
     TestDevice device;
     Screen screen;

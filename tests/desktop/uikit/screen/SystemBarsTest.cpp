@@ -37,7 +37,7 @@ TEST(SystemBarsTest, showTheTimeAsOfTheLastRefresh) {
     TestDevice device;
     const Screen screen{Screen::Options{}};
     SystemBars bars;
-    Device::current().mainQueue().advance(device.clock(), std::chrono::minutes(9));
+    device.advance(std::chrono::minutes(9));
     EXPECT_EQ(bars.statusBar().time(), "3:12");
     bars.refresh();
     EXPECT_EQ(bars.statusBar().time(), "3:21");
@@ -131,11 +131,11 @@ TEST(SystemBarsTest, fadeOneIntoTheOtherWithTheWhiteBarBeneath) {
     const auto shownAlpha = [&bars] {
         return bars.statusBar().layer().peer().shownValue(LayerProperty::Opacity)[0];
     };
-    Device::current().mainQueue().advance(device.clock(), std::chrono::milliseconds(125));
+    device.advance(std::chrono::milliseconds(125));
     EXPECT_NEAR(shownAlpha(), 0.5, 1e-6);
     EXPECT_FALSE(bars.whiteStatusBar().peer().isHidden());
     EXPECT_EQ(bars.whiteStatusBar().layer().peer().number(LayerProperty::Opacity), 1);
-    Device::current().mainQueue().advance(device.clock(), std::chrono::milliseconds(126));
+    device.advance(std::chrono::milliseconds(126));
     EXPECT_EQ(shownAlpha(), 1);
     EXPECT_TRUE(bars.whiteStatusBar().peer().isHidden());
 }
@@ -145,11 +145,11 @@ TEST(SystemBarsTest, endAsTheyWereLastToldWhenToldInMidFade) {
     const Screen screen{Screen::Options{}};
     SystemBars bars;
     bars.setBehind(SystemBars::Behind::Wallpaper, true);
-    Device::current().mainQueue().advance(device.clock(), std::chrono::milliseconds(100));
+    device.advance(std::chrono::milliseconds(100));
     bars.setBehind(SystemBars::Behind::Application, true);
-    Device::current().mainQueue().advance(device.clock(), std::chrono::milliseconds(100));
+    device.advance(std::chrono::milliseconds(100));
     bars.setBehind(SystemBars::Behind::Wallpaper, true);
-    EXPECT_TRUE(Device::current().mainQueue().settle(device.clock(), std::chrono::seconds(1)));
+    device.settle();
     EXPECT_FALSE(bars.whiteStatusBar().peer().isHidden());
     EXPECT_EQ(bars.homeIndicator().layer().peer().number(LayerProperty::Opacity), 0);
 }
@@ -158,7 +158,7 @@ TEST(SystemBarsTest, bothShowTheTimeInTheSamePlace) {
     TestDevice device;
     Screen screen{Screen::Options{}};
     SystemBars bars;
-    Device::current().mainQueue().advance(device.clock(), std::chrono::minutes(9));
+    device.advance(std::chrono::minutes(9));
     bars.refresh();
     screen.layoutIfNeeded();
     EXPECT_EQ(bars.whiteStatusBar().time(), "3:21");
@@ -169,5 +169,5 @@ TEST(SystemBarsTest, waitForNothing) {
     TestDevice device;
     const Screen screen{Screen::Options{}};
     const SystemBars bars;
-    EXPECT_TRUE(Device::current().mainQueue().settle(device.clock(), std::chrono::seconds(1)));
+    device.settle();
 }
