@@ -73,7 +73,7 @@ const Class switchRowClass = Class::define<OwnSwitchRow, PSSwitchTableCell>("Own
 
 template <class Row>
 void expectAWorkingRow(const std::string& name) {
-    const auto specifier = emptySpecifier();
+    auto* const specifier = emptySpecifier();
     takeJournal();
     auto* const object = newCell(name.c_str(), 0, text("row"), specifier);
     const auto row = instanceAs<Row>(object);
