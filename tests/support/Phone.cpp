@@ -8,7 +8,8 @@ Phone::Phone(const Screen::Options& options) : screen(options) {
 
 void Phone::TearDown() {
     cancel();
-    screen.removeWindow(*window);
+    if (window)
+        screen.removeWindow(*window);
     window = nullptr;
 }
 
