@@ -68,6 +68,18 @@ protected:
         program.done("touch up" + at);
     }
 
+    /// Once what was tapped has closed, Settings leaves; it ends half a second later and not before.
+    void expectTheEndHalfASecondAfterLeaving() {
+        while (screen("app") == "Settings")
+            program.done("advance 0.001");
+        program.done("advance 0.498");
+        EXPECT_TRUE(isLoaded());
+        EXPECT_NE(program.shell().settings(), nullptr);
+        program.done("advance 0.002");
+        EXPECT_FALSE(isLoaded());
+        EXPECT_EQ(program.shell().settings(), nullptr);
+    }
+
     /// How far the list of the sheet is scrolled.
     [[nodiscard]] double sheetOffset() {
         const auto scrolls = program.done("views UIScrollView").value("views").toArray();
@@ -164,14 +176,7 @@ TEST_F(PaneSessionTest, ApplyLeavesAtOnceAndEndsSettingsHalfASecondLater) {
     program.openPane();
     give({"tap gear.badge", "settle", "tap Apply"});
     // The menu closes first; its action runs then.
-    while (screen("app") == "Settings")
-        program.done("advance 0.001");
-    program.done("advance 0.498");
-    EXPECT_TRUE(isLoaded());
-    EXPECT_NE(program.shell().settings(), nullptr);
-    program.done("advance 0.002");
-    EXPECT_FALSE(isLoaded());
-    EXPECT_EQ(program.shell().settings(), nullptr);
+    expectTheEndHalfASecondAfterLeaving();
     EXPECT_EQ(screen("app"), "home");
     EXPECT_EQ(program.done("live UIViewController").value("count").toInt(-1), 0);
     EXPECT_EQ(marker(), "3.0.1") << "nothing is reset";
@@ -256,14 +261,7 @@ TEST_F(PaneSessionTest, AConfirmedResetWipesTheValuesAndEndsSettings) {
 TEST_F(PaneSessionTest, AConfirmedResetEndsSettingsHalfASecondAfterItHasLeft) {
     program.openPane();
     give({"tap gear.badge", "settle", "tap \"Reset Settings\"", "settle", "tap Confirm"});
-    while (screen("app") == "Settings")
-        program.done("advance 0.001");
-    program.done("advance 0.498");
-    EXPECT_TRUE(isLoaded());
-    EXPECT_NE(program.shell().settings(), nullptr);
-    program.done("advance 0.002");
-    EXPECT_FALSE(isLoaded());
-    EXPECT_EQ(program.shell().settings(), nullptr);
+    expectTheEndHalfASecondAfterLeaving();
     EXPECT_EQ(events("notifications"), QJsonArray());
 }
 
