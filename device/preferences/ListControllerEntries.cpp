@@ -21,9 +21,8 @@ id bundle(id /*self*/, SEL /*selector*/) noexcept {
     return withinPool<id>([] {
         Dl_info image{};
         dladdr(reinterpret_cast<const void*>(&bundleOverridable), &image);
-        const auto found = sendToClass<"+[NSBundle bundleWithPath:]", id>(
+        return sendToClass<"+[NSBundle bundleWithPath:]", id>(
             stringByDeletingLastPathComponent(image.dli_fname != nullptr ? image.dli_fname : ""));
-        return found;
     });
 }
 

@@ -10,7 +10,8 @@ from pathlib import Path
 
 TIDY = Path(__file__).resolve().parents[2] / "tools" / "tidy"
 
-# Notes which source it is given with which command, and finds the word BAD.
+# Notes which source it is given with which command, or for several at once their names with the settings that hold
+# there, and finds the word BAD.
 CLANG_TIDY = """#!/usr/bin/env python3
 import json, os, pathlib, sys
 if sys.argv[1:] == ["--version"]:
@@ -20,9 +21,14 @@ quiet, option, folder, source = sys.argv[1:]
 assert (quiet, option) == ("-quiet", "-p")
 entries = json.loads(pathlib.Path(folder, "compile_commands.json").read_text())
 (entry,) = [entry for entry in entries if entry["file"] == source]
-with open(os.environ["TIDY_LOG"], "a") as log:
-    log.write(json.dumps([pathlib.Path(source).name, entry["arguments"]]) + "\\n")
 text = pathlib.Path(source).read_text()
+name, note = pathlib.Path(source).name, entry["arguments"]
+if name == "batch.cpp":
+    name = " ".join(line[3:] for line in text.splitlines() if line.startswith("// ") and line.endswith(".cpp"))
+    settings = [folder / ".clang-tidy" for folder in pathlib.Path(source).parents]
+    note = next((path.read_text() for path in settings if path.exists()), "")
+with open(os.environ["TIDY_LOG"], "a") as log:
+    log.write(json.dumps([name, note]) + "\\n")
 if "BAD" in text:
     print(f"{source}:1:1: error: BAD")
 if "LOUD" in text:
@@ -32,13 +38,15 @@ if "CRASH" in text:
 sys.exit(1 if "BAD" in text or "CRASH" in text else 0)
 """
 
-# Every source includes the header of its name, and is at its end there.
+# Every source includes the header of its name and those that it names, and is at its end there.
 SCAN = """#!/usr/bin/env python3
 import json, pathlib, sys
 for entry in json.loads(pathlib.Path(sys.argv[sys.argv.index("-compilation-database") + 1]).read_text()):
     source = pathlib.Path(entry["file"])
     if "UNREADABLE" not in source.read_text():
-        print(f"{source.stem}.o: \\\\\\n  {source} \\\\\\n  {source.with_suffix('.h')}\\n")
+        others = [line.split()[2] for line in source.read_text().splitlines() if line.startswith("// INCLUDES ")]
+        files = [source, source.with_suffix(".h"), *[source.with_name(name) for name in others]]
+        print(f"{source.stem}.o: \\\\\\n  " + " \\\\\\n  ".join(str(file) for file in files if file.exists()) + "\\n")
 """
 
 
@@ -148,8 +156,79 @@ class TidyTest(unittest.TestCase):
         self.one_source("BAD")
         self.write("core/Other.cpp", "BAD")
         database = self.database("desktop", ("core/Store.cpp", ""), ("core/Other.cpp", ""))
-        self.assertEqual(self.looked_at(database, clean=False), ["Other.cpp", "Store.cpp"])
+        self.assertEqual(self.looked_at(database, clean=False), ["Other.cpp", "Store.cpp", "core/Other.cpp core/Store.cpp"])
         self.assertIn("2 of them not clean", self.output)
+
+    def test_a_source_that_includes_less_than_it_uses_is_not_clean(self):
+        database = self.one_source("std::map<int, int> rows;\n")
+        self.assertEqual(self.looked_at(database, clean=False), ["Store.cpp"])
+        self.assertIn("core/Store.cpp is not clean:\nerror: it uses what map declares", self.output)
+        self.write("core/map")
+        self.assertEqual(self.looked_at(self.one_source("// INCLUDES map\nstd::map<int, int> rows;\n")), ["Store.cpp"])
+
+    def test_a_header_asks_for_what_it_uses_too(self):
+        database = self.one_source()
+        self.write("core/Store.h", "std::map<int, int> rows;\n")
+        self.looked_at(database, clean=False)
+        self.assertIn("it uses what map declares", self.output)
+
+    def test_one_of_several_that_includes_less_than_it_uses_is_found(self):
+        database = self.several(A="// a\n", B="std::map<int, int> rows;\n")
+        self.assertEqual(self.looked_at(database, clean=False), ["core/A.cpp core/B.cpp"])
+        self.assertIn("core/B.cpp is not clean:\nerror: it uses what map declares", self.output)
+        self.assertNotIn("core/A.cpp is not clean", self.output)
+
+    def several(self, **texts):
+        """A database of core/NAME.cpp for each text, all compiled alike."""
+        for name, text in texts.items():
+            self.write(f"core/{name}.cpp", text)
+            self.write(f"core/{name}.h")
+        return self.database("desktop", *[(f"core/{name}.cpp", "-O2") for name in texts])
+
+    def test_sources_that_are_compiled_alike_are_looked_at_as_one(self):
+        database = self.several(A="// a\n", B="// b\n", C="// c\n")
+        self.assertEqual(self.looked_at(database), ["core/A.cpp core/B.cpp core/C.cpp"])
+        self.assertIn("3 sources looked at", self.output)
+        self.assertEqual(self.looked_at(database), [])
+
+    def test_what_is_found_in_several_is_looked_for_in_each(self):
+        database = self.several(A="// a\n", B="BAD\n", C="// c\n")
+        self.assertEqual(
+            self.looked_at(database, clean=False), ["A.cpp", "B.cpp", "C.cpp", "core/A.cpp core/B.cpp core/C.cpp"]
+        )
+        self.assertIn("core/B.cpp is not clean:\n", self.output)
+        self.assertIn("3 sources looked at, 1 of them not clean", self.output)
+        self.assertEqual(self.looked_at(database, clean=False), ["B.cpp"])
+
+    def test_at_most_sixteen_are_one(self):
+        database = self.several(**{f"S{number:02}": "" for number in range(33)})
+        self.assertEqual(sorted(len(names.split()) for names in self.looked_at(database)), [11, 11, 11])
+
+    def test_sources_that_are_compiled_differently_are_looked_at_alone(self):
+        self.several(A="", B="")
+        database = self.database("desktop", ("core/A.cpp", "-O1"), ("core/B.cpp", "-O2"))
+        self.assertEqual(self.looked_at(database), ["A.cpp", "B.cpp"])
+
+    def test_only_names_of_objects_make_no_difference(self):
+        self.several(A="", B="")
+        database = self.database("desktop", ("core/A.cpp", "-O2 -o A.o -c"), ("core/B.cpp", "-O2 -o B.o -c"))
+        self.assertEqual(self.looked_at(database), ["core/A.cpp core/B.cpp"])
+
+    def test_a_program_is_looked_at_alone(self):
+        database = self.several(A="", B="", C="int main() {}\n")
+        self.assertEqual(self.looked_at(database), ["C.cpp", "core/A.cpp core/B.cpp"])
+
+    def test_several_are_looked_at_with_the_settings_of_all_of_them(self):
+        self.write(".clang-tidy", "root")
+        self.write("tests/.clang-tidy", "tests")
+        for path in ["core/A.cpp", "core/B.cpp", "tests/core/A.cpp", "tests/pane/B.cpp"]:
+            self.write(path)
+        database = self.database(
+            "desktop", *[(path, "") for path in ["core/A.cpp", "core/B.cpp", "tests/core/A.cpp", "tests/pane/B.cpp"]]
+        )
+        self.assertEqual(
+            self.tidy(database), {"core/A.cpp core/B.cpp": "root", "tests/core/A.cpp tests/pane/B.cpp": "tests"}
+        )
 
     def test_the_first_database_that_has_a_source_says_how_it_is_compiled(self):
         first = self.one_source(arguments="-first")

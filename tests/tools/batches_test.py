@@ -1,0 +1,96 @@
+"""What becomes of sources that are put together into one text."""
+
+import sys
+import unittest
+from pathlib import Path
+
+sys.dont_write_bytecode = True
+sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "tools"))
+import batches
+
+
+def unnamed(body):
+    return f"namespace {{\n\n{body}\n\n}} // namespace\n"
+
+
+class OwnNamesTest(unittest.TestCase):
+    def names(self, body):
+        return batches.own_names(unnamed(body))
+
+    def test_types(self):
+        self.assertEqual(self.names("class Page final : public Base {\n    int rows;\n};"), {"Page"})
+        self.assertEqual(self.names("enum class Kind { Switch };\nusing Rows = std::vector<Row>;"), {"Kind", "Rows"})
+        self.assertEqual(self.names("template <typename T> struct Box {};"), {"Box"})
+
+    def test_functions_and_variables(self):
+        self.assertEqual(self.names("std::function<void(int)> handler(double width) {\n    return {};\n}"), {"handler"})
+        self.assertEqual(self.names("constexpr double gap = 4;\nconst Insets none{};\nint rows[2];"), {"gap", "none", "rows"})
+        self.assertEqual(self.names('const FrameworkClass\n    frameworkClass("UIView");'), {"frameworkClass"})
+
+    def test_what_declares_nothing(self):
+        self.assertEqual(self.names("using std::string;\nusing namespace std::chrono_literals;"), set())
+        self.assertEqual(self.names("static_assert(sizeof(int) == 4);\nTEST(Suite, Name) {\n    run();\n}"), set())
+
+    def test_members_are_none(self):
+        self.assertEqual(self.names("class Page {\npublic:\n    void show() override;\n};"), {"Page"})
+
+    def test_names_outside_are_not_its_own(self):
+        self.assertEqual(batches.own_names("void shown() {}\n" + unnamed("int kept = 1;") + "int after = 2;\n"), {"kept"})
+
+
+class JoinedTest(unittest.TestCase):
+    def joined(self, *texts):
+        return batches.joined([(f"{number}.cpp", text) for number, text in enumerate(texts)])
+
+    def test_the_sources_stand_one_after_the_other(self):
+        self.assertEqual(self.joined("int a;\n", "int b;\n"), "// 0.cpp\nint a;\n\n// 1.cpp\nint b;\n\n")
+
+    def test_a_name_that_two_sources_keep_to_themselves_is_told_apart(self):
+        both = self.joined(unnamed("int gap = 4;") + "int a() { return gap; }\n", unnamed("int gap = 5;"))
+        self.assertIn("int gapIn0 = 4;", both)
+        self.assertIn("return gapIn0;", both)
+        self.assertIn("int gapIn1 = 5;", both)
+
+    def test_a_name_that_another_source_only_uses_is_told_apart(self):
+        both = self.joined(unnamed("int gap = 4;"), "int b(int gap) { return gap; }\n")
+        self.assertIn("int gapIn0 = 4;", both)
+        self.assertIn("int b(int gap) { return gap; }", both)
+
+    def test_a_name_that_no_other_source_knows_stays(self):
+        self.assertIn("int gap = 4;", self.joined(unnamed("int gap = 4;"), "int b;\n"))
+
+    def test_only_the_name_itself_is_told_apart(self):
+        text = '#include "gap.h"\n' + unnamed("int gap = 4;\nint wide_gap = gap; // the gap\nauto text = \"gap\";")
+        both = self.joined(text, unnamed("int gap = 5;"))
+        self.assertIn('#include "gap.h"', both)
+        self.assertIn("int wide_gap = gapIn0; // the gap", both)
+        self.assertIn('auto text = "gap";', both)
+
+    def test_texts_and_digits_do_not_end_early(self):
+        text = unnamed("auto quote = \"a \\\" gap\";\nauto raw = R\"x(\" gap)x\";\nint big = 1'000'000, gap = 1;")
+        both = self.joined(text, unnamed("int gap = 5;"))
+        self.assertIn('"a \\" gap"', both)
+        self.assertIn('R"x(" gap)x"', both)
+        self.assertIn("1'000'000, gap", both.replace("gapIn0", "gap"))
+
+    def test_what_may_be_a_member_stays(self):
+        text = unnamed("int gap(const Piece& piece) { return piece.gap; }")
+        self.assertIn(text, self.joined(text, "int b(int gap);\n"))
+
+    def test_what_is_included_before_is_left_out(self):
+        both = self.joined('#include "A.h"\n#include <map>\n', '#include "B.h"\n#include <map> // again\n')
+        self.assertEqual(both.count("<map>"), 1)
+        self.assertIn('#include "A.h"', both)
+        self.assertIn('#include "B.h"', both)
+
+    def test_what_a_source_includes_twice_stays(self):
+        both = self.joined("#include <map>\n", "#include <map>\n#include <map>\n")
+        self.assertEqual(both.count("#include <map>"), 2)
+
+    def test_a_program_stands_alone(self):
+        self.assertFalse(batches.can_be_joined("int main(int count, char** arguments) {\n}\n"))
+        self.assertTrue(batches.can_be_joined("void remain() {}\n"))
+
+
+if __name__ == "__main__":
+    unittest.main()
