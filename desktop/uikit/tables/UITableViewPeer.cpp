@@ -160,6 +160,8 @@ void UITableViewPeer::traitsDidChange() {
 
 void UITableViewPeer::tile() {
     auto rows = nearRows(view().bounds().origin.y);
+    if (slides_ == 0)
+        cells_.keepOnly(rows); // before others are made, which may use what waits
     makeCells(rows);
     while (measure(rows)) {
         takeLayout();
@@ -224,6 +226,8 @@ void UITableViewPeer::place(IndexPath row, const UITableViewCell& cell) const {
     peer.setFrame(cardRect(span));
     peer.setMargin(metrics().margin());
     peer.setPlaceInCard(layout_.isFirstShown(row), layout_.isLastShown(row));
+    const auto gone = slides_ == 0 && span.height <= 0;
+    peer.setHidden(gone); // so that nobody comes to it
     if (slides_ == 0)
-        peer.setCutOff(span.height <= 0);
+        peer.setCutOff(gone);
 }
