@@ -1,5 +1,8 @@
 #include "tables/TableFixture.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace {
 
 using namespace std::chrono_literals;
@@ -40,6 +43,54 @@ TEST_F(UITableViewUpdatesTest, AskingHeightsAgainSlidesTheRows) {
     advance(151ms);
     EXPECT_EQ(shownFrame({0, 2}).origin.y, 79);
     EXPECT_EQ(content_.cellsMade, made);
+}
+
+TEST_F(UITableViewUpdatesTest, ASlideStartsAndEndsSlowly) {
+    content_.sections[0].rows[1].height = 0;
+    askHeightsAgain();
+    advance(30ms);
+    EXPECT_GT(shownFrame({0, 2}).origin.y, 123 - 4.4);
+    EXPECT_LT(shownFrame({0, 2}).origin.y, 123);
+    advance(240ms);
+    EXPECT_LT(shownFrame({0, 2}).origin.y, 79 + 4.4);
+    EXPECT_GT(shownFrame({0, 2}).origin.y, 79);
+}
+
+TEST_F(UITableViewUpdatesTest, ASlideThatIsTurnedRoundGoesOnFromWhereItIs) {
+    content_.sections[0].rows[1].height = 0;
+    askHeightsAgain();
+    advance(120ms);
+    const auto on = shownFrame({0, 2}).origin.y;
+    const auto height = shownFrame({0, 1}).size.height;
+    content_.sections[0].rows[1].height = 44;
+    askHeightsAgain();
+    EXPECT_NEAR(shownFrame({0, 2}).origin.y, on, 1e-6);
+    EXPECT_NEAR(shownFrame({0, 1}).size.height, height, 1e-6);
+    auto last = on;
+    auto farthest = 0.0; // of a frame's step
+    for (auto frame = 0; frame < 20; ++frame) {
+        advance(16ms);
+        farthest = std::max(farthest, std::abs(shownFrame({0, 2}).origin.y - last));
+        last = shownFrame({0, 2}).origin.y;
+    }
+    EXPECT_LT(farthest, 6);
+    EXPECT_EQ(last, 123);
+    EXPECT_FALSE(cell({0, 1}).peer().isHidden());
+}
+
+TEST_F(UITableViewUpdatesTest, ARowIsHiddenOnlyOnceItHasGone) {
+    content_.sections[0].rows[1].height = 0;
+    askHeightsAgain();
+    EXPECT_FALSE(cell({0, 1}).peer().isHidden());
+    advance(290ms);
+    layOut();
+    EXPECT_FALSE(cell({0, 1}).peer().isHidden());
+    advance(20ms);
+    layOut();
+    EXPECT_TRUE(cell({0, 1}).peer().isHidden());
+    content_.sections[0].rows[1].height = 44;
+    askHeightsAgain();
+    EXPECT_FALSE(cell({0, 1}).peer().isHidden());
 }
 
 TEST_F(UITableViewUpdatesTest, ARowThatComesBackIsCutOffUntilItIsThere) {
