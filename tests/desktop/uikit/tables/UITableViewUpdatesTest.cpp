@@ -19,6 +19,11 @@ protected:
         table_->endUpdates();
     }
 
+    [[nodiscard]] bool isRoundBelow(IndexPath row) const {
+        const auto& slice = cell(row).peer().subviews().front();
+        return slice->peer().subviews().front()->layer().peer().roundBottom;
+    }
+
     [[nodiscard]] std::vector<std::string> titles(std::size_t section) const {
         std::vector<std::string> found(content_.sections[section].rows.size());
         for (std::size_t row = 0; row < found.size(); ++row)
@@ -78,6 +83,26 @@ TEST_F(UITableViewUpdatesTest, ASlideThatIsTurnedRoundGoesOnFromWhereItIs) {
     EXPECT_FALSE(cell({0, 1}).peer().isHidden());
 }
 
+TEST_F(UITableViewUpdatesTest, TheCardKeepsItsEndUntilItsLastRowHasGone) {
+    content_.sections[0].rows[3].height = 0;
+    askHeightsAgain();
+    advance(150ms);
+    layOut();
+    EXPECT_FALSE(isRoundBelow({0, 2}));
+    EXPECT_TRUE(isRoundBelow({0, 3}));
+    content_.sections[0].rows[2].height = 0; // while the other one is on its way
+    askHeightsAgain();
+    EXPECT_FALSE(isRoundBelow({0, 1}));
+    EXPECT_FALSE(isRoundBelow({0, 2}));
+    advance(1s);
+    layOut();
+    EXPECT_TRUE(isRoundBelow({0, 1}));
+    content_.sections[0].rows[3].height = 44;
+    askHeightsAgain();
+    EXPECT_FALSE(isRoundBelow({0, 1}));
+    EXPECT_TRUE(isRoundBelow({0, 3}));
+}
+
 TEST_F(UITableViewUpdatesTest, ARowIsHiddenOnlyOnceItHasGone) {
     content_.sections[0].rows[1].height = 0;
     askHeightsAgain();
@@ -135,6 +160,7 @@ TEST_F(UITableViewUpdatesTest, ReloadingEndsASlide) {
     content_.sections[0].rows[1].height = 44;
     peer().reloadData();
     layOut();
+    EXPECT_TRUE(isRoundBelow({0, 2}));
     advance(1s);
     EXPECT_EQ(titles(0), (Titles{"0", "1", "2"}));
     EXPECT_EQ(peer().cells().size(), 5U);
