@@ -12,7 +12,7 @@ help:
 	@echo "make lint      check format, static analysis and the rules of the tree"
 	@echo "make format    format all C++ files"
 	@echo "make fuzz      run each fuzzer for SECONDS_EACH (default 600) seconds"
-	@echo "make bench     measure what painting a change costs against painting all"
+	@echo "make bench     measure what painting a change costs against painting all, and a long list against a short one"
 	@echo "make coverage  run all tests and report the lines and branches that they reach"
 	@echo "make clean     remove everything that was built"
 
@@ -61,8 +61,9 @@ fuzz:
 bench:
 	@tools/setup build
 	@cmake --preset desktop >/dev/null
-	@cmake --build --preset desktop -j 2 --target bench_painting
+	@cmake --build --preset desktop -j 2 --target bench_painting bench_long_list
 	@build/desktop/bench/bench_painting
+	@build/desktop/bench/bench_long_list
 
 coverage:
 	@tools/setup build test coverage

@@ -94,5 +94,12 @@ bool DesktopSpecifier::hasAction() const {
 
 std::optional<PropertyList> DesktopSpecifier::propertyForKey(std::string_view key) const {
     const auto found = properties_.find(key);
-    return found != properties_.end() ? std::optional(found->second) : std::nullopt;
+    if (found != properties_.end())
+        return found->second;
+    const auto named = key == PSIDKey ? identifier() : std::string();
+    return named.empty() ? std::nullopt : std::optional<PropertyList>(named);
+}
+
+Ref<NSObject> DesktopSpecifier::propertyObjectForKey(std::string_view key) const {
+    return key == PSTableCellKey ? cell() : nullptr;
 }

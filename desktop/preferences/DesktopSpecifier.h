@@ -61,6 +61,13 @@ public:
 
     void setIcon(const Ref<UIImage>& icon) { icon_ = icon; }
 
+    /// The cell that shows the row; empty while none does. Not kept alive.
+    [[nodiscard]] Ref<NSObject> cell() const { return cell_.strong(); }
+
+    void setCell(NSObject& cell) { cell_ = Weak<NSObject>(&cell); }
+
+    void forgetCell() { cell_ = {}; }
+
     /// Empty once the target is gone.
     [[nodiscard]] Ref<NSObject> target() const { return target_.strong(); }
 
@@ -80,7 +87,9 @@ public:
     [[nodiscard]] bool hasAction() const;
 
     // PSSpecifier:
+    /// A row that its list gives no "id" has its identifier for one.
     [[nodiscard]] std::optional<PropertyList> propertyForKey(std::string_view key) const override;
+    [[nodiscard]] Ref<NSObject> propertyObjectForKey(std::string_view key) const override;
 
 private:
     /// A message that the target does not answer is logged once.
@@ -88,6 +97,7 @@ private:
 
     PropertyList::Dictionary properties_;
     Weak<NSObject> target_;
+    Weak<NSObject> cell_;
     Ref<UIImage> icon_;
     std::set<std::string> unanswered_; ///< the messages that have been logged
 };

@@ -86,11 +86,23 @@ void PSListController::setPreferenceValue(const std::optional<PropertyList>& val
     keepValue(value, desktopHalf(specifier));
 }
 
+Ref<PSSpecifier> PSListController::specifierAtIndexPath(NSIndexPath indexPath) {
+    return peerOf<PSListControllerPeer>(*this).specifierAt(indexPath);
+}
+
+double PSListController::heightForRowAtIndexPath(UITableView& /*tableView*/, NSIndexPath indexPath) {
+    const auto specifier = specifierAtIndexPath(indexPath);
+    return specifier ? desktopHalf(*specifier).height().value_or(UITableViewAutomaticDimension)
+                     : UITableViewAutomaticDimension;
+}
+
 Ref<UITableView> PSListController::table() {
     return retain(&dynamic_cast<UITableView&>(peerOf<PSListControllerPeer>(*this).table().view()));
 }
 
 Ref<PSSpecifier> PSListController::specifierForID(std::string_view identifier) {
+    if (identifier.empty())
+        return nullptr;
     for (const auto& specifier : specifiers()) {
         if (desktopHalf(*specifier).identifier() == identifier)
             return specifier;

@@ -12,6 +12,11 @@ bool isGroup(const DesktopSpecifier& specifier) {
     return specifier.kind() == SpecifierKind::Group;
 }
 
+template <class T>
+bool isPlaceIn(const std::vector<T>& elements, std::int64_t index) {
+    return index >= 0 && std::cmp_less(index, elements.size());
+}
+
 Ref<UIViewController> makeDetail(const DesktopSpecifier& specifier) {
     const auto name = specifier.textForKey("detail");
     const auto* const named = NSClassFromString(name);
@@ -44,6 +49,7 @@ void PSListControllerPeer::setListTitle(const std::string& title) {
 Ref<UIView> PSListControllerPeer::makeView() {
     rows_ = std::make_unique<SpecifierTable>(
         SpecifierTable::Page{.sections = [this] { return sectionsOf(page().specifiers()); },
+                             .height = [this](IndexPath row) { return heightOf(row); },
                              .select = [this](DesktopSpecifier& specifier) { select(specifier); }});
     return rows_->view();
 }
@@ -82,6 +88,20 @@ void PSListControllerPeer::reloadSpecifiers() {
 void PSListControllerPeer::reloadSpecifier(const PSSpecifier& specifier) {
     if (rows_)
         rows_->refresh(specifier);
+}
+
+Ref<DesktopSpecifier> PSListControllerPeer::specifierAt(NSIndexPath path) {
+    const auto& sections = shownRows().sections();
+    if (!isPlaceIn(sections, path.section))
+        return nullptr;
+    const auto& rows = sections[static_cast<std::size_t>(path.section)].rows;
+    return isPlaceIn(rows, path.row) ? rows[static_cast<std::size_t>(path.row)] : nullptr;
+}
+
+double PSListControllerPeer::heightOf(IndexPath row) {
+    return page().heightForRowAtIndexPath(
+        dynamic_cast<UITableView&>(table().view()),
+        {.section = static_cast<std::int64_t>(row.section), .row = static_cast<std::int64_t>(row.row)});
 }
 
 std::vector<PSListControllerPeer::Place> PSListControllerPeer::places() {
@@ -141,7 +161,8 @@ void PSListControllerPeer::scrollRowIntoView(std::size_t index) {
 
 void PSListControllerPeer::setValue(DesktopSpecifier& specifier, const std::optional<PropertyList>& value) {
     specifier.performSetter(value);
-    reloadSpecifier(specifier);
+    if (rows_)
+        rows_->refreshCell(specifier);
 }
 
 void PSListControllerPeer::select(DesktopSpecifier& specifier) {

@@ -42,13 +42,16 @@ public:
     /// Shows one row's properties and value as they are now. A row that is not shown is ignored.
     void reloadSpecifier(const PSSpecifier& specifier);
 
+    /// The row that stands there in the table; empty when there is none.
+    [[nodiscard]] Ref<DesktopSpecifier> specifierAt(NSIndexPath path);
+
     /// Every row that the page has, hidden ones and the heads of groups too, in the order of its list.
     [[nodiscard]] std::vector<ListRow> rows();
 
     /// Scrolls until a row of `rows` is seen, as far as it can be. A row beyond the end is ignored.
     void scrollRowIntoView(std::size_t index);
 
-    /// Writes a row's value as a control of the row would, and shows it.
+    /// Writes a row's value as a control of the row would, and has its cell show it.
     void setValue(DesktopSpecifier& specifier, const std::optional<PropertyList>& value);
 
     /// Whether a row stays selected when it was tapped, as it does beside the page that it opened. Otherwise
@@ -74,6 +77,7 @@ private:
     [[nodiscard]] SpecifierTable& shownRows();
     [[nodiscard]] std::vector<Place> places();
     [[nodiscard]] ListRow rowAt(const Place& place);
+    [[nodiscard]] double heightOf(IndexPath row);
     void select(DesktopSpecifier& specifier);
     [[nodiscard]] bool openDetail(DesktopSpecifier& specifier);
 

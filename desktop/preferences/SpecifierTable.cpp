@@ -2,6 +2,7 @@
 
 #include "DesktopColor.h"
 #include "PSHeaderFooterView.h"
+#include "PSTableCellPeer.h"
 #include "SpecifierViews.h"
 
 #include <algorithm>
@@ -54,15 +55,20 @@ void SpecifierTable::show(Sections sections) {
 }
 
 void SpecifierTable::refresh(const PSSpecifier& specifier) {
-    const auto row = indexPathOf(specifier);
-    if (!row) {
+    if (!indexPathOf(specifier)) {
         table().reloadData();
         return;
     }
-    if (const auto cell = dynamicCast<PSTableCell>(table().cellForRow(*row)))
-        cell->refreshCellContentsWithSpecifier(at(*row));
+    refreshCell(specifier);
     table().beginUpdates();
     table().endUpdates();
+}
+
+void SpecifierTable::refreshCell(const PSSpecifier& specifier) {
+    const auto row = indexPathOf(specifier);
+    const auto cell = row ? dynamicCast<PSTableCell>(table().cellForRow(*row)) : nullptr;
+    if (cell)
+        cell->refreshCellContentsWithSpecifier(at(*row));
 }
 
 DesktopSpecifier& SpecifierTable::at(IndexPath row) const {
@@ -79,11 +85,28 @@ std::optional<IndexPath> SpecifierTable::indexPathOf(const PSSpecifier& specifie
     return std::nullopt;
 }
 
+std::optional<double> SpecifierTable::rowHeight(IndexPath row) {
+    const auto height = page_.height(row);
+    return height >= 0 ? std::optional(height) : std::nullopt;
+}
+
 Ref<UITableViewCell> SpecifierTable::cellForRow(IndexPath row) {
     auto& specifier = at(row);
     auto cell = cellOf(specifier);
+    giveTo(specifier, *cell);
     cell->refreshCellContentsWithSpecifier(specifier);
+    // With the height the page may settle how the cell looks, which it could not before there was one.
+    static_cast<void>(page_.height(row));
     return cell;
+}
+
+void SpecifierTable::giveTo(DesktopSpecifier& specifier, PSTableCell& cell) {
+    const auto before = peerOf<PSTableCellPeer>(cell).specifier();
+    if (before && before.get() != &specifier && before->cell().get() == &cell) {
+        before->forgetCell();
+        cell.setClipsToBounds(false);
+    }
+    specifier.setCell(cell);
 }
 
 Ref<PSTableCell> SpecifierTable::cellOf(DesktopSpecifier& specifier) {

@@ -19,6 +19,7 @@ public:
     /// What the table asks of its page.
     struct Page {
         std::function<Sections()> sections;            ///< asked once, when the rows are first needed
+        std::function<double(IndexPath)> height;       ///< of a row, as the contract's page answers it
         std::function<void(DesktopSpecifier&)> select; ///< the user has tapped that row
     };
 
@@ -37,6 +38,9 @@ public:
     /// Shows one row's or group's properties and value as they are now.
     void refresh(const PSSpecifier& specifier);
 
+    /// The same of what a row's cell shows; all rows stay where they are.
+    void refreshCell(const PSSpecifier& specifier);
+
     // TableContent:
     [[nodiscard]] std::size_t sectionCount() const override { return sections().size(); }
 
@@ -44,8 +48,7 @@ public:
         return sections()[section].rows.size();
     }
 
-    [[nodiscard]] std::optional<double> rowHeight(IndexPath row) override { return at(row).height(); }
-
+    [[nodiscard]] std::optional<double> rowHeight(IndexPath row) override;
     [[nodiscard]] Ref<UITableViewCell> cellForRow(IndexPath row) override;
     [[nodiscard]] TableCaption header(std::size_t section) override;
     [[nodiscard]] TableCaption footer(std::size_t section) override;
@@ -69,6 +72,7 @@ private:
     [[nodiscard]] DesktopSpecifier& at(IndexPath row) const;
     [[nodiscard]] std::optional<IndexPath> indexPathOf(const PSSpecifier& specifier) const;
     [[nodiscard]] Ref<PSTableCell> cellOf(DesktopSpecifier& specifier);
+    static void giveTo(DesktopSpecifier& specifier, PSTableCell& cell);
     void setView(TableCaption& caption, const Ref<UIView>& view) const;
     void forgetViewsOfOthers();
 

@@ -2,7 +2,9 @@
 
 #include "Collections.h"
 #include "Encoding.h"
+#include "Foundation/NSIndexPath.h"
 #include "Foundation/PropertyList.h"
+#include "IndexPathObject.h"
 #include "Instances.h"
 #include "PropertyListObject.h"
 #include "Text.h"
@@ -86,6 +88,13 @@ struct Bridge<std::optional<PropertyList>> {
     }
 
     static std::optional<PropertyList> fromRaw(id raw) { return propertyListOf(raw); }
+};
+
+template <>
+struct Bridge<NSIndexPath> {
+    static id toRaw(NSIndexPath path) { return indexPathObject(path); }
+
+    static NSIndexPath fromRaw(id raw) { return indexPathOf(raw); }
 };
 
 template <std::derived_from<NSObject> T>

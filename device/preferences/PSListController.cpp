@@ -16,7 +16,9 @@ const FrameworkClassOf<PSListController, UIViewController> frameworkClass(
      overridable<"-[PSListController reloadSpecifiers]", &PSListController::reloadSpecifiers>(),
      overridable<"-[PSListController readPreferenceValue:]", &PSListController::readPreferenceValue>(),
      overridable<"-[PSListController setPreferenceValue:specifier:]",
-                 &PSListController::setPreferenceValue>()});
+                 &PSListController::setPreferenceValue>(),
+     overridable<"-[PSListController tableView:heightForRowAtIndexPath:]",
+                 &PSListController::heightForRowAtIndexPath>()});
 
 } // namespace
 
@@ -72,6 +74,17 @@ void PSListController::setPreferenceValue(const std::optional<PropertyList>& val
 
 Ref<PSSpecifier> PSListController::specifierForID(std::string_view identifier) {
     return send<"-[PSListController specifierForID:]", Ref<PSSpecifier>>(*this, identifier);
+}
+
+Ref<PSSpecifier> PSListController::specifierAtIndexPath(NSIndexPath indexPath) {
+    const AutoreleasePool pool;
+    return send<"-[PSListController specifierAtIndexPath:]", Ref<PSSpecifier>>(*this, indexPath);
+}
+
+double PSListController::heightForRowAtIndexPath(UITableView& tableView, NSIndexPath indexPath) {
+    const AutoreleasePool pool;
+    return sendToBase<"-[PSListController tableView:heightForRowAtIndexPath:]", double>(*this, tableView,
+                                                                                        indexPath);
 }
 
 Ref<UITableView> PSListController::table() {

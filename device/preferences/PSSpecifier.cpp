@@ -10,6 +10,11 @@ public:
         const AutoreleasePool pool;
         return send<"-[PSSpecifier propertyForKey:]", std::optional<PropertyList>>(*this, key);
     }
+
+    [[nodiscard]] Ref<NSObject> propertyObjectForKey(std::string_view key) const override {
+        const AutoreleasePool pool;
+        return send<"-[PSSpecifier propertyForKey:]", Ref<NSObject>>(*this, key);
+    }
 };
 
 const FrameworkClassOf<SystemSpecifier> frameworkClass("PSSpecifier");

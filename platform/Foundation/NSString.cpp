@@ -73,3 +73,13 @@ std::string stringByDeletingLastPathComponent(std::string_view path) {
         return {};
     return std::string(withoutTrailingSlashes(path.substr(0, slash == 0 ? 1 : slash)));
 }
+
+std::vector<std::string> componentsSeparatedByString(std::string_view text, std::string_view separator) {
+    std::vector<std::string> components;
+    for (auto end = text.find(separator); end != std::string_view::npos; end = text.find(separator)) {
+        components.emplace_back(text.substr(0, end));
+        text.remove_prefix(end + separator.size());
+    }
+    components.emplace_back(text);
+    return components;
+}

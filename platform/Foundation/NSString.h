@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 /// The platform's operations on text that the pane and its platforms need. Text is a `std::string` in UTF-8.
 
@@ -18,3 +19,9 @@
 
 /// What precedes the last component: "/a" of "/a/b", "/" of "/a", "" of "a".
 [[nodiscard]] std::string stringByDeletingLastPathComponent(std::string_view path);
+
+/// What stands before, between and after the separators, of which each is exactly `separator`; the whole text
+/// when there is none in it.
+/// \pre `separator` is not empty
+[[nodiscard]] std::vector<std::string> componentsSeparatedByString(std::string_view text,
+                                                                   std::string_view separator);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Foundation/NSIndexPath.h"
 #include "Foundation/PropertyList.h"
 #include "Preferences/PSSpecifier.h"
 #include "UIKit/UITableView.h"
@@ -40,6 +41,14 @@ public:
 
     /// The row of that identifier; empty when there is none.
     [[nodiscard]] Ref<PSSpecifier> specifierForID(std::string_view identifier);
+
+    /// The row that stands there in the table; empty when there is none.
+    [[nodiscard]] Ref<PSSpecifier> specifierAtIndexPath(NSIndexPath indexPath);
+
+    /// A row's height in points, 0 for a row that is hidden; `UITableViewAutomaticDimension` for what suits
+    /// its cell. Asked when rows are first shown, when their cells are made, and whenever the table asks for
+    /// all heights anew. By default the height that the row names, else what suits its cell.
+    [[nodiscard]] virtual double heightForRowAtIndexPath(UITableView& tableView, NSIndexPath indexPath);
 
     /// What shows the rows; made with the view.
     [[nodiscard]] Ref<UITableView> table();

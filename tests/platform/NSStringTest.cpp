@@ -48,3 +48,13 @@ TEST(NSString, DeletingTheLastPathComponentLeavesTheFolder) {
     EXPECT_EQ(stringByDeletingLastPathComponent("a/b"), "a");
     EXPECT_EQ(stringByDeletingLastPathComponent(""), "");
 }
+
+TEST(NSString, ComponentsStandBetweenSeparators) {
+    using Texts = std::vector<std::string>;
+    EXPECT_EQ(componentsSeparatedByString("a, b, c", ", "), (Texts{"a", "b", "c"}));
+    EXPECT_EQ(componentsSeparatedByString("a,b,c", ", "), Texts{"a,b,c"});
+    EXPECT_EQ(componentsSeparatedByString("a,  b", ", "), (Texts{"a", " b"}));
+    EXPECT_EQ(componentsSeparatedByString(", a, ", ", "), (Texts{"", "a", ""}));
+    EXPECT_EQ(componentsSeparatedByString("", ", "), Texts{""});
+    EXPECT_EQ(componentsSeparatedByString(",,,", ",,"), (Texts{"", ","}));
+}

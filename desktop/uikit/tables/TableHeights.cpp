@@ -38,6 +38,8 @@ void TableHeights::ask(TableContent& content, const TableMetrics& metrics) {
     for (std::size_t section = 0; section < content.sectionCount(); ++section) {
         const auto& captions = captions_.emplace_back(content.header(section), content.footer(section));
         auto& heights = sections_.emplace_back();
+        toBeMeasured_.emplace_back(content.rowCount(section));
+        heights.rows.reserve(content.rowCount(section));
         heights.header = headerHeight(captions.header, section == 0, metrics);
         heights.footer = footerHeight(captions.footer, metrics);
         for (std::size_t row = 0; row < content.rowCount(section); ++row)
@@ -48,13 +50,13 @@ void TableHeights::ask(TableContent& content, const TableMetrics& metrics) {
 double TableHeights::askRow(TableContent& content, IndexPath row) {
     if (const auto height = content.rowHeight(row))
         return *height;
-    toBeMeasured_.insert(row);
+    toBeMeasured_[row.section][row.row] = true;
     const auto measured = measured_.find(row);
     return measured != measured_.end() ? measured->second : TableMetrics::minimumRowHeight;
 }
 
 bool TableHeights::setMeasured(IndexPath row, double height) {
-    toBeMeasured_.erase(row);
+    toBeMeasured_[row.section][row.row] = false;
     measured_.insert_or_assign(row, height);
     return std::exchange(sections_[row.section].rows[row.row], height) != height;
 }

@@ -7,7 +7,6 @@
 
 #include <cstddef>
 #include <map>
-#include <set>
 #include <vector>
 
 /// How high the rows, headers and footers of a table are: as its content says, as its texts need, and, for a
@@ -29,7 +28,7 @@ public:
     [[nodiscard]] const std::vector<Captions>& captions() const { return captions_; }
 
     /// Whether the row's height follows from its cell, which has not been measured since the last `ask`.
-    [[nodiscard]] bool isToBeMeasured(IndexPath row) const { return toBeMeasured_.contains(row); }
+    [[nodiscard]] bool isToBeMeasured(IndexPath row) const { return toBeMeasured_[row.section][row.row]; }
 
     /// \returns whether the height is another than before
     bool setMeasured(IndexPath row, double height);
@@ -41,6 +40,6 @@ private:
 
     std::vector<TableLayout::Section> sections_;
     std::vector<Captions> captions_;
-    std::set<IndexPath> toBeMeasured_;
+    std::vector<std::vector<bool>> toBeMeasured_; ///< by section and row
     std::map<IndexPath, double> measured_;
 };

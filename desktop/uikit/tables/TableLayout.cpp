@@ -2,6 +2,16 @@
 
 #include <algorithm>
 
+namespace {
+
+/// The first row that ends below that place.
+std::size_t firstRowBelow(const std::vector<double>& rowTops, double place) {
+    const auto end = std::ranges::upper_bound(rowTops, place);
+    return static_cast<std::size_t>(std::max(end - rowTops.begin() - 1, std::ptrdiff_t{0}));
+}
+
+} // namespace
+
 TableLayout::TableLayout(const std::vector<Section>& sections) {
     sections_.reserve(sections.size());
     auto top = 0.0;
@@ -40,11 +50,9 @@ TableLayout::Span TableLayout::card(std::size_t section) const {
 std::vector<IndexPath> TableLayout::rowsBetween(double top, double bottom) const {
     std::vector<IndexPath> found;
     for (const auto section : sectionsBetween(top, bottom)) {
-        for (std::size_t row = 0; row < rowCount(section); ++row) {
-            const auto span = this->row({section, row});
-            if (span.top < bottom && span.bottom() > top)
-                found.push_back({section, row});
-        }
+        const auto& tops = sections_[section].rowTops;
+        for (auto row = firstRowBelow(tops, top); row + 1 < tops.size() && tops[row] < bottom; ++row)
+            found.push_back({section, row});
     }
     return found;
 }

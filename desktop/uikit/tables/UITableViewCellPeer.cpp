@@ -3,6 +3,7 @@
 #include "AnimationGroup.h"
 #include "DesktopColor.h"
 #include "DesktopImage.h"
+#include "layout/LayoutProblem.h"
 #include "tables/TableMetrics.h"
 #include "tables/UITableViewPeer.h"
 #include "views/UIImageViewPeer.h"
@@ -230,8 +231,19 @@ double UITableViewCellPeer::heightFor(double width) const {
     return metrics.rounded(std::max(TableMetrics::minimumRowHeight, texts + 2 * verticalPadding));
 }
 
+double UITableViewCellPeer::constrainedHeight(double width) const {
+    if (!LayoutProblem::isHost(*contentView_))
+        return 0;
+    const TableMetrics metrics(width, traits().displayScale);
+    return metrics.rounded(contentView_->peer().fittingSize(contentWidth(width)).height);
+}
+
 CGSize UITableViewCellPeer::sizeThatFits(CGSize room) const {
-    return {room.width, heightFor(room.width)};
+    return {room.width, std::max(heightFor(room.width), constrainedHeight(room.width))};
+}
+
+double UITableViewCellPeer::contentWidth(double width) const {
+    return accessory() != nullptr ? accessoryFrame(CGRectMake(0, 0, width, 0)).origin.x : width;
 }
 
 void UITableViewCellPeer::layoutSubviews() {
@@ -239,13 +251,9 @@ void UITableViewCellPeer::layoutSubviews() {
     const auto hairline = 1 / traits().displayScale;
     slice_->setFrame(bounds);
     background_->setFrame(bounds);
-    auto content = bounds;
-    if (accessory() != nullptr) {
-        const auto frame = accessoryFrame(bounds);
-        (accessoryView_ ? accessoryView_ : Ref<UIView>(indicator_))->setFrame(frame);
-        content.size.width = frame.origin.x;
-    }
-    contentView_->setFrame(content);
+    if (accessory() != nullptr)
+        (accessoryView_ ? accessoryView_ : Ref<UIView>(indicator_))->setFrame(accessoryFrame(bounds));
+    contentView_->setFrame(CGRectMake(0, 0, contentWidth(bounds.size.width), bounds.size.height));
     layOutTexts(bounds);
     const auto left = textRoom(bounds.size.width).left;
     separator_->setFrame(CGRectMake(left, bounds.size.height - hairline, bounds.size.width - left, hairline));

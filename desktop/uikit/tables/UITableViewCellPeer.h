@@ -67,11 +67,12 @@ public:
     /// How much of the selection's look is gone, from 0 to 1, until the cell is selected anew.
     void setSelectionFade(double faded);
 
-    /// The height that suits what the cell shows when it is that wide.
+    /// The height that suits what the cell itself shows when it is that wide.
     [[nodiscard]] virtual double heightFor(double width) const;
 
     // UIViewPeer:
     void layoutSubviews() override;
+    /// As high as `heightFor` says, and as the constraints in the content view ask for.
     [[nodiscard]] CGSize sizeThatFits(CGSize room) const override;
     void touchBegan(DesktopTouch& touch, UIEvent& event) override;
     void touchEnded(DesktopTouch& touch, UIEvent& event) override;
@@ -97,6 +98,8 @@ private:
     [[nodiscard]] const UIView* accessory() const;
     [[nodiscard]] CGRect accessoryFrame(const CGRect& bounds) const;
     [[nodiscard]] TextRoom textRoom(double width) const;
+    [[nodiscard]] double contentWidth(double width) const;
+    [[nodiscard]] double constrainedHeight(double width) const;
     void showAccessory();
     /// How much the row looks pressed, from 0 to 1.
     [[nodiscard]] double pressedPart() const;

@@ -3,11 +3,23 @@
 #include "tables/UITableViewCellPeer.h"
 #include "tables/UITableViewPeer.h"
 
+#include <algorithm>
 #include <chrono>
+#include <vector>
 
 namespace {
 
 constexpr std::chrono::milliseconds slideDuration{300};
+
+/// With each row as high as it is in the higher of both, which have the same rows.
+TableLayout higherOf(const TableLayout& layout, std::vector<TableLayout::Section> heights) {
+    for (std::size_t section = 0; section < heights.size(); ++section) {
+        auto& rows = heights[section].rows;
+        for (std::size_t row = 0; row < rows.size(); ++row)
+            rows[row] = std::max(rows[row], layout.row({section, row}).height);
+    }
+    return TableLayout(heights);
+}
 
 } // namespace
 
@@ -43,6 +55,7 @@ void UITableViewPeer::slideToNewHeights() {
     layout_ = TableLayout(heights_.sections());
     makeComingCells(before);
     cutOffWhatComesAndGoes(before);
+    seen_ = higherOf(slides_ > 0 ? seen_ : before, heights_.sections());
     ++slides_;
     AnimationGroup::run(
         {.duration = slideDuration},

@@ -44,6 +44,7 @@ void UITableViewPeer::refreshLayout() {
         return;
     askHeights();
     takeLayout();
+    seen_ = layout_; // the rows may be others than those that slide
 }
 
 void UITableViewPeer::askHeights() {
@@ -160,6 +161,8 @@ void UITableViewPeer::traitsDidChange() {
 
 void UITableViewPeer::tile() {
     auto rows = nearRows(view().bounds().origin.y);
+    if (slides_ == 0)
+        cells_.keepOnly(rows); // before others are made, which may use what waits
     makeCells(rows);
     while (measure(rows)) {
         takeLayout();
@@ -223,7 +226,10 @@ void UITableViewPeer::place(IndexPath row, const UITableViewCell& cell) const {
     const auto span = layout_.row(row);
     peer.setFrame(cardRect(span));
     peer.setMargin(metrics().margin());
-    peer.setPlaceInCard(layout_.isFirstShown(row), layout_.isLastShown(row));
+    const auto& seen = slides_ > 0 ? seen_ : layout_;
+    peer.setPlaceInCard(seen.isFirstShown(row), seen.isLastShown(row));
+    const auto gone = slides_ == 0 && span.height <= 0;
+    peer.setHidden(gone); // so that nobody comes to it
     if (slides_ == 0)
-        peer.setCutOff(span.height <= 0);
+        peer.setCutOff(gone);
 }

@@ -113,6 +113,7 @@ private:
     TableContent* content_ = nullptr;
     TableHeights heights_;
     TableLayout layout_;
+    TableLayout seen_; ///< during slides: with what comes and what goes, whose cards are cut out of it
     TableCells cells_;
     TableCaptionViews captions_;
     std::optional<IndexPath> selected_;

@@ -28,6 +28,13 @@ PSListController::Specifiers ListedPage::specifiers() {
     return cachedSpecifiers();
 }
 
+double ListedPage::heightForRowAtIndexPath(UITableView& tableView, NSIndexPath indexPath) {
+    heightsAsked.push_back(identifierOf(specifierAtIndexPath(indexPath)));
+    const auto own = heights.find(heightsAsked.back());
+    return own != heights.end() ? own->second
+                                : PSListController::heightForRowAtIndexPath(tableView, indexPath);
+}
+
 void ListedPage::tapped(const Ref<PSSpecifier>& specifier) {
     events.push_back("tapped " + identifierOf(specifier));
     tapAction();

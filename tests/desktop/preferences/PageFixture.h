@@ -6,6 +6,7 @@
 #include "tables/UITableViewCellPeer.h"
 
 #include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -13,6 +14,7 @@
 class ListedPage : public PSListController {
 public:
     [[nodiscard]] Specifiers specifiers() override;
+    [[nodiscard]] double heightForRowAtIndexPath(UITableView& tableView, NSIndexPath indexPath) override;
 
     void tapped(const Ref<PSSpecifier>& specifier);
     void tappedPlainly();
@@ -21,6 +23,8 @@ public:
 
     std::vector<std::string> events;
     std::function<void()> tapAction = [] {}; ///< called by `tapped`
+    std::map<std::string, double> heights;   ///< the page's own answers, by the rows' identifiers
+    std::vector<std::string> heightsAsked;
     std::size_t loads = 0;
 };
 

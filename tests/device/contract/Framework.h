@@ -30,6 +30,8 @@ id specifiersOf(id page);
 id keptSpecifiersOf(id page);
 id readValueOf(id page, id specifier);
 void setValueOf(id page, id value, id specifier);
+/// What the page answers for the row of that number in its first section.
+double heightOfRow(id page, long row);
 /// Null when the page's class has no bundle that the framework could tell.
 const char* bundlePathOf(id page);
 

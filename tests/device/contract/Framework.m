@@ -1,4 +1,4 @@
-#import "StandIns.h"
+#import "LayoutStandIns.h"
 
 #import <Foundation/NSDebug.h>
 #import <objc/runtime.h>
@@ -46,6 +46,10 @@ id readValueOf(PSListController *page, PSSpecifier *specifier) {
 
 void setValueOf(PSListController *page, id value, PSSpecifier *specifier) {
     [page setPreferenceValue:value specifier:specifier];
+}
+
+double heightOfRow(PSListController *page, long row) {
+    return [page tableView:[page table] heightForRowAtIndexPath:[NSIndexPath indexPathForRow:row inSection:0]];
 }
 
 const char *bundlePathOf(PSListController *page) {

@@ -55,6 +55,17 @@ typedef struct UIEdgeInsets {
 - (id)initWithStyle:(NSInteger)style reuseIdentifier:(NSString*)identifier;
 @end
 
+@interface NSIndexPath (Rows)
++ (NSIndexPath*)indexPathForRow:(NSInteger)row inSection:(NSInteger)section;
+- (NSInteger)section;
+- (NSInteger)row;
+@end
+
+@interface PSListController (Table)
+- (UITableView*)table;
+- (double)tableView:(UITableView*)tableView heightForRowAtIndexPath:(NSIndexPath*)indexPath;
+@end
+
 @interface PSTableCell : UITableViewCell {
     PSSpecifier* specifier;
 }

@@ -181,6 +181,24 @@ static id answer(id receiver, SEL question, Class class) {
 @implementation PSSwitchTableCell
 @end
 
+@implementation NSIndexPath (Rows)
++ (NSIndexPath *)indexPathForRow:(NSInteger)row inSection:(NSInteger)section {
+    NSUInteger indexes[] = {(NSUInteger)section, (NSUInteger)row};
+    return [self indexPathWithIndexes:indexes length:2];
+}
+- (NSInteger)section { return (NSInteger)[self indexAtPosition:0]; }
+- (NSInteger)row { return (NSInteger)[self indexAtPosition:1]; }
+@end
+
 @implementation PSListController (Table)
 - (UITableView *)table { return [[UITableView new] autorelease]; }
+- (PSSpecifier *)specifierAtIndexPath:(NSIndexPath *)indexPath {
+    record(self, _cmd, @"%d.%d", (int)[indexPath section], (int)[indexPath row]);
+    NSUInteger row = (NSUInteger)[indexPath row];
+    return row < [_specifiers count] ? [_specifiers objectAtIndex:row] : nil;
+}
+- (double)tableView:(UITableView *)tableView heightForRowAtIndexPath:(NSIndexPath *)indexPath {
+    record(self, _cmd, @"%@ %d.%d", describe(tableView), (int)[indexPath section], (int)[indexPath row]);
+    return 52.5;
+}
 @end

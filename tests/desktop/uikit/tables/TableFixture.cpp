@@ -20,6 +20,8 @@ Ref<UITableViewCell> NotedContent::cellForRow(IndexPath row) {
         EXPECT_TRUE(cell->initWithStyle(UITableViewCellStyle::Default, reuseIdentifier));
     }
     peerOf<UITableViewCellPeer>(*cell).textLabel().setText(sections[row.section].rows[row.row].title);
+    if (prepare)
+        prepare(row, *cell);
     return cell;
 }
 

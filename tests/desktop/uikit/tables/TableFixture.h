@@ -7,6 +7,7 @@
 #include "tables/UITableViewPeer.h"
 #include "views/UILabelPeer.h"
 
+#include <functional>
 #include <optional>
 #include <set>
 #include <string>
@@ -34,6 +35,7 @@ public:
     std::vector<Section> sections;
     std::set<IndexPath> unselectable;
     std::string reuseIdentifier = "Row";
+    std::function<void(IndexPath, UITableViewCell&)> prepare; ///< of a cell that is about to show a row
     std::vector<IndexPath> selected;
     std::size_t cellsMade = 0;
     std::size_t heightsAsked = 0;

@@ -1,4 +1,7 @@
 #include "CALayerPeer.h"
+#include "UIKit/NSLayoutDimension.h"
+#include "UIKit/NSLayoutXAxisAnchor.h"
+#include "UIKit/NSLayoutYAxisAnchor.h"
 #include "tables/TableFixture.h"
 #include "views/UILabelPeer.h"
 
@@ -118,6 +121,47 @@ TEST_F(UITableViewTest, AutomaticHeightsFollowTheText) {
     show();
     EXPECT_EQ(cell({0, 0}).frame().size.height, 44);
     EXPECT_EQ(cell({0, 1}).frame().origin.y, 79);
+}
+
+TEST_F(UITableViewTest, AutomaticHeightsFollowTheConstraintsInTheCell) {
+    const auto inner = make<UIView>();
+    const auto makeCell = [&inner](UITableViewCell& cell) {
+        auto& content = cell.contentView();
+        content.addSubview(inner);
+        inner->setTranslatesAutoresizingMaskIntoConstraints(false);
+        NSLayoutConstraint::activateConstraints(
+            {inner->topAnchor()->constraintEqualToAnchor(content.topAnchor(), 8),
+             content.bottomAnchor()->constraintEqualToAnchor(inner->bottomAnchor(), 12),
+             inner->heightAnchor()->constraintEqualToConstant(100),
+             inner->leadingAnchor()->constraintEqualToAnchor(content.leadingAnchor()),
+             inner->trailingAnchor()->constraintEqualToAnchor(content.trailingAnchor())});
+    };
+    content_.sections = {NotedContent::sectionOf(3)};
+    content_.sections[0].rows[1].height = std::nullopt;
+    content_.prepare = [&makeCell](IndexPath row, UITableViewCell& cell) {
+        if (row == IndexPath{0, 1})
+            makeCell(cell);
+    };
+    content_.reuseIdentifier = "";
+    show();
+    EXPECT_EQ(cell({0, 1}).frame().size.height, 120);
+    EXPECT_EQ(inner->frame(), CGRectMake(0, 8, 358, 100));
+    EXPECT_EQ(cell({0, 2}).frame().origin.y, 35 + 44 + 120);
+}
+
+TEST_F(UITableViewTest, ConstraintsThatLeaveTheHeightOpenKeepTheLeast) {
+    content_.sections = {NotedContent::sectionOf(1)};
+    content_.sections[0].rows[0].height = std::nullopt;
+    content_.prepare = [](IndexPath /*row*/, UITableViewCell& cell) {
+        const auto inner = make<UIView>();
+        cell.contentView().addSubview(inner);
+        inner->setTranslatesAutoresizingMaskIntoConstraints(false);
+        NSLayoutConstraint::activateConstraints(
+            {inner->centerYAnchor()->constraintEqualToAnchor(cell.contentView().centerYAnchor()),
+             inner->heightAnchor()->constraintEqualToConstant(20)});
+    };
+    show();
+    EXPECT_EQ(cell({0, 0}).frame().size.height, 44);
 }
 
 TEST_F(UITableViewTest, HeadersAndFootersStandAtTheTextOfTheRows) {

@@ -1,5 +1,8 @@
 #include "tables/TableFixture.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace {
 
 using namespace std::chrono_literals;
@@ -14,6 +17,11 @@ protected:
     void askHeightsAgain() {
         table_->beginUpdates();
         table_->endUpdates();
+    }
+
+    [[nodiscard]] bool isRoundBelow(IndexPath row) const {
+        const auto& slice = cell(row).peer().subviews().front();
+        return slice->peer().subviews().front()->layer().peer().roundBottom;
     }
 
     [[nodiscard]] std::vector<std::string> titles(std::size_t section) const {
@@ -40,6 +48,74 @@ TEST_F(UITableViewUpdatesTest, AskingHeightsAgainSlidesTheRows) {
     advance(151ms);
     EXPECT_EQ(shownFrame({0, 2}).origin.y, 79);
     EXPECT_EQ(content_.cellsMade, made);
+}
+
+TEST_F(UITableViewUpdatesTest, ASlideStartsAndEndsSlowly) {
+    content_.sections[0].rows[1].height = 0;
+    askHeightsAgain();
+    advance(30ms);
+    EXPECT_GT(shownFrame({0, 2}).origin.y, 123 - 4.4);
+    EXPECT_LT(shownFrame({0, 2}).origin.y, 123);
+    advance(240ms);
+    EXPECT_LT(shownFrame({0, 2}).origin.y, 79 + 4.4);
+    EXPECT_GT(shownFrame({0, 2}).origin.y, 79);
+}
+
+TEST_F(UITableViewUpdatesTest, ASlideThatIsTurnedRoundGoesOnFromWhereItIs) {
+    content_.sections[0].rows[1].height = 0;
+    askHeightsAgain();
+    advance(120ms);
+    const auto on = shownFrame({0, 2}).origin.y;
+    const auto height = shownFrame({0, 1}).size.height;
+    content_.sections[0].rows[1].height = 44;
+    askHeightsAgain();
+    EXPECT_NEAR(shownFrame({0, 2}).origin.y, on, 1e-6);
+    EXPECT_NEAR(shownFrame({0, 1}).size.height, height, 1e-6);
+    auto last = on;
+    auto farthest = 0.0; // of a frame's step
+    for (auto frame = 0; frame < 20; ++frame) {
+        advance(16ms);
+        farthest = std::max(farthest, std::abs(shownFrame({0, 2}).origin.y - last));
+        last = shownFrame({0, 2}).origin.y;
+    }
+    EXPECT_LT(farthest, 6);
+    EXPECT_EQ(last, 123);
+    EXPECT_FALSE(cell({0, 1}).peer().isHidden());
+}
+
+TEST_F(UITableViewUpdatesTest, TheCardKeepsItsEndUntilItsLastRowHasGone) {
+    content_.sections[0].rows[3].height = 0;
+    askHeightsAgain();
+    advance(150ms);
+    layOut();
+    EXPECT_FALSE(isRoundBelow({0, 2}));
+    EXPECT_TRUE(isRoundBelow({0, 3}));
+    content_.sections[0].rows[2].height = 0; // while the other one is on its way
+    askHeightsAgain();
+    EXPECT_FALSE(isRoundBelow({0, 1}));
+    EXPECT_FALSE(isRoundBelow({0, 2}));
+    advance(1s);
+    layOut();
+    EXPECT_TRUE(isRoundBelow({0, 1}));
+    content_.sections[0].rows[3].height = 44;
+    askHeightsAgain();
+    EXPECT_FALSE(isRoundBelow({0, 1}));
+    EXPECT_TRUE(isRoundBelow({0, 3}));
+}
+
+TEST_F(UITableViewUpdatesTest, ARowIsHiddenOnlyOnceItHasGone) {
+    content_.sections[0].rows[1].height = 0;
+    askHeightsAgain();
+    EXPECT_FALSE(cell({0, 1}).peer().isHidden());
+    advance(290ms);
+    layOut();
+    EXPECT_FALSE(cell({0, 1}).peer().isHidden());
+    advance(20ms);
+    layOut();
+    EXPECT_TRUE(cell({0, 1}).peer().isHidden());
+    content_.sections[0].rows[1].height = 44;
+    askHeightsAgain();
+    EXPECT_FALSE(cell({0, 1}).peer().isHidden());
 }
 
 TEST_F(UITableViewUpdatesTest, ARowThatComesBackIsCutOffUntilItIsThere) {
@@ -84,6 +160,7 @@ TEST_F(UITableViewUpdatesTest, ReloadingEndsASlide) {
     content_.sections[0].rows[1].height = 44;
     peer().reloadData();
     layOut();
+    EXPECT_TRUE(isRoundBelow({0, 2}));
     advance(1s);
     EXPECT_EQ(titles(0), (Titles{"0", "1", "2"}));
     EXPECT_EQ(peer().cells().size(), 5U);

@@ -1,0 +1,18 @@
+#include "cxExtraController.h"
+
+#include "ObjectiveC/Class.h"
+
+namespace {
+
+constexpr auto listName = "Extra";
+
+const Class classObject = Class::define<cxExtraController, PSListController>(
+    "cxExtraController", {method<"specifiers", &cxExtraController::specifiers>()});
+
+} // namespace
+
+PSListController::Specifiers cxExtraController::specifiers() {
+    if (cachedSpecifiers().empty())
+        setCachedSpecifiers(loadSpecifiersFromPlistName(listName, *this));
+    return cachedSpecifiers();
+}

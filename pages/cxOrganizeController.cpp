@@ -1,0 +1,20 @@
+#include "cxOrganizeController.h"
+
+#include "ObjectiveC/Class.h"
+
+namespace {
+
+constexpr auto listName = "Organize";
+
+const Class classObject = Class::define<cxOrganizeController, cxCollectDynamicSpecifiers>(
+    "cxOrganizeController", {method<"specifiers", &cxOrganizeController::specifiers>()});
+
+} // namespace
+
+PSListController::Specifiers cxOrganizeController::specifiers() {
+    if (cachedSpecifiers().empty()) {
+        setCachedSpecifiers(loadSpecifiersFromPlistName(listName, *this));
+        collectDynamicSpecifiersFromArray(cachedSpecifiers());
+    }
+    return cachedSpecifiers();
+}

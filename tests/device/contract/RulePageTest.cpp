@@ -1,0 +1,133 @@
+#include "Framework.h"
+#include "Instances.h"
+#include "Journal.h"
+#include "PropertyListObject.h"
+#include "Text.h"
+#include "UIKit/UITableView.h"
+#include "cxBannerController.h"
+#include "cxLabelController.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace {
+
+using Lines = std::vector<std::string>;
+
+/// A page that hides its second row, "row", while its first, "group", reads as a number that is no.
+class RulePageTest : public testing::Test {
+protected:
+    RulePageTest() {
+        const id rows = specifiersOf(page);
+        controlling = instance().specifiers()[0];
+        dependent = instance().specifiers()[1];
+        setProperty(*dependent, text("group, on, show"), "dynamicRule");
+        perform(page, "collectDynamicSpecifiersFromArray:", rows);
+        takeJournal();
+    }
+
+    ~RulePageTest() override {
+        controlling = nullptr;
+        dependent = nullptr;
+        objc_release(page);
+    }
+
+    static void setProperty(const PSSpecifier& specifier, id value, const char* key) {
+        performWithTwo(objectOf(specifier), "setProperty:forKey:", value, text(key));
+    }
+
+    [[nodiscard]] cxBannerController& instance() const {
+        return dynamic_cast<cxBannerController&>(*instanceOf(page));
+    }
+
+    [[nodiscard]] bool has(const char* property) const { return invokeForBoolean(page, property); }
+
+    /// What was sent, but for the table's making.
+    [[nodiscard]] static Lines sent() {
+        Lines lines = takeJournal();
+        std::erase_if(lines, [](const std::string& line) { return line.contains("initWithFrame:"); });
+        return lines;
+    }
+
+    const id page = newByName("cxBannerController");
+    Ref<PSSpecifier> controlling;
+    Ref<PSSpecifier> dependent;
+};
+
+} // namespace
+
+TEST_F(RulePageTest, TheRulesAreKeptInADictionaryOfTheFrameworks) {
+    EXPECT_TRUE(has("hasDynamicSpecifiers"));
+    const id rules = perform(page, "dynamicSpecifiers", nullptr);
+    EXPECT_EQ(perform(rules, "objectForKey:", text("group")), objectOf(*dependent));
+    perform(page, "collectDynamicSpecifiersFromArray:", nullptr);
+    EXPECT_FALSE(has("hasDynamicSpecifiers"));
+    EXPECT_EQ(perform(page, "dynamicSpecifiers", nullptr), rules);
+    EXPECT_EQ(perform(rules, "objectForKey:", text("group")), nullptr);
+}
+
+TEST_F(RulePageTest, TheFrameworkAsksForAHeightByMessage) {
+    EXPECT_EQ(heightOfRow(page, 0), UITableViewAutomaticDimension);
+    EXPECT_EQ(heightOfRow(page, 1), UITableViewAutomaticDimension);
+    setProperty(*controlling, propertyListObject(false), "value");
+    takeJournal();
+    EXPECT_EQ(heightOfRow(page, 1), 0.0);
+    EXPECT_EQ(sent(), (Lines{"-[cxBannerController specifierAtIndexPath:] 0.1",
+                             "-[cxBannerController specifierForID:] \"group\"",
+                             "-[cxBannerController readPreferenceValue:] PSSpecifier"}));
+    EXPECT_EQ(heightOfRow(page, 0), UITableViewAutomaticDimension);
+    EXPECT_EQ(heightOfRow(page, 7), UITableViewAutomaticDimension);
+}
+
+TEST_F(RulePageTest, TheCellOfAHiddenRowIsCutOff) {
+    const id cell = newByName("PSTableCell");
+    setProperty(*dependent, cell, "cellObject");
+    setProperty(*controlling, number(0), "value");
+    takeJournal();
+    EXPECT_EQ(heightOfRow(page, 1), 0.0);
+    EXPECT_EQ(takeJournal().back(), "-[PSTableCell setClipsToBounds:] 1");
+    setProperty(*controlling, number(1), "value");
+    EXPECT_EQ(heightOfRow(page, 1), UITableViewAutomaticDimension);
+    EXPECT_EQ(takeJournal().back(), "-[PSTableCell setClipsToBounds:] 0");
+    objc_release(cell);
+}
+
+TEST_F(RulePageTest, AWriteGoesToTheFrameworkFirstAndThenUpdatesTheTable) {
+    setValueOf(page, number(0), objectOf(*controlling));
+    EXPECT_EQ(sent(), (Lines{"-[cxBannerController setPreferenceValue:specifier:] 0 PSSpecifier",
+                             "-[UITableView beginUpdates]", "-[UITableView endUpdates]"}));
+    setValueOf(page, number(0), objectOf(*dependent));
+    EXPECT_EQ(takeJournal(), Lines{"-[cxBannerController setPreferenceValue:specifier:] 0 PSSpecifier"});
+}
+
+TEST_F(RulePageTest, APageOfAnotherKindHasTheFrameworksHeights) {
+    const id plain = newByName("cxLabelController");
+    specifiersOf(plain);
+    takeJournal();
+    EXPECT_EQ(heightOfRow(plain, 1), 52.5);
+    EXPECT_EQ(sent(), Lines{"-[cxLabelController tableView:heightForRowAtIndexPath:] UITableView 0.1"});
+    EXPECT_NE(dynamic_cast<cxLabelController*>(instanceOf(plain)), nullptr);
+    objc_release(plain);
+}
+
+TEST_F(RulePageTest, EachPageLoadsItsListOnce) {
+    for (const auto& [name, list] :
+         std::vector<std::pair<std::string, std::string>>{{"cxBannerController", "Banner"},
+                                                          {"cxOrganizeController", "Organize"},
+                                                          {"cxLabelController", "Label"},
+                                                          {"cxGeneralController", "General"},
+                                                          {"cxExtraController", "Extra"},
+                                                          {"cxColorController", "Color"},
+                                                          {"cxBackgroundController", "Background"}}) {
+        const id opened = newByName(name.c_str());
+        ASSERT_NE(opened, nullptr) << name;
+        const id specifiers = specifiersOf(opened);
+        EXPECT_EQ(takeJournal(),
+                  Lines{"-[" + name + " loadSpecifiersFromPlistName:target:] \"" + list + "\" " + name});
+        EXPECT_EQ(specifiersOf(opened), specifiers);
+        EXPECT_TRUE(takeJournal().empty());
+        objc_release(opened);
+    }
+}
