@@ -63,6 +63,7 @@ public:
     void viewWillAppear(bool animated) override;
     void viewDidAppear(bool animated) override;
     void pageReturns(double progress) override;
+    void keyboardDidChange() override;
 
 private:
     /// Where a row of `rows` is in the table.
@@ -76,6 +77,10 @@ private:
     [[nodiscard]] ListRow rowAt(const Place& place);
     void select(DesktopSpecifier& specifier);
     [[nodiscard]] bool openDetail(DesktopSpecifier& specifier);
+    /// Does what a tap on the row is for, besides leading somewhere.
+    void act(DesktopSpecifier& specifier);
+    void confirm(DesktopSpecifier& specifier);
+    void fadeSelection();
 
     Ref<DesktopSpecifier> specifier_;
     Specifiers cachedSpecifiers_;

@@ -37,6 +37,13 @@ public:
     /// Shows one row's or group's properties and value as they are now.
     void refresh(const PSSpecifier& specifier);
 
+    /// The same for every row near the screen, whatever has changed their values.
+    void refreshShown();
+
+    /// Leaves below the rows what the keyboard covers of the table, and scrolls a row that is edited out from
+    /// behind it.
+    void followKeyboard();
+
     // TableContent:
     [[nodiscard]] std::size_t sectionCount() const override { return sections().size(); }
 
@@ -71,9 +78,11 @@ private:
     [[nodiscard]] Ref<PSTableCell> cellOf(DesktopSpecifier& specifier);
     void setView(TableCaption& caption, const Ref<UIView>& view) const;
     void forgetViewsOfOthers();
+    void showEditedRow();
 
     const Page page_;
     const Ref<UITableView> view_;
     mutable std::optional<Sections> sections_; ///< nothing until they are first needed
     std::map<Ref<DesktopSpecifier>, OwnViews, ByAddress> ownViews_;
+    double keyboardInset_ = 0; ///< what of the content inset is for the keyboard
 };
