@@ -3,6 +3,7 @@
 #include "DrivenApplication.h"
 #include "JsonValues.h"
 #include "PSListControllerPeer.h"
+#include "cells/RadioGroup.h"
 #include "screen/Screen.h"
 
 #include <QJsonObject>
@@ -42,7 +43,7 @@ Answer relaunch(DrivenApplication& application) {
 
 /// Heads of groups, and rows that only lead somewhere, have none.
 bool hasValue(const DesktopSpecifier& specifier) {
-    return !specifier.textForKey("key").empty() || !specifier.textForKey("set").empty();
+    return specifier.keepsValue() || isChoice(specifier);
 }
 
 Answer set(const DrivenApplication& application, const CommandTable::Arguments& arguments) {

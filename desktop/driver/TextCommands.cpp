@@ -28,11 +28,16 @@ Answer press(const CommandTable::Arguments& arguments) {
     const auto& key = arguments[0].text;
     if (key != "return" && key != "backspace")
         return std::unexpected("a key is return or backspace");
-    return edit([deletes = key == "backspace"](EditedText& text) {
-        text.endComposing();
-        if (deletes)
+    if (key == "backspace")
+        return edit([](EditedText& text) {
+            text.endComposing();
             text.deleteBackward();
-    });
+        });
+    auto* const input = Screen::current().firstResponder().input();
+    if (input == nullptr)
+        return std::unexpected(noInput);
+    input->returnPressed();
+    return QJsonObject();
 }
 
 } // namespace

@@ -58,6 +58,11 @@ const PropertyList::Array* DesktopSpecifier::arrayForKey(std::string_view key) c
     return found != properties_.end() ? found->second.getIf<PropertyList::Array>() : nullptr;
 }
 
+Ref<UIImage> DesktopSpecifier::imageForKey(std::string_view key) const {
+    const auto found = images_.find(key);
+    return found != images_.end() ? found->second : nullptr;
+}
+
 std::optional<PropertyList> DesktopSpecifier::performGetter() {
     const auto answer =
         send(selectorOr(textForKey("get"), "readPreferenceValue:"), {Ref<NSObject>(retain(this))});
@@ -70,10 +75,24 @@ void DesktopSpecifier::performSetter(const std::optional<PropertyList>& value) {
          {value ? MessageValue(*value) : MessageValue(), Ref<NSObject>(retain(this))});
 }
 
-void DesktopSpecifier::performAction() {
-    const auto selector = selectorOr(textForKey("action"), textForKey("buttonAction"));
-    if (!selector.empty())
+bool DesktopSpecifier::keepsValue() const {
+    return !textForKey("key").empty() || !textForKey("set").empty();
+}
+
+std::optional<PropertyList> DesktopSpecifier::performDataSource(std::string_view key) {
+    const auto selector = textForKey(key);
+    const auto answer = selector.empty() ? MessageValue() : send(selector, {Ref<NSObject>(retain(this))});
+    const auto* const value = std::get_if<PropertyList>(&answer);
+    return value != nullptr ? std::optional(*value) : std::nullopt;
+}
+
+void DesktopSpecifier::performMessage(std::string_view key) {
+    if (const auto selector = textForKey(key); !selector.empty())
         send(selector, {Ref<NSObject>(retain(this))});
+}
+
+void DesktopSpecifier::performAction() {
+    performMessage(textForKey("action").empty() ? "buttonAction" : "action");
 }
 
 MessageValue DesktopSpecifier::send(const std::string& selector,

@@ -6,11 +6,14 @@
 #include "SpecifierKind.h"
 #include "UIKit/UIImage.h"
 
+#include <functional>
 #include <initializer_list>
+#include <map>
 #include <optional>
 #include <set>
 #include <string>
 #include <string_view>
+#include <utility>
 
 /// One row of a page as the framework reads it: its properties, and whom its messages go to. Made from an
 /// item of a list, or by the host; owned by the page. The texts among its properties are already localised.
@@ -57,9 +60,27 @@ public:
     [[nodiscard]] static bool isYesOrNo(const PropertyList& value);
 
     /// What is shown before the label; empty for none.
-    [[nodiscard]] const Ref<UIImage>& icon() const { return icon_; }
+    [[nodiscard]] Ref<UIImage> icon() const { return imageForKey("icon"); }
 
-    void setIcon(const Ref<UIImage>& icon) { icon_ = icon; }
+    /// The picture that the list names under `key`; empty when there is none.
+    [[nodiscard]] Ref<UIImage> imageForKey(std::string_view key) const;
+
+    void setImage(std::string key, const Ref<UIImage>& image) {
+        images_.insert_or_assign(std::move(key), image);
+    }
+
+    /// The head of the group that the row stands in; empty when there is none.
+    [[nodiscard]] Ref<DesktopSpecifier> group() const { return group_.strong(); }
+
+    void setGroup(const Ref<DesktopSpecifier>& group) { group_ = Weak<DesktopSpecifier>(group); }
+
+    /// Of a group that keeps no value, which of its rows was chosen last; empty for none.
+    [[nodiscard]] Ref<DesktopSpecifier> lastChosen() const { return lastChosen_.strong(); }
+
+    void setLastChosen(DesktopSpecifier& row) { lastChosen_ = Weak<DesktopSpecifier>(&row); }
+
+    /// Whether the list says where the row's value is kept, or by which message.
+    [[nodiscard]] bool keepsValue() const;
 
     /// The cell that shows the row; empty while none does. Not kept alive.
     [[nodiscard]] Ref<NSObject> cell() const { return cell_.strong(); }
@@ -80,6 +101,13 @@ public:
     /// Sends the target the message named by "set", which is by default "setPreferenceValue:specifier:".
     void performSetter(const std::optional<PropertyList>& value);
 
+    /// What the target answers to the message that the list names under `key`; nothing when it names none.
+    [[nodiscard]] std::optional<PropertyList> performDataSource(std::string_view key);
+
+    /// Sends the target the message that the list names under `key`, with the row. Nothing happens when it
+    /// names none.
+    void performMessage(std::string_view key);
+
     /// Sends the target the message named by "action", else by "buttonAction".
     void performAction();
 
@@ -98,6 +126,8 @@ private:
     PropertyList::Dictionary properties_;
     Weak<NSObject> target_;
     Weak<NSObject> cell_;
-    Ref<UIImage> icon_;
-    std::set<std::string> unanswered_; ///< the messages that have been logged
+    Weak<DesktopSpecifier> group_;
+    Weak<DesktopSpecifier> lastChosen_;
+    std::map<std::string, Ref<UIImage>, std::less<>> images_; ///< by the property that names them
+    std::set<std::string> unanswered_;                        ///< the messages that have been logged
 };

@@ -14,7 +14,8 @@ struct ListRow {
     std::string cell; ///< what the list calls the kind ("PSSwitchCell")
     std::string cellClass;
     std::string key;
-    std::optional<PropertyList> value; ///< as the page reads it; only of rows that name a key
+    std::optional<PropertyList> value; ///< as the page reads it, of rows that name a key; of a choice,
+                                       ///< whether it is the chosen one
     bool enabled = true;
     double height = 0; ///< points; 0 for a hidden row
     CGRect frame{};    ///< in the table's content; of a group, its header's

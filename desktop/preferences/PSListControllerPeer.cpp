@@ -2,7 +2,10 @@
 
 #include "Foundation/NSLog.h"
 #include "ObjectiveC/Class.h"
+#include "PSListItemsController.h"
+#include "RowConfirmation.h"
 #include "UIKit/UINavigationController.h"
+#include "cells/RadioGroup.h"
 
 #include <utility>
 
@@ -17,8 +20,16 @@ bool isPlaceIn(const std::vector<T>& elements, std::int64_t index) {
     return index >= 0 && std::cmp_less(index, elements.size());
 }
 
+bool leadsToPage(const DesktopSpecifier& specifier) {
+    if (specifier.kind() == SpecifierKind::LinkList)
+        return true;
+    return specifier.kind() == SpecifierKind::Link && !specifier.textForKey("detail").empty();
+}
+
 Ref<UIViewController> makeDetail(const DesktopSpecifier& specifier) {
     const auto name = specifier.textForKey("detail");
+    if (name.empty())
+        return make<PSListItemsController>();
     const auto* const named = NSClassFromString(name);
     const auto detail = named != nullptr ? dynamicCast<UIViewController>(named->create()) : nullptr;
     if (!detail)
@@ -57,6 +68,12 @@ Ref<UIView> PSListControllerPeer::makeView() {
 void PSListControllerPeer::viewWillAppear(bool /*animated*/) {
     // The list brings the page's title, which the bar shows from now on.
     static_cast<void>(shownRows().sections());
+    shownRows().refreshShown();
+}
+
+void PSListControllerPeer::keyboardDidChange() {
+    if (rows_)
+        rows_->followKeyboard();
 }
 
 void PSListControllerPeer::pageReturns(double progress) {
@@ -133,7 +150,9 @@ ListRow PSListControllerPeer::rowAt(const Place& place) {
     row.cellClass = specifier.textForKey("cellClass");
     row.key = specifier.textForKey("key");
     row.enabled = specifier.isEnabled();
-    if (!row.key.empty())
+    if (isChoice(specifier))
+        row.value = isChosen(specifier);
+    else if (!row.key.empty())
         row.value = specifier.performGetter();
     if (isGroup(specifier)) {
         row.frame = table().rectForHeader(place.path.section);
@@ -160,16 +179,58 @@ void PSListControllerPeer::scrollRowIntoView(std::size_t index) {
 }
 
 void PSListControllerPeer::setValue(DesktopSpecifier& specifier, const std::optional<PropertyList>& value) {
-    specifier.performSetter(value);
+    if (isChoice(specifier) && value && value->boolValue())
+        choose(specifier);
+    else
+        specifier.performSetter(value);
     if (rows_)
-        rows_->refreshCell(specifier);
+        rows_->refreshShown();
 }
 
 void PSListControllerPeer::select(DesktopSpecifier& specifier) {
     const auto kept = retain(&controller());
     if (openDetail(specifier))
         return;
+    if (wantsConfirmation(specifier))
+        confirm(specifier);
+    else
+        act(specifier);
+}
+
+void PSListControllerPeer::act(DesktopSpecifier& specifier) {
+    const auto kept = retain(&controller());
+    if (isChoice(specifier)) {
+        choose(specifier);
+        shownRows().refreshShown();
+    }
     specifier.performAction();
+    fadeSelection();
+}
+
+void PSListControllerPeer::confirm(DesktopSpecifier& specifier) {
+    const auto row = retain(&specifier);
+    const auto whileThere = [page = Weak<UIViewController>(&controller()), row](auto&& then) {
+        return [page, row, then] {
+            if (const auto kept = dynamicCast<PSListController>(page.strong()))
+                then(peerOf<PSListControllerPeer>(*kept), *row);
+        };
+    };
+    const auto confirmed = [](PSListControllerPeer& peer, DesktopSpecifier& asked) {
+        if (asked.textForKey("confirmationAction").empty()) {
+            peer.act(asked);
+            return;
+        }
+        asked.performMessage("confirmationAction");
+        peer.fadeSelection();
+    };
+    const auto cancelled = [](PSListControllerPeer& peer, DesktopSpecifier& asked) {
+        asked.performMessage("cancel");
+        peer.fadeSelection();
+    };
+    askForConfirmation(controller(), specifier, whileThere(confirmed), whileThere(cancelled));
+}
+
+void PSListControllerPeer::fadeSelection() {
     const auto staysInFront = appearance() == Appearance::Appearing || appearance() == Appearance::Appeared;
     if (!keepsSelection_ && staysInFront)
         table().deselectRow(true);
@@ -177,7 +238,7 @@ void PSListControllerPeer::select(DesktopSpecifier& specifier) {
 
 bool PSListControllerPeer::openDetail(DesktopSpecifier& specifier) {
     const auto navigation = controller().navigationController();
-    if (!navigation || specifier.kind() != SpecifierKind::Link || specifier.textForKey("detail").empty())
+    if (!navigation || !leadsToPage(specifier))
         return false;
     const auto detail = makeDetail(specifier);
     if (const auto list = dynamicCast<PSListController>(detail))

@@ -66,6 +66,7 @@ public:
     void viewWillAppear(bool animated) override;
     void viewDidAppear(bool animated) override;
     void pageReturns(double progress) override;
+    void keyboardDidChange() override;
 
 private:
     /// Where a row of `rows` is in the table.
@@ -80,6 +81,10 @@ private:
     [[nodiscard]] double heightOf(IndexPath row);
     void select(DesktopSpecifier& specifier);
     [[nodiscard]] bool openDetail(DesktopSpecifier& specifier);
+    /// Does what a tap on the row is for, besides leading somewhere.
+    void act(DesktopSpecifier& specifier);
+    void confirm(DesktopSpecifier& specifier);
+    void fadeSelection();
 
     Ref<DesktopSpecifier> specifier_;
     Specifiers cachedSpecifiers_;

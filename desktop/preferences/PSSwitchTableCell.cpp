@@ -2,6 +2,7 @@
 
 #include "ObjectiveC/Class.h"
 #include "PSControlTableCellPeer.h"
+#include "cells/RowControl.h"
 #include "controls/UISwitchPeer.h"
 
 #include <memory>
@@ -44,10 +45,7 @@ void PSSwitchTableCellPeer::refresh() {
     const auto value = specifier()->performGetter();
     auto& peer = switchPeer();
     peer.setOn((value && value->boolValue()) != isNegated(), false);
-    peer.setEnabled(specifier()->isEnabled());
-    Accessibility told;
-    told.label = specifier()->label();
-    peer.setAccessibility(told);
+    adoptRow(*control(), *specifier());
 }
 
 void PSSwitchTableCellPeer::write() const {

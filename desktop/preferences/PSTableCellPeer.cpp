@@ -1,9 +1,9 @@
 #include "PSTableCellPeer.h"
 
 #include "DesktopColor.h"
+#include "cells/RadioGroup.h"
+#include "cells/SpecifierChoices.h"
 #include "views/UILabelPeer.h"
-
-#include <algorithm>
 
 namespace {
 
@@ -24,12 +24,6 @@ SystemColor titleColor(const DesktopSpecifier& specifier) {
     if (specifier.kind() != SpecifierKind::Button)
         return SystemColor::Label;
     return specifier.boolForKey("isDestructive", false) ? SystemColor::Red : SystemColor::Blue;
-}
-
-std::optional<std::string> textOf(const PropertyList& value) {
-    if (const auto* const text = value.getIf<std::string>())
-        return *text;
-    return value.isNumber() ? std::optional(value.description()) : std::nullopt;
 }
 
 } // namespace
@@ -61,20 +55,18 @@ void PSTableCellPeer::showTitle() {
 void PSTableCellPeer::showAccessory() {
     const auto chevron =
         isLink(specifier_->kind()) && !specifier_->boolForKey("hidesDisclosureIndicator", false);
-    setAccessoryType(chevron ? UITableViewCellAccessoryType::DisclosureIndicator
-                             : UITableViewCellAccessoryType::None);
+    if (chevron)
+        setAccessoryType(UITableViewCellAccessoryType::DisclosureIndicator);
+    else
+        setAccessoryType(isChosen(*specifier_) ? UITableViewCellAccessoryType::Checkmark
+                                               : UITableViewCellAccessoryType::None);
 }
 
 std::optional<std::string> PSTableCellPeer::valueText() const {
     const auto value = specifier_->performGetter();
     if (!value)
         return std::nullopt;
-    const auto* const values = specifier_->arrayForKey("validValues");
-    const auto* const titles = specifier_->arrayForKey("validTitles");
-    if (values != nullptr && titles != nullptr) {
-        const auto place = std::ranges::find(*values, *value) - values->begin();
-        if (std::cmp_less(place, std::min(values->size(), titles->size())))
-            return textOf((*titles)[static_cast<std::size_t>(place)]);
-    }
-    return textOf(*value);
+    const auto choices = SpecifierChoices::of(*specifier_);
+    const auto place = choices.indexOf(*value);
+    return place ? choices.shortTitles[*place] : textOfValue(*value);
 }

@@ -28,7 +28,7 @@ public:
 
 private:
     void add(const PropertyList& item, std::size_t number);
-    [[nodiscard]] Ref<UIImage> iconOf(const DesktopSpecifier& specifier) const;
+    void addImages(DesktopSpecifier& specifier, std::size_t number) const;
 
     const std::string folder_;
     const std::string path_;
@@ -73,19 +73,26 @@ void Reader::add(const PropertyList& item, std::size_t number) {
     auto localized = *properties;
     localizer_.localize(localized);
     const auto specifier = make<DesktopSpecifier>(std::move(localized), target_);
-    specifier->setIcon(iconOf(*specifier));
+    addImages(*specifier, number);
     if (specifier->kind() == SpecifierKind::Unknown && !specifier->kindName().empty())
         NSLog("%@: item %@: there is no cell '%@'; a plain row stands for it.", path_, std::to_string(number),
               specifier->kindName());
     list_.specifiers.emplace_back(specifier);
 }
 
-Ref<UIImage> Reader::iconOf(const DesktopSpecifier& specifier) const {
-    auto name = specifier.textForKey("icon");
-    if (name.empty() && specifier.boolForKey("hasIcon", false))
-        name = defaultIcon;
-    return !name.empty() ? DesktopImage::named(stringByAppendingPathComponent(folder_, name), iconScale)
-                         : nullptr;
+void Reader::addImages(DesktopSpecifier& specifier, std::size_t number) const {
+    for (const auto* const key : {"icon", "leftImage", "rightImage"}) {
+        auto name = specifier.textForKey(key);
+        if (name.empty() && key == std::string_view("icon") && specifier.boolForKey("hasIcon", false))
+            name = defaultIcon;
+        if (name.empty())
+            continue;
+        const auto image = DesktopImage::named(stringByAppendingPathComponent(folder_, name), iconScale);
+        if (image)
+            specifier.setImage(key, image);
+        else
+            NSLog("%@: item %@: '%@' names %@, which is no image.", path_, std::to_string(number), key, name);
+    }
 }
 
 } // namespace

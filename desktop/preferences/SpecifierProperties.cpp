@@ -34,13 +34,16 @@ struct Rule {
     std::string_view what;
 };
 
-constexpr std::array<Rule, 32> rules{{
+constexpr std::array<Rule, 51> rules{{
     {"PostNotification", isText, "a text"},
     {"action", isText, "a text"},
+    {"autoCaps", isText, "a text"},
     {"buttonAction", isText, "a text"},
+    {"cancel", isText, "a text"},
     {"cell", isText, "a text"},
     {"cellClass", isText, "a text"},
     {"confirmation", isDictionary, "a dictionary"},
+    {"confirmationAction", isText, "a text"},
     {"defaults", isText, "a text"},
     {"detail", isText, "a text"},
     {"enabled", &DesktopSpecifier::isYesOrNo, "a boolean"},
@@ -55,18 +58,34 @@ constexpr std::array<Rule, 32> rules{{
     {"hidesDisclosureIndicator", &DesktopSpecifier::isYesOrNo, "a boolean"},
     {"icon", isText, "a text"},
     {"id", isText, "a text"},
+    {"isContinuous", &DesktopSpecifier::isYesOrNo, "a boolean"},
+    {"isDecimalPad", &DesktopSpecifier::isYesOrNo, "a boolean"},
     {"isDestructive", &DesktopSpecifier::isYesOrNo, "a boolean"},
+    {"isIP", &DesktopSpecifier::isYesOrNo, "a boolean"},
+    {"isNumeric", &DesktopSpecifier::isYesOrNo, "a boolean"},
+    {"isRadioGroup", &DesktopSpecifier::isYesOrNo, "a boolean"},
+    {"isSegmented", &DesktopSpecifier::isYesOrNo, "a boolean"},
     {"key", isText, "a text"},
+    {"keyboard", isText, "a text"},
     {"label", isText, "a text"},
+    {"leftImage", isText, "a text"},
+    {"max", isNumber, "a number"},
+    {"min", isNumber, "a number"},
     {"negate", &DesktopSpecifier::isYesOrNo, "a boolean"},
     {"placeholder", isText, "a text"},
     {"prioritizeValueTextDisplay", &DesktopSpecifier::isYesOrNo, "a boolean"},
     {"requiredCapabilities", isCollection, "an array or a dictionary"},
+    {"rightImage", isText, "a text"},
+    {"segmentCount", isNumber, "a number"},
     {"set", isText, "a text"},
     {"shortTitles", isArray, "an array"},
+    {"shortTitlesDataSource", isText, "a text"},
+    {"showValue", &DesktopSpecifier::isYesOrNo, "a boolean"},
     {"staticTextMessage", isText, "a text"},
+    {"titlesDataSource", isText, "a text"},
     {"validTitles", isArray, "an array"},
     {"validValues", isArray, "an array"},
+    {"valuesDataSource", isText, "a text"},
 }};
 
 } // namespace

@@ -12,6 +12,7 @@ std::vector<SpecifierSection> sectionsOf(const std::vector<Ref<PSSpecifier>>& sp
         }
         if (sections.empty())
             sections.emplace_back();
+        specifier->setGroup(sections.back().group);
         sections.back().rows.push_back(specifier);
     }
     return sections;

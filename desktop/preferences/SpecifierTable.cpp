@@ -4,6 +4,9 @@
 #include "PSHeaderFooterView.h"
 #include "PSTableCellPeer.h"
 #include "SpecifierViews.h"
+#include "cells/RadioGroup.h"
+#include "screen/Screen.h"
+#include "typing/TextInput.h"
 
 #include <algorithm>
 #include <utility>
@@ -69,6 +72,33 @@ void SpecifierTable::refreshCell(const PSSpecifier& specifier) {
     const auto cell = row ? dynamicCast<PSTableCell>(table().cellForRow(*row)) : nullptr;
     if (cell)
         cell->refreshCellContentsWithSpecifier(at(*row));
+}
+
+void SpecifierTable::refreshShown() {
+    for (const auto& [row, shown] : TableCells::Cells(table().cells())) {
+        if (const auto cell = dynamicCast<PSTableCell>(shown))
+            cell->refreshCellContentsWithSpecifier(at(row));
+    }
+}
+
+void SpecifierTable::showEditedRow() {
+    const auto* const input = Screen::current().firstResponder().input();
+    if (input == nullptr)
+        return;
+    for (const auto& [row, cell] : table().cells()) {
+        if (input->inputView().peer().isDescendantOf(*cell))
+            table().scrollRowToVisible(row, false);
+    }
+}
+
+void SpecifierTable::followKeyboard() {
+    const auto bottom = CGRectGetMaxY(view_->peer().convertToScreen(view_->bounds()));
+    const auto keyboardTop = Screen::current().bounds().size.height - Screen::current().keyboardHeight();
+    const auto covered = std::max(0.0, bottom - keyboardTop - view_->peer().safeAreaInsets().bottom);
+    auto inset = table().contentInset();
+    inset.bottom += covered - std::exchange(keyboardInset_, covered);
+    table().setContentInset(inset);
+    showEditedRow();
 }
 
 DesktopSpecifier& SpecifierTable::at(IndexPath row) const {
@@ -164,7 +194,14 @@ bool SpecifierTable::isSelectable(IndexPath row) {
     case SpecifierKind::LinkList:
     case SpecifierKind::Button:
         return true;
+    case SpecifierKind::ListItem:
+        return isChoice(specifier) || specifier.hasAction();
     case SpecifierKind::Switch:
+    case SpecifierKind::Slider:
+    case SpecifierKind::Segment:
+    case SpecifierKind::EditText:
+    case SpecifierKind::EditTextView:
+    case SpecifierKind::SecureEditText:
         return false;
     default:
         return specifier.hasAction();

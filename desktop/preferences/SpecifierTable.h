@@ -38,8 +38,12 @@ public:
     /// Shows one row's or group's properties and value as they are now.
     void refresh(const PSSpecifier& specifier);
 
-    /// The same of what a row's cell shows; all rows stay where they are.
-    void refreshCell(const PSSpecifier& specifier);
+    /// The same for every row near the screen, whatever has changed their values.
+    void refreshShown();
+
+    /// Leaves below the rows what the keyboard covers of the table, and scrolls a row that is edited out from
+    /// behind it.
+    void followKeyboard();
 
     // TableContent:
     [[nodiscard]] std::size_t sectionCount() const override { return sections().size(); }
@@ -75,9 +79,12 @@ private:
     static void giveTo(DesktopSpecifier& specifier, PSTableCell& cell);
     void setView(TableCaption& caption, const Ref<UIView>& view) const;
     void forgetViewsOfOthers();
+    void refreshCell(const PSSpecifier& specifier);
+    void showEditedRow();
 
     const Page page_;
     const Ref<UITableView> view_;
     mutable std::optional<Sections> sections_; ///< nothing until they are first needed
     std::map<Ref<DesktopSpecifier>, OwnViews, ByAddress> ownViews_;
+    double keyboardInset_ = 0; ///< what of the content inset is for the keyboard
 };

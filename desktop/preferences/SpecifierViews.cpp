@@ -5,6 +5,10 @@
 #include "PSHeaderFooterView.h"
 #include "PSTableCellPeer.h"
 #include "Preferences/PSSwitchTableCell.h"
+#include "cells/PSEditableTableCell.h"
+#include "cells/PSSegmentTableCell.h"
+#include "cells/PSSliderTableCell.h"
+#include "cells/PSSpinnerTableCell.h"
 
 namespace {
 
@@ -23,9 +27,22 @@ Ref<T> allocateNamed(const DesktopSpecifier& specifier, std::string_view key) {
 }
 
 Ref<PSTableCell> allocateForKind(SpecifierKind kind) {
-    if (kind == SpecifierKind::Switch)
+    switch (kind) {
+    case SpecifierKind::Switch:
         return adopt(new PSSwitchTableCell);
-    return adopt(new PSTableCell);
+    case SpecifierKind::Slider:
+        return adopt(new PSSliderTableCell);
+    case SpecifierKind::Segment:
+        return adopt(new PSSegmentTableCell);
+    case SpecifierKind::EditText:
+    case SpecifierKind::EditTextView:
+    case SpecifierKind::SecureEditText:
+        return adopt(new PSEditableTableCell);
+    case SpecifierKind::Spinner:
+        return adopt(new PSSpinnerTableCell);
+    default:
+        return adopt(new PSTableCell);
+    }
 }
 
 bool initCaptionView(UIView& view, DesktopSpecifier& group) {

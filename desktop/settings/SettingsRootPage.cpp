@@ -57,7 +57,7 @@ Ref<PSSpecifier> SettingsRootPage::makeRow(PropertyList::Dictionary properties, 
     // Beside the page that a row leads to there is nowhere to go on to.
     properties.insert_or_assign("hidesDisclosureIndicator", Screen::current().traits().idiom == Idiom::Pad);
     auto row = make<DesktopSpecifier>(std::move(properties), *this);
-    row->setIcon(icon);
+    row->setImage("icon", icon);
     return row;
 }
 

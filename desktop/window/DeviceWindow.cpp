@@ -4,6 +4,7 @@
 #include "Device.h"
 #include "TextKeys.h"
 #include "WindowAccessibility.h"
+#include "controls/Adjustable.h"
 #include "screen/Screen.h"
 #include "screen/TouchDispatcher.h"
 #include "scrolling/UIScrollViewPeer.h"
@@ -226,7 +227,7 @@ void DeviceWindow::keyPressEvent(QKeyEvent* event) {
         escape();
     else if (presses && element && !hasKeyboard(*element->view))
         press(*element);
-    else if (!type(*event))
+    else if (!adjust(*event) && !type(*event))
         event->ignore();
     wake();
 }
@@ -237,6 +238,22 @@ void DeviceWindow::moveFocus(bool forward) {
     if (const auto element = focus_.element())
         element->view->becomeFirstResponder();
     focusChanged();
+}
+
+bool DeviceWindow::adjust(const QKeyEvent& event) {
+    const auto up = event.key() == Qt::Key_Right || event.key() == Qt::Key_Up;
+    const auto down = event.key() == Qt::Key_Left || event.key() == Qt::Key_Down;
+    const auto element = focus_.element();
+    return element && up != down && adjust(*element, up);
+}
+
+bool DeviceWindow::adjust(const AccessibilityElement& element, bool up) {
+    auto* const adjustable = peerIf<Adjustable>(*element.view);
+    if (adjustable == nullptr)
+        return false;
+    adjustable->adjust(up);
+    wake();
+    return true;
 }
 
 bool DeviceWindow::type(const QKeyEvent& event) {

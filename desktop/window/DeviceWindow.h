@@ -38,6 +38,9 @@ public:
     /// Does what a finger's tap does, in the middle of the element.
     void press(const AccessibilityElement& element);
 
+    /// Sets what an element has a range of values for to the next one up or down. \returns whether it has one
+    bool adjust(const AccessibilityElement& element, bool up);
+
     [[nodiscard]] const ScreenPlacement& placement() const { return placement_; }
 
     /// Brings the keyboard to an element.
@@ -73,6 +76,7 @@ private:
     void scheduleRefresh();
     void touch(TouchPhase phase, QPointF place);
     void moveFocus(bool forward);
+    bool adjust(const QKeyEvent& event);
     bool type(const QKeyEvent& event);
     void compose(QInputMethodEvent& event);
     void answer(QInputMethodQueryEvent& event) const;

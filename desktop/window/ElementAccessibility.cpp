@@ -2,6 +2,7 @@
 
 #include "DeviceWindow.h"
 #include "WindowAccessibility.h"
+#include "controls/Adjustable.h"
 #include "controls/UIControlPeer.h"
 
 #include <algorithm>
@@ -28,6 +29,8 @@ QAccessible::Role roleFor(AccessibilityRole role) {
         return QAccessible::EditableText;
     case AccessibilityRole::Slider:
         return QAccessible::Slider;
+    case AccessibilityRole::Choice:
+        return QAccessible::RadioButton;
     }
     return QAccessible::NoRole;
 }
@@ -85,7 +88,7 @@ QAccessible::State ElementAccessibility::state() const {
     }
     state.focusable = true;
     state.focused = parent_.deviceWindow().focusedView() == found->view;
-    state.checkable = found->role == AccessibilityRole::Switch;
+    state.checkable = found->role == AccessibilityRole::Switch || found->role == AccessibilityRole::Choice;
     state.checked = state.checkable && found->value == "1";
     state.editable = found->role == AccessibilityRole::TextField;
     state.disabled = isDisabled(*found->view);
@@ -97,7 +100,11 @@ void* ElementAccessibility::interface_cast(QAccessible::InterfaceType type) {
 }
 
 QStringList ElementAccessibility::actionNames() const {
-    return {pressAction(), setFocusAction()};
+    QStringList names{pressAction(), setFocusAction()};
+    const auto found = element();
+    if (found && peerIf<Adjustable>(*found->view) != nullptr)
+        names << increaseAction() << decreaseAction();
+    return names;
 }
 
 void ElementAccessibility::doAction(const QString& name) {
@@ -108,4 +115,6 @@ void ElementAccessibility::doAction(const QString& name) {
         parent_.deviceWindow().press(*found);
     else if (name == setFocusAction())
         parent_.deviceWindow().focusOn(*found);
+    else if (name == increaseAction() || name == decreaseAction())
+        parent_.deviceWindow().adjust(*found, name == increaseAction());
 }

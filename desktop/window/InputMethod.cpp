@@ -39,6 +39,15 @@ qsizetype otherEnd(const EditedText& text) {
     return text.caret() == begin ? end : begin;
 }
 
+Qt::InputMethodHints hintsFor(const TextInputTraits& traits) {
+    Qt::InputMethodHints hints = Qt::ImhNone;
+    hints.setFlag(Qt::ImhHiddenText, traits.secure);
+    hints.setFlag(Qt::ImhSensitiveData, traits.secure);
+    hints.setFlag(Qt::ImhPreferNumbers, traits.keys == TextInputTraits::Keys::Numbers);
+    hints.setFlag(Qt::ImhNoAutoUppercase, traits.capitals == TextInputTraits::Capitals::None);
+    return hints;
+}
+
 int number(qsizetype position) {
     return static_cast<int>(position);
 }
@@ -79,7 +88,7 @@ QVariant InputMethod::answer(Qt::InputMethodQuery query, const TextInput* input,
     case Qt::ImAnchorPosition:
         return number(settled(text, otherEnd(text)));
     case Qt::ImHints:
-        return static_cast<int>(Qt::ImhNone);
+        return static_cast<int>(hintsFor(input->textInputTraits()));
     default:
         return {};
     }

@@ -45,7 +45,7 @@ constexpr std::array lineMovements{
 
 void copySelection(const TextInput& input, Clipboard& clipboard) {
     const auto text = input.editedText().selectedText();
-    if (!text.isEmpty())
+    if (!text.isEmpty() && !input.textInputTraits().secure)
         clipboard.setText(text.toStdString());
 }
 
@@ -112,7 +112,7 @@ bool edit(const QKeyEvent& event, TextInput& input) {
         return true;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        input.edit([](EditedText& text) { text.endComposing(); });
+        input.returnPressed();
         return true;
     default:
         return false;

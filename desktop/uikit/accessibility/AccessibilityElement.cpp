@@ -3,11 +3,14 @@
 #include "screen/Screen.h"
 #include "screen/UIWindow.h"
 #include "scrolling/UIScrollViewPeer.h"
+#include "tables/UITableViewCellPeer.h"
 #include "views/UIViewPeer.h"
 
+#include <QStringList>
 #include <algorithm>
 #include <cmath>
 #include <ranges>
+#include <span>
 #include <tuple>
 #include <utility>
 
@@ -35,6 +38,70 @@ AccessibilityElement elementFor(UIView& view, const std::string& label, const Ac
             .frame = view.peer().convertToScreen(view.bounds())};
 }
 
+/// The line that the element is in, and its place there. Things whose middles are about level are in one
+/// line.
+std::tuple<long, double, double> readingPlace(const AccessibilityElement& element) {
+    constexpr double lineHeight = 20; // points
+    return {std::lround(CGRectGetMidY(element.frame) / lineHeight), element.frame.origin.x,
+            element.frame.origin.y};
+}
+
+bool isPlain(const AccessibilityElement& element) {
+    return element.role == AccessibilityRole::StaticText || element.role == AccessibilityRole::Image;
+}
+
+std::string labelsOf(std::span<const AccessibilityElement> elements) {
+    QStringList labels;
+    for (const auto& element : elements)
+        labels << QString::fromStdString(element.label);
+    return labels.join(' ').toStdString();
+}
+
+/// One that has nothing to handle in it: all that it says is one element, which a tap on the row is for.
+AccessibilityElement plainRow(UITableViewCell& cell, std::span<const AccessibilityElement> texts) {
+    const auto& peer = peerOf<UITableViewCellPeer>(cell);
+    const auto own = peer.accessibility();
+    auto row = elementFor(cell, own.label, own, false);
+    row.role = peer.isSelectable() ? AccessibilityRole::Button : AccessibilityRole::StaticText;
+    if (peer.accessoryType() == UITableViewCellAccessoryType::Checkmark)
+        row.value = std::string("1");
+    const auto others = row.label.empty() ? texts.subspan(std::min<std::size_t>(1, texts.size())) : texts;
+    if (row.label.empty() && !texts.empty())
+        row.label = texts.front().label;
+    if (!others.empty())
+        row.value = labelsOf(others);
+    return row;
+}
+
+/// In a row, what is written beside a control is its name or its value, and no element of its own.
+void joinRow(UITableViewCell& cell, std::vector<AccessibilityElement>& elements) {
+    std::erase_if(elements, [](const auto& element) { return isPlain(element) && element.label.empty(); });
+    if (std::ranges::all_of(elements, isPlain)) {
+        const auto row = plainRow(cell, elements);
+        elements.clear();
+        if (!row.label.empty())
+            elements.push_back(row);
+        return;
+    }
+    std::erase_if(elements, [all = std::vector(elements)](const AccessibilityElement& element) {
+        return isPlain(element) && std::ranges::any_of(all, [&element](const auto& other) {
+                   return !isPlain(other) && (other.label == element.label || other.value == element.label);
+               });
+    });
+}
+
+void collect(UIView& view, const std::string& labelAround, std::vector<AccessibilityElement>& elements);
+
+void collectRow(UITableViewCell& cell, const std::string& label,
+                std::vector<AccessibilityElement>& elements) {
+    std::vector<AccessibilityElement> within;
+    for (const auto& subview : std::vector(cell.peer().subviews()))
+        collect(*subview, label, within);
+    std::ranges::sort(within, {}, readingPlace);
+    joinRow(cell, within);
+    elements.insert(elements.end(), within.begin(), within.end());
+}
+
 /// An element without a name is called as what it is in.
 void collect(UIView& view, const std::string& labelAround, std::vector<AccessibilityElement>& elements) {
     if (!isShown(view))
@@ -47,16 +114,12 @@ void collect(UIView& view, const std::string& labelAround, std::vector<Accessibi
         elements.push_back(elementFor(view, label, accessibility, isSwitch));
         return;
     }
+    if (auto* const cell = dynamic_cast<UITableViewCell*>(&view)) {
+        collectRow(*cell, label, elements);
+        return;
+    }
     for (const auto& subview : std::vector(view.peer().subviews()))
         collect(*subview, label, elements);
-}
-
-/// The line that the element is in, and its place there. Things whose middles are about level are in one
-/// line.
-std::tuple<long, double, double> readingPlace(const AccessibilityElement& element) {
-    constexpr double lineHeight = 20; // points
-    return {std::lround(CGRectGetMidY(element.frame) / lineHeight), element.frame.origin.x,
-            element.frame.origin.y};
 }
 
 } // namespace

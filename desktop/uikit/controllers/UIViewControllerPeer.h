@@ -111,6 +111,8 @@ public:
 
     void viewDidLayoutSubviews() override {}
 
+    void keyboardDidChange() override {}
+
 private:
     friend class UIViewController;
 

@@ -59,6 +59,10 @@ public:
     void touchCancelled(DesktopTouch& touch, UIEvent& event) override;
     void didMoveToWindow() override;
 
+protected:
+    /// Whether a finger that the control tracks is near enough to count as on it.
+    [[nodiscard]] bool isInside(const DesktopTouch& touch) const;
+
 private:
     struct TargetAction {
         Weak<NSObject> target;
@@ -71,7 +75,6 @@ private:
         std::function<void()> call;
     };
 
-    [[nodiscard]] bool isInside(const DesktopTouch& touch) const;
     void stopTracking();
     void cancelTracking(UIEvent* event);
 

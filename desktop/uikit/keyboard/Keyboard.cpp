@@ -15,7 +15,10 @@ constexpr std::chrono::duration<double> slideTime(AnimationCurve::systemDuration
 } // namespace
 
 void Keyboard::setShown(bool shown) {
-    if (std::exchange(isShown_, shown) == shown)
+    const auto wasShown = std::exchange(isShown_, shown);
+    if (shown && wasShown)
+        serveAnotherText();
+    if (wasShown == shown)
         return;
     if (!window_)
         makeWindow();
@@ -32,6 +35,11 @@ void Keyboard::setShown(bool shown) {
             slid->peer().setHidden(!Screen::current().keyboard().isShown());
     };
     AnimationGroup::run(course, [this] { slide(); }, hidden);
+}
+
+void Keyboard::serveAnotherText() {
+    view_->reset();
+    Screen::current().showEditedText();
 }
 
 void Keyboard::hideAtOnce() {

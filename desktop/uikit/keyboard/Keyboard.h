@@ -19,6 +19,7 @@ public:
 
 private:
     void makeWindow();
+    void serveAnotherText();
     void slide();
 
     Ref<UIWindow> window_;

@@ -24,6 +24,25 @@ void edit(const std::function<void(EditedText&)>& change) {
         input->edit(change);
 }
 
+/// Whether the letter that is typed next is to be a large one.
+bool beginsLarge(const TextInput& input) {
+    const auto& text = input.editedText();
+    const auto before = text.string().left(text.selection().begin);
+    const auto afterSpace = before.isEmpty() || before.back().isSpace();
+    const auto words = before.trimmed();
+    switch (input.textInputTraits().capitals) {
+    case TextInputTraits::Capitals::None:
+        return false;
+    case TextInputTraits::Capitals::Words:
+        return afterSpace;
+    case TextInputTraits::Capitals::Sentences:
+        return afterSpace && (words.isEmpty() || QStringView(u".!?").contains(words.back()));
+    case TextInputTraits::Capitals::All:
+        return true;
+    }
+    return false;
+}
+
 /// Paints what is behind the keys, and takes touches that miss them.
 class KeyboardViewPeer final : public UIViewPeer {
 public:
@@ -45,8 +64,9 @@ KeyboardView::KeyboardView() : UIView(std::make_unique<KeyboardViewPeer>()) {}
 
 void KeyboardView::reset() {
     const auto* const input = Screen::current().firstResponder().input();
-    showPage(Page::Letters);
-    setShifted(input != nullptr && input->editedText().string().isEmpty());
+    const auto numbers = input != nullptr && input->textInputTraits().keys == TextInputTraits::Keys::Numbers;
+    showPage(numbers ? Page::Numbers : Page::Letters);
+    shiftForText();
 }
 
 void KeyboardView::layoutSubviews() {
@@ -70,6 +90,11 @@ void KeyboardView::showPage(Page page) {
     setShifted(isShifted_);
 }
 
+void KeyboardView::shiftForText() {
+    const auto* const input = Screen::current().firstResponder().input();
+    setShifted(input != nullptr && beginsLarge(*input));
+}
+
 void KeyboardView::setShifted(bool shifted) {
     isShifted_ = shifted;
     for (const auto& key : keys_)
@@ -89,7 +114,8 @@ void KeyboardView::press(const KeyboardLayout::Key& key) {
         edit([](EditedText& text) { text.deleteBackward(); });
         break;
     case Action::Return:
-        edit([](EditedText& text) { text.endComposing(); });
+        if (auto* const input = Screen::current().firstResponder().input())
+            input->returnPressed();
         break;
     case Action::ShowLetters:
         showPage(Page::Letters);
@@ -109,5 +135,5 @@ void KeyboardView::type(const std::string& text) {
         edited.endComposing();
         edited.insert(written);
     });
-    setShifted(false);
+    shiftForText();
 }

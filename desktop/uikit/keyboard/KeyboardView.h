@@ -9,7 +9,7 @@ class KeyboardView final : public UIView {
 public:
     KeyboardView();
 
-    /// Begins anew: with letters, large ones where there is no text yet.
+    /// Begins anew, with the keys that suit the text that is edited.
     void reset();
 
     [[nodiscard]] const std::vector<Ref<KeyboardKey>>& keys() const { return keys_; }
@@ -22,6 +22,7 @@ public:
 private:
     void showPage(KeyboardLayout::Page page);
     void setShifted(bool shifted);
+    void shiftForText();
     void press(const KeyboardLayout::Key& key);
     void type(const std::string& text);
 

@@ -74,6 +74,12 @@ void Screen::setKeyboardHeight(double height) {
     keyboardHeight_ = height;
     for (auto* const presented : presentations_.all())
         presented->keyboardHeightDidChange();
+    showEditedText();
+}
+
+void Screen::showEditedText() const {
+    for (const auto& window : std::vector(windows_))
+        window->peer().keyboardDidChange();
 }
 
 /// Once it is known who is the first responder in the end.

@@ -58,6 +58,8 @@ public:
 
     /// For the keyboard, among the changes that it animates: what is presented moves out of its way.
     void setKeyboardHeight(double height);
+    /// Has pages bring the text that is edited out from behind the keyboard.
+    void showEditedText() const;
 
     /// What is presented above the application.
     [[nodiscard]] Presentations& presentations() { return presentations_; }

@@ -303,6 +303,11 @@ UITableViewPeer* UITableViewCellPeer::table() const {
     return nullptr;
 }
 
+bool UITableViewCellPeer::isSelectable() const {
+    auto* const shownIn = table();
+    return shownIn != nullptr && shownIn->isSelectable(cell());
+}
+
 void UITableViewCellPeer::touchBegan(DesktopTouch& touch, UIEvent& event) {
     UIViewPeer::touchBegan(touch, event);
     if (auto* const table = this->table())

@@ -57,6 +57,9 @@ public:
     /// Whether what does not fit into the cell is cut off, as it is while the row is hidden.
     void setCutOff(bool cutOff);
 
+    /// Whether a tap on the row does something.
+    [[nodiscard]] bool isSelectable() const;
+
     [[nodiscard]] bool isHighlighted() const { return highlighted_; }
 
     [[nodiscard]] bool isSelected() const { return selected_; }

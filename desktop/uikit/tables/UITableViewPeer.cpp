@@ -15,6 +15,11 @@ constexpr double listEnd = 53.0 / 3;
 
 } // namespace
 
+bool UITableViewPeer::isSelectable(const UITableViewCell& cell) const {
+    const auto row = cells_.rowOf(cell);
+    return row && content_ != nullptr && content_->isSelectable(*row);
+}
+
 void UITableViewPeer::setContent(TableContent* content) {
     content_ = content;
     reloadData();

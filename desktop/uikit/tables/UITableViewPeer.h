@@ -62,6 +62,9 @@ public:
     /// Scrolls no further than it takes to see the whole row, or its top.
     void scrollRowToVisible(IndexPath row, bool animated);
 
+    /// Whether the row that the cell shows can be selected.
+    [[nodiscard]] bool isSelectable(const UITableViewCell& cell) const;
+
     [[nodiscard]] std::optional<IndexPath> selectedRow() const { return selected_; }
 
     /// The content hears nothing of either.

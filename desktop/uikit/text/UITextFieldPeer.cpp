@@ -63,6 +63,16 @@ void UITextFieldPeer::setFontStyle(const FontStyle& style) {
     changed();
 }
 
+void UITextFieldPeer::setTextInputTraits(const TextInputTraits& traits) {
+    inputTraits_ = traits;
+    changed();
+}
+
+QString UITextFieldPeer::readableText() const {
+    constexpr QChar bullet(0x2022);
+    return inputTraits_.secure ? QString(text_.string().size(), bullet) : text_.string();
+}
+
 void UITextFieldPeer::changed() {
     laid_.reset();
     setNeedsConstraintLayout();
@@ -104,9 +114,19 @@ bool UITextFieldPeer::resignFirstResponder() {
 }
 
 void UITextFieldPeer::firstResponderDidChange(bool isFirstResponder) {
+    const auto kept = retain(&control());
     isFirstResponder_ = isFirstResponder;
     text_.endComposing();
     changed();
+    if (!isFirstResponder && endHandler_)
+        endHandler_();
+}
+
+void UITextFieldPeer::returnPressed() {
+    const auto kept = retain(&control());
+    TextInput::returnPressed();
+    if (endsOnReturn_)
+        resignFirstResponder();
 }
 
 void UITextFieldPeer::didMoveToWindow() {
@@ -141,13 +161,13 @@ const TextLayout& UITextFieldPeer::layout() const {
         isFirstResponder_ ? std::numeric_limits<double>::infinity() : std::max(0.0, textRect().size.width);
     if (!laid_ || !std::equal_to()(laid_->scale, scale) || !std::equal_to()(laid_->width, width)) {
         const TextLayoutOptions options{.maximumWidth = width, .maximumLines = 1, .pixelScale = scale};
-        laid_.emplace(Laid{scale, width, TextLayout(text_.utf8(), fontStyle_, options)});
+        laid_.emplace(Laid{scale, width, TextLayout(readableText().toStdString(), fontStyle_, options)});
     }
     return laid_->layout;
 }
 
 std::size_t UITextFieldPeer::byteIndex(qsizetype position) const {
-    return static_cast<std::size_t>(QStringView(text_.string()).left(position).toUtf8().size());
+    return static_cast<std::size_t>(QStringView(readableText()).left(position).toUtf8().size());
 }
 
 CGRect UITextFieldPeer::caretRect(qsizetype position) const {
@@ -165,7 +185,7 @@ CGRect UITextFieldPeer::caretOnScreen() const {
 qsizetype UITextFieldPeer::positionAt(const DesktopTouch& touch) const {
     const auto x = touch.locationInView(view()).x - textRect().origin.x + scrolled_;
     const auto index = layout().indexAt({x, 0});
-    return QString::fromUtf8(text_.utf8().substr(0, index)).size();
+    return QString::fromUtf8(readableText().toStdString().substr(0, index)).size();
 }
 
 std::vector<QRectF> UITextFieldPeer::rectsOf(EditedText::Range range) const {
@@ -212,8 +232,8 @@ void UITextFieldPeer::tintColorDidChange() {
 }
 
 double UITextFieldPeer::textWidth() const {
-    const auto& shown = text_.string().isEmpty() ? placeholder_ : text_.utf8();
-    return TextLayout(shown, fontStyle_, {.pixelScale = traits().displayScale}).size().width();
+    const auto shown = shownText();
+    return TextLayout(shown.value_or(""), fontStyle_, {.pixelScale = traits().displayScale}).size().width();
 }
 
 CGSize UITextFieldPeer::sizeThatFits(CGSize /*room*/) const {
@@ -235,20 +255,20 @@ Accessibility UITextFieldPeer::accessibility() const {
     auto told = UIControlPeer::accessibility();
     if (told.label.empty())
         told.label = placeholder_;
-    told.value = text_.utf8();
+    told.value = readableText().toStdString();
     told.role = AccessibilityRole::TextField;
     told.isElement = true;
     return told;
 }
 
 std::optional<std::string> UITextFieldPeer::shownText() const {
-    return text_.string().isEmpty() ? placeholder_ : text_.utf8();
+    return text_.string().isEmpty() ? placeholder_ : readableText().toStdString();
 }
 
 PropertyList::Dictionary UITextFieldPeer::inspectedProperties() const {
     auto properties = UIControlPeer::inspectedProperties();
     const auto [begin, end] = text_.selection();
-    properties.insert_or_assign("text", text_.utf8());
+    properties.insert_or_assign("text", readableText().toStdString());
     properties.insert_or_assign("placeholder", placeholder_);
     properties.insert_or_assign("firstResponder", isFirstResponder_);
     properties.insert_or_assign(

@@ -8,6 +8,7 @@
 #include "typing/TextInput.h"
 
 #include <chrono>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -29,6 +30,14 @@ public:
     void setBorderStyle(UITextBorderStyle style);
     /// Regular and 17 points until another is set.
     void setFontStyle(const FontStyle& style);
+
+    void setTextInputTraits(const TextInputTraits& traits);
+
+    /// Whether the key "return" gives the keyboard up. Not so until it is told.
+    void setEndsOnReturn(bool ends) { endsOnReturn_ = ends; }
+
+    /// Called when it has the keyboard no more; not at the field's own end.
+    void setEndHandler(std::function<void()> handler) { endHandler_ = std::move(handler); }
 
     /// \returns whether it has the keyboard now; outside of a window it has it later
     bool becomeFirstResponder();
@@ -70,7 +79,10 @@ public:
 
     [[nodiscard]] const EditedText& editedText() const override { return text_; }
 
+    [[nodiscard]] TextInputTraits textInputTraits() const override { return inputTraits_; }
+
     void edit(const std::function<void(EditedText&)>& change) override;
+    void returnPressed() override;
     [[nodiscard]] CGRect caretOnScreen() const override;
     void firstResponderDidChange(bool isFirstResponder) override;
     void setCaretLit(bool lit) override;
@@ -106,6 +118,8 @@ private:
 
     void changed();
     void showChange();
+    /// The text as it may be read: of the same length.
+    [[nodiscard]] QString readableText() const;
     void placeCaret();
     void followCaret();
     void countTap(const DesktopTouch& touch);
@@ -120,6 +134,8 @@ private:
 
     EditedText text_;
     std::string placeholder_;
+    TextInputTraits inputTraits_;
+    std::function<void()> endHandler_; ///< may be empty
     FontStyle fontStyle_;
     UITextBorderStyle borderStyle_ = UITextBorderStyle::None;
     Ref<UIView> caret_;
@@ -127,6 +143,7 @@ private:
     mutable std::optional<Laid> laid_;
     std::optional<Press> press_;
     Tap lastTap_;
+    bool endsOnReturn_ = false;
     bool isFirstResponder_ = false;
     bool wantsKeyboard_ = false; ///< once it is in a window
 };

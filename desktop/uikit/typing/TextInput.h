@@ -2,6 +2,7 @@
 
 #include "CoreGraphics/CGGeometry.h"
 #include "typing/EditedText.h"
+#include "typing/TextInputTraits.h"
 
 #include <functional>
 
@@ -15,8 +16,17 @@ public:
 
     [[nodiscard]] virtual UIView& inputView() const = 0;
     [[nodiscard]] virtual const EditedText& editedText() const = 0;
+
+    [[nodiscard]] virtual TextInputTraits textInputTraits() const { return {}; }
+
     /// Has the text changed, and shows what became of it.
     virtual void edit(const std::function<void(EditedText&)>& change) = 0;
+
+    /// The key "return" ends what is being composed; an override may end more.
+    virtual void returnPressed() {
+        edit([](EditedText& text) { text.endComposing(); });
+    }
+
     /// Where the caret is, in points of the screen.
     [[nodiscard]] virtual CGRect caretOnScreen() const = 0;
     /// It has become the first responder, or is it no more.

@@ -331,6 +331,13 @@ void UIViewPeer::traitsDidChange() {
         subview->peer().traitsDidChange();
 }
 
+void UIViewPeer::keyboardDidChange() const {
+    if (owner_ != nullptr)
+        owner_->keyboardDidChange();
+    for (const auto& subview : std::vector(subviews_))
+        subview->peer().keyboardDidChange();
+}
+
 bool UIViewPeer::isTintDimmed() const {
     return tintDimmed_ || (superview_ != nullptr && superview_->peer().isTintDimmed());
 }

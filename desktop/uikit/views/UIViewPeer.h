@@ -153,6 +153,9 @@ public:
 
     void setNeedsDisplay() { layerPeer().setNeedsDisplay(); }
 
+    /// Tells the owners of this view and of those within it.
+    void keyboardDidChange() const;
+
     // Touches.
     [[nodiscard]] bool isUserInteractionEnabled() const { return userInteractionEnabled_; }
 

@@ -11,4 +11,8 @@ public:
 
     /// The view has placed its subviews.
     virtual void viewDidLayoutSubviews() = 0;
+
+    /// The keyboard covers another height of the screen, or serves another text. Runs among the changes that
+    /// the keyboard animates.
+    virtual void keyboardDidChange() = 0;
 };

@@ -11,7 +11,8 @@ namespace {
 const Class listedPageClass = Class::define<ListedPage, PSListController>(
     "ListedPage",
     {method<"tapped:", &ListedPage::tapped>(), method<"tappedPlainly", &ListedPage::tappedPlainly>(),
-     method<"ownValue:", &ListedPage::ownValue>(),
+     method<"choiceValues:", &ListedPage::choiceValues>(),
+     method<"choiceTitles:", &ListedPage::choiceTitles>(), method<"ownValue:", &ListedPage::ownValue>(),
      method<"setOwnValue:specifier:", &ListedPage::setOwnValue>()});
 
 std::string identifierOf(const Ref<PSSpecifier>& specifier) {
@@ -50,6 +51,14 @@ std::optional<PropertyList> ListedPage::ownValue(const Ref<PSSpecifier>& specifi
 
 void ListedPage::setOwnValue(const std::optional<PropertyList>& value, const Ref<PSSpecifier>& specifier) {
     events.push_back("set " + identifierOf(specifier) + " to " + (value ? value->description() : "nothing"));
+}
+
+std::optional<PropertyList> ListedPage::choiceValues(const Ref<PSSpecifier>& /*specifier*/) {
+    return PropertyList::Array{"one", "two"};
+}
+
+std::optional<PropertyList> ListedPage::choiceTitles(const Ref<PSSpecifier>& specifier) {
+    return PropertyList::Array{"First of " + identifierOf(specifier), "Second of " + identifierOf(specifier)};
 }
 
 PageFixture::PageFixture() {

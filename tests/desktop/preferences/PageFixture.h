@@ -21,6 +21,9 @@ public:
     [[nodiscard]] std::optional<PropertyList> ownValue(const Ref<PSSpecifier>& specifier);
     void setOwnValue(const std::optional<PropertyList>& value, const Ref<PSSpecifier>& specifier);
 
+    [[nodiscard]] std::optional<PropertyList> choiceValues(const Ref<PSSpecifier>& specifier);
+    [[nodiscard]] std::optional<PropertyList> choiceTitles(const Ref<PSSpecifier>& specifier);
+
     std::vector<std::string> events;
     std::function<void()> tapAction = [] {}; ///< called by `tapped`
     std::map<std::string, double> heights;   ///< the page's own answers, by the rows' identifiers

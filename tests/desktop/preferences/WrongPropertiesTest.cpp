@@ -56,10 +56,26 @@ constexpr std::array keys{"cell",
                           "isDestructive",
                           "placeholder",
                           "staticTextMessage",
+                          "autoCaps",
+                          "isContinuous",
+                          "isNumeric",
+                          "isRadioGroup",
+                          "isSegmented",
+                          "keyboard",
+                          "leftImage",
+                          "max",
+                          "min",
+                          "segmentCount",
+                          "showValue",
+                          "value",
+                          "valuesDataSource",
+                          "titlesDataSource",
+                          "confirmationAction",
                           "title"};
 
-constexpr std::array kinds{"PSGroupCell",      "PSLinkCell",       "PSSwitchCell", "PSButtonCell",
-                           "PSTitleValueCell", "PSStaticTextCell", "PSFancyCell"};
+constexpr std::array kinds{"PSGroupCell",      "PSLinkCell",       "PSSwitchCell",  "PSButtonCell",
+                           "PSTitleValueCell", "PSStaticTextCell", "PSFancyCell",   "PSLinkListCell",
+                           "PSListItemCell",   "PSSliderCell",     "PSSegmentCell", "PSEditTextCell"};
 
 /// By the property.
 class WrongPropertiesTest : public PageFixture, public testing::WithParamInterface<const char*> {

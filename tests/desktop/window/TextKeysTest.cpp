@@ -20,6 +20,8 @@ public:
 
     [[nodiscard]] const EditedText& editedText() const override { return text_; }
 
+    [[nodiscard]] TextInputTraits textInputTraits() const override { return traits; }
+
     void edit(const std::function<void(EditedText&)>& change) override { change(text_); }
 
     [[nodiscard]] CGRect caretOnScreen() const override { return {}; }
@@ -35,6 +37,8 @@ public:
             return string.insert(begin, '|').toStdString();
         return string.insert(end, ']').insert(begin, '[').toStdString();
     }
+
+    TextInputTraits traits;
 
 private:
     EditedText text_;
@@ -136,6 +140,15 @@ TEST_F(TextKeysTest, KeepsTheClipboardWhenNothingIsSelected) {
     EXPECT_TRUE(press(Qt::Key_C, Qt::ControlModifier));
     EXPECT_TRUE(press(Qt::Key_X, Qt::ControlModifier));
     EXPECT_EQ(clipboard_.text(), "old");
+}
+
+TEST_F(TextKeysTest, ASecretIsNotCopied) {
+    input_.traits.secure = true;
+    EXPECT_TRUE(press(Qt::Key_A, Qt::ControlModifier));
+    EXPECT_TRUE(press(Qt::Key_C, Qt::ControlModifier));
+    EXPECT_TRUE(press(Qt::Key_X, Qt::ControlModifier));
+    EXPECT_EQ(clipboard_.text(), "old");
+    EXPECT_EQ(input_.shown(), "|");
 }
 
 TEST_F(TextKeysTest, PastesLinesAsOne) {

@@ -3,6 +3,8 @@
 #include "controls/UIControlPeer.h"
 #include "controls/UISwitchPeer.h"
 #include "navigation/NavigationFixture.h"
+#include "tables/UITableViewCellPeer.h"
+#include "tables/UITableViewPeer.h"
 #include "views/UILabelPeer.h"
 
 namespace {
@@ -77,4 +79,92 @@ TEST_F(AccessibilityElementTest, aTitleViewWithoutANameHasThePagesTitle) {
     ASSERT_FALSE(elements.empty());
     EXPECT_EQ(elements.back().view, control);
     EXPECT_EQ(elements.back().label, "A");
+}
+
+namespace {
+
+/// One row in a table: a cell that a test fills.
+class OneRow final : public TableContent {
+public:
+    [[nodiscard]] std::size_t sectionCount() const override { return 1; }
+
+    [[nodiscard]] std::size_t rowCount(std::size_t /*section*/) const override { return 1; }
+
+    [[nodiscard]] std::optional<double> rowHeight(IndexPath /*row*/) override { return 44; }
+
+    [[nodiscard]] Ref<UITableViewCell> cellForRow(IndexPath /*row*/) override { return cell; }
+
+    [[nodiscard]] TableCaption header(std::size_t /*section*/) override { return {}; }
+
+    [[nodiscard]] TableCaption footer(std::size_t /*section*/) override { return {}; }
+
+    [[nodiscard]] bool isSelectable(IndexPath /*row*/) override { return selectable; }
+
+    void didSelectRow(IndexPath /*row*/) override {}
+
+    Ref<UITableViewCell> cell = make<UITableViewCell>();
+    bool selectable = true;
+};
+
+class AccessibilityOfRowsTest : public AccessibilityElementTest {
+protected:
+    AccessibilityOfRowsTest() {
+        static_cast<void>(content_.cell->initWithStyle(UITableViewCellStyle::Value1, {}));
+        cell().textLabel().setText("Title");
+        show({a});
+        table_->setFrame(a->view().bounds());
+        a->view().addSubview(table_);
+        peerOf<UITableViewPeer>(*table_).setContent(&content_);
+    }
+
+    ~AccessibilityOfRowsTest() override { peerOf<UITableViewPeer>(*table_).setContent(nullptr); }
+
+    [[nodiscard]] UITableViewCellPeer& cell() const { return peerOf<UITableViewCellPeer>(*content_.cell); }
+
+    [[nodiscard]] std::vector<AccessibilityElement> elements() {
+        screen.layoutIfNeeded();
+        return AccessibilityElement::allIn(*table_);
+    }
+
+    OneRow content_;
+    Ref<UITableView> table_ = make<UITableView>();
+};
+
+} // namespace
+
+TEST_F(AccessibilityOfRowsTest, ARowIsOneElementWithItsDetailAsItsValue) {
+    cell().detailTextLabel().setText("Detail");
+    cell().setAccessoryType(UITableViewCellAccessoryType::DisclosureIndicator);
+    ASSERT_EQ(elements().size(), 1U);
+    EXPECT_EQ(elements()[0].view, content_.cell);
+    EXPECT_EQ(elements()[0].label, "Title");
+    EXPECT_EQ(elements()[0].value, "Detail");
+    EXPECT_EQ(elements()[0].role, AccessibilityRole::Button);
+}
+
+TEST_F(AccessibilityOfRowsTest, ARowThatDoesNothingIsText) {
+    content_.selectable = false;
+    ASSERT_EQ(elements().size(), 1U);
+    EXPECT_EQ(elements()[0].role, AccessibilityRole::StaticText);
+}
+
+TEST_F(AccessibilityOfRowsTest, ACheckMarkIsTold) {
+    cell().setAccessoryType(UITableViewCellAccessoryType::Checkmark);
+    EXPECT_EQ(elements()[0].value, "1");
+}
+
+TEST_F(AccessibilityOfRowsTest, TheTextBesideAControlIsItsName) {
+    const auto control = make<UISwitch>();
+    control->peer().sizeToFit();
+    control->peer().setAccessibility({.label = "Title", .value = {}, .isElement = true});
+    cell().setAccessoryView(control);
+    ASSERT_EQ(elements().size(), 1U);
+    EXPECT_EQ(elements()[0].view, control);
+    control->peer().setAccessibility({.label = "Another", .value = {}, .isElement = true});
+    EXPECT_EQ(labels(elements()), (Labels{"Title", "Another"}));
+}
+
+TEST_F(AccessibilityOfRowsTest, AnEmptyRowIsNone) {
+    cell().textLabel().setText({});
+    EXPECT_TRUE(elements().empty());
 }

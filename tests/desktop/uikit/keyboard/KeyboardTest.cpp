@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <string_view>
+#include <tuple>
 #include <vector>
 
 namespace {
@@ -156,6 +157,34 @@ TEST_F(KeyboardTest, EndsWithTheTextThatHasIt) {
     around->peer().removeFromSuperview();
     settle();
     EXPECT_FALSE(keyboard().isShown());
+}
+
+TEST_F(KeyboardTest, WritesLettersLargeAsTheTextAsks) {
+    using Capitals = TextInputTraits::Capitals;
+    const std::vector<std::tuple<Capitals, const char*, bool>> table{
+        {Capitals::None, "", false},        {Capitals::Words, "", true},
+        {Capitals::Words, "a b", false},    {Capitals::Words, "a ", true},
+        {Capitals::Sentences, "a ", false}, {Capitals::Sentences, "A. ", true},
+        {Capitals::Sentences, "A.", false}, {Capitals::All, "AB", true},
+    };
+    for (const auto& [capitals, text, large] : table) {
+        peer().setTextInputTraits({.capitals = capitals});
+        peer().setText(text);
+        show();
+        EXPECT_EQ(keyboard().view()->isShifted(), large) << text;
+        peer().resignFirstResponder();
+        settle();
+    }
+}
+
+TEST_F(KeyboardTest, BeginsAnewForAnotherText) {
+    const auto other = addField();
+    peerOf<UITextFieldPeer>(*other).setTextInputTraits({.keys = TextInputTraits::Keys::Numbers});
+    show();
+    EXPECT_EQ(keyboard().view()->keys().front()->key().text, "q");
+    other->becomeFirstResponder();
+    settle();
+    EXPECT_EQ(keyboard().view()->keys().front()->key().text, "1");
 }
 
 } // namespace

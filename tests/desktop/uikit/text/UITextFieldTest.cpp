@@ -324,4 +324,34 @@ TEST_F(UITextFieldTest, TellsOfItself) {
     EXPECT_TRUE(peer().fieldIsFirstResponder());
 }
 
+TEST_F(UITextFieldTest, ASecretIsShownAsBullets) {
+    peer().setText("abc");
+    peer().setTextInputTraits({.secure = true});
+    EXPECT_EQ(peer().shownText(), "\u2022\u2022\u2022");
+    EXPECT_EQ(peer().accessibility().value, "\u2022\u2022\u2022");
+    EXPECT_EQ(peer().inspectedProperties().at("text"), PropertyList("\u2022\u2022\u2022"));
+    EXPECT_EQ(field->text(), "abc");
+}
+
+TEST_F(UITextFieldTest, TellsOfTheEndOfEditing) {
+    auto ends = 0;
+    peer().setEndHandler([&ends] { ++ends; });
+    field->becomeFirstResponder();
+    EXPECT_EQ(ends, 0);
+    peer().resignFirstResponder();
+    EXPECT_EQ(ends, 1);
+    field->becomeFirstResponder();
+    peer().removeFromSuperview();
+    EXPECT_EQ(ends, 2);
+}
+
+TEST_F(UITextFieldTest, ReturnEndsEditingWhereItIsToldTo) {
+    field->becomeFirstResponder();
+    peer().returnPressed();
+    EXPECT_TRUE(peer().fieldIsFirstResponder());
+    peer().setEndsOnReturn(true);
+    peer().returnPressed();
+    EXPECT_FALSE(peer().fieldIsFirstResponder());
+}
+
 } // namespace

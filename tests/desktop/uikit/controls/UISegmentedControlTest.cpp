@@ -1,0 +1,102 @@
+#include "Phone.h"
+#include "accessibility/AccessibilityElement.h"
+#include "controls/UISegmentedControlPeer.h"
+#include "views/UILabelPeer.h"
+
+namespace {
+
+/// Three titles of 100 points each, from (20, 100) on.
+class UISegmentedControlTest : public Phone {
+protected:
+    UISegmentedControlTest() {
+        window->addSubview(control_);
+        control_->setFrame(CGRectMake(20, 100, 300, 32));
+        peer().setTitles({"One", "Two", "Three"});
+        peer().addHandler(UIControlEvents::ValueChanged, [this] { ++changes_; });
+        screen.layoutIfNeeded();
+    }
+
+    [[nodiscard]] UISegmentedControlPeer& peer() const { return peerOf<UISegmentedControlPeer>(*control_); }
+
+    [[nodiscard]] static CGPoint middleOf(int index) { return {70 + 100.0 * index, 116}; }
+
+    Ref<UISegmentedControl> control_ = make<UISegmentedControl>();
+    int changes_ = 0;
+};
+
+} // namespace
+
+TEST_F(UISegmentedControlTest, CodeChoosesAndTellsNobody) {
+    EXPECT_EQ(peer().selected(), std::nullopt);
+    peer().setSelected(1, false);
+    EXPECT_EQ(peer().selected(), 1U);
+    peer().setSelected(3, false);
+    EXPECT_EQ(peer().selected(), std::nullopt);
+    EXPECT_EQ(changes_, 0);
+}
+
+TEST_F(UISegmentedControlTest, ATapChoosesAndTellsOnce) {
+    tap(middleOf(2));
+    EXPECT_EQ(peer().selected(), 2U);
+    EXPECT_EQ(changes_, 1);
+    tap(middleOf(2));
+    EXPECT_EQ(changes_, 1);
+}
+
+TEST_F(UISegmentedControlTest, TheChosenOneIsCarriedAlong) {
+    peer().setSelected(0, false);
+    down(middleOf(0));
+    move(middleOf(1));
+    EXPECT_EQ(peer().selected(), 1U);
+    EXPECT_EQ(changes_, 0);
+    move(middleOf(2));
+    up(middleOf(2));
+    EXPECT_EQ(peer().selected(), 2U);
+    EXPECT_EQ(changes_, 1);
+}
+
+TEST_F(UISegmentedControlTest, ATouchThatIsTakenAwayChangesNothing) {
+    peer().setSelected(0, false);
+    down(middleOf(0));
+    move(middleOf(2));
+    cancel();
+    EXPECT_EQ(peer().selected(), 0U);
+    down(middleOf(1));
+    up({170, 400});
+    EXPECT_EQ(peer().selected(), 0U);
+    EXPECT_EQ(changes_, 0);
+}
+
+TEST_F(UISegmentedControlTest, IsInertWhileItIsDisabled) {
+    peer().setEnabled(false);
+    tap(middleOf(1));
+    EXPECT_EQ(peer().selected(), std::nullopt);
+    EXPECT_EQ(control_->layer().peer().number(LayerProperty::Opacity), 0.5);
+}
+
+TEST_F(UISegmentedControlTest, NoTitlesTakeATouch) {
+    peer().setTitles({});
+    tap(middleOf(1));
+    EXPECT_EQ(peer().selected(), std::nullopt);
+    EXPECT_EQ(changes_, 0);
+}
+
+TEST_F(UISegmentedControlTest, EachTitleIsAnElement) {
+    peer().setSelected(1, false);
+    const auto elements = AccessibilityElement::allIn(*control_);
+    ASSERT_EQ(elements.size(), 3U);
+    EXPECT_EQ(elements[1].label, "Two");
+    EXPECT_EQ(elements[1].value, "1");
+    EXPECT_EQ(elements[2].value, "0");
+    EXPECT_EQ(elements[2].role, AccessibilityRole::Choice);
+}
+
+TEST_F(UISegmentedControlTest, TheChosenTitleStandsOut) {
+    peer().setSelected(1, false);
+    const auto weightOf = [this](std::size_t index) {
+        const auto title = AccessibilityElement::allIn(*control_)[index].view;
+        return peerOf<UILabelPeer>(dynamic_cast<UILabel&>(*title)).fontStyle().weight;
+    };
+    EXPECT_EQ(weightOf(1), FontWeight::Semibold);
+    EXPECT_EQ(weightOf(0), FontWeight::Medium);
+}
