@@ -2,6 +2,7 @@
 
 #include "DesktopColor.h"
 #include "PSHeaderFooterView.h"
+#include "PSTableCellPeer.h"
 #include "SpecifierViews.h"
 #include "cells/RadioGroup.h"
 #include "screen/Screen.h"
@@ -73,6 +74,12 @@ void SpecifierTable::refreshShown() {
         if (const auto cell = dynamicCast<PSTableCell>(shown))
             cell->refreshCellContentsWithSpecifier(at(row));
     }
+}
+
+bool SpecifierTable::tapCell(const PSSpecifier& specifier, PSListController& page) {
+    const auto row = indexPathOf(specifier);
+    const auto cell = row ? dynamicCast<PSTableCell>(table().cellForRow(*row)) : nullptr;
+    return cell && peerOf<PSTableCellPeer>(*cell).tapped(page);
 }
 
 void SpecifierTable::showEditedRow() {
