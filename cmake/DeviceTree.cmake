@@ -5,7 +5,7 @@ set(DEVICE_TREE ${CMAKE_BINARY_DIR}/share/corvex/device)
 
 # The desktop's libraries: all that a bundle finds in the program that loads it.
 set(HOST_LIBRARIES platform desktop_foundation desktop_autolayout desktop_drawing desktop_quartzcore
-    desktop_uikit desktop_preferences desktop_onboarding desktop_system desktop_settings)
+    desktop_uikit desktop_preferences desktop_gcuniversal desktop_onboarding desktop_system desktop_settings)
 
 # corvex_device_files(RESULT FOLDER FILES...): copies of files of the source folder in a folder of the tree. RESULT is
 # set to what a target must depend on.

@@ -3,10 +3,10 @@
 #include "ApplicationCommands.h"
 #include "EventCommands.h"
 #include "InspectionCommands.h"
+#include "PickerCommands.h"
 #include "TextCommands.h"
 #include "TimeCommands.h"
 #include "TouchCommands.h"
-#include "UnavailableCommands.h"
 
 void addAllCommands(CommandTable& table, const DrivenParts& parts) {
     addApplicationCommands(table, parts.application);
@@ -15,5 +15,5 @@ void addAllCommands(CommandTable& table, const DrivenParts& parts) {
     addTimeCommands(table, parts.clock);
     addEventCommands(table, parts.log);
     addTextCommands(table);
-    addUnavailableCommands(table);
+    addPickerCommands(table);
 }

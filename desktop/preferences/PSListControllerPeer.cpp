@@ -189,6 +189,10 @@ void PSListControllerPeer::setValue(DesktopSpecifier& specifier, const std::opti
 
 void PSListControllerPeer::select(DesktopSpecifier& specifier) {
     const auto kept = retain(&controller());
+    if (rows_->tapCell(specifier, page())) {
+        fadeSelection();
+        return;
+    }
     if (openDetail(specifier))
         return;
     if (wantsConfirmation(specifier))

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "DesktopSpecifier.h"
+#include "Preferences/PSListController.h"
 #include "Preferences/PSTableCell.h"
 #include "tables/UITableViewCellPeer.h"
 
@@ -22,6 +23,9 @@ public:
 
     /// Shows the row's properties and value.
     virtual void refresh();
+
+    /// The user has tapped the row. \returns whether the cell has done all that is to be done
+    virtual bool tapped(PSListController& /*page*/) { return false; }
 
 protected:
     /// What the row's value reads as: the title that the list gives it, else the value itself.

@@ -81,6 +81,12 @@ void SpecifierTable::refreshShown() {
     }
 }
 
+bool SpecifierTable::tapCell(const PSSpecifier& specifier, PSListController& page) {
+    const auto row = indexPathOf(specifier);
+    const auto cell = row ? dynamicCast<PSTableCell>(table().cellForRow(*row)) : nullptr;
+    return cell && peerOf<PSTableCellPeer>(*cell).tapped(page);
+}
+
 void SpecifierTable::showEditedRow() {
     const auto* const input = Screen::current().firstResponder().input();
     if (input == nullptr)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Preferences/PSListController.h"
 #include "Preferences/PSTableCell.h"
 #include "SpecifierSections.h"
 #include "UIKit/UITableView.h"
@@ -40,6 +41,9 @@ public:
 
     /// The same for every row near the screen, whatever has changed their values.
     void refreshShown();
+
+    /// Has the row's cell do what only it knows to do for a tap. \returns whether that was all
+    bool tapCell(const PSSpecifier& specifier, PSListController& page);
 
     /// Leaves below the rows what the keyboard covers of the table, and scrolls a row that is edited out from
     /// behind it.

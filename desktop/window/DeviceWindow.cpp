@@ -5,6 +5,7 @@
 #include "TextKeys.h"
 #include "WindowAccessibility.h"
 #include "controls/Adjustable.h"
+#include "screen/FilePicker.h"
 #include "screen/Screen.h"
 #include "screen/TouchDispatcher.h"
 #include "scrolling/UIScrollViewPeer.h"
@@ -13,10 +14,12 @@
 #include "typing/TextInput.h"
 
 #include <QGuiApplication>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPalette>
 #include <QScreen>
+#include <QUrl>
 #include <algorithm>
 #include <chrono>
 #include <cmath>
@@ -264,11 +267,33 @@ bool DeviceWindow::type(const QKeyEvent& event) {
 bool DeviceWindow::event(QEvent* event) {
     if (auto* const composed = dynamic_cast<QInputMethodEvent*>(event))
         compose(*composed);
+    else if (auto* const entered = dynamic_cast<QDragEnterEvent*>(event))
+        entered->setAccepted(filePicker() != nullptr && entered->mimeData()->hasUrls());
+    else if (auto* const dropped = dynamic_cast<QDropEvent*>(event);
+             dropped != nullptr && dropped->type() == QEvent::Drop)
+        drop(*dropped);
     else if (auto* const query = dynamic_cast<QInputMethodQueryEvent*>(event))
         answer(*query);
     else
         return QRasterWindow::event(event);
     return true;
+}
+
+FilePicker* DeviceWindow::filePicker() const {
+    const auto* const presented = screen_.presentations().top();
+    return presented != nullptr ? presented->filePicker() : nullptr;
+}
+
+/// What becomes of the files is shown on the screen.
+void DeviceWindow::drop(QDropEvent& event) {
+    std::vector<std::string> paths;
+    for (const auto& url : event.mimeData()->urls())
+        paths.push_back(url.toLocalFile().toStdString());
+    auto* const picker = filePicker();
+    event.setAccepted(picker != nullptr);
+    if (picker != nullptr)
+        static_cast<void>(picker->pickFiles(paths));
+    wake();
 }
 
 void DeviceWindow::compose(QInputMethodEvent& event) {

@@ -11,7 +11,9 @@
 #include <functional>
 #include <optional>
 
+class QDropEvent;
 class QInputMethodQueryEvent;
+class FilePicker;
 class Screen;
 class TouchDispatcher;
 
@@ -78,6 +80,9 @@ private:
     void moveFocus(bool forward);
     bool adjust(const QKeyEvent& event);
     bool type(const QKeyEvent& event);
+    /// Null while nothing waits for files.
+    [[nodiscard]] FilePicker* filePicker() const;
+    void drop(QDropEvent& event);
     void compose(QInputMethodEvent& event);
     void answer(QInputMethodQueryEvent& event) const;
     void escape();

@@ -107,6 +107,8 @@ void collect(UIView& view, const std::string& labelAround, std::vector<Accessibi
     if (!isShown(view))
         return;
     const auto accessibility = view.peer().accessibility();
+    if (accessibility.isLeftOut)
+        return;
     const auto ownLabel = labelOf(view.peer(), accessibility);
     const auto& label = ownLabel.empty() ? labelAround : ownLabel;
     const auto isSwitch = view.respondsToSelector(switchSelector);

@@ -10,6 +10,7 @@
 #include "presentation/Presentation.h"
 #include "presentation/SheetContent.h"
 #include "presentation/SheetPanGestureRecognizer.h"
+#include "screen/FilePicker.h"
 #include "screen/Screen.h"
 #include "screen/UIWindow.h"
 #include "scrolling/ScrollMotion.h"
@@ -187,6 +188,11 @@ Ref<UIViewController> SheetPresentationView::page() const {
 const SheetContent* SheetPresentationView::content() const {
     const auto shown = page();
     return shown ? peerIf<SheetContent>(*shown) : nullptr;
+}
+
+FilePicker* SheetPresentationView::filePicker() const {
+    const auto shown = page();
+    return shown ? peerIf<FilePicker>(*shown) : nullptr;
 }
 
 Ref<UINavigationItem> SheetPresentationView::barItem() const {

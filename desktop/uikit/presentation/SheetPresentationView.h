@@ -45,6 +45,8 @@ public:
 
     [[nodiscard]] std::optional<Details> details() const override;
 
+    [[nodiscard]] FilePicker* filePicker() const override;
+
     [[nodiscard]] UIView& shownView() const override { return *card_; }
 
     [[nodiscard]] bool blackensStatusBar() const override;

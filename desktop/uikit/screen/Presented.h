@@ -8,6 +8,8 @@
 #include <string_view>
 #include <vector>
 
+class FilePicker;
+
 /// Something that was presented above the application and is not yet on its way out: a menu, an alert, a
 /// sheet. Implemented by the view or controller that shows it, which enters itself in `Presentations`.
 class Presented {
@@ -59,6 +61,9 @@ public:
 
     /// Nothing for what is neither a sheet nor an alert.
     [[nodiscard]] virtual std::optional<Details> details() const = 0;
+
+    /// What waits there for files to be chosen; null when nothing does.
+    [[nodiscard]] virtual FilePicker* filePicker() const { return nullptr; }
 
     /// What is shown: all that belongs to it is within this view.
     [[nodiscard]] virtual UIView& shownView() const = 0;

@@ -127,6 +127,8 @@ void UITextFieldPeer::returnPressed() {
     TextInput::returnPressed();
     if (endsOnReturn_)
         resignFirstResponder();
+    if (returnHandler_)
+        returnHandler_();
 }
 
 void UITextFieldPeer::didMoveToWindow() {

@@ -36,6 +36,9 @@ public:
     /// Whether the key "return" gives the keyboard up. Not so until it is told.
     void setEndsOnReturn(bool ends) { endsOnReturn_ = ends; }
 
+    /// Called when the key "return" has been pressed.
+    void setReturnHandler(std::function<void()> handler) { returnHandler_ = std::move(handler); }
+
     /// Called when it has the keyboard no more; not at the field's own end.
     void setEndHandler(std::function<void()> handler) { endHandler_ = std::move(handler); }
 
@@ -135,7 +138,8 @@ private:
     EditedText text_;
     std::string placeholder_;
     TextInputTraits inputTraits_;
-    std::function<void()> endHandler_; ///< may be empty
+    std::function<void()> endHandler_;    ///< may be empty
+    std::function<void()> returnHandler_; ///< may be empty
     FontStyle fontStyle_;
     UITextBorderStyle borderStyle_ = UITextBorderStyle::None;
     Ref<UIView> caret_;

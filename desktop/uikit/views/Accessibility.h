@@ -11,4 +11,5 @@ struct Accessibility {
     std::string value; ///< what it is set to
     AccessibilityRole role = AccessibilityRole::None;
     bool isElement = false; ///< one thing: its subviews are not told of
+    bool isLeftOut = false; ///< something else tells of it and of all that is in it
 };

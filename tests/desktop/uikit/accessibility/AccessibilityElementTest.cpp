@@ -52,6 +52,15 @@ TEST_F(AccessibilityElementTest, whatIsNotToBeSeenIsLeftOut) {
     EXPECT_EQ(labels(AccessibilityElement::allIn(view)), Labels{"shown"});
 }
 
+TEST_F(AccessibilityElementTest, whatSomethingElseTellsOfIsLeftOut) {
+    show({a});
+    auto& outer = addButton(a->view(), {{0, 100}, {100, 44}}, "outer");
+    addButton(outer, {{0, 0}, {50, 44}}, "inner");
+    outer.peer().setAccessibility({.label = "outer", .value = {}, .isLeftOut = true});
+    addButton(a->view(), {{0, 200}, {100, 44}}, "other");
+    EXPECT_EQ(labels(AccessibilityElement::allIn(a->view())), Labels{"other"});
+}
+
 TEST_F(AccessibilityElementTest, anElementIsOneThing) {
     show({a});
     auto& outer = addButton(a->view(), {{0, 100}, {100, 44}}, "outer");

@@ -350,8 +350,11 @@ TEST_F(UITextFieldTest, ReturnEndsEditingWhereItIsToldTo) {
     peer().returnPressed();
     EXPECT_TRUE(peer().fieldIsFirstResponder());
     peer().setEndsOnReturn(true);
+    auto returns = 0;
+    peer().setReturnHandler([&returns] { ++returns; });
     peer().returnPressed();
     EXPECT_FALSE(peer().fieldIsFirstResponder());
+    EXPECT_EQ(returns, 1);
 }
 
 } // namespace

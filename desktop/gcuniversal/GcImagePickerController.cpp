@@ -1,0 +1,172 @@
+#include "GcImagePickerController.h"
+
+#include "DesktopColor.h"
+#include "ObjectiveC/Class.h"
+#include "RowImage.h"
+#include "UIKit/UIAlertController.h"
+#include "UIKit/UIButton.h"
+#include "controllers/DesktopBarButtonItem.h"
+#include "controllers/DesktopNavigationItem.h"
+#include "controllers/UIViewControllerPeer.h"
+#include "controls/UIButtonPeer.h"
+#include "screen/FilePicker.h"
+#include "text/UITextFieldPeer.h"
+#include "views/UILabelPeer.h"
+
+#include <algorithm>
+#include <memory>
+#include <utility>
+
+namespace {
+
+const Class controllerClass =
+    Class::define<GcImagePickerController, UIViewController>("GcImagePickerController");
+
+constexpr auto explanation = "Drop a PNG, JPEG or HEIC file on the window, or type its path.";
+constexpr double margin = 16;
+constexpr double rowHeight = 44;
+
+/// What the sheet shows.
+class ImagePickerView final : public UIView {
+public:
+    ImagePickerView();
+
+    // UIView:
+    void layoutSubviews() override;
+
+    const Ref<UILabel> text = make<UILabel>();
+    const Ref<UITextField> field = make<UITextField>();
+    const Ref<UIButton> remover = make<UIButton>();
+    const Ref<UIImageView> preview = make<UIImageView>();
+};
+
+ImagePickerView::ImagePickerView() {
+    setBackgroundColor(DesktopColor::system(SystemColor::GroupedBackground));
+    text->setText(explanation);
+    text->setTextColor(DesktopColor::system(SystemColor::SecondaryLabel));
+    peerOf<UILabelPeer>(*text).setNumberOfLines(0);
+    preview->setContentMode(UIViewContentMode::ScaleAspectFit);
+    auto& path = peerOf<UITextFieldPeer>(*field);
+    path.setBorderStyle(UITextBorderStyle::RoundedRect);
+    path.setPlaceholder("Path of a File");
+    path.setTextInputTraits({.capitals = TextInputTraits::Capitals::None});
+    path.setEndsOnReturn(true);
+    auto& button = peerOf<UIButtonPeer>(*remover);
+    button.setTitle("Remove Image");
+    button.setFontStyle({.size = 17});
+    button.setTitleColor(DesktopColor::system(SystemColor::Red));
+    for (const auto& view :
+         {Ref<UIView>(text), Ref<UIView>(field), Ref<UIView>(preview), Ref<UIView>(remover)})
+        addSubview(view);
+}
+
+void ImagePickerView::layoutSubviews() {
+    UIView::layoutSubviews();
+    const auto safe = peer().safeAreaInsets();
+    const auto width = bounds().size.width - 2 * margin;
+    auto y = safe.top + margin;
+    const auto height = text->peer().sizeThatFits({width, bounds().size.height}).height;
+    text->setFrame(CGRectMake(margin, y, width, height));
+    y += height + margin;
+    field->setFrame(CGRectMake(margin, y, width, rowHeight));
+    y += rowHeight + margin;
+    const auto bottom = bounds().size.height - safe.bottom - margin;
+    remover->setFrame(CGRectMake(margin, bottom - rowHeight, width, rowHeight));
+    preview->setFrame(CGRectMake(margin, y, width, std::max(0.0, bottom - rowHeight - margin - y)));
+}
+
+class GcImagePickerControllerPeer final : public UIViewControllerPeer, public FilePicker {
+public:
+    GcImagePickerControllerPeer(Ref<DesktopSpecifier> row, std::function<void()> changed)
+        : row_(std::move(row)),
+          changed_(std::move(changed)) {}
+
+    // UIViewControllerPeer:
+    [[nodiscard]] Ref<UIView> makeView() override;
+    void viewDidLoad() override;
+
+    // FilePicker:
+    std::expected<void, std::string> pickFiles(const std::vector<std::string>& hostPaths) override;
+    void cancelPicking() override;
+
+private:
+    void showImage() const;
+    void pickTyped();
+    void complain(const std::string& problem) const;
+
+    const Ref<DesktopSpecifier> row_;
+    const std::function<void()> changed_;
+    Ref<ImagePickerView> picker_;
+};
+
+Ref<UIView> GcImagePickerControllerPeer::makeView() {
+    picker_ = make<ImagePickerView>();
+    peerOf<UITextFieldPeer>(*picker_->field).setReturnHandler([this] { pickTyped(); });
+    peerOf<UIButtonPeer>(*picker_->remover).addHandler(UIControlEvents::TouchUpInside, [this] {
+        RowImage(*row_).remove();
+        changed_();
+        showImage();
+    });
+    showImage();
+    return picker_;
+}
+
+void GcImagePickerControllerPeer::viewDidLoad() {
+    setTitle("Image");
+    const auto cancel = [weak = Weak<UIViewController>(&controller()), this] {
+        if (const auto kept = weak.strong())
+            cancelPicking();
+    };
+    navigationItem().setLeftBarButtonItem(
+        make<DesktopBarButtonItem>(DesktopBarButtonItem::Content{.title = "Cancel",
+                                                                 .image = {},
+                                                                 .menu = {},
+                                                                 .action = cancel,
+                                                                 .target = {},
+                                                                 .selector = {},
+                                                                 .emphasised = false}));
+}
+
+void GcImagePickerControllerPeer::showImage() const {
+    const RowImage kept(*row_);
+    picker_->preview->setImage(kept.image());
+    picker_->remover->peer().setHidden(!kept.exists());
+}
+
+void GcImagePickerControllerPeer::pickTyped() {
+    const auto path = picker_->field->text();
+    if (!path.empty())
+        static_cast<void>(pickFiles({path}));
+}
+
+std::expected<void, std::string>
+GcImagePickerControllerPeer::pickFiles(const std::vector<std::string>& hostPaths) {
+    const auto kept = hostPaths.size() == 1
+                          ? RowImage(*row_).keep(hostPaths.front())
+                          : std::expected<void, std::string>(std::unexpected("One image is wanted."));
+    if (!kept) {
+        complain(kept.error());
+        return kept;
+    }
+    changed_();
+    showImage();
+    controller().dismissViewControllerAnimated(true, {});
+    return {};
+}
+
+void GcImagePickerControllerPeer::cancelPicking() {
+    controller().dismissViewControllerAnimated(true, {});
+}
+
+void GcImagePickerControllerPeer::complain(const std::string& problem) const {
+    const auto alert = UIAlertController::alertControllerWithTitle("The Image Cannot Be Used", problem,
+                                                                   UIAlertControllerStyle::Alert);
+    alert->addAction(UIAlertAction::actionWithTitle("OK", UIAlertActionStyle::Default, {}));
+    controller().presentViewController(alert, true, {});
+}
+
+} // namespace
+
+GcImagePickerController::GcImagePickerController(const Ref<DesktopSpecifier>& row,
+                                                 std::function<void()> changed)
+    : UIViewController(std::make_unique<GcImagePickerControllerPeer>(row, std::move(changed))) {}

@@ -1,0 +1,128 @@
+#include "GcImagePickerCell.h"
+
+#include "cells/RowsFixture.h"
+#include "screen/FilePicker.h"
+#include "screen/Presentations.h"
+
+#include <QImage>
+
+namespace {
+
+using Texts = std::vector<std::string>;
+
+class GcImagePickerCellTest : public RowsFixture {
+protected:
+    GcImagePickerCellTest() {
+        writeList({keptRow("PSLinkCell", "photo", text("cellClass", "GcImagePickerCell"))});
+        show();
+    }
+
+    void open() {
+        tap("photo");
+        settle();
+        ASSERT_NE(sheet(), nullptr);
+    }
+
+    [[nodiscard]] Presented* sheet() { return screen.presentations().top(); }
+
+    [[nodiscard]] std::string picture() const {
+        QImage image(8, 6, QImage::Format_RGB32);
+        image.fill(Qt::blue);
+        const auto path = files_.path() + "/a.png";
+        EXPECT_TRUE(image.save(QString::fromStdString(path)));
+        return path;
+    }
+
+    [[nodiscard]] bool isKept() const {
+        return !device.read("/var/mobile/Library/Preferences/com.example.test/photo-IMG").empty();
+    }
+
+    [[nodiscard]] UIImageView& preview() const {
+        return dynamic_cast<UIImageView&>(*cellPeer("photo").subviews().front()->peer().subviews().back());
+    }
+
+    void press(const std::string& label) {
+        for (const auto& found : AccessibilityElement::allIn(sheet()->shownView())) {
+            if (found.label == label) {
+                Phone::tap(*found.view);
+                settle();
+                return;
+            }
+        }
+        ADD_FAILURE() << "there is no " << label;
+    }
+
+    TemporaryFolder files_;
+};
+
+} // namespace
+
+TEST_F(GcImagePickerCellTest, TakesAPictureAndShowsIt) {
+    EXPECT_EQ(elementsOf("photo"), Texts{"Row photo=no image"});
+    open();
+    ASSERT_NE(sheet()->filePicker(), nullptr);
+    EXPECT_TRUE(sheet()->filePicker()->pickFiles({picture()}));
+    settle();
+    EXPECT_EQ(sheet(), nullptr);
+    EXPECT_TRUE(isKept());
+    EXPECT_TRUE(preview().image());
+    EXPECT_EQ(elementsOf("photo"), Texts{"Row photo=image"});
+}
+
+TEST_F(GcImagePickerCellTest, SaysWhyAFileIsNotTaken) {
+    open();
+    EXPECT_FALSE(sheet()->filePicker()->pickFiles({"/etc/passwd"}));
+    settle();
+    ASSERT_NE(sheet(), nullptr);
+    EXPECT_EQ(sheet()->kind(), "alert");
+    EXPECT_EQ(sheet()->title(), "The Image Cannot Be Used");
+    EXPECT_EQ(sheet()->filePicker(), nullptr);
+    const auto button = sheet()->actions().front().frame;
+    Phone::tap({CGRectGetMidX(button), CGRectGetMidY(button)});
+    settle();
+    ASSERT_EQ(sheet()->kind(), "sheet");
+    EXPECT_FALSE(sheet()->filePicker()->pickFiles({picture(), picture()}));
+}
+
+TEST_F(GcImagePickerCellTest, IsCancelled) {
+    open();
+    sheet()->filePicker()->cancelPicking();
+    settle();
+    EXPECT_EQ(sheet(), nullptr);
+    open();
+    press("Cancel");
+    EXPECT_EQ(sheet(), nullptr);
+    EXPECT_FALSE(preview().image());
+}
+
+TEST_F(GcImagePickerCellTest, TakesAPathThatIsTyped) {
+    open();
+    press("Path of a File");
+    auto* const input = screen.firstResponder().input();
+    ASSERT_NE(input, nullptr);
+    input->edit([path = QString::fromStdString(picture())](EditedText& edited) { edited.insert(path); });
+    input->returnPressed();
+    settle();
+    EXPECT_EQ(sheet(), nullptr);
+    EXPECT_TRUE(isKept());
+}
+
+TEST_F(GcImagePickerCellTest, APathThatWasTypedIsNotTakenWhenItIsCancelled) {
+    open();
+    press("Path of a File");
+    screen.firstResponder().input()->edit(
+        [path = QString::fromStdString(picture())](EditedText& edited) { edited.insert(path); });
+    sheet()->filePicker()->cancelPicking();
+    settle();
+    EXPECT_EQ(elementsOf("photo"), Texts{"Row photo=no image"});
+}
+
+TEST_F(GcImagePickerCellTest, RemovesThePicture) {
+    open();
+    EXPECT_TRUE(sheet()->filePicker()->pickFiles({picture()}));
+    settle();
+    open();
+    press("Remove Image");
+    EXPECT_FALSE(preview().image());
+    EXPECT_EQ(elementsOf("photo"), Texts{"Row photo=no image"});
+}
