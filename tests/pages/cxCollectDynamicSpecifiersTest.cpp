@@ -71,6 +71,20 @@ TEST_F(cxCollectDynamicSpecifiersTest, ARowIsGoneWhileItsSwitchReadsFalse) {
     EXPECT_TRUE(isCutOff("detail"));
 }
 
+TEST_F(cxCollectDynamicSpecifiersTest, ACellThatIsMadeLaterIsCutOffToo) {
+    std::vector<std::string> items;
+    for (auto number = 0; number < 60; ++number)
+        items.push_back(row("PSStaticTextCell", std::to_string(number)));
+    items.push_back(switchRow("master"));
+    items.push_back(ruledRow("detail", "master, on, show"));
+    store(false, "master");
+    openBanner(items);
+    EXPECT_FALSE(listRow("detail").view);
+    peer().scrollRowIntoView(60);
+    EXPECT_TRUE(isCutOff("detail"));
+    EXPECT_FALSE(isCutOff("master"));
+}
+
 TEST_F(cxCollectDynamicSpecifiersTest, ARowIsThereWhileItsSwitchReadsTrue) {
     store(true, "master");
     openBanner({switchRow("master"), ruledRow("detail", "master, on, show")});
@@ -133,10 +147,17 @@ TEST_F(cxCollectDynamicSpecifiersTest, ARuleOfTwoOrFourPartsIsIgnored) {
 
 TEST_F(cxCollectDynamicSpecifiersTest, ARuleWithACommaWithoutASpaceIsIgnored) {
     store(false, "master");
-    openBanner({switchRow("master"), ruledRow("tight", "master,on,show"), ruledRow("half", "master, on,show"),
-                ruledRow("detail", "master, , ")});
-    EXPECT_EQ(heightOf("tight"), 44);
-    EXPECT_EQ(heightOf("half"), 44);
+    for (const auto* const rule :
+         {"master,on,show", "master, on,show", "master,on, show", "master ,on ,show"}) {
+        openBanner({switchRow("master"), ruledRow("tight", rule)});
+        EXPECT_FALSE(rules().hasDynamicSpecifiers()) << rule;
+        EXPECT_EQ(heightOf("tight"), 44) << rule;
+    }
+}
+
+TEST_F(cxCollectDynamicSpecifiersTest, TheOtherPartsOfARuleAreNotRead) {
+    store(false, "master");
+    openBanner({switchRow("master"), ruledRow("detail", "master, , ")});
     EXPECT_EQ(heightOf("detail"), 0);
 }
 
