@@ -1,42 +1,19 @@
-// What is installed for the pane: its entry, its lists and its code.
+// What is installed for the pane: its entry and its code.
 
-#include "DeviceInstaller.h"
+#include "BundleFixture.h"
 #include "EntryList.h"
-#include "Foundation/NSDictionary.h"
 #include "PreferenceBundle.h"
-#include "PreferenceKeys.h"
-#include "TestDevice.h"
 #include "Version.h"
 
 #include <gtest/gtest.h>
 
 #include <dlfcn.h>
 
-#include <algorithm>
 #include <string>
 
 namespace {
 
-const std::string bundlePath = "/var/jb/Library/PreferenceBundles/corvexPrefs.bundle";
-
-class CorvexBundleTest : public testing::Test {
-protected:
-    void SetUp() override {
-        const auto installed = DeviceInstaller(DEVICE_TREE).install(Device::current().root());
-        ASSERT_TRUE(installed) << installed.error();
-    }
-
-    [[nodiscard]] static PropertyList::Dictionary readList(const std::string& name) {
-        return dictionaryWithContentsOfFile(bundlePath + "/" + name).value_or(PropertyList::Dictionary());
-    }
-
-    [[nodiscard]] static std::string textIn(const PropertyList::Dictionary& row, const std::string& key) {
-        const auto found = row.find(key);
-        return found == row.end() ? "" : found->second.description();
-    }
-
-    TestDevice device;
-};
+class CorvexBundleTest : public BundleFixture {};
 
 /// Where a symbol is that the code exports which holds a class; null when it exports none of that name.
 void* exportedBeside(const Class& loaded, const char* symbol) {
@@ -49,10 +26,6 @@ void* exportedBeside(const Class& loaded, const char* symbol) {
     void* const found = dlsym(handle, symbol);
     dlclose(handle);
     return found;
-}
-
-bool isInCatalogue(const std::string& key) {
-    return std::ranges::find(PreferenceKeyCatalogue, key) != PreferenceKeyCatalogue.end();
 }
 
 } // namespace
@@ -78,22 +51,6 @@ TEST_F(CorvexBundleTest, ItsInfoNamesWhatItIs) {
     EXPECT_EQ(textIn(info, "NSPrincipalClass"), "cxRootListController");
     EXPECT_EQ(textIn(info, "CFBundleShortVersionString"), corvexVersion);
     EXPECT_EQ(textIn(info, "CFBundleVersion"), corvexVersion);
-}
-
-TEST_F(CorvexBundleTest, EveryRowOfTheFirstListKeepsASettingOfTheCatalogue) {
-    const auto list = readList("Root.plist");
-    EXPECT_EQ(textIn(list, "title"), "Corvex");
-    ASSERT_TRUE(list.contains("items"));
-    const auto& items = *list.at("items").getIf<PropertyList::Array>();
-    EXPECT_FALSE(items.empty());
-    for (const auto& item : items) {
-        const auto& row = *item.getIf<PropertyList::Dictionary>();
-        EXPECT_NE(textIn(row, "label"), "");
-        if (textIn(row, "cell") == "PSGroupCell")
-            continue;
-        EXPECT_EQ(textIn(row, "defaults"), preferenceSuiteName);
-        EXPECT_TRUE(isInCatalogue(textIn(row, "key"))) << textIn(row, "key");
-    }
 }
 
 TEST_F(CorvexBundleTest, ItsCodeLoadsAndMakesTheRootPage) {

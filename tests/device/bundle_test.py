@@ -15,6 +15,7 @@ from pathlib import Path
 
 CODE, STUBS, EXPORTS = Path(os.environ["CODE"]), Path(os.environ["STUBS"]), os.environ["EXPORTS"].split(":")
 BUNDLE = Path(os.environ["BUNDLE"])
+SCALES = ["", "@2x", "@3x"]
 
 
 def verify(code=CODE, stubs=STUBS, exports=EXPORTS, classes=()):
@@ -94,8 +95,14 @@ class BundleTest(unittest.TestCase):
         return re.findall(rf"cmd {command}\n.*\n +name (\S+)", headers)
 
     def test_its_files(self):
-        names = sorted(path.name for path in BUNDLE.iterdir())
-        self.assertEqual(names, ["Info.plist", "Root.plist", "corvexPrefs", "icon.png", "icon@2x.png", "icon@3x.png"])
+        lists = ["Background", "Banner", "BackupRestore", "Color", "Extra", "General", "Label", "Organize", "Root"]
+        icons = ["backup", "background", "banner", "colors", "extra", "general", "labels", "organize"]
+        expected = ["Assets", "Info.plist", "corvexPrefs", "de.lproj", "en.lproj"]
+        expected += [f"{name}.plist" for name in lists]
+        expected += [f"{folder}.lproj/{name}.strings" for folder in ["de", "en"] for name in lists]
+        expected += [f"{name}{scale}.png" for name in ["icon", *[f"Assets/{icon}" for icon in icons]] for scale in SCALES]
+        names = [str(path.relative_to(BUNDLE)) for path in BUNDLE.rglob("*")]
+        self.assertEqual(sorted(names), sorted(expected))
 
     def test_what_it_says_of_itself(self):
         info = plistlib.loads((BUNDLE / "Info.plist").read_bytes())

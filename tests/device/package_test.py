@@ -43,14 +43,15 @@ class PackageTest(unittest.TestCase):
         self.assertGreater(int(field("Installed-Size")), 0)
 
     def test_it_has_the_bundle_and_its_entry_and_nothing_else(self):
-        files = [f"{BUNDLES}/corvexPrefs.bundle/{path.name}" for path in BUNDLE.iterdir()]
+        files = [f"{BUNDLES}/corvexPrefs.bundle/{path.relative_to(BUNDLE)}" for path in BUNDLE.rglob("*")]
         expected = sorted([*FOLDERS, *files, f"{ENTRIES}/corvexPrefs.plist"])
         self.assertEqual(sorted(member.name for member in self.members), expected)
 
     def test_its_files_are_those_of_the_build(self):
-        for path in BUNDLE.iterdir():
-            content = self.files.extractfile(f"{BUNDLES}/corvexPrefs.bundle/{path.name}").read()
-            self.assertEqual(content, path.read_bytes(), path.name)
+        for path in filter(Path.is_file, BUNDLE.rglob("*")):
+            name = path.relative_to(BUNDLE)
+            content = self.files.extractfile(f"{BUNDLES}/corvexPrefs.bundle/{name}").read()
+            self.assertEqual(content, path.read_bytes(), name)
 
     def test_its_entry_names_the_bundle_and_its_page(self):
         file = plistlib.loads(self.files.extractfile(f"{ENTRIES}/corvexPrefs.plist").read())
