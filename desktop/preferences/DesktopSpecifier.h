@@ -61,9 +61,6 @@ public:
 
     void setIcon(const Ref<UIImage>& icon) { icon_ = icon; }
 
-    /// Empty once the target is gone.
-    [[nodiscard]] Ref<NSObject> target() const { return target_.strong(); }
-
     void setTarget(NSObject& target) { target_ = Weak<NSObject>(&target); }
 
     /// The row's value: what the target answers to the message named by "get", which is by default
@@ -81,6 +78,8 @@ public:
 
     // PSSpecifier:
     [[nodiscard]] std::optional<PropertyList> propertyForKey(std::string_view key) const override;
+
+    [[nodiscard]] Ref<NSObject> target() const override { return target_.strong(); }
 
 private:
     /// A message that the target does not answer is logged once.

@@ -1,6 +1,7 @@
 #include "PSTableCellPeer.h"
 
 #include "DesktopColor.h"
+#include "PSHeaderFooterView.h"
 #include "views/UILabelPeer.h"
 
 #include <algorithm>
@@ -63,6 +64,11 @@ void PSTableCellPeer::showAccessory() {
         isLink(specifier_->kind()) && !specifier_->boolForKey("hidesDisclosureIndicator", false);
     setAccessoryType(chevron ? UITableViewCellAccessoryType::DisclosureIndicator
                              : UITableViewCellAccessoryType::None);
+}
+
+double PSTableCellPeer::heightFor(double width) const {
+    const auto preferred = PSHeaderFooterView::preferredHeight(cell(), width);
+    return preferred ? *preferred : UITableViewCellPeer::heightFor(width);
 }
 
 std::optional<std::string> PSTableCellPeer::valueText() const {

@@ -23,6 +23,10 @@ public:
     /// Shows the row's properties and value.
     virtual void refresh();
 
+    // UITableViewCellPeer:
+    /// What the cell itself prefers, if it says so.
+    [[nodiscard]] double heightFor(double width) const override;
+
 protected:
     /// What the row's value reads as: the title that the list gives it, else the value itself.
     [[nodiscard]] std::optional<std::string> valueText() const;

@@ -10,6 +10,10 @@ public:
         const AutoreleasePool pool;
         return send<"-[PSSpecifier propertyForKey:]", std::optional<PropertyList>>(*this, key);
     }
+
+    [[nodiscard]] Ref<NSObject> target() const override {
+        return send<"-[PSSpecifier target]", Ref<NSObject>>(*this);
+    }
 };
 
 const FrameworkClassOf<SystemSpecifier> frameworkClass("PSSpecifier");

@@ -227,7 +227,20 @@ double UITableViewCellPeer::heightFor(double width) const {
     if (style_ == UITableViewCellStyle::Subtitle && hasText(*detailTextLabel_))
         texts += heightOf(*detailTextLabel_, room);
     const TableMetrics metrics(width, traits().displayScale);
-    return metrics.rounded(std::max(TableMetrics::minimumRowHeight, texts + 2 * verticalPadding));
+    return metrics.rounded(
+        std::max({TableMetrics::minimumRowHeight, texts + 2 * verticalPadding, contentHeight(width)}));
+}
+
+double UITableViewCellPeer::contentHeight(double width) const {
+    const auto& constrained = contentView_->peer();
+    if (std::ranges::all_of(constrained.subviews(),
+                            [](const auto& view) { return view->peer().isFrameGiven(); }))
+        return 0;
+    return constrained.fittingSize(contentWidth(width)).height;
+}
+
+double UITableViewCellPeer::contentWidth(double width) const {
+    return accessory() != nullptr ? accessoryFrame(CGRectMake(0, 0, width, 0)).origin.x : width;
 }
 
 CGSize UITableViewCellPeer::sizeThatFits(CGSize room) const {
@@ -239,13 +252,9 @@ void UITableViewCellPeer::layoutSubviews() {
     const auto hairline = 1 / traits().displayScale;
     slice_->setFrame(bounds);
     background_->setFrame(bounds);
-    auto content = bounds;
-    if (accessory() != nullptr) {
-        const auto frame = accessoryFrame(bounds);
-        (accessoryView_ ? accessoryView_ : Ref<UIView>(indicator_))->setFrame(frame);
-        content.size.width = frame.origin.x;
-    }
-    contentView_->setFrame(content);
+    if (accessory() != nullptr)
+        (accessoryView_ ? accessoryView_ : Ref<UIView>(indicator_))->setFrame(accessoryFrame(bounds));
+    contentView_->setFrame(CGRectMake(0, 0, contentWidth(bounds.size.width), bounds.size.height));
     layOutTexts(bounds);
     const auto left = textRoom(bounds.size.width).left;
     separator_->setFrame(CGRectMake(left, bounds.size.height - hairline, bounds.size.width - left, hairline));
