@@ -25,6 +25,10 @@ Ref<UIColor> UIColor::colorWithRed(double red, double green, double blue, double
     return DesktopColor::fixed({.red = red, .green = green, .blue = blue, .alpha = alpha});
 }
 
+Ref<UIColor> UIColor::colorWithWhite(double white, double alpha) {
+    return colorWithRed(white, white, white, alpha);
+}
+
 Ref<UIColor> UIColor::clearColor() {
     return colorWithRed(0, 0, 0, 0);
 }
@@ -48,6 +52,10 @@ Ref<UIColor> UIColor::yellowColor() {
 Ref<UIColor> UIColor::lightGrayColor() {
     constexpr auto white = 2.0 / 3;
     return colorWithRed(white, white, white, 1);
+}
+
+Ref<UIColor> UIColor::labelColor() {
+    return DesktopColor::system(SystemColor::Label);
 }
 
 Ref<UIColor> UIColor::systemRedColor() {

@@ -1,7 +1,7 @@
 #pragma once
 
 /// The weights of the interface's face; the numbers are those of font files.
-enum class FontWeight { Regular = 400, Medium = 500, Semibold = 600, Bold = 700 };
+enum class FontWeight { Light = 300, Regular = 400, Medium = 500, Semibold = 600, Bold = 700 };
 
 /// How a text is set, and the measures of its lines that follow from the size alone. They are the platform's
 /// own, not those of the face that stands in for its.

@@ -75,6 +75,7 @@ constexpr std::array rows{
     Row{SystemColor::AlertPanel, gray(242, 0.8), gray(30, 0.75)},
     Row{SystemColor::MenuPanel, gray(252, 0.85), gray(44, 0.85)},
     Row{SystemColor::AlertPressedButton, gray(225), gray(46)},
+    Row{SystemColor::RegularMaterial, gray(255, 0.3), gray(28, 0.73)},
     Row{SystemColor::ThickMaterial, gray(249, 0.78), gray(37, 0.82)},
     Row{SystemColor::ActionSheetPanel, gray(252, 0.78), gray(41, 0.75)},
     Row{SystemColor::ActionSheetCancelCard, gray(255), gray(44)},

@@ -46,6 +46,7 @@ enum class SystemColor {
     AlertPanel,           ///< over what is blurred behind the alert
     MenuPanel,            ///< over what is blurred behind the menu; stands out from a black page
     AlertPressedButton,   ///< opaque
+    RegularMaterial,      ///< over what is blurred behind a part of a page
     ThickMaterial,        ///< over what is blurred behind a whole page
     ActionSheetPanel,     ///< over what is blurred behind the sheet
     ActionSheetCancelCard ///< opaque

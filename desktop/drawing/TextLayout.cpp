@@ -129,7 +129,7 @@ void TextLayout::breakParagraph(qsizetype begin, qsizetype end) {
         isTruncated_ = lines_.size() == options_.maximumLines && lineEnd < text_.string().size();
     }
     layout->endLayout();
-    if (isTruncated_)
+    if (isTruncated_ && options_.endsWithEllipsis)
         cutLastLine(end);
 }
 

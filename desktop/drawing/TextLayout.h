@@ -22,12 +22,13 @@ struct TextLayoutOptions {
     double maximumWidth = std::numeric_limits<double>::infinity(); ///< in points
     std::size_t maximumLines = 0;                                  ///< 0 is without limit
     HorizontalAlignment alignment = HorizontalAlignment::Left;
-    double pixelScale = 1; ///< pixels in a point; sizes are whole pixels
+    bool endsWithEllipsis = true; ///< when there is more text; else it just ends
+    double pixelScale = 1;        ///< pixels in a point; sizes are whole pixels
 };
 
 /// A text in one style, broken into lines as the platform's labels break it. Wraps between words, within a
 /// word only where it does not fit a line alone; a line feed starts a new line. The last line that may be
-/// shown ends with an ellipsis when there is more text. Its owner makes another when
+/// shown ends with an ellipsis when there is more text, unless told otherwise. Its owner makes another when
 /// text, style or room change. Positions are points from the layout's upper left corner, indexes are bytes of
 /// the UTF-8 text and stand before a character as a reader counts them (a grapheme cluster) or at the end.
 class TextLayout {

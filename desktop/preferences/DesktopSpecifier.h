@@ -89,9 +89,6 @@ public:
 
     void forgetCell() { cell_ = {}; }
 
-    /// Empty once the target is gone.
-    [[nodiscard]] Ref<NSObject> target() const { return target_.strong(); }
-
     void setTarget(NSObject& target) { target_ = Weak<NSObject>(&target); }
 
     /// The row's value: what the target answers to the message named by "get", which is by default
@@ -118,6 +115,8 @@ public:
     /// A row that its list gives no "id" has its identifier for one.
     [[nodiscard]] std::optional<PropertyList> propertyForKey(std::string_view key) const override;
     [[nodiscard]] Ref<NSObject> propertyObjectForKey(std::string_view key) const override;
+
+    [[nodiscard]] Ref<NSObject> target() const override { return target_.strong(); }
 
 private:
     /// A message that the target does not answer is logged once.

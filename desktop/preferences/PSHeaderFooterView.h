@@ -1,15 +1,16 @@
 #pragma once
 
 #include "Preferences/PSSpecifier.h"
+#include "UIKit/UIView.h"
 
-/// What a view class named by a group's "headerCellClass" or "footerCellClass" answers besides being a view.
-class PSHeaderFooterView {
-public:
-    virtual ~PSHeaderFooterView() = default;
+#include <optional>
 
-    /// Readies a new view for the group; in place of the view's other initialisers.
-    [[nodiscard]] virtual bool initWithSpecifier(PSSpecifier& specifier) = 0;
+/// What a view of a class that a list names may answer, by selector, besides being a view.
+struct PSHeaderFooterView {
+    /// Readies a new view for a group with "initWithSpecifier:", in place of its other initialisers.
+    /// \returns whether it is ready; nothing when the view has no such initialiser
+    [[nodiscard]] static std::optional<bool> init(UIView& view, PSSpecifier& specifier);
 
-    /// In points.
-    [[nodiscard]] virtual double preferredHeightForWidth(double width) = 0;
+    /// What the view answers to "preferredHeightForWidth:", in points; nothing when it does not answer.
+    [[nodiscard]] static std::optional<double> preferredHeight(UIView& view, double width);
 };

@@ -1,6 +1,7 @@
 #include "PSTableCellPeer.h"
 
 #include "DesktopColor.h"
+#include "PSHeaderFooterView.h"
 #include "cells/RadioGroup.h"
 #include "cells/SpecifierChoices.h"
 #include "views/UILabelPeer.h"
@@ -60,6 +61,11 @@ void PSTableCellPeer::showAccessory() {
     else
         setAccessoryType(isChosen(*specifier_) ? UITableViewCellAccessoryType::Checkmark
                                                : UITableViewCellAccessoryType::None);
+}
+
+double PSTableCellPeer::heightFor(double width) const {
+    const auto preferred = PSHeaderFooterView::preferredHeight(cell(), width);
+    return preferred ? *preferred : UITableViewCellPeer::heightFor(width);
 }
 
 std::optional<std::string> PSTableCellPeer::valueText() const {

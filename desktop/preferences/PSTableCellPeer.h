@@ -27,6 +27,10 @@ public:
     /// The user has tapped the row. \returns whether the cell has done all that is to be done
     virtual bool tapped(PSListController& /*page*/) { return false; }
 
+    // UITableViewCellPeer:
+    /// What the cell itself prefers, if it says so.
+    [[nodiscard]] double heightFor(double width) const override;
+
 protected:
     /// What the row's value reads as: the title that the list gives it, else the value itself.
     [[nodiscard]] std::optional<std::string> valueText() const;

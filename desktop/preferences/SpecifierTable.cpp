@@ -187,8 +187,8 @@ TableCaption SpecifierTable::footer(std::size_t section) {
 
 void SpecifierTable::setView(TableCaption& caption, const Ref<UIView>& view) const {
     caption.view = view;
-    if (auto* const measured = dynamic_cast<PSHeaderFooterView*>(view.get()))
-        caption.height = measured->preferredHeightForWidth(view_->bounds().size.width);
+    if (view)
+        caption.height = PSHeaderFooterView::preferredHeight(*view, view_->bounds().size.width);
 }
 
 bool SpecifierTable::isSelectable(IndexPath row) {

@@ -46,8 +46,8 @@ Ref<PSTableCell> allocateForKind(SpecifierKind kind) {
 }
 
 bool initCaptionView(UIView& view, DesktopSpecifier& group) {
-    if (auto* const caption = dynamic_cast<PSHeaderFooterView*>(&view))
-        return caption->initWithSpecifier(group);
+    if (const auto isReady = PSHeaderFooterView::init(view, group))
+        return *isReady;
     if (auto* const cell = dynamic_cast<PSTableCell*>(&view))
         return cell->initWithStyle(UITableViewCellStyle::Default, captionReuseIdentifier, group);
     return view.init();

@@ -29,8 +29,9 @@ concept SameOnBothSides =
     std::same_as<T, id> || std::same_as<T, objc_class*> || std::same_as<T, SEL> || std::same_as<T, void*> ||
     std::same_as<T, const void*> || std::same_as<T, const char*> || std::same_as<T, id*> ||
     std::same_as<T, std::int64_t> || std::same_as<T, std::uint64_t> || std::same_as<T, std::uint32_t> ||
-    std::same_as<T, float> || std::same_as<T, double> || std::same_as<T, CGPoint> ||
-    std::same_as<T, CGSize> || std::same_as<T, CGRect> || std::same_as<T, UIEdgeInsets>;
+    std::same_as<T, std::uint32_t*> || std::same_as<T, float> || std::same_as<T, double> ||
+    std::same_as<T, CGPoint> || std::same_as<T, CGSize> || std::same_as<T, CGRect> ||
+    std::same_as<T, UIEdgeInsets>;
 
 template <SameOnBothSides T>
 struct Bridge<T> {

@@ -19,6 +19,8 @@ inline constexpr std::string_view encodingOf<unsigned char> = "C"; // GNU's BOOL
 template <>
 inline constexpr std::string_view encodingOf<std::uint32_t> = "I";
 template <>
+inline constexpr std::string_view encodingOf<std::uint32_t*> = "^I";
+template <>
 inline constexpr std::string_view encodingOf<std::int64_t> = "q";
 template <>
 inline constexpr std::string_view encodingOf<std::uint64_t> = "Q";

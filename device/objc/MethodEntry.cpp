@@ -58,6 +58,26 @@ R entry(id self, SEL selector, P... arguments) noexcept {
     return answer<R>(self, selector, raw);
 }
 
+/// For an initialiser, which owns its receiver: that is what it answers with, or what its C++ half has become
+/// the other half of, or it is released.
+id initialise(id self, SEL selector, id argument) noexcept {
+    const auto receiver = instanceAs<NSObject>(self);
+    if (!receiver)
+        return self;
+    const std::array<RawArgument, 1> raw{RawArgument(argument)};
+    const bool isReady = static_cast<bool>(answer<ObjcBool>(self, selector, raw));
+    const id object = objectOf(*receiver);
+    if (isReady)
+        return object;
+    objc_release(object);
+    return nullptr;
+}
+
+bool isInitialiser(const Method& method) {
+    return method.selector.starts_with("init") && method.result == MessageType::Boolean &&
+           method.parameters.size() == 1;
+}
+
 // The types that a method has are put together one after the other: the result first, then the parameters.
 
 template <class R, class... P>
@@ -98,6 +118,8 @@ std::string_view encodingOfType(MessageType type) {
 } // namespace
 
 IMP methodEntry(const Method& method) {
+    if (isInitialiser(method))
+        return reinterpret_cast<IMP>(&initialise);
     switch (method.result) {
     case MessageType::Nothing:
         return entryWith<void>(method.parameters);
@@ -113,7 +135,7 @@ IMP methodEntry(const Method& method) {
 }
 
 std::string encodingOfMethod(const Method& method) {
-    std::string types(encodingOfType(method.result));
+    std::string types(isInitialiser(method) ? encodingOf<id> : encodingOfType(method.result));
     types += "@:";
     for (const auto parameter : method.parameters)
         types += encodingOfType(parameter);

@@ -15,6 +15,10 @@ public:
         const AutoreleasePool pool;
         return send<"-[PSSpecifier propertyForKey:]", Ref<NSObject>>(*this, key);
     }
+
+    [[nodiscard]] Ref<NSObject> target() const override {
+        return send<"-[PSSpecifier target]", Ref<NSObject>>(*this);
+    }
 };
 
 const FrameworkClassOf<SystemSpecifier> frameworkClass("PSSpecifier");

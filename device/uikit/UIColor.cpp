@@ -12,6 +12,10 @@ Ref<UIColor> UIColor::colorWithRed(double red, double green, double blue, double
     return sendToClass<"+[UIColor colorWithRed:green:blue:alpha:]", Ref<UIColor>>(red, green, blue, alpha);
 }
 
+Ref<UIColor> UIColor::colorWithWhite(double white, double alpha) {
+    return sendToClass<"+[UIColor colorWithWhite:alpha:]", Ref<UIColor>>(white, alpha);
+}
+
 Ref<UIColor> UIColor::clearColor() {
     return sendToClass<"+[UIColor clearColor]", Ref<UIColor>>();
 }
@@ -34,6 +38,10 @@ Ref<UIColor> UIColor::yellowColor() {
 
 Ref<UIColor> UIColor::lightGrayColor() {
     return sendToClass<"+[UIColor lightGrayColor]", Ref<UIColor>>();
+}
+
+Ref<UIColor> UIColor::labelColor() {
+    return sendToClass<"+[UIColor labelColor]", Ref<UIColor>>();
 }
 
 Ref<UIColor> UIColor::systemRedColor() {

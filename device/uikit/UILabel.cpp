@@ -28,3 +28,31 @@ void UILabel::setTextColor(const Ref<UIColor>& color) {
 void UILabel::setTextAlignment(NSTextAlignment alignment) {
     send<"-[UILabel setTextAlignment:]", void>(*this, alignment);
 }
+
+void UILabel::setNumberOfLines(int lines) {
+    send<"-[UILabel setNumberOfLines:]", void>(*this, std::int64_t{lines});
+}
+
+void UILabel::setLineBreakMode(NSLineBreakMode mode) {
+    send<"-[UILabel setLineBreakMode:]", void>(*this, mode);
+}
+
+void UILabel::setAdjustsFontSizeToFitWidth(bool adjusts) {
+    send<"-[UILabel setAdjustsFontSizeToFitWidth:]", void>(*this, adjusts);
+}
+
+void UILabel::setMinimumScaleFactor(double factor) {
+    send<"-[UILabel setMinimumScaleFactor:]", void>(*this, factor);
+}
+
+void UILabel::setAdjustsFontForContentSizeCategory(bool adjusts) {
+    send<"-[UILabel setAdjustsFontForContentSizeCategory:]", void>(*this, adjusts);
+}
+
+void UILabel::setShadowColor(const Ref<UIColor>& color) {
+    send<"-[UILabel setShadowColor:]", void>(*this, color);
+}
+
+void UILabel::setShadowOffset(CGSize offset) {
+    send<"-[UILabel setShadowOffset:]", void>(*this, offset);
+}

@@ -6,6 +6,7 @@
 #include "UIKit/NSLayoutYAxisAnchor.h"
 #include "UIKit/UILayoutGuide.h"
 #include "UIKit/UITapGestureRecognizer.h"
+#include "UIKit/UIViewController.h"
 #include "UIViewPeer.h"
 
 namespace {
@@ -90,6 +91,10 @@ CALayer& UIView::layer() const {
     return *send<"-[UIView layer]", Ref<CALayer>>(*this);
 }
 
+void UIView::setAccessibilityLabel(const std::optional<std::string>& label) {
+    send<"-[UIView setAccessibilityLabel:]", void>(*this, label);
+}
+
 void UIView::setTag(int tag) {
     send<"-[UIView setTag:]", void>(*this, static_cast<std::int64_t>(tag));
 }
@@ -108,6 +113,14 @@ void UIView::insertSubview(const Ref<UIView>& view, std::size_t index) {
 
 std::vector<Ref<UIView>> UIView::subviews() const {
     return send<"-[UIView subviews]", std::vector<Ref<UIView>>>(*this);
+}
+
+Ref<UIView> UIView::superview() const {
+    return send<"-[UIView superview]", Ref<UIView>>(*this);
+}
+
+Ref<UIViewController> UIView::_viewControllerForAncestor() const {
+    return send<"-[UIView _viewControllerForAncestor]", Ref<UIViewController>>(*this);
 }
 
 void UIView::setTranslatesAutoresizingMaskIntoConstraints(bool translates) {

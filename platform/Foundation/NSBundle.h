@@ -12,6 +12,9 @@ public:
     /// The bundle of the running application.
     [[nodiscard]] static Ref<NSBundle> mainBundle();
 
+    /// The bundle whose code states the class; the main bundle when none is known to.
+    [[nodiscard]] static Ref<NSBundle> bundleForClass(const Class& stated);
+
     /// Looks a text up in a string table, in the first of the user's languages that the bundle has.
     /// \param value the answer when the table or the key is missing; the key itself when this is absent or ""
     /// \param table the table's name; "Localizable" when it is absent or ""

@@ -20,4 +20,7 @@ public:
 
     /// The same for a property that is an object and not a value. Empty when the row has no such property.
     [[nodiscard]] virtual Ref<NSObject> propertyObjectForKey(std::string_view key) const = 0;
+
+    /// Whom the row's messages go to, the page as a rule; empty once it is gone.
+    [[nodiscard]] virtual Ref<NSObject> target() const = 0;
 };

@@ -9,6 +9,9 @@ public:
     /// Red, green, blue and alpha in 0..1.
     [[nodiscard]] static Ref<UIColor> colorWithRed(double red, double green, double blue, double alpha);
 
+    /// A grey, 0 being black.
+    [[nodiscard]] static Ref<UIColor> colorWithWhite(double white, double alpha);
+
     [[nodiscard]] static Ref<UIColor> clearColor();
     [[nodiscard]] static Ref<UIColor> blackColor();
     [[nodiscard]] static Ref<UIColor> whiteColor();
@@ -17,5 +20,7 @@ public:
     [[nodiscard]] static Ref<UIColor> yellowColor();
     /// White 2/3.
     [[nodiscard]] static Ref<UIColor> lightGrayColor();
+    /// Of texts.
+    [[nodiscard]] static Ref<UIColor> labelColor();
     [[nodiscard]] static Ref<UIColor> systemRedColor();
 };

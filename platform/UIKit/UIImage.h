@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Foundation/NSBundle.h"
 #include "ObjectiveC/NSObject.h"
 
 #include <string_view>
@@ -18,6 +19,13 @@ public:
     /// in "@2x" or "@3x" before its extension tells the picture's pixels per point; where one for the display
     /// lies beside the file of the plain name, that one is taken.
     [[nodiscard]] static Ref<UIImage> imageWithContentsOfFile(std::string_view path);
+
+    /// The picture at an absolute device path: the one whose name tells the display's pixels per point, if
+    /// there is one, else any of that name. Empty when there is none or it cannot be read.
+    [[nodiscard]] static Ref<UIImage> imageNamed(std::string_view path);
+
+    /// The same for a picture among a bundle's resources, by its name there.
+    [[nodiscard]] static Ref<UIImage> imageNamed(std::string_view name, const NSBundle& inBundle);
 
     /// The same image, drawn in that mode.
     [[nodiscard]] virtual Ref<UIImage> imageWithRenderingMode(UIImageRenderingMode mode) const = 0;

@@ -9,6 +9,8 @@
 #include <cstddef>
 #include <functional>
 #include <memory>
+#include <optional>
+#include <string>
 #include <vector>
 
 class NSLayoutDimension;
@@ -16,6 +18,7 @@ class NSLayoutXAxisAnchor;
 class NSLayoutYAxisAnchor;
 class UILayoutGuide;
 class UITapGestureRecognizer;
+class UIViewController;
 
 /// The platform's half of a view; each platform defines it.
 class UIViewPeer;
@@ -76,6 +79,8 @@ public:
     void setUserInteractionEnabled(bool enabled);
     void setAutoresizingMask(UIViewAutoresizing mask);
     [[nodiscard]] CALayer& layer() const;
+    /// What the view is called to somebody who does not see it; absent for what it shows.
+    void setAccessibilityLabel(const std::optional<std::string>& label);
     /// A number of the caller's own.
     void setTag(int tag);
     /// Has the recogniser watch the touches in the view and those within it.
@@ -87,6 +92,10 @@ public:
     void insertSubview(const Ref<UIView>& view, std::size_t index);
     /// The lowest first.
     [[nodiscard]] std::vector<Ref<UIView>> subviews() const;
+    /// Empty when the view is in none.
+    [[nodiscard]] Ref<UIView> superview() const;
+    /// The nearest controller whose view this is or lies in; empty when there is none.
+    [[nodiscard]] Ref<UIViewController> _viewControllerForAncestor() const;
 
     /// Whether the frame holds as it is set, as it does at first; else constraints decide it.
     void setTranslatesAutoresizingMaskIntoConstraints(bool translates);

@@ -39,6 +39,7 @@ AlertButtonView::AlertButtonView(const Ref<DesktopAlertAction>& action)
     label_->setText(action->title());
     label_->setTextAlignment(NSTextAlignment::Center);
     label_->setFont(DesktopFont::font(fontSize, cancels ? FontWeight::Semibold : FontWeight::Regular));
+    peerOf<UILabelPeer>(*label_).setAdjustsFontSizeToFitWidth(true);
     peerOf<UILabelPeer>(*label_).setMinimumScaleFactor(leastScale);
     for (const auto& view : std::initializer_list<Ref<UIView>>{highlight_, lineAbove_, lineBeside_, label_})
         addSubview(view);

@@ -64,6 +64,8 @@ void LayoutProblem::collect(UIView& view) {
         addGivenFrame(view, unknowns);
         return;
     }
+    add({unknowns.width, LinearRelation::GreaterOrEqual, 0});
+    add({unknowns.height, LinearRelation::GreaterOrEqual, 0});
     for (const auto& subview : view.peer().subviews())
         collect(*subview);
 }
@@ -71,7 +73,6 @@ void LayoutProblem::collect(UIView& view) {
 void LayoutProblem::addHostSize(const HostSize& size) {
     const auto& unknowns = unknowns_[&host_];
     const auto addLength = [this](const LinearVariable& length, const std::optional<double>& given) {
-        add({length, LinearRelation::GreaterOrEqual, 0});
         if (given)
             add({length, LinearRelation::Equal, *given});
         else
@@ -91,8 +92,15 @@ void LayoutProblem::addGivenFrame(const UIView& view, const Unknowns& unknowns) 
 
 void LayoutProblem::add(const LinearConstraint& constraint) {
     if (!solver_.addConstraint(constraint))
-        NSLog("Unable to simultaneously satisfy constraints of %@; one of them is left out.",
-              host_.description());
+        isContradictory_ = true;
+}
+
+void LayoutProblem::logContradiction() const {
+    if (std::exchange(host_.peer().layoutRules().contradictionIsLogged, isContradictory_) ||
+        !isContradictory_)
+        return;
+    NSLog("Unable to simultaneously satisfy constraints of %@; some of them are left out.",
+          host_.description());
 }
 
 void LayoutProblem::addConstraints(const UIView& view) {
@@ -115,7 +123,6 @@ void LayoutProblem::addIntrinsicSizes() {
 void LayoutProblem::addIntrinsicSize(const UIViewPeer& view, const Unknowns& unknowns) {
     const auto addLength = [this](const LinearVariable& length, const std::optional<double>& intrinsic,
                                   const ContentPriorities& priorities) {
-        add({length, LinearRelation::GreaterOrEqual, 0});
         if (!intrinsic)
             return;
         const auto keep = [this](const LinearConstraint& constraint) {
@@ -197,6 +204,7 @@ CGRect LayoutProblem::solvedFrame(const Unknowns& unknowns) const {
 }
 
 void LayoutProblem::apply() const {
+    logContradiction();
     const auto scale = host_.peer().traits().displayScale;
     for (auto* view : views_) {
         if (view == &host_ || view->peer().isFrameGiven())

@@ -58,6 +58,8 @@ private:
     void addIntrinsicSize(const UIViewPeer& view, const Unknowns& unknowns);
     void addConstraints(const UIView& view);
     void wrapTexts();
+    /// Once, until the host's constraints can all hold again.
+    void logContradiction() const;
     [[nodiscard]] std::optional<LinearExpression> originInHost(const UIView& view, bool horizontal) const;
     [[nodiscard]] std::optional<Extent> extent(const UIView& view, LayoutGuide guide, bool horizontal) const;
     [[nodiscard]] CGRect solvedFrame(const Unknowns& unknowns) const;
@@ -67,4 +69,5 @@ private:
     std::vector<UIView*> views_; ///< the host first, each before those within it
     std::map<const UIView*, Unknowns> unknowns_;
     std::vector<LinearSolver::ConstraintId> intrinsicSizes_;
+    bool isContradictory_ = false; ///< not everything that is required can hold
 };

@@ -91,7 +91,6 @@ void UIStackViewPeer::addOwnConstraints(LayoutProblem& problem) const {
 void UIStackViewPeer::addAlong(LayoutProblem& problem, const Place& own,
                                const std::vector<Place>& places) const {
     problem.add({places.front().begin, LinearRelation::Equal, own.begin});
-    problem.add({places.back().end, LinearRelation::Equal, own.end});
     const auto gapsMayGrow = distribution_ == UIStackViewDistribution::EqualSpacing;
     for (std::size_t index = 1; index < places.size(); ++index) {
         const auto least = places[index - 1].end + spacing_;
@@ -100,16 +99,22 @@ void UIStackViewPeer::addAlong(LayoutProblem& problem, const Place& own,
         if (gapsMayGrow)
             problem.add({places[index].begin, LinearRelation::Equal, least, huggingPriority});
     }
+    // Where it all is too long, the end is what does not hold, so that nothing lies above anything else.
+    problem.add({places.back().end, LinearRelation::Equal, own.end});
 }
 
 void UIStackViewPeer::addAcross(LayoutProblem& problem, const Place& own, const Place& place) const {
     const auto begin =
         alignment_ == UIStackViewAlignment::Fill || alignment_ == UIStackViewAlignment::Leading;
     const auto end = alignment_ == UIStackViewAlignment::Fill || alignment_ == UIStackViewAlignment::Trailing;
+    const auto isCentered = alignment_ == UIStackViewAlignment::Center;
+    // What is too large in the middle of the stack stays there and extends beyond it on both sides.
+    const auto within = isCentered ? nearlyRequired : LinearConstraint::required;
+    problem.add({place.crossBegin, begin ? LinearRelation::Equal : LinearRelation::GreaterOrEqual,
+                 own.crossBegin, within});
     problem.add(
-        {place.crossBegin, begin ? LinearRelation::Equal : LinearRelation::GreaterOrEqual, own.crossBegin});
-    problem.add({place.crossEnd, end ? LinearRelation::Equal : LinearRelation::LessOrEqual, own.crossEnd});
-    if (alignment_ == UIStackViewAlignment::Center)
+        {place.crossEnd, end ? LinearRelation::Equal : LinearRelation::LessOrEqual, own.crossEnd, within});
+    if (isCentered)
         problem.add(
             {place.crossBegin + place.crossEnd, LinearRelation::Equal, own.crossBegin + own.crossEnd});
     problem.add({own.crossEnd - own.crossBegin, LinearRelation::Equal, 0, 1}); // no larger than the largest

@@ -8,7 +8,8 @@
 
 namespace {
 
-const Class classObject = Class::define<UIWindow, UIView>("UIWindow");
+const Class classObject = Class::define<UIWindow, UIView>(
+    "UIWindow", {method<"rootViewController", &UIWindow::rootViewController>()});
 
 class UIWindowPeer final : public UIViewPeer {
 public:

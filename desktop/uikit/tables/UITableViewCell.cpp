@@ -9,6 +9,9 @@ namespace {
 
 const Class cellClass = Class::define<UITableViewCell, UIView>("UITableViewCell");
 
+/// Until a table places the cell: the platform's own, which a cell may look at when it is made.
+constexpr auto firstFrame = CGRectMake(0, 0, 320, 44);
+
 } // namespace
 
 UITableViewCell::UITableViewCell() : UITableViewCell(std::make_unique<UITableViewCellPeer>()) {}
@@ -19,8 +22,9 @@ UITableViewCell::UITableViewCell(std::unique_ptr<UIViewPeer> peer) : UIView(std:
 
 bool UITableViewCell::initWithStyle(UITableViewCellStyle style,
                                     const std::optional<std::string>& reuseIdentifier) {
-    if (!UIView::initWithFrame({}))
+    if (!UIView::initWithFrame(firstFrame))
         return false;
+    contentView().setFrame(firstFrame);
     peerOf<UITableViewCellPeer>(*this).setUp(style, reuseIdentifier.value_or(""));
     return true;
 }

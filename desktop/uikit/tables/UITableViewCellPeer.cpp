@@ -228,18 +228,17 @@ double UITableViewCellPeer::heightFor(double width) const {
     if (style_ == UITableViewCellStyle::Subtitle && hasText(*detailTextLabel_))
         texts += heightOf(*detailTextLabel_, room);
     const TableMetrics metrics(width, traits().displayScale);
-    return metrics.rounded(std::max(TableMetrics::minimumRowHeight, texts + 2 * verticalPadding));
+    return metrics.rounded(
+        std::max({TableMetrics::minimumRowHeight, texts + 2 * verticalPadding, constrainedHeight(width)}));
 }
 
 double UITableViewCellPeer::constrainedHeight(double width) const {
-    if (!LayoutProblem::isHost(*contentView_))
-        return 0;
-    const TableMetrics metrics(width, traits().displayScale);
-    return metrics.rounded(contentView_->peer().fittingSize(contentWidth(width)).height);
+    return LayoutProblem::isHost(*contentView_) ? contentView_->peer().fittingSize(contentWidth(width)).height
+                                                : 0;
 }
 
 CGSize UITableViewCellPeer::sizeThatFits(CGSize room) const {
-    return {room.width, std::max(heightFor(room.width), constrainedHeight(room.width))};
+    return {room.width, heightFor(room.width)};
 }
 
 double UITableViewCellPeer::contentWidth(double width) const {

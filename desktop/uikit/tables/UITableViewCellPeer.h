@@ -101,7 +101,9 @@ private:
     [[nodiscard]] const UIView* accessory() const;
     [[nodiscard]] CGRect accessoryFrame(const CGRect& bounds) const;
     [[nodiscard]] TextRoom textRoom(double width) const;
+    /// Of the content view in a cell of that width.
     [[nodiscard]] double contentWidth(double width) const;
+    /// The height that constraints in the content view give it; 0 without any.
     [[nodiscard]] double constrainedHeight(double width) const;
     void showAccessory();
     /// How much the row looks pressed, from 0 to 1.

@@ -5,7 +5,7 @@
 #include "views/UIViewPeer.h"
 
 /// The desktop's half of a backdrop: its material, and whether it fills its superview. Made with the view.
-class BackdropViewPeer final : public UIViewPeer {
+class BackdropViewPeer : public UIViewPeer {
 public:
     using Object = _UIBackdropView;
 

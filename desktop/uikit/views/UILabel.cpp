@@ -4,6 +4,7 @@
 #include "ObjectiveC/Class.h"
 #include "views/UILabelPeer.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -30,4 +31,31 @@ void UILabel::setTextColor(const Ref<UIColor>& color) {
 
 void UILabel::setTextAlignment(NSTextAlignment alignment) {
     peerOf<UILabelPeer>(*this).setTextAlignment(alignment);
+}
+
+void UILabel::setNumberOfLines(int lines) {
+    peerOf<UILabelPeer>(*this).setNumberOfLines(static_cast<std::size_t>(std::max(lines, 0)));
+}
+
+void UILabel::setLineBreakMode(NSLineBreakMode mode) {
+    peerOf<UILabelPeer>(*this).setLineBreakMode(mode);
+}
+
+void UILabel::setAdjustsFontSizeToFitWidth(bool adjusts) {
+    peerOf<UILabelPeer>(*this).setAdjustsFontSizeToFitWidth(adjusts);
+}
+
+void UILabel::setMinimumScaleFactor(double factor) {
+    peerOf<UILabelPeer>(*this).setMinimumScaleFactor(factor);
+}
+
+// No font here is that of a text style, and any other keeps its size.
+void UILabel::setAdjustsFontForContentSizeCategory(bool /*adjusts*/) {}
+
+void UILabel::setShadowColor(const Ref<UIColor>& color) {
+    peerOf<UILabelPeer>(*this).setShadowColor(color);
+}
+
+void UILabel::setShadowOffset(CGSize offset) {
+    peerOf<UILabelPeer>(*this).setShadowOffset(offset);
 }

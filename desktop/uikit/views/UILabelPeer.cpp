@@ -29,6 +29,9 @@ HorizontalAlignment horizontal(NSTextAlignment alignment) {
 /// A smaller text is not smaller in exact proportion, so it is aimed a pixel lower and measured again.
 constexpr int shrinkingAttempts = 4;
 
+/// Of a text of several lines, from its size down to the least.
+constexpr int shrinkingSteps = 12;
+
 } // namespace
 
 UILabelPeer::UILabelPeer() : textColor_(DesktopColor::system(SystemColor::Label)) {
@@ -68,9 +71,29 @@ void UILabelPeer::setNumberOfLines(std::size_t lines) {
     changed();
 }
 
+void UILabelPeer::setLineBreakMode(NSLineBreakMode mode) {
+    lineBreakMode_ = mode;
+    changed();
+}
+
+void UILabelPeer::setAdjustsFontSizeToFitWidth(bool adjusts) {
+    adjustsFontSizeToFitWidth_ = adjusts;
+    changed();
+}
+
 void UILabelPeer::setMinimumScaleFactor(double factor) {
     minimumScaleFactor_ = factor;
     changed();
+}
+
+void UILabelPeer::setShadowColor(const Ref<UIColor>& color) {
+    shadowColor_ = color;
+    setNeedsDisplay();
+}
+
+void UILabelPeer::setShadowOffset(CGSize offset) {
+    shadowOffset_ = offset;
+    setNeedsDisplay();
 }
 
 void UILabelPeer::setPreferredMaxLayoutWidth(double width) {
@@ -123,9 +146,21 @@ std::size_t UILabelPeer::lineLimit(const FontStyle& style, double height) const 
     return static_cast<std::size_t>(fitting);
 }
 
-FontStyle UILabelPeer::styleFitting(double width, double scale) const {
-    if (minimumScaleFactor_ >= 1 || numberOfLines_ != 1)
+TextLayoutOptions UILabelPeer::optionsFor(const FontStyle& style, CGSize size, double scale) const {
+    return {.maximumWidth = size.width,
+            .maximumLines = lineLimit(style, size.height),
+            .alignment = horizontal(textAlignment_),
+            .endsWithEllipsis = lineBreakMode_ == NSLineBreakMode::ByTruncatingTail,
+            .pixelScale = scale};
+}
+
+FontStyle UILabelPeer::styleFitting(CGSize size, double scale) const {
+    if (!adjustsFontSizeToFitWidth_)
         return fontStyle_;
+    return numberOfLines_ == 1 ? styleFittingLine(size.width, scale) : styleFittingLines(size, scale);
+}
+
+FontStyle UILabelPeer::styleFittingLine(double width, double scale) const {
     const auto& text = text_.value_or(std::string());
     auto style = fontStyle_;
     const auto smallest = fontStyle_.size * minimumScaleFactor_;
@@ -138,14 +173,22 @@ FontStyle UILabelPeer::styleFitting(double width, double scale) const {
     return style;
 }
 
+FontStyle UILabelPeer::styleFittingLines(CGSize size, double scale) const {
+    const auto& text = text_.value_or(std::string());
+    auto style = fontStyle_;
+    for (auto step = 1; step <= shrinkingSteps; ++step) {
+        if (!TextLayout(text, style, optionsFor(style, size, scale)).isTruncated())
+            break;
+        style.size = fontStyle_.size * std::lerp(1, minimumScaleFactor_, step / double{shrinkingSteps});
+    }
+    return style;
+}
+
 const TextLayout& UILabelPeer::layoutFor(CGSize size, double scale) const {
     if (!laid_ || laid_->size != size || laid_->scale != scale) {
-        const auto style = styleFitting(size.width, scale);
-        const TextLayoutOptions options{.maximumWidth = size.width,
-                                        .maximumLines = lineLimit(style, size.height),
-                                        .alignment = horizontal(textAlignment_),
-                                        .pixelScale = scale};
-        laid_.emplace(Laid{size, scale, TextLayout(text_.value_or(std::string()), style, options)});
+        const auto style = styleFitting(size, scale);
+        laid_.emplace(Laid{size, scale,
+                           TextLayout(text_.value_or(std::string()), style, optionsFor(style, size, scale))});
     }
     return laid_->layout;
 }
@@ -198,5 +241,8 @@ void UILabelPeer::drawLayer(QPainter& painter, const CGRect& bounds, const Trait
     const auto& layout = layoutFor(bounds.size, traits.displayScale);
     const QPointF origin(bounds.origin.x,
                          bounds.origin.y + top(layout, bounds.size.height, traits.displayScale));
+    if (shadowColor_)
+        layout.paint(painter, origin + QPointF(shadowOffset_.width, shadowOffset_.height),
+                     DesktopColor::resolve(shadowColor_, traits).toQColor());
     layout.paint(painter, origin, DesktopColor::resolve(textColor_, traits).toQColor());
 }

@@ -41,9 +41,20 @@ public:
 
     void setNumberOfLines(std::size_t lines);
 
-    /// How small a text of one line may be made to fit the bounds' width, as a part of its size; 1 keeps the
-    /// size.
+    /// How a text is set that has no room in its lines: with an ellipsis until another is set.
+    void setLineBreakMode(NSLineBreakMode mode);
+
+    /// Whether a text that does not fit is made smaller; not so until it is told.
+    void setAdjustsFontSizeToFitWidth(bool adjusts);
+
+    /// How small it may become, as a part of its size; without limit until one is set.
     void setMinimumScaleFactor(double factor);
+
+    /// Of the text; empty for none, as at first.
+    void setShadowColor(const Ref<UIColor>& color);
+
+    /// In points, to the right and down. One point up until another is set.
+    void setShadowOffset(CGSize offset);
 
     /// The width that a text of several lines is wrapped to for the intrinsic height; 0 for none.
     [[nodiscard]] double preferredMaxLayoutWidth() const { return preferredMaxLayoutWidth_; }
@@ -76,7 +87,10 @@ private:
     void changed();
     [[nodiscard]] CGSize textSize(double width) const;
     [[nodiscard]] std::size_t lineLimit(const FontStyle& style, double height) const;
-    [[nodiscard]] FontStyle styleFitting(double width, double scale) const;
+    [[nodiscard]] TextLayoutOptions optionsFor(const FontStyle& style, CGSize size, double scale) const;
+    [[nodiscard]] FontStyle styleFitting(CGSize size, double scale) const;
+    [[nodiscard]] FontStyle styleFittingLine(double width, double scale) const;
+    [[nodiscard]] FontStyle styleFittingLines(CGSize size, double scale) const;
     [[nodiscard]] const TextLayout& layoutFor(CGSize size, double scale) const;
     [[nodiscard]] static double top(const TextLayout& layout, double height, double scale);
 
@@ -85,7 +99,11 @@ private:
     Ref<UIColor> textColor_;
     NSTextAlignment textAlignment_ = NSTextAlignment::Natural;
     std::size_t numberOfLines_ = 1;
-    double minimumScaleFactor_ = 1;
+    NSLineBreakMode lineBreakMode_ = NSLineBreakMode::ByTruncatingTail;
+    bool adjustsFontSizeToFitWidth_ = false;
+    double minimumScaleFactor_ = 0;
+    Ref<UIColor> shadowColor_;
+    CGSize shadowOffset_{.width = 0, .height = -1};
     double preferredMaxLayoutWidth_ = 0;
     mutable std::optional<Laid> laid_;
 };

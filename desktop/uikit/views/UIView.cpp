@@ -96,6 +96,10 @@ CALayer& UIView::layer() const {
     return peer_->layer();
 }
 
+void UIView::setAccessibilityLabel(const std::optional<std::string>& label) {
+    peer_->setAccessibilityLabel(label.value_or(""));
+}
+
 void UIView::setTag(int tag) {
     peer_->setTag(tag);
 }
@@ -110,6 +114,10 @@ void UIView::insertSubview(const Ref<UIView>& view, std::size_t index) {
 
 std::vector<Ref<UIView>> UIView::subviews() const {
     return peer_->subviews();
+}
+
+Ref<UIView> UIView::superview() const {
+    return peer_->superview() != nullptr ? retain(peer_->superview()) : nullptr;
 }
 
 void UIView::layoutSubviews() {

@@ -186,6 +186,8 @@ public:
 
     void setAccessibility(Accessibility accessibility) { accessibility_ = std::move(accessibility); }
 
+    void setAccessibilityLabel(std::string label) { accessibility_.label = std::move(label); }
+
     /// The view's own text, as shown; nothing when it shows none.
     [[nodiscard]] virtual std::optional<std::string> shownText() const { return std::nullopt; }
 

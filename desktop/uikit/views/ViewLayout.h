@@ -20,4 +20,5 @@ struct ViewLayout {
     UIEdgeInsets margins{.top = 8, .left = 8, .bottom = 8, .right = 8};
     /// The active ones that the view holds.
     std::vector<Ref<NSLayoutConstraint>> constraints;
+    bool contradictionIsLogged = false; ///< of what is to hold within the view
 };

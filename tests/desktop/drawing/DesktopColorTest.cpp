@@ -35,6 +35,10 @@ TEST(DesktopColor, HasThePlatformsPlainColours) {
     EXPECT_EQ(DesktopColor::resolve(UIColor::grayColor(), dark), (ColorComponents{0.5, 0.5, 0.5, 1}));
     EXPECT_EQ(DesktopColor::resolve(UIColor::yellowColor(), dark), (ColorComponents{1, 1, 0, 1}));
     EXPECT_NEAR(DesktopColor::resolve(UIColor::lightGrayColor(), dark).red, 2.0 / 3, 1e-12);
+    EXPECT_EQ(DesktopColor::resolve(UIColor::colorWithWhite(0.2, 0.3), dark),
+              (ColorComponents{0.2, 0.2, 0.2, 0.3}));
+    EXPECT_EQ(DesktopColor::resolve(UIColor::labelColor(), dark),
+              systemColor(SystemColor::Label, Appearance::Dark));
     EXPECT_EQ(DesktopColor::resolve(UIColor::systemRedColor(), dark),
               systemColor(SystemColor::Red, Appearance::Dark));
 }

@@ -83,8 +83,8 @@ TEST(TextLayoutTest, ATextFitsTheSizeThatItReports) {
 TEST(TextLayoutTest, HeavierTextsAreWider) {
     const std::string text = "Restore from Backup";
     double previous = 0;
-    for (const auto weight :
-         {FontWeight::Regular, FontWeight::Medium, FontWeight::Semibold, FontWeight::Bold}) {
+    for (const auto weight : {FontWeight::Light, FontWeight::Regular, FontWeight::Medium,
+                              FontWeight::Semibold, FontWeight::Bold}) {
         const double width = widthOf(text, {.size = 17, .weight = weight});
         EXPECT_GT(width, previous);
         previous = width;
@@ -146,6 +146,15 @@ TEST(TextLayoutTest, LinesBeforeTheLastAreWrappedAsUsual) {
     const auto layout = within(width, "on it\nfour five six", 2);
     EXPECT_TRUE(layout.isTruncated());
     expectLines(layout, {"on it", "four fi…"});
+}
+
+TEST(TextLayoutTest, ATextThatIsTooLongJustEndsWhenToldSo) {
+    const TextLayout layout(
+        "one two three", body,
+        {.maximumWidth = widthOf("one two") + 1, .maximumLines = 1, .endsWithEllipsis = false});
+    EXPECT_TRUE(layout.isTruncated());
+    EXPECT_EQ(layout.lineCount(), 1U);
+    EXPECT_NEAR(layout.lineRect(0).width(), widthOf("one two"), 1);
 }
 
 TEST(TextLayoutTest, ALineBreakBehindTheLastLineIsTextThatIsNotShown) {

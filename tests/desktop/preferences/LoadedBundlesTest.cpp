@@ -88,3 +88,10 @@ TEST_F(LoadedBundlesTest, OtherClassesAreTheApplications) {
     const Class other = Class::define<Other>("LoadedBundlesTestOther");
     EXPECT_EQ(pathOf(other), "/Applications/Preferences.app");
 }
+
+TEST_F(LoadedBundlesTest, TheContractAsksForAClassesBundleHere) {
+    const Class loaded = Class::define<Loaded>("LoadedBundlesTestLoaded");
+    bundles().addClass(loaded, DesktopBundle::withPath("/one"));
+    EXPECT_EQ(NSBundle::bundleForClass(loaded), bundles().bundleOf(loaded));
+    EXPECT_EQ(pathOf(loaded), "/one");
+}

@@ -1,7 +1,6 @@
 #include "DesktopColor.h"
 #include "ObjectiveC/Class.h"
 #include "PSControlTableCellPeer.h"
-#include "PSHeaderFooterView.h"
 #include "PSTableCellPeer.h"
 #include "PageFixture.h"
 #include "Preferences/PSSwitchTableCell.h"
@@ -66,14 +65,14 @@ public:
 };
 
 /// A caption that is a third as high as it is wide.
-class Banner : public UIView, public PSHeaderFooterView {
+class Banner : public UIView {
 public:
-    [[nodiscard]] bool initWithSpecifier(PSSpecifier& specifier) override {
-        title = specifier.propertyForKey("title");
+    [[nodiscard]] bool initWithSpecifier(const Ref<PSSpecifier>& specifier) {
+        title = specifier->propertyForKey("title");
         return UIView::init();
     }
 
-    [[nodiscard]] double preferredHeightForWidth(double width) override { return width / 3; }
+    [[nodiscard]] double preferredHeightForWidth(double width) { return width / 3; }
 
     std::optional<PropertyList> title;
 };
@@ -83,7 +82,9 @@ class NoCell : public NSObject {};
 const Class ownCellClass = Class::define<OwnCell, PSTableCell>("CellTestOwnCell");
 const Class ownSwitchCellClass = Class::define<OwnSwitchCell, PSSwitchTableCell>("CellTestOwnSwitchCell");
 const Class refusingCellClass = Class::define<RefusingCell, PSTableCell>("CellTestRefusingCell");
-const Class bannerClass = Class::define<Banner, UIView>("CellTestBanner");
+const Class bannerClass = Class::define<Banner, UIView>(
+    "CellTestBanner", {method<"initWithSpecifier:", &Banner::initWithSpecifier>(),
+                       method<"preferredHeightForWidth:", &Banner::preferredHeightForWidth>()});
 const Class noCellClass = Class::define<NoCell>("CellTestNoCell");
 
 ColorComponents colorOf(const UILabel& label) {

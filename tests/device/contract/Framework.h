@@ -12,6 +12,13 @@ id newByName(const char* className);
 id newWithFrame(const char* className, CGRect frame);
 id newWithCoder(const char* className);
 id newCell(const char* className, std::int64_t style, id reuseIdentifier, id specifier);
+/// With `initWithSpecifier:`.
+id newWithSpecifier(const char* className, id specifier);
+/// A view is in that superview now, or in none.
+void moveView(id view, id superview);
+/// What the application's window shows, and whose view every view is in; null for none. Not kept alive.
+void showRootController(id controller);
+void putViewsInto(id controller);
 
 /// With `alloc` alone. The caller owes a release.
 id allocatedByName(const char* className);
@@ -59,6 +66,8 @@ id performWithTwo(id receiver, const char* selector, id first, id second);
 /// The same through the types that the class was published with, and answered as a number.
 long invokeForInteger(id receiver, const char* selector, id argument);
 void invokeWithDouble(id receiver, const char* selector, double argument);
+double preferredHeight(id view, double width);
+id loadedImage(id cell, id name, std::int64_t renderingMode);
 /// `second` for methods of two parameters.
 void invokeWithBooleans(id receiver, const char* selector, bool first, bool second);
 bool invokeForBoolean(id receiver, const char* selector);

@@ -3,6 +3,13 @@
 #import <Foundation/NSDebug.h>
 #import <objc/runtime.h>
 
+// What the framework, or a page, asks cells that have it.
+@interface NSObject (Rows)
+- (id)initWithSpecifier:(id)specifier;
+- (double)preferredHeightForWidth:(double)width;
+- (id)loadImageNamed:(NSString *)name withRenderingMode:(NSInteger)mode;
+@end
+
 id newByName(const char *className) {
     return [objc_getClass(className) new];
 }
@@ -18,6 +25,18 @@ id newWithCoder(const char *className) {
 
 id newCell(const char *className, long style, id reuseIdentifier, id specifier) {
     return [[objc_getClass(className) alloc] initWithStyle:style reuseIdentifier:reuseIdentifier specifier:specifier];
+}
+
+id newWithSpecifier(const char *className, id specifier) {
+    return [[objc_getClass(className) alloc] initWithSpecifier:specifier];
+}
+
+double preferredHeight(id view, double width) {
+    return [view preferredHeightForWidth:width];
+}
+
+id loadedImage(id cell, id name, long renderingMode) {
+    return [cell loadImageNamed:name withRenderingMode:renderingMode];
 }
 
 id allocatedByName(const char *className) {

@@ -71,7 +71,6 @@ static id answer(id receiver, SEL question, Class class) {
 - (void)setTranslatesAutoresizingMaskIntoConstraints:(BOOL)translates { record(self, _cmd, @"%d", translates); }
 - (void)setLayoutMargins:(UIEdgeInsets)margins { record(self, _cmd, @"%@", describeInsets(margins)); }
 - (void)tintColorDidChange { record(self, _cmd, @""); }
-- (void)didMoveToSuperview { record(self, _cmd, @""); }
 - (id)leadingAnchor { return answer(self, _cmd, [NSLayoutXAxisAnchor class]); }
 - (id)trailingAnchor { return answer(self, _cmd, [NSLayoutXAxisAnchor class]); }
 - (id)centerXAnchor { return answer(self, _cmd, [NSLayoutXAxisAnchor class]); }
@@ -114,7 +113,10 @@ static id answer(id receiver, SEL question, Class class) {
 - (void)setAlignment:(NSInteger)alignment { record(self, _cmd, @"%ld", (long)alignment); }
 - (void)setSpacing:(double)spacing { record(self, _cmd, @"%g", spacing); }
 - (void)setLayoutMarginsRelativeArrangement:(BOOL)relative { record(self, _cmd, @"%d", relative); }
-- (void)addArrangedSubview:(UIView *)view { record(self, _cmd, @"%@", describe(view)); }
+- (void)addArrangedSubview:(UIView *)view {
+    record(self, _cmd, @"%@", describe(view));
+    [subviews addObject:view];
+}
 @end
 
 @implementation UINavigationBar

@@ -100,7 +100,10 @@ const std::vector<Accessors> accessors{
     {"GlintImageSwitch", "shadowColor", "setShadowColor:", "UIColor"},
     {"GlintImageSwitch", "thumbImage", "setThumbImage:", "UIImage"},
     {"GlintImageSwitch", "onImage", "setOnImage:", "UIImage"},
-    {"GlintImageSwitch", "offImage", "setOffImage:", "UIImage"}};
+    {"GlintImageSwitch", "offImage", "setOffImage:", "UIImage"},
+    {"TweakCustomCell", "leftIconImage", "setLeftIconImage:", "UIImage"},
+    {"TweakCustomCell", "middleIconImage", "setMiddleIconImage:", "UIImage"},
+    {"TweakCustomCell", "rightIconImage", "setRightIconImage:", "UIImage"}};
 
 /// Those that the tests below call by name.
 const std::map<std::string, std::set<std::string>> calledByName{

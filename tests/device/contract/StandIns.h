@@ -50,6 +50,7 @@ void callBlockWithObject(void* block, id object);
     NSString* name;
     NSInteger renderingMode;
 }
++ (UIImage*)systemImageNamed:(NSString*)name;
 @end
 
 @interface CALayer : NSObject {
@@ -76,11 +77,13 @@ void callBlockWithObject(void* block, id object);
     double alpha;
     UIColor* backgroundColor;
     CALayer* layer;
+    UIView* superview; // not kept alive
     NSMutableArray* subviews;
 }
 - (id)initWithFrame:(CGRect)frame;
 - (id)initWithCoder:(NSCoder*)coder;
 - (void)layoutSubviews;
+- (void)didMoveToSuperview;
 @end
 
 @interface UIControl : UIView {
@@ -94,12 +97,6 @@ void callBlockWithObject(void* block, id object);
 - (BOOL)continueTrackingWithTouch:(UITouch*)touch withEvent:(UIEvent*)event;
 - (void)endTrackingWithTouch:(UITouch*)touch withEvent:(UIEvent*)event;
 - (void)cancelTrackingWithEvent:(UIEvent*)event;
-@end
-
-// A button of the framework's that names a page; the pane knows nothing of its class.
-@interface TweakButton : UIControl {
-    NSString* identifier;
-}
 @end
 
 // A view that tells its target, with its action, that its end goes on.
@@ -210,6 +207,7 @@ void callBlockWithObject(void* block, id object);
 @interface PSSpecifier : NSObject {
 @public
     NSMutableDictionary* properties;
+    id target; // not kept alive
 }
 @end
 

@@ -83,6 +83,10 @@ void callBlockWithObject(void *block, id object) {
 + (UIColor *)colorWithRed:(double)red green:(double)green blue:(double)blue alpha:(double)alpha {
     return [self named:[NSString stringWithFormat:@"rgba(%g, %g, %g, %g)", red, green, blue, alpha]];
 }
++ (UIColor *)colorWithWhite:(double)white alpha:(double)alpha {
+    return [self named:[NSString stringWithFormat:@"white(%g, %g)", white, alpha]];
+}
++ (UIColor *)labelColor { return [self named:@"label"]; }
 + (UIColor *)clearColor { return [self named:@"clear"]; }
 + (UIColor *)blackColor { return [self named:@"black"]; }
 + (UIColor *)whiteColor { return [self named:@"white"]; }
@@ -261,6 +265,7 @@ static NSMutableArray *completions;
     [subviews insertObject:view atIndex:(NSUInteger)index];
 }
 - (void)layoutSubviews { record(self, _cmd, @""); }
+- (void)didMoveToSuperview { record(self, _cmd, @""); }
 + (void)animateWithDuration:(double)duration
                       delay:(double)delay
                     options:(NSUInteger)options
@@ -315,15 +320,6 @@ void finishAnimations(void) {
     record(self, _cmd, @"%@ %@", describe(touch), describe(event));
 }
 - (void)cancelTrackingWithEvent:(UIEvent *)event { record(self, _cmd, @"%@", describe(event)); }
-@end
-
-@implementation TweakButton
-- (NSString *)identifier { return identifier; }
-- (void)setIdentifier:(NSString *)given { ASSIGN(identifier, given); }
-- (void)dealloc {
-    [identifier release];
-    [super dealloc];
-}
 @end
 
 @implementation LeavingView
@@ -611,6 +607,8 @@ void finishAnimations(void) {
 @end
 
 @implementation PSSpecifier
+- (id)target { return target; }
+- (void)setTarget:(id)given { target = given; }
 - (id)propertyForKey:(NSString *)key { return [properties objectForKey:key]; }
 - (void)setProperty:(id)value forKey:(NSString *)key {
     record(self, _cmd, @"%@ %@", describe(value), describe(key));

@@ -109,6 +109,18 @@ TEST_F(UIViewControllerTest, aViewThatOutlivesItsControllerBelongsToNone) {
     view->peer().layoutIfNeeded();
 }
 
+TEST_F(UIViewControllerTest, isFoundFromAnyViewInIts) {
+    const auto outer = page("A");
+    const auto inner = page("B");
+    const auto view = make<UIView>();
+    EXPECT_FALSE(view->_viewControllerForAncestor());
+    inner->view().addSubview(view);
+    EXPECT_EQ(view->_viewControllerForAncestor(), inner);
+    EXPECT_EQ(inner->view()._viewControllerForAncestor(), inner);
+    outer->view().addSubview(retain(&inner->view()));
+    EXPECT_EQ(view->_viewControllerForAncestor(), inner);
+}
+
 TEST_F(UIViewControllerTest, itsTitleIsItsNavigationItemsTitle) {
     const auto page = this->page("A");
     page->peer().setTitle("Backups");

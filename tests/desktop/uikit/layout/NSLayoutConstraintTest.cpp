@@ -138,6 +138,31 @@ TEST_F(NSLayoutConstraintTest, AContradictionIsLoggedAndTheRestHolds) {
     EXPECT_EQ(device.log().take().size(), 1U);
 }
 
+TEST_F(NSLayoutConstraintTest, AContradictionIsLoggedOnceUntilItIsGone) {
+    const auto view = add();
+    fill(*view);
+    equal({*view, Width}, 10);
+    layOut();
+    static_cast<void>(device.log().take());
+    host->peer().setNeedsLayout();
+    layOut();
+    EXPECT_TRUE(device.log().take().empty());
+    host->setFrame(CGRectMake(0, 0, 10, 200));
+    layOut();
+    host->setFrame(CGRectMake(0, 0, 20, 200));
+    layOut();
+    EXPECT_EQ(device.log().take().size(), 1U);
+}
+
+TEST_F(NSLayoutConstraintTest, ALengthIsNeverNegative) {
+    const auto view = add();
+    equal({*view, Left}, {*host, Left}, 50);
+    equal({*view, Right}, {*host, Left}, 20);
+    layOut();
+    EXPECT_EQ(view->frame().origin.x, 50);
+    EXPECT_EQ(view->frame().size.width, 0);
+}
+
 TEST_F(NSLayoutConstraintTest, ViewsOfDifferentTreesCannotBeTied) {
     const auto stranger = make<SizedView>();
     const auto& refused = constrain({.first = {*stranger, Left}, .second = LayoutAnchor(*host, Left)});

@@ -1,5 +1,6 @@
 #include "UIKit/UIStackView.h"
 
+#include "UIKit/NSLayoutDimension.h"
 #include "layout/LayoutFixture.h"
 #include "layout/UIStackViewPeer.h"
 
@@ -71,6 +72,24 @@ TEST_F(UIStackViewTest, AColumnGoesDown) {
     EXPECT_EQ(tops(), (Numbers{0, 15, 50}));
     EXPECT_EQ(heights(), (Numbers{10, 30, 150}));
     EXPECT_EQ(widths(), (Numbers{300, 300, 300}));
+}
+
+TEST_F(UIStackViewTest, WhatIsTooLargeStaysInTheMiddleAndExtendsBeyondTheStack) {
+    stack->setAlignment(Alignment::Center);
+    NSLayoutConstraint::activateConstraints({views[0]->heightAnchor()->constraintEqualToConstant(240)});
+    layOut();
+    EXPECT_EQ(tops(), (Numbers{-20, 85, 90}));
+    EXPECT_EQ(heights(), (Numbers{240, 30, 20}));
+    EXPECT_TRUE(device.log().take().empty());
+}
+
+TEST_F(UIStackViewTest, WhatIsTooLongGoesOnBeyondTheEnd) {
+    for (const auto& view : views)
+        NSLayoutConstraint::activateConstraints({view->widthAnchor()->constraintEqualToConstant(130)});
+    layOut();
+    EXPECT_EQ(lefts(), (Numbers{0, 130, 260}));
+    EXPECT_EQ(widths(), (Numbers{130, 130, 130}));
+    EXPECT_EQ(device.log().take().size(), 1U);
 }
 
 TEST_F(UIStackViewTest, FillEquallyMakesAllOfOneSize) {

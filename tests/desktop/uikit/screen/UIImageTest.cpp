@@ -1,3 +1,4 @@
+#include "DesktopBundle.h"
 #include "DesktopImage.h"
 #include "Phone.h"
 
@@ -34,4 +35,19 @@ TEST_F(UIImageTest, AFileIsReadInThePixelsPerPointOfTheScreen) {
 
 TEST_F(UIImageTest, AMissingFileIsNoImage) {
     EXPECT_FALSE(UIImage::imageWithContentsOfFile("/icon.png"));
+}
+
+TEST_F(UIImageTest, APictureIsFoundByItsPlainNameWhereOnlyOneForADisplayIsThere) {
+    writePicture("/icon@2x.png", 24);
+    const auto image = UIImage::imageNamed("/icon.png");
+    ASSERT_TRUE(image);
+    EXPECT_EQ(DesktopImage::sizeOf(*image), (CGSize{12, 12}));
+    EXPECT_FALSE(UIImage::imageNamed("/other.png"));
+}
+
+TEST_F(UIImageTest, APictureIsFoundByItsNameInABundle) {
+    writePicture("/Test.bundle/icon.png", 24);
+    const auto bundle = DesktopBundle::withPath("/Test.bundle");
+    EXPECT_TRUE(UIImage::imageNamed("icon.png", *bundle));
+    EXPECT_FALSE(UIImage::imageNamed("other.png", *bundle));
 }

@@ -79,9 +79,35 @@ TEST_F(UILabelPeerTest, MakesItsTextSmallerToFitWhenAllowedTo) {
     label_->setFrame(CGRectMake(0, 0, *peer().intrinsicWidth() * 0.8, 44));
     EXPECT_TRUE(peer().isTruncated());
     peer().setMinimumScaleFactor(0.5);
+    EXPECT_TRUE(peer().isTruncated());
+    peer().setAdjustsFontSizeToFitWidth(true);
     EXPECT_FALSE(peer().isTruncated());
     peer().setMinimumScaleFactor(0.95);
     EXPECT_TRUE(peer().isTruncated());
+}
+
+TEST_F(UILabelPeerTest, MakesATextOfSeveralLinesSmallerToFitThem) {
+    peer().setNumberOfLines(2);
+    label_->setFrame(CGRectMake(0, 0, *peer().intrinsicWidth() * 0.5, 44));
+    EXPECT_TRUE(peer().isTruncated());
+    peer().setMinimumScaleFactor(0.6);
+    peer().setAdjustsFontSizeToFitWidth(true);
+    EXPECT_FALSE(peer().isTruncated());
+    peer().setMinimumScaleFactor(0.99);
+    EXPECT_TRUE(peer().isTruncated());
+}
+
+TEST_F(UILabelPeerTest, ItsTextThrowsAShadow) {
+    label_->setFrame(CGRectMake(10, 10, 200, 44));
+    label_->setTextColor(UIColor::whiteColor());
+    const auto plain = shown_.compositor.render().copy();
+    label_->setShadowColor(UIColor::blackColor());
+    const auto above = shown_.compositor.render().copy();
+    label_->setShadowOffset({.width = 1, .height = 1});
+    EXPECT_NE(above, plain);
+    EXPECT_NE(shown_.compositor.render().copy(), above);
+    label_->setShadowColor(nullptr);
+    EXPECT_EQ(shown_.compositor.render().copy(), plain);
 }
 
 TEST_F(UILabelPeerTest, GrowsWithItsFont) {

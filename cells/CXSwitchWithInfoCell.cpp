@@ -1,0 +1,102 @@
+#include "CXSwitchWithInfoCell.h"
+
+#include "Foundation/NSBundle.h"
+#include "ObjectiveC/Class.h"
+#include "UIKit/NSLayoutXAxisAnchor.h"
+#include "UIKit/NSLayoutYAxisAnchor.h"
+#include "UIKit/UIAlertController.h"
+#include "UIKit/UIApplication.h"
+
+namespace {
+
+constexpr auto edgeMargin = 4.0; ///< between the button and the content's right edge
+constexpr auto messageInstead = "No information provided for this cell.";
+constexpr std::string_view writtenLineBreak = "\\n";
+
+const Class classObject = Class::define<CXSwitchWithInfoCell, PSSwitchTableCell>(
+    "CXSwitchWithInfoCell", {method<"infoButton", &CXSwitchWithInfoCell::infoButton>(),
+                             method<"infoButtonTapped", &CXSwitchWithInfoCell::infoButtonTapped>()});
+
+std::string withLineBreaks(std::string_view text) {
+    std::string lines;
+    for (auto end = text.find(writtenLineBreak); end != std::string_view::npos;
+         end = text.find(writtenLineBreak)) {
+        lines += text.substr(0, end);
+        lines += '\n';
+        text.remove_prefix(end + writtenLineBreak.size());
+    }
+    lines += text;
+    return lines;
+}
+
+/// What the application's window shows; empty when it has none.
+Ref<UIViewController> rootViewController() {
+    const auto window = MessageTraits<Ref<NSObject>>::unpack(
+        UIApplication::sharedApplication()->performSelector("keyWindow"));
+    if (!window)
+        return nullptr;
+    return MessageTraits<Ref<UIViewController>>::unpack(window->performSelector("rootViewController"));
+}
+
+} // namespace
+
+bool CXSwitchWithInfoCell::initWithStyle(UITableViewCellStyle style,
+                                         const std::optional<std::string>& reuseIdentifier,
+                                         PSSpecifier& specifier) {
+    if (!PSSwitchTableCell::initWithStyle(style, reuseIdentifier, specifier))
+        return false;
+    setupInfoButton();
+    return true;
+}
+
+void CXSwitchWithInfoCell::setupInfoButton() {
+    infoButton_ = UIButton::buttonWithType(UIButtonType::InfoDark);
+    infoButton_->setTranslatesAutoresizingMaskIntoConstraints(false);
+    infoButton_->addTarget(*this, "infoButtonTapped", UIControlEvents::TouchUpInside);
+    contentView().addSubview(infoButton_);
+    NSLayoutConstraint::activateConstraints(
+        {infoButton_->centerYAnchor()->constraintEqualToAnchor(contentView().centerYAnchor()),
+         infoButton_->trailingAnchor()->constraintEqualToAnchor(contentView().trailingAnchor(),
+                                                                -edgeMargin)});
+}
+
+void CXSwitchWithInfoCell::tintColorDidChange() {
+    PSSwitchTableCell::tintColorDidChange();
+    tintInfoButton();
+}
+
+void CXSwitchWithInfoCell::refreshCellContentsWithSpecifier(PSSpecifier& specifier) {
+    PSSwitchTableCell::refreshCellContentsWithSpecifier(specifier);
+    tintInfoButton();
+}
+
+// The framework may do both of them while it readies the cell, when there is no button yet.
+void CXSwitchWithInfoCell::tintInfoButton() {
+    if (infoButton_)
+        infoButton_->setTintColor(tintColor());
+}
+
+void CXSwitchWithInfoCell::infoButtonTapped() {
+    const auto infoTitle = textForKey("infoTitle");
+    const auto alert = UIAlertController::alertControllerWithTitle(
+        infoTitle ? infoTitle : textForKey("label"), message(), UIAlertControllerStyle::Alert);
+    alert->addAction(UIAlertAction::actionWithTitle("Cancel", UIAlertActionStyle::Cancel, {}));
+    auto presenter = _viewControllerForAncestor();
+    if (!presenter)
+        presenter = rootViewController();
+    if (presenter)
+        presenter->presentViewController(alert, true, {});
+}
+
+std::optional<std::string> CXSwitchWithInfoCell::textForKey(std::string_view key) const {
+    const auto row = specifier();
+    const auto value = row ? row->propertyForKey(key) : std::nullopt;
+    const auto* const text = value ? value->getIf<std::string>() : nullptr;
+    return text != nullptr ? std::optional(*text) : std::nullopt;
+}
+
+std::string CXSwitchWithInfoCell::message() const {
+    const auto key = textForKey("infoMessage").value_or(messageInstead);
+    return withLineBreaks(
+        NSBundle::mainBundle()->localizedStringForKey(key, key, textForKey("localizationTable")));
+}

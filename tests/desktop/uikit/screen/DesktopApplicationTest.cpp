@@ -1,0 +1,36 @@
+#include "screen/DesktopApplication.h"
+
+#include "ObjectiveC/Method.h"
+#include "UIKit/UIViewController.h"
+#include "screen/ShownScreen.h"
+
+#include <gtest/gtest.h>
+
+TEST(DesktopApplicationTest, TheKeyWindowIsTheFrontmostThatTakesTouches) {
+    ShownScreen shown;
+    const auto& application = DesktopApplication::shared();
+    EXPECT_EQ(application.keyWindow(), shown.window);
+    const auto front = make<UIWindow>();
+    const auto bars = make<UIWindow>();
+    bars->setWindowLevel(1);
+    shown.screen.addWindow(front);
+    shown.screen.addWindow(bars);
+    EXPECT_EQ(application.keyWindow(), front);
+    front->setUserInteractionEnabled(false);
+    EXPECT_EQ(application.keyWindow(), shown.window);
+    shown.window->setUserInteractionEnabled(false);
+    EXPECT_FALSE(application.keyWindow());
+    shown.screen.removeWindow(*bars);
+    shown.screen.removeWindow(*front);
+}
+
+TEST(DesktopApplicationTest, TheKeyWindowAndItsControllerAreFoundByTheirNames) {
+    const ShownScreen shown;
+    const auto controller = make<UIViewController>();
+    shown.window->setRootViewController(controller);
+    const auto window = MessageTraits<Ref<NSObject>>::unpack(
+        UIApplication::sharedApplication()->performSelector("keyWindow"));
+    EXPECT_EQ(window, shown.window);
+    EXPECT_EQ(MessageTraits<Ref<NSObject>>::unpack(window->performSelector("rootViewController")),
+              controller);
+}
