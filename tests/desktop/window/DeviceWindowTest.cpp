@@ -1,9 +1,12 @@
 #include "PresentedStandIn.h"
 #include "WindowFixture.h"
+#include "controls/UISliderPeer.h"
 #include "scrolling/UIScrollViewPeer.h"
 
 #include <QGuiApplication>
+#include <QMimeData>
 #include <QPalette>
+#include <QUrl>
 #include <QWheelEvent>
 
 namespace {
@@ -132,3 +135,50 @@ TEST_F(DeviceWindowTest, RunsTheDevicesWork) {
 }
 
 } // namespace
+
+namespace {
+
+/// A slider below the buttons.
+class DeviceWindowSliderTest : public WindowFixture {
+protected:
+    DeviceWindowSliderTest() {
+        slider_->setFrame(CGRectMake(20, 300, 200, 34));
+        slider_->peer().setAccessibility({.label = "Volume", .value = {}, .isElement = true});
+        window->addSubview(slider_);
+        layOut();
+    }
+
+    void goToSlider() {
+        for (auto count = 0; count < 10 && shown.focusedView() != slider_; ++count)
+            WindowFixture::press(Qt::Key_Tab);
+        ASSERT_EQ(shown.focusedView(), slider_);
+    }
+
+    [[nodiscard]] double value() const { return peerOf<UISliderPeer>(*slider_).value(); }
+
+    Ref<UISlider> slider_ = make<UISlider>();
+};
+
+} // namespace
+
+TEST_F(DeviceWindowSliderTest, TheArrowKeysMoveIt) {
+    press(Qt::Key_Right);
+    EXPECT_EQ(value(), 0);
+    goToSlider();
+    press(Qt::Key_Right);
+    press(Qt::Key_Up);
+    EXPECT_NEAR(value(), 0.2, 1e-9);
+    press(Qt::Key_Left);
+    EXPECT_NEAR(value(), 0.1, 1e-9);
+}
+
+TEST_F(DeviceWindowSliderTest, FilesAreDroppedOnlyWhereSomethingWaitsForThem) {
+    QMimeData files;
+    files.setUrls({QUrl::fromLocalFile("/etc/passwd")});
+    QDragEnterEvent entered({10, 10}, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&shown, &entered);
+    EXPECT_FALSE(entered.isAccepted());
+    QDropEvent dropped({10, 10}, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&shown, &dropped);
+    EXPECT_FALSE(dropped.isAccepted());
+}
