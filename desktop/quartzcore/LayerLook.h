@@ -46,7 +46,10 @@ struct LayerLook {
     /// What casts the shadow, in the layer's own points.
     [[nodiscard]] QPainterPath shadowShape() const { return shadowPath ? *shadowPath : outline(); }
 
-    [[nodiscard]] bool castsShadow() const { return shadowOpacity > 0 && shadowColor.alpha > 0; }
+    /// A layer that is cut off at its bounds is so with its shadow.
+    [[nodiscard]] bool castsShadow() const {
+        return shadowOpacity > 0 && shadowColor.alpha > 0 && !masksToBounds;
+    }
 
     /// The bounds in pixels, or the upright rectangle around them.
     [[nodiscard]] QRectF pixelRect() const;

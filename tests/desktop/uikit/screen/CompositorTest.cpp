@@ -179,6 +179,17 @@ TEST_F(CompositorTest, CastsAShadowAroundTheLayer) {
     EXPECT_GT(shown_.pixel(20, 31).green(), 250);
 }
 
+TEST_F(CompositorTest, CastsNoShadowWhereTheLayerIsCutOff) {
+    const auto view = shown_.add(CGRectMake(10, 10, 20, 15), {.alpha = 0});
+    ShownScreen::put(*view, CGRectMake(5, 5, 5, 5), red);
+    view->layer().setShadowOpacity(1);
+    view->layer().setShadowRadius(2);
+    view->setClipsToBounds(true);
+    EXPECT_EQ(shown_.pixel(16, 12), white);
+    EXPECT_EQ(shown_.pixel(20, 8), white);
+    EXPECT_EQ(shown_.pixel(16, 16), QColor(Qt::red));
+}
+
 TEST_F(CompositorTest, CastsTheShadowOfItsPath) {
     const auto view = shown_.add(CGRectMake(10, 10, 20, 20), red);
     view->layer().setShadowOpacity(1);
