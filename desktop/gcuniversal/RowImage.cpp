@@ -16,7 +16,8 @@
 
 namespace {
 
-constexpr auto preferencesFolder = "/var/mobile/Library/Preferences/";
+// Below the root of the jailbreak, as everything that is installed with its layout keeps its files.
+constexpr auto preferencesFolder = "/var/jb/var/mobile/Library/Preferences/";
 constexpr auto suffix = "-IMG";
 constexpr qint64 greatestSize = 64LL * 1024 * 1024; ///< bytes of a file
 

@@ -12,7 +12,7 @@ namespace {
 
 constexpr auto entry = "/var/jb/Library/PreferenceLoader/Preferences/Rows.plist";
 constexpr auto preferences = "/var/mobile/Library/Preferences/com.example.rows.plist";
-constexpr auto picture = "/var/mobile/Library/Preferences/com.example.rows/image-IMG";
+constexpr auto picture = "/var/jb/var/mobile/Library/Preferences/com.example.rows/image-IMG";
 
 std::string row(const std::string& cell, const std::string& key, const std::string& more = {}) {
     return "<dict><key>cell</key><string>" + cell + "</string><key>key</key><string>" + key +

@@ -34,7 +34,7 @@ protected:
     }
 
     [[nodiscard]] bool isKept() const {
-        return !device.read("/var/mobile/Library/Preferences/com.example.test/photo-IMG").empty();
+        return !device.read("/var/jb/var/mobile/Library/Preferences/com.example.test/photo-IMG").empty();
     }
 
     [[nodiscard]] UIImageView& preview() const {

@@ -31,7 +31,7 @@ protected:
         return {std::istreambuf_iterator(stream), {}};
     }
 
-    static constexpr auto kept = "/var/mobile/Library/Preferences/com.example.test/photo-IMG";
+    static constexpr auto kept = "/var/jb/var/mobile/Library/Preferences/com.example.test/photo-IMG";
 
     TestDevice device;
     TemporaryFolder files_;
