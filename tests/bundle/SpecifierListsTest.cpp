@@ -138,7 +138,8 @@ TEST_F(SpecifierListsTest, TheFirstListLeadsToEveryPage) {
         for (const std::string side : sides) {
             if (!row.contains(side + "Class"))
                 continue;
-            EXPECT_EQ(textIn(row, "headerCellClass"), "TweakCustomCell");
+            EXPECT_EQ(textIn(row, "cellClass"), "TweakCustomCell");
+            EXPECT_EQ(row.at("height"), PropertyList(120)) << "what the cell prefers";
             EXPECT_NE(textIn(row, side + "Label"), "");
             EXPECT_TRUE(pages.insert(textIn(row, side + "Class")).second) << textIn(row, side + "Class");
         }
@@ -210,7 +211,7 @@ TEST_F(SpecifierListsTest, AColorStartsAsRedGreenBlueAndAlpha) {
         EXPECT_EQ(textIn(row, "fallback"), textIn(row, "default"));
     }
     for (const auto& row : rowsOf("Root")) {
-        if (textIn(row, "headerCellClass") != "TweakCustomCell")
+        if (textIn(row, "cellClass") != "TweakCustomCell")
             continue;
         EXPECT_EQ(textIn(row, "iconColor").size(), 6U);
         EXPECT_TRUE(isColor(textIn(row, "iconShadowColor")));
@@ -251,8 +252,7 @@ TEST_F(SpecifierListsTest, EveryClassThatARowNamesIsThere) {
     auto named = 0;
     for (const auto& list : lists) {
         for (const auto& row : rowsOf(list)) {
-            for (const auto* const key :
-                 {"cellClass", "headerCellClass", "detail", "leftClass", "middleClass", "rightClass"}) {
+            for (const auto* const key : {"cellClass", "detail", "leftClass", "middleClass", "rightClass"}) {
                 const auto name = textIn(row, key);
                 if (name.empty())
                     continue;
