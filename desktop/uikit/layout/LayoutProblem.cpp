@@ -1,6 +1,7 @@
 #include "layout/LayoutProblem.h"
 
 #include "Foundation/NSLog.h"
+#include "ObjectiveC/Class.h"
 #include "layout/NSLayoutConstraintPeer.h"
 #include "views/UIViewPeer.h"
 #include "views/ViewLayout.h"
@@ -100,7 +101,7 @@ void LayoutProblem::logContradiction() const {
         !isContradictory_)
         return;
     NSLog("Unable to simultaneously satisfy constraints of %@; some of them are left out.",
-          host_.description());
+          host_.isa().name());
 }
 
 void LayoutProblem::addConstraints(const UIView& view) {

@@ -29,6 +29,26 @@ protected:
         return all.isEmpty() ? QJsonObject() : all.last().toObject();
     }
 
+    /// What was logged, but for the sizes of the icon buttons' rows, which are meant to be too small for all
+    /// of it.
+    [[nodiscard]] QJsonArray logged() {
+        QJsonArray kept;
+        for (const auto& line : events("log")) {
+            if (line !=
+                "Unable to simultaneously satisfy constraints of TweakCustomCell; some of them are left out.")
+                kept.append(line);
+        }
+        return kept;
+    }
+
+    /// Sets the value of a row of a page that the root page opens, and goes back there.
+    void setOnPage(const std::string& button, const std::string& value) {
+        program.done("tap " + button);
+        program.done("settle");
+        program.done("set " + value);
+        give({"back", "settle"});
+    }
+
     [[nodiscard]] QJsonArray events(const char* kind) { return program.done(kind).value("events").toArray(); }
 
     [[nodiscard]] std::string marker() const {
@@ -121,7 +141,7 @@ TEST_F(PaneSessionTest, AFreshDeviceShowsWhatIsNewOnceAndNeverAgain) {
     EXPECT_EQ(screen("presented"), QJsonArray());
     give({"relaunch", "settle", "open", "settle"});
     EXPECT_EQ(screen("presented"), QJsonArray());
-    EXPECT_EQ(events("log"), QJsonArray());
+    EXPECT_EQ(logged(), QJsonArray());
 }
 
 TEST_F(PaneSessionTest, ASwipeDownScrollsAScrolledListBackBeforeItTakesTheSheetAway) {
@@ -145,11 +165,12 @@ TEST_F(PaneSessionTest, BackWhileThePageComesInWaitsForIt) {
 
 TEST_F(PaneSessionTest, WhatKeepsNoValueCannotBeSet) {
     program.openPane();
+    give({"tap General", "settle"});
     const auto head = screen("rows").toArray().at(0).toObject();
     ASSERT_EQ(head["cell"], "PSGroupCell");
     const auto id = head["id"].toString().toStdString();
     EXPECT_EQ(program.ask("set \"" + id + "\" true").value("error"), "the row has no value");
-    give({"back", "settle"});
+    give({"back", "settle", "back", "settle"});
     EXPECT_EQ(program.ask("set corvexPrefs true").value("error"), "the row has no value");
 }
 
@@ -184,7 +205,8 @@ TEST_F(PaneSessionTest, ApplyLeavesAtOnceAndEndsSettingsHalfASecondLater) {
 
 TEST_F(PaneSessionTest, TheHomeScreensIconStartsSettingsAfreshWithTheValuesOnDisk) {
     program.openPane();
-    give({"set kcircleIcons true", "tap gear.badge", "settle", "tap Apply", "settle"});
+    setOnPage("General", "kcircleIcons true");
+    give({"tap gear.badge", "settle", "tap Apply", "settle"});
     EXPECT_FALSE(isLoaded());
     program.device().write(preferences, "<plist version=\"1.0\"><dict><key>LastVersionPopupShown</key>"
                                         "<string>3.0.1</string><key>kEnabled</key><true/></dict></plist>");
@@ -193,6 +215,7 @@ TEST_F(PaneSessionTest, TheHomeScreensIconStartsSettingsAfreshWithTheValuesOnDis
     give({"tap Corvex", "settle"});
     EXPECT_EQ(screen("presented"), QJsonArray());
     EXPECT_TRUE(isMasterSwitchOn());
+    give({"tap General", "settle"});
     EXPECT_NE(valueOf("kcircleIcons"), true) << "as it is on disk by now";
 }
 
@@ -218,8 +241,9 @@ TEST_F(PaneSessionTest, ApplyEndsSettingsWhileThePageStillMoves) {
 
 TEST_F(PaneSessionTest, ResetAsksFirstAndCancelKeepsEverything) {
     program.openPane();
+    setOnPage("General", "kcircleIcons true");
     static_cast<void>(events("sounds"));
-    give({"set kcircleIcons true", "tap gear.badge", "settle", "tap \"Reset Settings\"", "settle"});
+    give({"tap gear.badge", "settle", "tap \"Reset Settings\"", "settle"});
     EXPECT_EQ(events("sounds"), QJsonArray{1519});
     const auto alert = presented();
     EXPECT_EQ(alert["kind"], "alert");
@@ -240,9 +264,9 @@ TEST_F(PaneSessionTest, ResetAsksFirstAndCancelKeepsEverything) {
 
 TEST_F(PaneSessionTest, AConfirmedResetWipesTheValuesAndEndsSettings) {
     program.openPane();
-    give({"set kcircleIcons true", "tap gear.badge", "settle", "tap \"Reset Settings\"", "settle",
-          "tap Confirm", "settle"});
-    const auto log = events("log");
+    setOnPage("General", "kcircleIcons true");
+    give({"tap gear.badge", "settle", "tap \"Reset Settings\"", "settle", "tap Confirm", "settle"});
+    const auto log = logged();
     ASSERT_EQ(log.size(), 4);
     EXPECT_TRUE(
         log[0].toString().startsWith("Error removing file at path "
@@ -267,16 +291,20 @@ TEST_F(PaneSessionTest, AConfirmedResetEndsSettingsHalfASecondAfterItHasLeft) {
 
 TEST_F(PaneSessionTest, AfterAResetThePaneShowsWhatItShowedAtFirst) {
     program.openPane();
+    give({"tap General", "settle"});
     const auto rowsAtFirst = screen("rows");
     ASSERT_FALSE(rowsAtFirst.toArray().isEmpty());
-    flipMasterSwitch();
-    give({"settle", "set kcircleIcons true", "settle"});
-    ASSERT_TRUE(isMasterSwitchOn());
+    give({"set kcircleIcons true", "settle"});
     ASSERT_NE(screen("rows"), rowsAtFirst);
+    give({"back", "settle"});
+    flipMasterSwitch();
+    program.done("settle");
+    ASSERT_TRUE(isMasterSwitchOn());
     give({"tap gear.badge", "settle", "tap \"Reset Settings\"", "settle", "tap Confirm", "settle", "open",
           "settle", "swipe-down", "settle"});
-    EXPECT_EQ(screen("rows"), rowsAtFirst);
     EXPECT_FALSE(isMasterSwitchOn());
+    give({"tap General", "settle"});
+    EXPECT_EQ(screen("rows"), rowsAtFirst);
 }
 
 TEST_F(PaneSessionTest, ASheetThatComesInIsInTheWayOfTheGear) {
@@ -292,7 +320,7 @@ TEST_F(PaneSessionTest, AResetWhileASheetComesInIsNotAskedForASecondTime) {
     const auto page = program.shell().settings()->pages();
     const auto before = presented().value("class");
     peerOf<UINavigationControllerPeer>(*page).top()->performSelector("resetSettings");
-    const auto log = events("log");
+    const auto log = logged();
     ASSERT_EQ(log.size(), 1);
     EXPECT_TRUE(log[0].toString().startsWith("Attempt to present <UIAlertController: "));
     program.done("settle");
@@ -308,7 +336,7 @@ TEST_F(PaneSessionTest, WithoutTheServiceSettingsIsOnlyLeft) {
     give({"tap gear.badge", "settle", "tap Apply", "settle", "advance 10"});
     EXPECT_EQ(screen("app"), "home");
     EXPECT_TRUE(isLoaded());
-    EXPECT_EQ(events("log"), QJsonArray());
+    EXPECT_EQ(logged(), QJsonArray());
     give({"tap Settings", "settle"});
     EXPECT_EQ(screen("page"), "cxRootListController") << "it is where it was left";
 }

@@ -42,6 +42,12 @@ public:
             done(line);
     }
 
+    /// From the root page to the page that a button opens.
+    void openPage(const std::string& button) {
+        done("tap " + button);
+        done("settle");
+    }
+
     /// Where the middle of the only view of a class is, as arguments of a touch.
     [[nodiscard]] std::string middleOf(const std::string& viewClass) {
         const auto views = done("views " + viewClass).value("views").toArray();
@@ -293,8 +299,8 @@ TEST_F(ProgramTest, RefusesEachHostileLineInOneLineAndGoesOn) {
 
 TEST_F(ProgramTest, SetWritesValuesThroughThePageOnly) {
     DrivenProgram program(root_);
-    program.done("open");
-    program.done("settle");
+    program.openPane();
+    program.openPage("General");
     const auto row = rowToSet(program);
     program.done("set " + row + " true");
     EXPECT_TRUE(valueOf(program, row).toBool());
@@ -308,6 +314,7 @@ TEST_F(ProgramTest, SetWritesValuesThroughThePageOnly) {
 TEST_F(ProgramTest, TapOnARowsLabelFlipsItsSwitch) {
     DrivenProgram program(root_);
     program.openPane();
+    program.openPage("General");
     const auto rows = program.done("screen").value("rows").toArray();
     const auto last = lastSwitch(rows);
     program.done("tap \"" + last["label"].toString().toStdString() + "\"");
@@ -350,10 +357,13 @@ TEST_F(ProgramTest, EndsWithSuccessAtTheEndOfItsInput) {
 
 TEST_F(ProgramTest, EndsQuietlyWhenNobodyReadsItsAnswers) {
     DrivenProgram program(root_);
-    program.done("open");
+    program.openPane();
+    program.openPage("General");
     EXPECT_EQ(program.exitCodeAfterUnread("set kcircleIcons true"), 1);
     DrivenProgram next(root_);
     next.done("open");
+    next.done("settle");
+    next.openPage("General");
     EXPECT_TRUE(valueOf(next, "kcircleIcons").toBool()) << "what was done is kept";
 }
 
@@ -371,7 +381,8 @@ TEST_F(ProgramTest, PreferencesThatAreDamagedAreKeptBesideTheNewOnes) {
     DrivenProgram program(root_);
     program.done("screen");
     std::ofstream(preferences) << "no property list";
-    program.done("open");
+    program.openPane();
+    program.openPage("General");
     program.done("set kcircleIcons true");
     EXPECT_TRUE(valueOf(program, "kcircleIcons").toBool());
     std::ifstream kept(preferences + ".damaged");
@@ -383,9 +394,11 @@ TEST_F(ProgramTest, GoesOnWhenPreferencesCanBeNeitherReadNorWritten) {
     DrivenProgram program(root_);
     program.done("screen");
     std::filesystem::create_directories(preferences);
-    program.done("open");
-    program.done("settle");
+    program.openPane();
+    program.openPage("General");
     program.done("set kcircleIcons true");
+    program.done("back");
+    program.done("settle");
     program.tapView("GlintImageSwitch");
     program.done("settle");
     EXPECT_GE(program.done("log").value("events").toArray().size(), 2);
@@ -396,8 +409,8 @@ TEST_F(ProgramTest, GoesOnWhenPreferencesCanBeNeitherReadNorWritten) {
 
 TEST_F(ProgramTest, GoesOnWhenItsDeviceRootIsGone) {
     DrivenProgram program(root_);
-    program.done("open");
-    program.done("settle");
+    program.openPane();
+    program.openPage("General");
     std::filesystem::remove_all(root_);
     program.done("set kcircleIcons true");
     EXPECT_FALSE(program.ask("open").value("ok").toBool(true));

@@ -35,9 +35,9 @@ const std::array<std::string, 10> values{"true",          "false",    "null", "0
                                          "-1.5e300",      "\"text\"", "[]",   R"({"a":[1,{"b":null}]})",
                                          "[[[[[[1]]]]]]", "{"};
 
-const std::array<std::string, 9> rows{"kAppleAccount", "hideSearchBar", "kcircleIcons",
-                                      "about",         "corvexPrefs",   "kEnabled",
-                                      "value",         "\"\"",          "nothing"};
+const std::array<std::string, 12> rows{"kAppleAccount", "hideSearchBar", "kcircleIcons", "kCustomTitle",
+                                       "blurRadius",    "textColor",     "about",        "corvexPrefs",
+                                       "kEnabled",      "value",         "\"\"",         "nothing"};
 
 const std::array<std::string, 8> viewClasses{"UIView",   "UILabel",          "UIControl", "UITableViewCell",
                                              "UIWindow", "GlintImageSwitch", "NSObject",  "MenuView"};
@@ -197,7 +197,8 @@ std::vector<CGPoint> RandomUser::targets() {
         for (const auto& action : presented.toObject().value("actions").toArray())
             places.push_back(middleOf(action));
     }
-    for (const auto* const name : {"GlintImageSwitch", "BarButtonView", "BackButtonView", "HomeIcon"}) {
+    for (const auto* const name :
+         {"GlintImageSwitch", "BarButtonView", "BackButtonView", "HomeIcon", "TweakButton"}) {
         for (const auto& view : program_.ask(std::string("views ") + name).value("views").toArray())
             places.push_back(middleOf(view));
     }
