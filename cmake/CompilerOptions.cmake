@@ -5,8 +5,6 @@ add_library(corvex_warnings INTERFACE)
 target_compile_options(corvex_warnings INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast -Wnon-virtual-dtor
     -Woverloaded-virtual -Wcast-align -Wformat=2 -Wundef -Werror)
-# Qt's own words for signals and slots are names like any other here.
-target_compile_definitions(corvex_warnings INTERFACE QT_NO_KEYWORDS)
 
 # Code that is compiled for the device too, which has no exceptions.
 add_library(corvex_portable INTERFACE)

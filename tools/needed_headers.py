@@ -48,7 +48,7 @@ STANDARD = {
     "system_error": "error_code generic_category system_category system_error",
     "thread": "jthread thread this_thread",
     "tuple": "tie tuple",
-    "type_traits": "conditional_t decay_t is_base_of_v is_convertible_v is_same_v remove_cvref_t",
+    "type_traits": "conditional_t decay_t is_base_of_v is_convertible_v is_pointer_v is_same_v remove_cvref_t",
     "unordered_map": "unordered_map",
     "unordered_set": "unordered_set",
     "variant": "get_if holds_alternative monostate variant visit",

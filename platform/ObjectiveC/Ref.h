@@ -2,6 +2,7 @@
 
 #include <concepts>
 #include <cstddef>
+#include <type_traits>
 #include <utility>
 
 class NSObject;
