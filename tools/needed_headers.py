@@ -60,7 +60,7 @@ STANDARD_NAME = re.compile(r"\bstd::(?:ranges::)?(\w+)")
 QT_NAME = re.compile(r"\bQ[A-Z][a-z]\w*")
 TEST_NAME = re.compile(r"\b(?:TEST|TEST_F|TEST_P|EXPECT_EQ|EXPECT_TRUE|ASSERT_TRUE)\(")
 MATCHER_NAME = re.compile(r"\b(?:EXPECT_CALL|EXPECT_THAT|ASSERT_THAT|MOCK_METHOD)\(")
-ONLY_DECLARED = re.compile(r"^class (Q\w+);", re.MULTILINE)
+ONLY_DECLARED = re.compile(r"^class (Q[A-Z][a-z]\w*);", re.MULTILINE)
 NOT_CODE = re.compile(r"""//[^\n]*|/\*.*?\*/|"(?:[^"\\\n]|\\.)*"|^[ \t]*#[^\n]*""", re.DOTALL | re.MULTILINE)
 
 
@@ -68,12 +68,17 @@ def used(text):
     """The headers, by name, that a file's own words ask for; those of Qt in small letters, as its files are named."""
     code = NOT_CODE.sub("", text)
     headers = {HEADER_OF[name] for name in STANDARD_NAME.findall(code) if name in HEADER_OF}
-    headers |= {f"{name.lower()}.h" for name in set(QT_NAME.findall(code)) - set(ONLY_DECLARED.findall(code))}
+    headers |= {f"{name.lower()}.h" for name in QT_NAME.findall(code)}
     if TEST_NAME.search(code):
         headers.add("gtest.h")
     if MATCHER_NAME.search(code):
         headers.add("gmock.h")
     return headers
+
+
+def declared(text):
+    """The headers that a file does without, since it declares what it uses of them itself."""
+    return {f"{name.lower()}.h" for name in ONLY_DECLARED.findall(text)}
 
 
 def missing(asked, files, known):

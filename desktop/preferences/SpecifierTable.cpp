@@ -69,8 +69,9 @@ void SpecifierTable::refresh(const PSSpecifier& specifier) {
 
 void SpecifierTable::refreshCell(const PSSpecifier& specifier) {
     const auto row = indexPathOf(specifier);
-    const auto cell = row ? dynamicCast<PSTableCell>(table().cellForRow(*row)) : nullptr;
-    if (cell)
+    if (!row)
+        return;
+    if (const auto cell = dynamicCast<PSTableCell>(table().cellForRow(*row)))
         cell->refreshCellContentsWithSpecifier(at(*row));
 }
 

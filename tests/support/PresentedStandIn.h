@@ -21,6 +21,8 @@ public:
 
     [[nodiscard]] std::optional<Details> details() const override { return std::nullopt; }
 
+    [[nodiscard]] FilePicker* filePicker() const override { return nullptr; }
+
     [[nodiscard]] bool isTransient() const override { return transient; }
 
     [[nodiscard]] bool blackensStatusBar() const override { return false; }

@@ -23,7 +23,10 @@ class UsedTest(unittest.TestCase):
 
     def test_names_of_qt(self):
         self.assertEqual(self.used("QImage picture; QSize size() const;"), ["qimage.h", "qsize.h"])
-        self.assertEqual(self.used("class QPainter;\nvoid paint(QPainter& painter);"), [])
+
+    def test_what_a_file_declares_itself(self):
+        self.assertEqual(needed_headers.declared("class QPainter;\nvoid paint(QPainter& painter);"), {"qpainter.h"})
+        self.assertEqual(needed_headers.declared("class Queue;\nclass QRun {};\n"), set())
 
     def test_tests_and_matchers(self):
         self.assertEqual(self.used("TEST_F(Suite, Name) {}"), ["gtest.h"])

@@ -166,6 +166,16 @@ class TidyTest(unittest.TestCase):
         self.write("core/map")
         self.assertEqual(self.looked_at(self.one_source("// INCLUDES map\nstd::map<int, int> rows;\n")), ["Store.cpp"])
 
+    def test_what_one_header_declares_another_may_use(self):
+        self.write("core/qpainter.h")
+        self.write("core/Other.h", "class QPainter;\n")
+        self.several(A="// INCLUDES Other.h\nvoid paint(QPainter&);\n", B="// INCLUDES qpainter.h\nQPainter p;\n")
+        database = self.database("desktop", ("core/A.cpp", "-a"), ("core/B.cpp", "-b"))
+        self.assertEqual(self.looked_at(database), ["A.cpp", "B.cpp"])
+        self.write("core/Other.h", "// nothing\n")
+        self.looked_at(database, clean=False)
+        self.assertIn("core/A.cpp is not clean:\nerror: it uses what qpainter.h declares", self.output)
+
     def test_a_header_asks_for_what_it_uses_too(self):
         database = self.one_source()
         self.write("core/Store.h", "std::map<int, int> rows;\n")

@@ -31,6 +31,8 @@ public:
 
     [[nodiscard]] std::optional<Details> details() const override { return std::nullopt; }
 
+    [[nodiscard]] FilePicker* filePicker() const override { return nullptr; }
+
     [[nodiscard]] bool isTransient() const override { return true; }
 
     [[nodiscard]] bool blackensStatusBar() const override { return false; }

@@ -40,6 +40,8 @@ public:
     [[nodiscard]] virtual bool stepsBack() const = 0;
 
     // Presented:
+    [[nodiscard]] FilePicker* filePicker() const override { return nullptr; }
+
     [[nodiscard]] bool isTransient() const override { return false; }
 
     void keyboardHeightDidChange() override;

@@ -63,7 +63,7 @@ public:
     [[nodiscard]] virtual std::optional<Details> details() const = 0;
 
     /// What waits there for files to be chosen; null when nothing does.
-    [[nodiscard]] virtual FilePicker* filePicker() const { return nullptr; }
+    [[nodiscard]] virtual FilePicker* filePicker() const = 0;
 
     /// What is shown: all that belongs to it is within this view.
     [[nodiscard]] virtual UIView& shownView() const = 0;

@@ -124,7 +124,7 @@ void UITextFieldPeer::firstResponderDidChange(bool isFirstResponder) {
 
 void UITextFieldPeer::returnPressed() {
     const auto kept = retain(&control());
-    TextInput::returnPressed();
+    edit([](EditedText& text) { text.endComposing(); });
     if (endsOnReturn_)
         resignFirstResponder();
     if (returnHandler_)

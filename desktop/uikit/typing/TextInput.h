@@ -17,15 +17,13 @@ public:
     [[nodiscard]] virtual UIView& inputView() const = 0;
     [[nodiscard]] virtual const EditedText& editedText() const = 0;
 
-    [[nodiscard]] virtual TextInputTraits textInputTraits() const { return {}; }
+    [[nodiscard]] virtual TextInputTraits textInputTraits() const = 0;
 
     /// Has the text changed, and shows what became of it.
     virtual void edit(const std::function<void(EditedText&)>& change) = 0;
 
-    /// The key "return" ends what is being composed; an override may end more.
-    virtual void returnPressed() {
-        edit([](EditedText& text) { text.endComposing(); });
-    }
+    /// The key "return" ends what is being composed, and may end more.
+    virtual void returnPressed() = 0;
 
     /// Where the caret is, in points of the screen.
     [[nodiscard]] virtual CGRect caretOnScreen() const = 0;

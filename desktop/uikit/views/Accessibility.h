@@ -3,7 +3,18 @@
 #include <string>
 
 /// What an element is to somebody who does not see it.
-enum class AccessibilityRole { None, Button, StaticText, Image, Switch, Header, Link, TextField, Slider, Choice };
+enum class AccessibilityRole {
+    None,
+    Button,
+    StaticText,
+    Image,
+    Switch,
+    Header,
+    Link,
+    TextField,
+    Slider,
+    Choice
+};
 
 /// How a view tells of itself to assistive programs and to scripts.
 struct Accessibility {

@@ -24,6 +24,8 @@ public:
 
     void edit(const std::function<void(EditedText&)>& change) override { change(text_); }
 
+    void returnPressed() override { text_.endComposing(); }
+
     [[nodiscard]] CGRect caretOnScreen() const override { return {}; }
 
     void firstResponderDidChange(bool /*isFirstResponder*/) override {}
