@@ -1,10 +1,10 @@
 #include "DesktopScanner.h"
 
 #include <unicode/uchar.h>
-
-#include <unicode/utf8.h>
+#include <unicode/uiter.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <limits>
 
 namespace {
@@ -23,6 +23,15 @@ bool isWhiteSpace(UChar32 character) {
     constexpr UChar32 nextLine = 0x85;
     return u_isblank(character) != 0 || (character >= '\n' && character <= '\r') || character == nextLine ||
            u_charType(character) == U_LINE_SEPARATOR || u_charType(character) == U_PARAGRAPH_SEPARATOR;
+}
+
+/// Of white space in UTF-8; none of it takes more than three.
+std::size_t byteCount(UChar32 whiteSpace) {
+    constexpr UChar32 firstOfTwo = 0x80;
+    constexpr UChar32 firstOfThree = 0x800;
+    if (whiteSpace < firstOfTwo)
+        return 1;
+    return whiteSpace < firstOfThree ? 2 : 3;
 }
 
 } // namespace
@@ -48,16 +57,11 @@ std::optional<std::uint32_t> DesktopScanner::scanHexInt() {
 }
 
 std::size_t DesktopScanner::nextValue() const {
-    const auto* const bytes = reinterpret_cast<const std::uint8_t*>(text_.data());
     auto place = place_;
-    while (place < text_.size()) {
-        auto next = place;
-        UChar32 character = 0;
-        U8_NEXT_OR_FFFD(bytes, next, text_.size(), character);
-        if (!isWhiteSpace(character))
-            break;
-        place = next;
-    }
+    UCharIterator characters;
+    uiter_setUTF8(&characters, text_.data() + place, static_cast<std::int32_t>(text_.size() - place));
+    for (auto next = uiter_next32(&characters); isWhiteSpace(next); next = uiter_next32(&characters))
+        place += byteCount(next);
     return place;
 }
 
