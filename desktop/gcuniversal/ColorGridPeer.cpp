@@ -88,7 +88,7 @@ void ColorGridPeer::adjust(bool up) {
 Accessibility ColorGridPeer::accessibility() const {
     auto told = UIControlPeer::accessibility();
     told.label = "Grid";
-    told.value = chosen_ ? rgb(*color()) : std::string();
+    told.value = chosen_ ? rgb(colorAtPlace(*chosen_)) : std::string();
     told.role = AccessibilityRole::Slider;
     return told;
 }
@@ -97,7 +97,8 @@ void ColorGridPeer::drawLayer(QPainter& painter, const CGRect& bounds, const Tra
     const auto width = bounds.size.width / columns;
     const auto height = bounds.size.height / lines;
     const auto cell = [width, height](int place) {
-        return QRectF(place % columns * width, place / columns * height, width, height);
+        const auto line = place / columns;
+        return QRectF(place % columns * width, line * height, width, height);
     };
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);

@@ -25,7 +25,7 @@ constexpr qint64 greatestSize = 64LL * 1024 * 1024; ///< bytes of a file
 constexpr std::array<std::string_view, 4> formats{"png", "jpeg", "heic", "heif"};
 
 bool isNameOfOneFile(const std::string& name) {
-    return !name.empty() && name.find('/') == std::string::npos && name != "." && name != "..";
+    return !name.empty() && !name.contains('/') && name != "." && name != "..";
 }
 
 /// A picture of a known kind in those bytes; nothing for anything else.

@@ -124,8 +124,9 @@ TEST_F(RulePageTest, EachPageLoadsItsListOnce) {
         const id opened = newByName(name.c_str());
         ASSERT_NE(opened, nullptr) << name;
         const id specifiers = specifiersOf(opened);
-        EXPECT_EQ(takeJournal(),
-                  Lines{"-[" + name + " loadSpecifiersFromPlistName:target:] \"" + list + "\" " + name});
+        const auto loading =
+            std::string("-[").append(name).append(" loadSpecifiersFromPlistName:target:] \"");
+        EXPECT_EQ(takeJournal(), Lines{std::string(loading).append(list).append("\" ").append(name)});
         EXPECT_EQ(specifiersOf(opened), specifiers);
         EXPECT_TRUE(takeJournal().empty());
         objc_release(opened);

@@ -134,6 +134,7 @@ TEST_F(PSEditableTableCellTest, IsOneStopWithAName) {
 
 TEST_F(PSEditableTableCellTest, TheEditedRowStaysAboveTheKeyboard) {
     std::vector<std::string> items;
+    items.reserve(15);
     for (auto number = 0; number < 15; ++number)
         items.push_back(keptRow("PSEditTextCell", std::to_string(number)));
     writeList(items);
@@ -151,6 +152,7 @@ TEST_F(PSEditableTableCellTest, TheEditedRowStaysAboveTheKeyboard) {
 
 TEST_F(PSEditableTableCellTest, AnotherEditedRowComesOutFromBehindTheKeyboard) {
     std::vector<std::string> items;
+    items.reserve(15);
     for (auto number = 0; number < 15; ++number)
         items.push_back(keptRow("PSEditTextCell", std::to_string(number)));
     writeList(items);
