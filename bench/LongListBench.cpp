@@ -13,7 +13,7 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
-#include <optional>
+#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
@@ -113,9 +113,9 @@ Milliseconds timeOf(Work work) {
 Milliseconds openingTime(Compositor& compositor, const std::string& list, std::size_t rows) {
     const auto page = makePage(list, rows);
     compositor.forgetPicture();
-    std::optional<OpenedList> opened;
+    std::unique_ptr<OpenedList> opened;
     const auto time = timeOf([&] {
-        opened.emplace(page);
+        opened = std::make_unique<OpenedList>(page);
         compositor.render();
     });
     if (opened->table().cells().empty() || opened->table().layout().rowCount(0) != rows)

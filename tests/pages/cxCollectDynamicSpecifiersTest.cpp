@@ -73,6 +73,7 @@ TEST_F(cxCollectDynamicSpecifiersTest, ARowIsGoneWhileItsSwitchReadsFalse) {
 
 TEST_F(cxCollectDynamicSpecifiersTest, ACellThatIsMadeLaterIsCutOffToo) {
     std::vector<std::string> items;
+    items.reserve(62);
     for (auto number = 0; number < 60; ++number)
         items.push_back(row("PSStaticTextCell", std::to_string(number)));
     items.push_back(switchRow("master"));
