@@ -1,7 +1,9 @@
 #include "CXSwitchWithInfoCell.h"
 
 #include "Foundation/NSBundle.h"
+#include "Foundation/NSString.h"
 #include "ObjectiveC/Class.h"
+#include "SpecifierText.h"
 #include "UIKit/NSLayoutXAxisAnchor.h"
 #include "UIKit/NSLayoutYAxisAnchor.h"
 #include "UIKit/UIAlertController.h"
@@ -18,15 +20,11 @@ const Class classObject = Class::define<CXSwitchWithInfoCell, PSSwitchTableCell>
                              method<"infoButtonTapped", &CXSwitchWithInfoCell::infoButtonTapped>()});
 
 std::string withLineBreaks(std::string_view text) {
-    std::string lines;
-    for (auto end = text.find(writtenLineBreak); end != std::string_view::npos;
-         end = text.find(writtenLineBreak)) {
-        lines += text.substr(0, end);
-        lines += '\n';
-        text.remove_prefix(end + writtenLineBreak.size());
-    }
-    lines += text;
-    return lines;
+    const auto lines = componentsSeparatedByString(text, writtenLineBreak);
+    auto broken = lines.front();
+    for (std::size_t index = 1; index < lines.size(); ++index)
+        broken.append("\n").append(lines[index]);
+    return broken;
 }
 
 /// What the application's window shows; empty when it has none.
@@ -90,9 +88,7 @@ void CXSwitchWithInfoCell::infoButtonTapped() {
 
 std::optional<std::string> CXSwitchWithInfoCell::textForKey(std::string_view key) const {
     const auto row = specifier();
-    const auto value = row ? row->propertyForKey(key) : std::nullopt;
-    const auto* const text = value ? value->getIf<std::string>() : nullptr;
-    return text != nullptr ? std::optional(*text) : std::nullopt;
+    return row ? textOf(*row, key) : std::nullopt;
 }
 
 std::string CXSwitchWithInfoCell::message() const {

@@ -4,6 +4,7 @@
 #include "Foundation/NSBundle.h"
 #include "ObjectiveC/Class.h"
 #include "QuartzCore/CAGradientLayer.h"
+#include "SpecifierText.h"
 #include "UIKit/NSLayoutDimension.h"
 #include "UIKit/NSLayoutXAxisAnchor.h"
 #include "UIKit/NSLayoutYAxisAnchor.h"
@@ -23,12 +24,6 @@ constexpr auto fadeDuration = 0.3; ///< seconds
 const Class classObject = Class::define<CxHeaderCell, PSControlTableCell>(
     "CxHeaderCell", {method<"mainStackView", &CxHeaderCell::mainStackView>(),
                      method<"descriptionLabel", &CxHeaderCell::descriptionLabel>()});
-
-std::optional<std::string> textOf(const PSSpecifier& specifier, std::string_view key) {
-    const auto value = specifier.propertyForKey(key);
-    const auto* const text = value ? value->getIf<std::string>() : nullptr;
-    return text != nullptr ? std::optional(*text) : std::nullopt;
-}
 
 // The view is cut off at its bounds, so that its shadow stays unseen; that is meant.
 void setupBlurEffectShadow(const UIView& view) {

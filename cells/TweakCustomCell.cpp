@@ -4,6 +4,7 @@
 #include "HexColor.h"
 #include "ObjectiveC/Class.h"
 #include "RootPrefixResolver.h"
+#include "SpecifierText.h"
 #include "TweakButton.h"
 #include "UIKit/NSLayoutDimension.h"
 #include "UIKit/NSLayoutXAxisAnchor.h"
@@ -135,15 +136,9 @@ Ref<UIColor> TweakCustomCell::getFontColor(const std::optional<std::string>& tex
     return text == adaptiveFontColor ? UIColor::labelColor() : colorFromHex(text);
 }
 
-std::optional<PropertyList> TweakCustomCell::propertyForKey(std::string_view key) const {
-    const auto row = specifier();
-    return row ? row->propertyForKey(key) : std::nullopt;
-}
-
 std::optional<std::string> TweakCustomCell::textForKey(std::string_view key) const {
-    const auto value = propertyForKey(key);
-    const auto* const text = value ? value->getIf<std::string>() : nullptr;
-    return text != nullptr ? std::optional(*text) : std::nullopt;
+    const auto row = specifier();
+    return row ? textOf(*row, key) : std::nullopt;
 }
 
 Ref<UIStackView> TweakCustomCell::createMainStackView() {
@@ -161,7 +156,8 @@ void TweakCustomCell::configureButtons(UIStackView& stack) {
     const Colors colors{.tint = colorFromHexString(textForKey("iconColor")),
                         .shadow = colorFromHexString(textForKey("iconShadowColor")),
                         .font = getFontColor(textForKey("fontColor"))};
-    const auto number = propertyForKey("iconInset");
+    const auto row = specifier();
+    const auto number = row ? row->propertyForKey("iconInset") : std::nullopt;
     const auto inset = static_cast<float>(number ? number->doubleValue() : 0);
     addColumn(stack, {leftIconImage_, textForKey("leftLabel"), textForKey("leftClass")}, colors, inset);
     addColumn(stack, {middleIconImage_, textForKey("middleLabel"), textForKey("middleClass")}, colors, inset);

@@ -2,6 +2,7 @@
 
 #include "Foundation/NSString.h"
 #include "ObjectiveC/Class.h"
+#include "SpecifierText.h"
 
 #include <algorithm>
 #include <string>
@@ -23,15 +24,8 @@ const Class classObject = Class::define<cxCollectDynamicSpecifiers, PSListContro
      method<"dynamicSpecifiers", &cxCollectDynamicSpecifiers::dynamicSpecifiers>(),
      method<"setDynamicSpecifiers:", &cxCollectDynamicSpecifiers::setDynamicSpecifiers>()});
 
-/// A text property; empty when there is none.
-std::string textOf(const PSSpecifier& specifier, std::string_view key) {
-    const auto value = specifier.propertyForKey(key);
-    const auto* const text = value ? value->getIf<std::string>() : nullptr;
-    return text != nullptr ? *text : std::string();
-}
-
 std::vector<std::string> partsOfRule(const PSSpecifier& specifier) {
-    return componentsSeparatedByString(textOf(specifier, ruleKey), ruleSeparator);
+    return componentsSeparatedByString(textOf(specifier, ruleKey).value_or(""), ruleSeparator);
 }
 
 } // namespace
@@ -86,5 +80,5 @@ bool cxCollectDynamicSpecifiers::isDependent(const Ref<PSSpecifier>& specifier) 
 }
 
 bool cxCollectDynamicSpecifiers::controlsAnother(const PSSpecifier& specifier) const {
-    return dynamicSpecifiers_ && dynamicSpecifiers_->objectForKey(textOf(specifier, PSIDKey));
+    return dynamicSpecifiers_ && dynamicSpecifiers_->objectForKey(textOf(specifier, PSIDKey).value_or(""));
 }

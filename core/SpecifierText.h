@@ -1,0 +1,10 @@
+#pragma once
+
+#include "Preferences/PSSpecifier.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+/// A property of a row that is a text; nothing when the row has none of that name, or one of another kind.
+[[nodiscard]] std::optional<std::string> textOf(const PSSpecifier& specifier, std::string_view key);
