@@ -7,33 +7,22 @@
 #include "DesktopColor.h"
 #include "LoadedBundles.h"
 #include "ObjectiveC/Class.h"
+#include "PngFile.h"
 #include "QuartzCore/CAGradientLayer.h"
 #include "layout/UIStackViewPeer.h"
 #include "views/UIImageViewPeer.h"
 #include "views/UILabelPeer.h"
 
-#include <QBuffer>
-#include <QImage>
 #include <algorithm>
 
 namespace {
 
 constexpr auto bundlePath = "/var/jb/Library/PreferenceBundles/corvexPrefs.bundle";
 
-std::string picture(int side) {
-    QImage image(side, side, QImage::Format_ARGB32);
-    image.fill(Qt::red);
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "PNG");
-    return bytes.toStdString();
-}
-
 class CxHeaderCellTest : public CellFixture {
 protected:
     CxHeaderCellTest() : CellFixture("CxHeaderCell") {
-        device.write(std::string(bundlePath) + "/icon.png", picture(29));
+        device.write(std::string(bundlePath) + "/icon.png", pngFile(29, 29));
         LoadedBundles::shared().addClass(*NSClassFromString("CxHeaderCell"),
                                          DesktopBundle::withPath(bundlePath));
     }

@@ -6,6 +6,7 @@
 #include "DesktopImage.h"
 #include "ObjectiveC/Method.h"
 #include "PSListControllerPeer.h"
+#include "PngFile.h"
 #include "TweakButton.h"
 #include "accessibility/AccessibilityElement.h"
 #include "controls/UIButtonPeer.h"
@@ -14,30 +15,17 @@
 #include "views/UIImageViewPeer.h"
 #include "views/UILabelPeer.h"
 
-#include <QBuffer>
-#include <QImage>
 #include <algorithm>
 
 namespace {
 
 constexpr auto assets = "/var/jb/Library/PreferenceBundles/corvexPrefs.bundle/Assets/";
 
-/// A red picture of that many points across.
-std::string picture(int side) {
-    QImage image(side, side, QImage::Format_ARGB32);
-    image.fill(Qt::red);
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "PNG");
-    return bytes.toStdString();
-}
-
 class TweakCustomCellTest : public CellFixture {
 protected:
     TweakCustomCellTest() : CellFixture("TweakCustomCell") {
         for (const auto* const name : {"one", "two", "three"})
-            device.write(assets + std::string(name) + ".png", picture(40));
+            device.write(assets + std::string(name) + ".png", pngFile(40, 40));
     }
 
     [[nodiscard]] static Properties fullRow() {
@@ -247,21 +235,21 @@ TEST_F(TweakCustomCellTest, OnlyTheExactTextTrueMakesTheIconsTemplates) {
 }
 
 TEST_F(TweakCustomCellTest, TheIconsComeFromTheAssetsUnderTheJailbreaksRoot) {
-    device.write("/Library/PreferenceBundles/corvexPrefs.bundle/Assets/other.png", picture(40));
+    device.write("/Library/PreferenceBundles/corvexPrefs.bundle/Assets/other.png", pngFile(40, 40));
     const auto cell = dynamicCast<TweakCustomCell>(cellFor(fullRow()));
     const auto mode = static_cast<long>(UIImageRenderingMode::AlwaysOriginal);
     EXPECT_TRUE(cell->loadImageNamed("one", mode));
     EXPECT_FALSE(cell->loadImageNamed("other", mode));
     EXPECT_FALSE(cell->loadImageNamed("nowhere", mode));
     EXPECT_FALSE(cell->loadImageNamed(std::nullopt, mode));
-    device.write(assets + std::string("100%.png"), picture(40));
+    device.write(assets + std::string("100%.png"), pngFile(40, 40));
     EXPECT_TRUE(cell->loadImageNamed("100%", mode));
-    device.write(assets + std::string("sharp@3x.png"), picture(120));
+    device.write(assets + std::string("sharp@3x.png"), pngFile(120, 120));
     EXPECT_EQ(DesktopImage::sizeOf(*cell->loadImageNamed("sharp", mode)), (CGSize{40, 40}));
 }
 
 TEST_F(TweakCustomCellTest, AnAbsentNameIsFormattedAsThePlatformDoes) {
-    device.write(assets + std::string("(null).png"), picture(40));
+    device.write(assets + std::string("(null).png"), pngFile(40, 40));
     const auto cell = cellFor({});
     window->addSubview(cell);
     EXPECT_TRUE(buttonsOf(*cell).front()->imageView().image());

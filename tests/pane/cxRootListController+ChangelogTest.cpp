@@ -2,6 +2,7 @@
 #include "DesktopColor.h"
 #include "DesktopImage.h"
 #include "OBWelcomeControllerPeer.h"
+#include "PngFile.h"
 #include "PreferenceStore.h"
 #include "RootPageFixture.h"
 #include "UIKit/_UIBackdropView.h"
@@ -9,21 +10,9 @@
 #include "presentation/SheetContent.h"
 #include "views/UIViewPeer.h"
 
-#include <QBuffer>
-#include <QImage>
 #include <utility>
 
 namespace {
-
-/// A small picture, as a PNG file.
-std::string iconBytes() {
-    QImage picture(29, 29, QImage::Format_RGB32);
-    picture.fill(Qt::blue);
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    picture.save(&buffer, "PNG");
-    return bytes.toStdString();
-}
 
 constexpr auto markerKey = "LastVersionPopupShown";
 
@@ -146,7 +135,7 @@ TEST_F(cxRootListControllerChangelogTest, AnIconFileThatIsNoPictureCountsAsNone)
 }
 
 TEST_F(cxRootListControllerChangelogTest, ItsIconIsTheBundlesOwn) {
-    device.write(std::string(bundlePath) + "/icon.png", iconBytes());
+    device.write(std::string(bundlePath) + "/icon.png", pngFile(29, 29));
     show();
     ASSERT_TRUE(icon());
     EXPECT_EQ(icon()->symbolName(), "");

@@ -1,26 +1,17 @@
 #include "DesktopImage.h"
 
+#include "PngFile.h"
 #include "TestDevice.h"
 
 #include <gtest/gtest.h>
 
-#include <QBuffer>
+#include <QImage>
 #include <QPainter>
 #include <filesystem>
 
 namespace {
 
 constexpr ColorComponents tint{.red = 0, .green = 1, .blue = 0};
-
-/// The bytes of a PNG file of one colour.
-std::string png(int width, int height, QColor color = Qt::red) {
-    QImage image(width, height, QImage::Format_ARGB32);
-    image.fill(color);
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    image.save(&buffer, "PNG");
-    return bytes.toStdString();
-}
 
 QImage drawn(const DesktopImage& image, const CGRect& rect) {
     QImage picture(20, 20, QImage::Format_ARGB32_Premultiplied);
@@ -39,7 +30,7 @@ Ref<DesktopImage> plain(QColor color, double scale = 1) {
 
 TEST(DesktopImage, IsReadFromAFileOfTheDevice) {
     const TestDevice device;
-    device.write("/a/icon.png", png(29, 20));
+    device.write("/a/icon.png", pngFile(29, 20));
     const auto image = DesktopImage::withContentsOfFile("/a/icon.png", 1);
     ASSERT_TRUE(image);
     EXPECT_EQ(image->size(), (CGSize{29, 20}));
@@ -48,8 +39,8 @@ TEST(DesktopImage, IsReadFromAFileOfTheDevice) {
 
 TEST(DesktopImage, HasThePixelsPerPointThatItsFileNameTells) {
     const TestDevice device;
-    device.write("/icon@2x.png", png(58, 58));
-    device.write("/icon@3x.png", png(87, 87));
+    device.write("/icon@2x.png", pngFile(58, 58));
+    device.write("/icon@3x.png", pngFile(87, 87));
     EXPECT_EQ(DesktopImage::withContentsOfFile("/icon@2x.png", 1)->size(), (CGSize{29, 29}));
     EXPECT_EQ(DesktopImage::withContentsOfFile("/icon@3x.png", 1)->size(), (CGSize{29, 29}));
 }
@@ -57,7 +48,7 @@ TEST(DesktopImage, HasThePixelsPerPointThatItsFileNameTells) {
 TEST(DesktopImage, IsNothingWithoutAFileThatCanBeRead) {
     const TestDevice device;
     device.write("/text.png", "no picture");
-    device.write("/cut.png", png(50, 50).substr(0, 40));
+    device.write("/cut.png", pngFile(50, 50).substr(0, 40));
     device.write("/empty.png", "");
     EXPECT_FALSE(DesktopImage::withContentsOfFile("/missing.png", 1));
     EXPECT_FALSE(DesktopImage::withContentsOfFile("/text.png", 1));
@@ -68,8 +59,8 @@ TEST(DesktopImage, IsNothingWithoutAFileThatCanBeRead) {
 
 TEST(DesktopImage, IsReadInThePixelsPerPointOfTheDisplayWhereAFileBesideItHasThem) {
     const TestDevice device;
-    device.write("/icon.png", png(10, 10, Qt::red));
-    device.write("/icon@2x.png", png(20, 20, Qt::green));
+    device.write("/icon.png", pngFile(10, 10, Qt::red));
+    device.write("/icon@2x.png", pngFile(20, 20, Qt::green));
     const auto color = [](double scale) {
         const auto image = DesktopImage::withContentsOfFile("/icon.png", scale);
         EXPECT_EQ(image->size(), (CGSize{10, 10}));
@@ -84,9 +75,9 @@ TEST(DesktopImage, IsReadInThePixelsPerPointOfTheDisplayWhereAFileBesideItHasThe
 
 TEST(DesktopImage, IsTakenInTheSizeThatSuitsTheDisplay) {
     const TestDevice device;
-    device.write("/v1.0/icon.png", png(10, 10, Qt::red));
-    device.write("/v1.0/icon@2x.png", png(20, 20, Qt::green));
-    device.write("/v1.0/icon@3x.png", png(30, 30, Qt::blue));
+    device.write("/v1.0/icon.png", pngFile(10, 10, Qt::red));
+    device.write("/v1.0/icon@2x.png", pngFile(20, 20, Qt::green));
+    device.write("/v1.0/icon@3x.png", pngFile(30, 30, Qt::blue));
     const auto colorAt = [](double scale) {
         const auto image = DesktopImage::named("/v1.0/icon.png", scale);
         EXPECT_EQ(image->size(), (CGSize{10, 10}));
@@ -99,7 +90,7 @@ TEST(DesktopImage, IsTakenInTheSizeThatSuitsTheDisplay) {
 
 TEST(DesktopImage, IsTakenInAnotherSizeWhereTheBestOneIsMissing) {
     const TestDevice device;
-    device.write("/icon@2x.png", png(20, 20));
+    device.write("/icon@2x.png", pngFile(20, 20));
     EXPECT_EQ(DesktopImage::named("/icon.png", 3)->size(), (CGSize{10, 10}));
     EXPECT_EQ(DesktopImage::named("/icon.png", 1)->size(), (CGSize{10, 10}));
     EXPECT_FALSE(DesktopImage::named("/other.png", 3));

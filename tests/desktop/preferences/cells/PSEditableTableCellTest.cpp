@@ -6,7 +6,19 @@
 
 namespace {
 
-using PSEditableTableCellTest = RowsFixture;
+class PSEditableTableCellTest : public RowsFixture {
+protected:
+    /// Opens a list of fields, named from 0.
+    void showFields(int count) {
+        std::vector<std::string> rows;
+        rows.reserve(static_cast<std::size_t>(count));
+        for (int index = 0; index < count; ++index)
+            rows.push_back(keptRow("PSEditTextCell", std::to_string(index)));
+        writeList(rows);
+        show();
+    }
+};
+
 using Texts = std::vector<std::string>;
 
 void type(UITextFieldPeer& field, const QString& text) {
@@ -133,12 +145,7 @@ TEST_F(PSEditableTableCellTest, IsOneStopWithAName) {
 }
 
 TEST_F(PSEditableTableCellTest, TheEditedRowStaysAboveTheKeyboard) {
-    std::vector<std::string> items;
-    items.reserve(15);
-    for (auto number = 0; number < 15; ++number)
-        items.push_back(keptRow("PSEditTextCell", std::to_string(number)));
-    writeList(items);
-    show();
+    showFields(15);
     tap("14");
     settle();
     ASSERT_TRUE(fieldOf("14").fieldIsFirstResponder());
@@ -151,12 +158,7 @@ TEST_F(PSEditableTableCellTest, TheEditedRowStaysAboveTheKeyboard) {
 }
 
 TEST_F(PSEditableTableCellTest, AnotherEditedRowComesOutFromBehindTheKeyboard) {
-    std::vector<std::string> items;
-    items.reserve(15);
-    for (auto number = 0; number < 15; ++number)
-        items.push_back(keptRow("PSEditTextCell", std::to_string(number)));
-    writeList(items);
-    show();
+    showFields(15);
     tap("1");
     settle();
     fieldOf("14").becomeFirstResponder();

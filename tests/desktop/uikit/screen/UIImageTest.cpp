@@ -1,8 +1,7 @@
 #include "DesktopBundle.h"
 #include "DesktopImage.h"
 #include "Phone.h"
-
-#include <QBuffer>
+#include "PngFile.h"
 
 namespace {
 
@@ -12,14 +11,7 @@ protected:
     UIImageTest() : Phone({.idiom = Idiom::Pad, .scale = 2}) {}
 
     /// A picture file of so many pixels in both directions.
-    void writePicture(const std::string& path, int pixels) {
-        QImage picture(pixels, pixels, QImage::Format_ARGB32);
-        picture.fill(Qt::red);
-        QByteArray bytes;
-        QBuffer buffer(&bytes);
-        picture.save(&buffer, "PNG");
-        device.write(path, bytes.toStdString());
-    }
+    void writePicture(const std::string& path, int pixels) { device.write(path, pngFile(pixels, pixels)); }
 };
 
 } // namespace
