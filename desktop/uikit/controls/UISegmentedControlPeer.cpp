@@ -125,7 +125,7 @@ CGRect UISegmentedControlPeer::segmentFrame(std::size_t index) const {
 std::size_t UISegmentedControlPeer::segmentAt(const DesktopTouch& touch) const {
     const auto part = touch.locationInView(view()).x / std::max(1.0, view().bounds().size.width);
     const auto count = static_cast<double>(labels_.size());
-    return static_cast<std::size_t>(std::clamp(part * count, 0.0, count - 1));
+    return static_cast<std::size_t>(std::clamp(part * count, 0.0, std::max(0.0, count - 1)));
 }
 
 void UISegmentedControlPeer::place() {
