@@ -25,7 +25,7 @@ test:
 	@tools/test desktop device device-contract
 
 test-sanitized:
-	@tools/setup build test
+	@tools/setup build test sanitize
 	@tools/test desktop-sanitize
 
 smoke:

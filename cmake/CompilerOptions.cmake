@@ -13,7 +13,7 @@ target_compile_options(corvex_portable INTERFACE -fno-exceptions)
 
 # Code that only tests, which is not optimised: that would take more time than it saves.
 add_library(corvex_unoptimised INTERFACE)
-target_compile_options(corvex_unoptimised INTERFACE $<$<CONFIG:RelWithDebInfo>:-O0>)
+target_compile_options(corvex_unoptimised INTERFACE $<$<CONFIG:Debug,RelWithDebInfo>:-O0>)
 
 # The cache has to be told that precompiled headers are meant to be used.
 option(CORVEX_CCACHE "Compile through ccache where it is installed" ON)
