@@ -19,13 +19,18 @@ extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
 
 namespace {
 
+constexpr auto rounds = 200;
+
 /// What the address sanitizer keeps of each static object that is to end, also of those whose code is
 /// unloaded: a record of 32 bytes, for each time that the pane is loaded.
 #ifdef __SANITIZE_ADDRESS__
-constexpr std::size_t recordsOfEnds = 1'000'000;
+constexpr std::size_t recordsOfEnds = 200'000;
 #else
 constexpr std::size_t recordsOfEnds = 0;
 #endif
+
+/// Bytes; a view kept in each round takes more.
+constexpr std::size_t allowance = 20'000 + recordsOfEnds;
 
 /// What the process has allocated and not freed.
 std::size_t bytesInUse() {
@@ -39,10 +44,6 @@ std::size_t bytesInUse() {
 
 class LongUseTest : public testing::Test {
 protected:
-    static constexpr auto rounds = 1000;
-    static constexpr std::size_t allowance =
-        150'000 + recordsOfEnds; ///< bytes; a view kept in each round takes as many
-
     /// Opens the pane, reads what is new, opens the menu, turns the switch and goes on while things still
     /// move.
     void useOnce(int round) {
