@@ -243,6 +243,13 @@ TEST_F(LibArchiveUnpackingTest, WhatIsNoArchiveIsAnErrorAndMakesNothing) {
     }
 }
 
+// They are the mark at a tar file's end.
+TEST_F(LibArchiveUnpackingTest, WhatBeginsWithZerosIsAnEmptyArchive) {
+    EXPECT_TRUE(unpack(std::string(512, '\0') + "anything"));
+    EXPECT_TRUE(unpack(gzipped(std::string(1024, '\0'))));
+    EXPECT_EQ(unpacked(), Tree());
+}
+
 TEST_F(LibArchiveUnpackingTest, AMissingArchiveIsAnErrorAndMakesNothing) {
     const auto before = treeAt("/var");
     expectErrorForReading(LibArchive::extractArchiveAtPath("/var/missing", "/var/new"));
