@@ -5,6 +5,7 @@
 #include "Foundation/NSString.h"
 #include "ObjectiveC/Class.h"
 #include "System/FileSystemRepresentation.h"
+#include "System/UTF8Locale.h"
 
 #include <archive.h>
 #include <archive_entry.h>
@@ -124,6 +125,7 @@ void unpackItems(archive& reader, std::string_view folder) {
 } // namespace
 
 Result<void> LibArchive::createArchiveAtPath(std::string_view path, std::string_view contentsPath) {
+    const UTF8Locale locale; // the library translates names from the locale's encoding
     const Writer writer(archive_write_new());
     archive_write_add_filter_gzip(writer.get());
     archive_write_set_format_pax_restricted(writer.get());
@@ -136,6 +138,7 @@ Result<void> LibArchive::createArchiveAtPath(std::string_view path, std::string_
 }
 
 Result<void> LibArchive::extractArchiveAtPath(std::string_view path, std::string_view toPath) {
+    const UTF8Locale locale; // and to it
     const Reader reader(archive_read_new());
     archive_read_support_filter_gzip(reader.get());
     archive_read_support_format_tar(reader.get());

@@ -5,7 +5,6 @@
 
 #include <unistd.h>
 
-#include <clocale>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
@@ -63,7 +62,6 @@ public:
 
 private:
     Phone() {
-        std::setlocale(LC_ALL, "C.UTF-8");
         require(mkdtemp(home_.data()) != nullptr);
         root_ = home_ + "/root";
         auto root = DeviceRoot::open(root_);

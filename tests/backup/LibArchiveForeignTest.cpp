@@ -1,5 +1,4 @@
 #include "LibArchiveFixture.h"
-#include "Utf8Locale.h"
 
 #include <filesystem>
 
@@ -71,7 +70,6 @@ TEST_F(LibArchiveForeignTest, ABackupIsUnpackedByOthers) {
 }
 
 TEST_F(LibArchiveForeignTest, LongAndForeignNamesAreUnpackedByOthers) {
-    const Utf8Locale locale;
     put(std::string(200, 'n'), "1");
     put(foreignName, "2");
     put("two\nlines", "3");
@@ -110,7 +108,6 @@ TEST_F(LibArchiveForeignTest, ABackupThatOthersHavePackedIsUnpacked) {
 }
 
 TEST_F(LibArchiveForeignTest, LongAndForeignNamesOfOthersAreUnpacked) {
-    const Utf8Locale locale;
     put(longName, "1");
     put(foreignName, "2");
     put("two\nlines", "3");

@@ -2,12 +2,12 @@
 #include "LibArchiveFixture.h"
 #include "LowerLimit.h"
 #include "TarBytes.h"
-#include "Utf8Locale.h"
 #include "WithoutPrivileges.h"
 
 #include <sys/stat.h>
 
 #include <climits>
+#include <clocale>
 #include <filesystem>
 
 namespace {
@@ -206,16 +206,16 @@ TEST_F(LibArchiveUnpackingTest, NamesMayBeAsLongAsTheFileSystemLetsThem) {
     EXPECT_EQ(unpacked(), (Tree{{longest + "/", ""}, {longest + "/" + longest, "1"}, {"after", "4"}}));
 }
 
-TEST_F(LibArchiveUnpackingTest, ExtendedNamesAreReadInALocaleOfUTF8) {
-    const Utf8Locale locale;
+TEST_F(LibArchiveUnpackingTest, ExtendedNamesAreUTF8WhateverTheProcesssLocaleSays) {
+    ASSERT_STREQ(std::setlocale(LC_ALL, nullptr), "C");
     EXPECT_TRUE(unpack(TarBytes().extended("path", smile + e_acute).file("short", "1").file("after", "2")));
     EXPECT_EQ(unpacked(), (Tree{{smile + e_acute, "1"}, {"after", "2"}}));
 }
 
-// In another locale the library warns of such a name.
+// Of extended names that are no text the library warns.
 TEST_F(LibArchiveUnpackingTest, AWarningEndsIt) {
-    EXPECT_TRUE(
-        unpack(TarBytes().file("before", "1").extended("path", smile).file("short", "2").file("after", "3")));
+    EXPECT_TRUE(unpack(
+        TarBytes().file("before", "1").extended("path", "\xFF").file("short", "2").file("after", "3")));
     EXPECT_EQ(unpacked(), (Tree{{"before", "1"}}));
 }
 

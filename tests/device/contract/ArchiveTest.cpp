@@ -129,17 +129,22 @@ TEST_F(ArchiveTest, APathThatNamesNoFileIsAnError) {
     EXPECT_FALSE(files.fileExistsAtPath(path("archive")));
 }
 
-TEST_F(ArchiveTest, AFailureAfterTheOpeningIsNoError) {
-    put("packed/a", "hello");
-    put("packed/\u00E9", "the locale has no such character");
-    put("packed/z", "last");
+TEST_F(ArchiveTest, NamesAreUTF8WhateverTheProcesssLocaleSays) {
     const std::string before = std::setlocale(LC_ALL, nullptr);
     std::setlocale(LC_ALL, "C");
-    const auto result = pack();
+    put("packed/\u00E9", "hello");
+    EXPECT_TRUE(pack());
+    EXPECT_TRUE(unpack());
     std::setlocale(LC_ALL, before.c_str());
+    EXPECT_EQ(read("unpacked/\u00E9"), "hello");
+}
+
+TEST_F(ArchiveTest, AFailureAfterTheOpeningIsNoError) {
+    for (const auto* const name : {"packed/1", "packed/2"})
+        put(name, std::string(100000, 'x') + NSUUIDString());
+    const auto result = LibArchive::createArchiveAtPath("/dev/full", path("packed"));
     ASSERT_FALSE(result);
     EXPECT_FALSE(result.error());
-    EXPECT_TRUE(files.fileExistsAtPath(path("archive")));
 }
 
 TEST_F(ArchiveTest, OtherLibrariesAreGivenAPathAsItStands) {
