@@ -25,6 +25,7 @@ const Class classObject = Class::define<DocumentFolderPage, UIViewController>("D
 
 constexpr auto reuseIdentifier = "document";
 constexpr double symbolSize = 24;
+constexpr double symbolColumn = 29; ///< as wide as the icons of settings
 
 /// The folder's own name, but for the user's documents.
 std::string titleOf(const std::string& path) {
@@ -142,6 +143,7 @@ Ref<UITableViewCell> DocumentFolderPagePeer::cellForRow(IndexPath row) {
     shown.detailTextLabel().setText(detailOf(entry));
     shown.imageView().setImage(
         DesktopImage::symbol(entry.isFolder() ? "folder.fill" : "doc.fill", symbolSize));
+    shown.setImageColumn(symbolColumn);
     shown.imageView().setTintColor(
         DesktopColor::system(entry.isFolder() ? SystemColor::Cyan : SystemColor::Gray2));
     shown.setAccessoryType(entry.isFolder() ? UITableViewCellAccessoryType::DisclosureIndicator
