@@ -1,33 +1,14 @@
 #pragma once
 
+#include "DialogStandIn.h"
 #include "Phone.h"
 #include "UIKit/UIViewController.h"
 #include "accessibility/AccessibilityElement.h"
 #include "screen/FilePicker.h"
-#include "screen/HostFileDialog.h"
 
 #include <string>
 #include <string_view>
 #include <vector>
-
-/// A dialog of the host that notes what is asked of it, and answers when a test has it answer.
-class DialogStandIn final : public HostFileDialog {
-public:
-    // HostFileDialog:
-    void chooseFile(Chosen chosen) override {
-        ++filesAsked;
-        answer = std::move(chosen);
-    }
-
-    void chooseFolder(Chosen chosen) override {
-        ++foldersAsked;
-        answer = std::move(chosen);
-    }
-
-    int filesAsked = 0;
-    int foldersAsked = 0;
-    Chosen answer;
-};
 
 /// A page that presents what files are chosen with and shared by, and a folder of the host.
 class DocumentsFixture : public Phone {
