@@ -35,6 +35,12 @@ std::string_view withoutTrailingSlashes(std::string_view path) {
     return path;
 }
 
+bool mayStandInUrlPath(char character) {
+    constexpr std::string_view marks = "!$&'()*+,-./:=@_~";
+    return (character >= 'a' && character <= 'z') || (character >= 'A' && character <= 'Z') ||
+           (character >= '0' && character <= '9') || marks.contains(character);
+}
+
 } // namespace
 
 bool isValidUTF8(std::string_view text) {
@@ -72,6 +78,24 @@ std::string stringByDeletingLastPathComponent(std::string_view path) {
     if (slash == std::string_view::npos)
         return {};
     return std::string(withoutTrailingSlashes(path.substr(0, slash == 0 ? 1 : slash)));
+}
+
+std::string stringByAddingPercentEncodingWithURLPathAllowedCharacters(std::string_view text) {
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    constexpr unsigned bitsPerDigit = 4;
+    constexpr unsigned lastDigit = 0xF;
+    std::string encoded;
+    for (const char character : text) {
+        if (mayStandInUrlPath(character)) {
+            encoded += character;
+            continue;
+        }
+        const auto byte = static_cast<std::uint8_t>(character);
+        encoded += '%';
+        encoded += digits[byte >> bitsPerDigit];
+        encoded += digits[byte & lastDigit];
+    }
+    return encoded;
 }
 
 std::vector<std::string> componentsSeparatedByString(std::string_view text, std::string_view separator) {

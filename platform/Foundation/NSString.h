@@ -20,6 +20,10 @@
 /// What precedes the last component: "/a" of "/a/b", "/" of "/a", "" of "a".
 [[nodiscard]] std::string stringByDeletingLastPathComponent(std::string_view path);
 
+/// The text with every byte percent-encoded that may not stand in the path of a URL as it is: all but
+/// letters, digits and "!$&'()*+,-./:=@_~".
+[[nodiscard]] std::string stringByAddingPercentEncodingWithURLPathAllowedCharacters(std::string_view text);
+
 /// What stands before, between and after the separators, of which each is exactly `separator`; the whole text
 /// when there is none in it.
 /// \pre `separator` is not empty

@@ -102,7 +102,9 @@ std::optional<Presented::Details> AlertPresentationView::details() const {
                    .swipeDismissable = false,
                    .items = {},
                    .barItem = {},
-                   .fields = fields()};
+                   .fields = fields(),
+                   .urls = {},
+                   .popoverSource = {}};
 }
 
 UIView& AlertPresentationView::shownView() const {

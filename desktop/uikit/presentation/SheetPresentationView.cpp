@@ -3,14 +3,10 @@
 #include "CALayerPeer.h"
 #include "DesktopColor.h"
 #include "ObjectiveC/Class.h"
-#include "controllers/DesktopNavigationItem.h"
 #include "controllers/UIViewControllerPeer.h"
 #include "controls/UIControlPeer.h"
-#include "navigation/UINavigationControllerPeer.h"
 #include "presentation/Presentation.h"
-#include "presentation/SheetContent.h"
 #include "presentation/SheetPanGestureRecognizer.h"
-#include "screen/FilePicker.h"
 #include "screen/Screen.h"
 #include "screen/UIWindow.h"
 #include "scrolling/ScrollMotion.h"
@@ -45,7 +41,7 @@ SheetPresentationView::SheetPresentationView(UIViewController& controller)
     card_->addSubview(retain(&controller.view()));
     card_->peer().addGestureRecognizer(make<SheetPanGestureRecognizer>(*this));
     peerOf<UIControlPeer>(*dimming_).addHandler(UIControlEvents::TouchUpInside, [this] {
-        if (geometry().idiom == Idiom::Pad)
+        if (!geometry().fillsPhone())
             dismissPresented();
     });
 }
@@ -87,10 +83,12 @@ bool SheetPresentationView::blackensStatusBar() const {
 // Where everything is.
 
 SheetGeometry SheetPresentationView::geometry() const {
+    const auto* const content = page().content();
     return {.idiom = peer().traits().idiom,
             .size = bounds().size,
             .safeArea = peer().safeAreaInsets(),
-            .keyboardHeight = Screen::current().keyboardHeight()};
+            .keyboardHeight = Screen::current().keyboardHeight(),
+            .contentHeight = content != nullptr ? content->sheetHeight() : std::nullopt};
 }
 
 void SheetPresentationView::layoutSubviews() {
@@ -176,52 +174,10 @@ void SheetPresentationView::dismissPresented() {
 
 // What it tells of itself.
 
-Ref<UIViewController> SheetPresentationView::page() const {
-    auto shown = controller();
-    if (const auto navigation = dynamicCast<UINavigationController>(shown)) {
-        if (auto top = peerOf<UINavigationControllerPeer>(*navigation).top())
-            return top;
-    }
-    return shown;
-}
-
-const SheetContent* SheetPresentationView::content() const {
-    const auto shown = page();
-    return shown ? peerIf<SheetContent>(*shown) : nullptr;
-}
-
-FilePicker* SheetPresentationView::filePicker() const {
-    const auto shown = page();
-    return shown ? peerIf<FilePicker>(*shown) : nullptr;
-}
-
-Ref<UINavigationItem> SheetPresentationView::barItem() const {
-    const auto shown = page();
-    return shown != controller() ? retain<UINavigationItem>(&shown->navigationItem()) : nullptr;
-}
-
-std::string SheetPresentationView::title() const {
-    const auto shown = page();
-    auto title = content() != nullptr ? content()->sheetTitle() : std::string();
-    if (title.empty() && shown)
-        title = shown->peer().navigationItem().title();
-    return title;
-}
-
 std::optional<Presented::Details> SheetPresentationView::details() const {
-    const auto shown = controller();
-    Details details{.controllerClass = shown ? shown->isa().name() : "",
-                    .detail = {},
-                    .symbol = {},
-                    .style = style_ == UIModalPresentationStyle::FormSheet ? "formSheet" : "pageSheet",
-                    .swipeDismissable = !isModal(),
-                    .items = {},
-                    .barItem = barItem(),
-                    .fields = fields()};
-    if (const auto* const told = content()) {
-        details.detail = told->sheetDetail();
-        details.symbol = told->sheetSymbol();
-        details.items = told->sheetItems();
-    }
+    auto details = page().details();
+    details.style = style_ == UIModalPresentationStyle::FormSheet ? "formSheet" : "pageSheet";
+    details.swipeDismissable = !isModal();
+    details.fields = fields();
     return details;
 }
