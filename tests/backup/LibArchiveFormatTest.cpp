@@ -17,7 +17,11 @@ protected:
         return tarBytes();
     }
 
-    static std::string zeros(std::size_t count) { return std::string(count, '\0'); }
+    static std::string zeros(std::size_t count) {
+        std::string text;
+        text.resize(count);
+        return text;
+    }
 
     /// The sum of a header's bytes, with spaces in the place of the sum itself.
     static std::size_t checksumOf(std::string header) {

@@ -149,8 +149,8 @@ int archive_read_support_format_tar(archive* /*reader*/) {
     return status("read_support_format_tar");
 }
 
-int archive_read_open_filename(archive* /*reader*/, const char* file, size_t blockSize) {
-    return status("read_open_filename", fileNamed(file) + " " + std::to_string(blockSize));
+int archive_read_open_filename(archive* /*reader*/, const char* _filename, size_t _block_size) {
+    return status("read_open_filename", fileNamed(_filename) + " " + std::to_string(_block_size));
 }
 
 int archive_read_next_header(archive* reader, archive_entry** entry) {
@@ -175,16 +175,16 @@ mode_t archive_entry_filetype(archive_entry* entry) {
     return entry->item.type;
 }
 
-int archive_read_data_block(archive* reader, const void** block, size_t* size, la_int64_t* offset) {
+int archive_read_data_block(archive* a, const void** buff, size_t* size, la_int64_t* offset) {
     const auto told = status("read_data_block");
-    const auto& blocks = RecordingLibrary::current().items.at(reader->nextItem - 1).blocks;
-    if (told != ARCHIVE_OK || reader->nextBlock == blocks.size())
+    const auto& blocks = RecordingLibrary::current().items.at(a->nextItem - 1).blocks;
+    if (told != ARCHIVE_OK || a->nextBlock == blocks.size())
         return told != ARCHIVE_OK ? told : ARCHIVE_EOF;
     constexpr la_int64_t farBehind = 1000000;
-    *offset = farBehind * static_cast<la_int64_t>(reader->nextBlock);
-    *block = blocks[reader->nextBlock].data();
-    *size = blocks[reader->nextBlock].size();
-    ++reader->nextBlock;
+    *offset = farBehind * static_cast<la_int64_t>(a->nextBlock);
+    *buff = blocks[a->nextBlock].data();
+    *size = blocks[a->nextBlock].size();
+    ++a->nextBlock;
     return ARCHIVE_OK;
 }
 
