@@ -295,6 +295,7 @@ TEST_F(LibArchivePackingTest, SeparateCallsMayRunOnSeparateThreads) {
     put("\u00E9", "hello");
     {
         std::vector<std::jthread> threads;
+        threads.reserve(count);
         for (int number = 0; number < count; ++number) {
             threads.emplace_back([number] {
                 const auto archive = archivePath + std::to_string(number);
