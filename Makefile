@@ -12,7 +12,7 @@ help:
 	@echo "make lint      check format, static analysis and the rules of the tree"
 	@echo "make format    format all C++ files"
 	@echo "make fuzz      run each fuzzer for SECONDS_EACH (default 600) seconds"
-	@echo "make bench     measure what painting a change costs against painting all, and a long list against a short one"
+	@echo "make bench     measure painting a change against painting all, a long list against a short one, packing against bsdtar"
 	@echo "make coverage  run all tests and report the lines and branches that they reach"
 	@echo "make clean     remove everything that was built"
 

@@ -110,8 +110,9 @@ void unpackItem(archive& reader, archive_entry& entry, std::string_view folder) 
     if (!name)
         return;
     const auto path = stringByAppendingPathComponent(folder, *name);
-    // NOLINTNEXTLINE(bugprone-unused-return-value): where there is no folder, no file comes to be
-    NSFileManager::defaultManager().createDirectoryAtPath(stringByDeletingLastPathComponent(path), true);
+    // Where no folder comes to be, no file does.
+    [[maybe_unused]] const auto made =
+        NSFileManager::defaultManager().createDirectoryAtPath(stringByDeletingLastPathComponent(path), true);
     if (archive_entry_filetype(&entry) == AE_IFREG)
         unpackContent(reader, path);
 }

@@ -29,8 +29,8 @@ public:
                                                           std::string_view contentsPath);
 
     /// Unpacks the files of an archive, with the folders that they are in, by the names that it gives: also
-    /// when those lead out of `toPath`. A file that is there already is written over from its start and keeps
-    /// what lies beyond.
+    /// when those lead out of `toPath`. An entry whose name is not UTF-8 is left out. A file that is there
+    /// already is written over from its start and keeps what lies beyond.
     /// \returns success whenever the archive could be opened, however much of it could be read and written
     [[nodiscard]] static Result<void> extractArchiveAtPath(std::string_view path, std::string_view toPath);
 };

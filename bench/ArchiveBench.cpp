@@ -141,7 +141,7 @@ double peak() {
     for (std::string line; std::getline(status, line);) {
         constexpr std::string_view field = "VmHWM:";
         if (line.starts_with(field))
-            return std::stod(line.substr(field.size())) / 1024;
+            return std::stod(line.substr(field.size())) / 1024; // which is told in KiB
     }
     fail("the memory in use is not told");
 }

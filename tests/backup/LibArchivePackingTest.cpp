@@ -14,6 +14,7 @@
 #include <filesystem>
 #include <random>
 #include <sstream>
+#include <thread>
 #include <vector>
 
 namespace {
@@ -286,4 +287,24 @@ TEST_F(LibArchivePackingTest, WhatCannotBeWrittenAtTheVeryEndIsNotExamined) {
     const LowerLimit fileSize(RLIMIT_FSIZE, 20);
     EXPECT_TRUE(pack());
     EXPECT_LE(device.read(archivePath).size(), 20U);
+}
+
+TEST_F(LibArchivePackingTest, SeparateCallsMayRunOnSeparateThreads) {
+    constexpr int count = 4;
+    put("a", noise(300000));
+    put("\u00E9", "hello");
+    {
+        std::vector<std::jthread> threads;
+        threads.reserve(count);
+        for (int number = 0; number < count; ++number) {
+            threads.emplace_back([number] {
+                const auto archive = archivePath + std::to_string(number);
+                const auto folder = unpackedPath + std::to_string(number);
+                EXPECT_TRUE(LibArchive::createArchiveAtPath(archive, packedPath));
+                EXPECT_TRUE(LibArchive::extractArchiveAtPath(archive, folder));
+            });
+        }
+    }
+    for (int number = 0; number < count; ++number)
+        EXPECT_EQ(treeAt(unpackedPath + std::to_string(number)), treeAt(packedPath)) << number;
 }

@@ -140,8 +140,11 @@ TEST_F(ArchiveTest, NamesAreUTF8WhateverTheProcesssLocaleSays) {
 }
 
 TEST_F(ArchiveTest, AFailureAfterTheOpeningIsNoError) {
-    for (const auto* const name : {"packed/1", "packed/2"})
-        put(name, std::string(100000, 'x') + NSUUIDString());
+    std::string incompressible;
+    while (incompressible.size() < 200000)
+        incompressible += NSUUIDString();
+    put("packed/1", incompressible);
+    put("packed/2", incompressible);
     const auto result = LibArchive::createArchiveAtPath("/dev/full", path("packed"));
     ASSERT_FALSE(result);
     EXPECT_FALSE(result.error());
