@@ -31,12 +31,6 @@ protected:
                "/var/mobile/Documents/my%20backup.tar.gz";
     }
 
-    [[nodiscard]] std::expected<void, std::string> pick(const Texts& paths) {
-        auto outcome = top()->filePicker()->pickFiles(paths);
-        settle();
-        return outcome;
-    }
-
     Ref<UIActivityViewController> sheet;
 };
 
