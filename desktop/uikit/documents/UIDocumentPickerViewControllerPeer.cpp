@@ -115,7 +115,7 @@ std::expected<void, std::string> UIDocumentPickerViewControllerPeer::handOver(co
     }
     std::vector<Ref<NSObject>> urls;
     for (const auto& path : *copies)
-        urls.push_back(NSURL::fileURLWithPath(path));
+        urls.emplace_back(NSURL::fileURLWithPath(path));
     const auto tell = [picker = retain<NSObject>(&controller()), delegate = delegate_,
                        urls = std::move(urls)] {
         const auto told = delegate.strong();

@@ -87,10 +87,13 @@ std::vector<std::string> UIActivityViewControllerPeer::sheetUrls() const {
 }
 
 std::vector<ShareView::Activity> UIActivityViewControllerPeer::activities() {
-    return {
-        {.title = copyLook.title, .symbol = copyLook.symbol, .perform = [this] { finish(copy()); }},
-        {.title = saveLook.title, .symbol = saveLook.symbol, .perform = [this] { chooseFolder(); }},
-        {.title = openLook.title, .symbol = openLook.symbol, .perform = [this] { finish(openWithHost()); }}};
+    return {{.title = copyLook.title,
+             .symbol = copyLook.symbol,
+             .perform = [this] { static_cast<void>(finish(copy())); }},
+            {.title = saveLook.title, .symbol = saveLook.symbol, .perform = [this] { chooseFolder(); }},
+            {.title = openLook.title, .symbol = openLook.symbol, .perform = [this] {
+                 static_cast<void>(finish(openWithHost()));
+             }}};
 }
 
 // What is done.
