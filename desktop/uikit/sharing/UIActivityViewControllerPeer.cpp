@@ -76,6 +76,7 @@ std::string UIActivityViewControllerPeer::sheetDetail() const {
 
 std::vector<Presented::Item> UIActivityViewControllerPeer::sheetItems() const {
     std::vector<Presented::Item> items;
+    items.reserve(looks.size());
     for (const auto& look : looks)
         items.push_back(
             {.title = look.title, .description = {}, .symbol = look.symbol, .tint = {}, .tappable = true});
