@@ -124,7 +124,7 @@ UIActivityViewControllerPeer::Outcome UIActivityViewControllerPeer::openWithHost
         return std::unexpected(urls.error());
     for (const auto& url : *urls) {
         if (!Device::current().urls().open(url))
-            return std::unexpected("No application of this computer opened it.");
+            return std::unexpected("No application opened it.");
     }
     return {};
 }

@@ -228,6 +228,15 @@ TEST_F(UIDocumentPickerTest, SeveralFilesNeedToBeAllowed) {
     EXPECT_EQ(device.read(delegate->paths[0]) + device.read(delegate->paths[1]), "ab");
 }
 
+TEST_F(UIDocumentPickerTest, OfSeveralFilesAllAreTakenOrNone) {
+    open();
+    picker->setAllowsMultipleSelection(true);
+    EXPECT_FALSE(pick({hostFile("a.gz"), host.path() + "/none.gz"}));
+    EXPECT_TRUE(delegate->paths.empty());
+    EXPECT_TRUE(
+        std::filesystem::is_empty(device.hostPath(Device::temporaryPath) + "/com.apple.Preferences-Inbox"));
+}
+
 TEST_F(UIDocumentPickerTest, ADelegateThatIsGoneOrHasNoSuchMethodIsToldNothing) {
     open();
     delegate = nullptr;

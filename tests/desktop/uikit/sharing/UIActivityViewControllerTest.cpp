@@ -108,7 +108,7 @@ TEST_F(UIActivityViewControllerTest, OpenWithHasTheHostOpenTheFile) {
 TEST_F(UIActivityViewControllerTest, WithoutAnApplicationOpenWithSaysSoAndStays) {
     share();
     press("Open With…");
-    EXPECT_EQ(complaint(), "No application of this computer opened it.");
+    EXPECT_EQ(complaint(), "No application opened it.");
     press("OK");
     EXPECT_EQ(kind(), "share");
 }
