@@ -174,8 +174,7 @@ void GcImagePickerControllerPeer::cancelPicking() {
 void GcImagePickerControllerPeer::browseHost() {
     Screen::current().fileDialog()->chooseFile(
         [weak = Weak<UIViewController>(&controller()), this](const std::string& path) {
-            const auto kept = weak.strong();
-            if (kept && isViewLoaded() && view().peer().window() != nullptr)
+            if (const auto kept = weak.strong())
                 static_cast<void>(pickFiles({path}));
         });
 }

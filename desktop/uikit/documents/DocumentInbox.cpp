@@ -51,3 +51,8 @@ std::expected<std::string, std::string> DocumentInbox::takeHostFile(const std::s
 std::expected<std::string, std::string> DocumentInbox::takeDeviceFile(const std::string& path) {
     return take(RegularFile::open(Device::current().root(), path, O_RDONLY), path);
 }
+
+void DocumentInbox::discard(const std::string& copy) {
+    static_cast<void>(
+        NSFileManager::defaultManager().removeItemAtPath(stringByDeletingLastPathComponent(copy)));
+}

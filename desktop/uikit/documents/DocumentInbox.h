@@ -14,4 +14,7 @@ namespace DocumentInbox {
 /// Copies a file of the device. \returns the copy's path
 [[nodiscard]] std::expected<std::string, std::string> takeDeviceFile(const std::string& path);
 
+/// Takes a copy away again.
+void discard(const std::string& copy);
+
 } // namespace DocumentInbox

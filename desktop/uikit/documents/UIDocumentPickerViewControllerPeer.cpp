@@ -10,6 +10,7 @@
 #include "navigation/UINavigationControllerPeer.h"
 #include "screen/Screen.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -91,18 +92,25 @@ void UIDocumentPickerViewControllerPeer::cancelPicking() {
     controller().dismissViewControllerAnimated(true, {});
 }
 
+std::expected<std::string, std::string>
+UIDocumentPickerViewControllerPeer::copyOf(const std::string& hostPath) const {
+    if (!isOfOneOf(types_, hostPath))
+        return std::unexpected("“" + hostPath.substr(hostPath.rfind('/') + 1) +
+                               "” is not of a kind that can be chosen.");
+    return DocumentInbox::takeHostFile(hostPath);
+}
+
 UIDocumentPickerViewControllerPeer::Copies
 UIDocumentPickerViewControllerPeer::copiesOf(const std::vector<std::string>& hostPaths) const {
     if (hostPaths.size() != 1 && !allowsMultipleSelection_)
         return std::unexpected("One file is wanted.");
     std::vector<std::string> copies;
     for (const auto& path : hostPaths) {
-        if (!isOfOneOf(types_, path))
-            return std::unexpected("“" + path.substr(path.rfind('/') + 1) +
-                                   "” is not of a kind that can be chosen.");
-        auto copy = DocumentInbox::takeHostFile(path);
-        if (!copy)
+        auto copy = copyOf(path);
+        if (!copy) {
+            std::ranges::for_each(copies, DocumentInbox::discard);
             return std::unexpected(copy.error());
+        }
         copies.push_back(std::move(*copy));
     }
     return copies;
@@ -115,7 +123,7 @@ std::expected<void, std::string> UIDocumentPickerViewControllerPeer::handOver(co
     }
     std::vector<Ref<NSObject>> urls;
     for (const auto& path : *copies)
-        urls.push_back(NSURL::fileURLWithPath(path));
+        urls.emplace_back(NSURL::fileURLWithPath(path));
     const auto tell = [picker = retain<NSObject>(&controller()), delegate = delegate_,
                        urls = std::move(urls)] {
         const auto told = delegate.strong();

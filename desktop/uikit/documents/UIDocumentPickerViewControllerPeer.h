@@ -58,6 +58,7 @@ private:
     [[nodiscard]] Ref<DocumentFolderPage> page() const;
     void browseHost();
     void pickFromDevice(const std::string& path);
+    [[nodiscard]] std::expected<std::string, std::string> copyOf(const std::string& hostPath) const;
     [[nodiscard]] Copies copiesOf(const std::vector<std::string>& hostPaths) const;
     std::expected<void, std::string> handOver(const Copies& copies);
 

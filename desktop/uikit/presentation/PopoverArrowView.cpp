@@ -14,13 +14,15 @@ using Side = PopoverGeometry::Side;
 
 const Class classObject = Class::define<PopoverArrowView, UIView>("PopoverArrowView");
 
-constexpr double tipRoundness = 0.3; ///< of the base: how broad the rounded tip is
+// How far the outline follows the panel's edge, and how broad the rounded tip is, in parts of the base.
+constexpr double foot = 0.18;
+constexpr double tip = 0.26;
 
 /// With its base at the lower edge of a unit square, and its tip at the upper one.
 QPainterPath arrow() {
     QPainterPath path(QPointF(0, 1));
-    path.cubicTo(QPointF(tipRoundness, 1), QPointF(0.5 - tipRoundness / 2, 0), QPointF(0.5, 0));
-    path.cubicTo(QPointF(0.5 + tipRoundness / 2, 0), QPointF(1 - tipRoundness, 1), QPointF(1, 1));
+    path.cubicTo(QPointF(foot, 1), QPointF(0.5 - tip / 2, 0), QPointF(0.5, 0));
+    path.cubicTo(QPointF(0.5 + tip / 2, 0), QPointF(1 - foot, 1), QPointF(1, 1));
     path.closeSubpath();
     return path;
 }

@@ -77,19 +77,21 @@ CGRect arrowFrame(Side side, const CGRect& panel, const CGRect& source) {
     constexpr auto base = PopoverGeometry::arrowBase;
     constexpr auto height = PopoverGeometry::arrowHeight;
     constexpr auto corner = PopoverGeometry::cornerRadius;
+    constexpr CGSize upright{.width = base, .height = height};
+    constexpr CGSize lying{.width = height, .height = base};
     const auto x =
         startAround(CGRectGetMidX(source), base, panel.origin.x + corner, CGRectGetMaxX(panel) - corner);
     const auto y =
         startAround(CGRectGetMidY(source), base, panel.origin.y + corner, CGRectGetMaxY(panel) - corner);
     switch (side) {
     case Side::Below:
-        return CGRectMake(x, panel.origin.y - height, base, height);
+        return {{x, panel.origin.y - height}, upright};
     case Side::Above:
-        return CGRectMake(x, CGRectGetMaxY(panel), base, height);
+        return {{x, CGRectGetMaxY(panel)}, upright};
     case Side::Right:
-        return CGRectMake(panel.origin.x - height, y, height, base);
+        return {{panel.origin.x - height, y}, lying};
     default:
-        return CGRectMake(CGRectGetMaxX(panel), y, height, base);
+        return {{CGRectGetMaxX(panel), y}, lying};
     }
 }
 

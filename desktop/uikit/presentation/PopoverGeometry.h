@@ -17,7 +17,7 @@ struct PopoverGeometry {
     enum class Side { Below, Above, Right, Left };
 
     struct Place {
-        Side side;
+        Side side = Side::Below;
         CGRect panel;
         CGRect arrow; ///< between the panel and the source
     };

@@ -76,6 +76,7 @@ std::string UIActivityViewControllerPeer::sheetDetail() const {
 
 std::vector<Presented::Item> UIActivityViewControllerPeer::sheetItems() const {
     std::vector<Presented::Item> items;
+    items.reserve(looks.size());
     for (const auto& look : looks)
         items.push_back(
             {.title = look.title, .description = {}, .symbol = look.symbol, .tint = {}, .tappable = true});
@@ -87,10 +88,13 @@ std::vector<std::string> UIActivityViewControllerPeer::sheetUrls() const {
 }
 
 std::vector<ShareView::Activity> UIActivityViewControllerPeer::activities() {
-    return {
-        {.title = copyLook.title, .symbol = copyLook.symbol, .perform = [this] { finish(copy()); }},
-        {.title = saveLook.title, .symbol = saveLook.symbol, .perform = [this] { chooseFolder(); }},
-        {.title = openLook.title, .symbol = openLook.symbol, .perform = [this] { finish(openWithHost()); }}};
+    return {{.title = copyLook.title,
+             .symbol = copyLook.symbol,
+             .perform = [this] { static_cast<void>(finish(copy())); }},
+            {.title = saveLook.title, .symbol = saveLook.symbol, .perform = [this] { chooseFolder(); }},
+            {.title = openLook.title, .symbol = openLook.symbol, .perform = [this] {
+                 static_cast<void>(finish(openWithHost()));
+             }}};
 }
 
 // What is done.
@@ -120,7 +124,7 @@ UIActivityViewControllerPeer::Outcome UIActivityViewControllerPeer::openWithHost
         return std::unexpected(urls.error());
     for (const auto& url : *urls) {
         if (!Device::current().urls().open(url))
-            return std::unexpected("No application of this computer opened it.");
+            return std::unexpected("No application opened it.");
     }
     return {};
 }

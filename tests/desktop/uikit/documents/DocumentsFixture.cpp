@@ -31,7 +31,22 @@ std::vector<std::string> DocumentsFixture::labels() {
     return labels;
 }
 
+std::expected<void, std::string> DocumentsFixture::pick(const std::vector<std::string>& hostPaths) {
+    auto* const picker = top() != nullptr ? top()->filePicker() : nullptr;
+    if (picker == nullptr) {
+        ADD_FAILURE() << "nothing waits for files";
+        return std::unexpected("");
+    }
+    auto outcome = picker->pickFiles(hostPaths);
+    settle();
+    return outcome;
+}
+
 void DocumentsFixture::press(std::string_view label) {
+    if (top() == nullptr) {
+        ADD_FAILURE() << "nothing is presented that could have " << label;
+        return;
+    }
     for (const auto& element : AccessibilityElement::allIn(top()->shownView())) {
         if (element.label == label) {
             tap(*element.view);

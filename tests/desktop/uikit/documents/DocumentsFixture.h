@@ -6,6 +6,7 @@
 #include "accessibility/AccessibilityElement.h"
 #include "screen/FilePicker.h"
 
+#include <expected>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -32,6 +33,9 @@ protected:
 
     /// Touches what has that label in what is in front.
     void press(std::string_view label);
+
+    /// Gives paths of the host to what is in front, which has to wait for some.
+    [[nodiscard]] std::expected<void, std::string> pick(const std::vector<std::string>& hostPaths);
 
     [[nodiscard]] std::string hostFile(const std::string& name, const std::string& content = "host") const;
 

@@ -3,6 +3,7 @@
 #include "ObjectiveC/Class.h"
 #include "ObjectiveC/Weak.h"
 #include "documents/DocumentsFixture.h"
+#include "views/UIViewPeer.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -17,14 +18,14 @@ public:
     void didPickDocumentsAtURLs(const Ref<UIDocumentPickerViewController>& from,
                                 const std::vector<Ref<NSURL>>& urls) {
         picker = from;
-        sheetWasGone = Screen::current().presentations().all().empty();
+        pickerWasGone = from->view().peer().window() == nullptr;
         for (const auto& url : urls)
             paths.push_back(url->path());
     }
 
     Ref<UIDocumentPickerViewController> picker;
     Texts paths;
-    bool sheetWasGone = false;
+    bool pickerWasGone = false;
 };
 
 const Class delegateClass = Class::define<PickerDelegate>(
@@ -39,12 +40,6 @@ protected:
         picker = UIDocumentPickerViewController::initWithDocumentTypes(types, UIDocumentPickerMode::Import);
         picker->setDelegate(*delegate);
         present(picker);
-    }
-
-    [[nodiscard]] std::expected<void, std::string> pick(const Texts& paths) {
-        auto outcome = top()->filePicker()->pickFiles(paths);
-        settle();
-        return outcome;
     }
 
     /// The only path that the delegate was told.
@@ -102,7 +97,7 @@ TEST_F(UIDocumentPickerTest, AFileThatIsTappedIsHandedOverAsACopyOnceThePickerIs
     open();
     press("ä b.tar.gz");
     EXPECT_EQ(kind(), "");
-    EXPECT_TRUE(delegate->sheetWasGone);
+    EXPECT_TRUE(delegate->pickerWasGone);
     EXPECT_EQ(delegate->picker, picker);
     EXPECT_TRUE(picked().starts_with("/var/mobile/tmp/com.apple.Preferences-Inbox/")) << picked();
     EXPECT_TRUE(picked().ends_with("/ä b.tar.gz"));
@@ -231,6 +226,15 @@ TEST_F(UIDocumentPickerTest, SeveralFilesNeedToBeAllowed) {
     EXPECT_TRUE(pick(two));
     ASSERT_EQ(delegate->paths.size(), 2U);
     EXPECT_EQ(device.read(delegate->paths[0]) + device.read(delegate->paths[1]), "ab");
+}
+
+TEST_F(UIDocumentPickerTest, OfSeveralFilesAllAreTakenOrNone) {
+    open();
+    picker->setAllowsMultipleSelection(true);
+    EXPECT_FALSE(pick({hostFile("a.gz"), host.path() + "/none.gz"}));
+    EXPECT_TRUE(delegate->paths.empty());
+    EXPECT_TRUE(
+        std::filesystem::is_empty(device.hostPath(Device::temporaryPath) + "/com.apple.Preferences-Inbox"));
 }
 
 TEST_F(UIDocumentPickerTest, ADelegateThatIsGoneOrHasNoSuchMethodIsToldNothing) {

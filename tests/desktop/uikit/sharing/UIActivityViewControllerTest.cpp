@@ -31,12 +31,6 @@ protected:
                "/var/mobile/Documents/my%20backup.tar.gz";
     }
 
-    [[nodiscard]] std::expected<void, std::string> pick(const Texts& paths) {
-        auto outcome = top()->filePicker()->pickFiles(paths);
-        settle();
-        return outcome;
-    }
-
     Ref<UIActivityViewController> sheet;
 };
 
@@ -114,7 +108,7 @@ TEST_F(UIActivityViewControllerTest, OpenWithHasTheHostOpenTheFile) {
 TEST_F(UIActivityViewControllerTest, WithoutAnApplicationOpenWithSaysSoAndStays) {
     share();
     press("Open With…");
-    EXPECT_EQ(complaint(), "No application of this computer opened it.");
+    EXPECT_EQ(complaint(), "No application opened it.");
     press("OK");
     EXPECT_EQ(kind(), "share");
 }
