@@ -20,6 +20,16 @@
 /// What precedes the last component: "/a" of "/a/b", "/" of "/a", "" of "a".
 [[nodiscard]] std::string stringByDeletingLastPathComponent(std::string_view path);
 
+/// "b" of "/a/b" and of "/a/b/", "/" of "/", "" of "".
+[[nodiscard]] std::string lastPathComponent(std::string_view path);
+
+/// What follows the last dot of the last component: "gz" of "/a/b.tar.gz". "" without such a dot, when it is
+/// the component's first character or its last, and when what follows it holds a space.
+[[nodiscard]] std::string pathExtension(std::string_view path);
+
+/// The path without its extension and the dot before that, if it has one: "/a/b.tar" of "/a/b.tar.gz".
+[[nodiscard]] std::string stringByDeletingPathExtension(std::string_view path);
+
 /// What stands before, between and after the separators, of which each is exactly `separator`; the whole text
 /// when there is none in it.
 /// \pre `separator` is not empty
