@@ -121,6 +121,6 @@ endfunction()
 
 # What the bundle may import, in the order in which it names the libraries to the loader.
 set(stub_lists libSystem libobjc libc++ CoreFoundation Foundation UIKit QuartzCore AudioToolbox Preferences
-    OnBoardingKit libgcuniversal)
+    OnBoardingKit libarchive libgcuniversal)
 list(TRANSFORM stub_lists REPLACE "(.+)" "${CMAKE_SOURCE_DIR}/device/stubs/\\1.txt" OUTPUT_VARIABLE DEVICE_STUB_LISTS)
 corvex_device_stubs(DEVICE_STUBS ${DEVICE_STUB_LISTS})

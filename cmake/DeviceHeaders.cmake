@@ -18,6 +18,11 @@ if(annotated_config_site STREQUAL config_site)
 endif()
 file(CONFIGURE OUTPUT ${own_headers}/__config_site CONTENT "${annotated_config_site}" @ONLY)
 
+# libarchive's headers are those of the machine that builds; they ask for no more than the C headers above.
+execute_process(COMMAND pkg-config --variable=includedir libarchive OUTPUT_VARIABLE archive_headers
+    OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+file(COPY ${archive_headers}/archive.h ${archive_headers}/archive_entry.h DESTINATION ${own_headers})
+
 # The first folder that has a header wins. The package's TargetConditionals.h would call every target a Mac.
 add_compile_options(-nostdinc++ -nostdlibinc)
 foreach(folder ${own_headers} ${CMAKE_SOURCE_DIR}/device/headers ${library_headers}

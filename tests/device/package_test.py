@@ -39,7 +39,7 @@ class PackageTest(unittest.TestCase):
 
     def test_it_says_what_it_needs(self):
         needed = [item.strip() for item in field("Depends").split(",")]
-        self.assertEqual(needed, ["firmware (>= 15.0)", "preferenceloader", "com.mrgcgamer.libgcuniversal"])
+        self.assertEqual(needed, ["firmware (>= 15.0)", "preferenceloader", "libarchive13", "com.mrgcgamer.libgcuniversal"])
         self.assertGreater(int(field("Installed-Size")), 0)
 
     def test_it_has_the_bundle_and_its_entry_and_nothing_else(self):

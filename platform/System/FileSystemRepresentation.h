@@ -1,0 +1,34 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string_view>
+
+/// The name by which other libraries' functions, which know nothing of device paths, open a file of the
+/// device. It is good for as long as the object lives, and leads to the file that the path led to at its
+/// making.
+class FileSystemRepresentation {
+public:
+    /// Of a file to read. Nothing when the path can name none, and where the platform sees already that it
+    /// cannot be read.
+    [[nodiscard]] static std::optional<FileSystemRepresentation> ofFileForReading(std::string_view path);
+
+    /// Of a file to write, which may not be there yet; the platform may make it, empty, and leaves what one
+    /// holds. Nothing when the path can name none, and where the platform sees already that it cannot be
+    /// written.
+    [[nodiscard]] static std::optional<FileSystemRepresentation> ofFileForWriting(std::string_view path);
+
+    FileSystemRepresentation(FileSystemRepresentation&& other) noexcept;
+    FileSystemRepresentation& operator=(FileSystemRepresentation&& other) noexcept;
+    ~FileSystemRepresentation();
+
+    /// Valid as long as this object, and never empty.
+    [[nodiscard]] const char* c_str() const;
+
+private:
+    struct State;
+
+    explicit FileSystemRepresentation(std::unique_ptr<State> state);
+
+    std::unique_ptr<State> state_;
+};
