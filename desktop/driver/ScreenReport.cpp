@@ -79,6 +79,13 @@ QJsonArray fieldReports(const std::vector<Presented::Field>& fields) {
     return reports;
 }
 
+QJsonArray urlReports(const std::vector<std::string>& urls) {
+    QJsonArray reports;
+    for (const auto& url : urls)
+        reports.append(jsonOfText(url));
+    return reports;
+}
+
 void addDetails(const Presented::Details& details, const UIView& shown, QJsonObject& report) {
     const auto bar = dynamicCast<DesktopNavigationItem>(details.barItem);
     report["class"] = jsonOfText(details.controllerClass);
@@ -90,6 +97,7 @@ void addDetails(const Presented::Details& details, const UIView& shown, QJsonObj
     report["left"] = bar ? barItemReports(bar->leftItems()) : QJsonArray();
     report["right"] = bar ? barItemReports(bar->rightItems()) : QJsonArray();
     report["fields"] = fieldReports(details.fields);
+    report["urls"] = urlReports(details.urls);
 }
 
 QJsonObject presentedReport(const Presented& presented) {

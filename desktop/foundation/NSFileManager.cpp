@@ -180,6 +180,13 @@ Result<NSFileAttributes> NSFileManager::attributesOfItemAtPath(std::string_view 
     return attributesOf(*status);
 }
 
+std::vector<Ref<NSURL>> NSFileManager::URLsForDirectory(NSSearchPathDirectory directory) const {
+    std::vector<Ref<NSURL>> urls;
+    for (const auto& path : NSSearchPathForDirectoriesInDomains(directory))
+        urls.push_back(NSURL::fileURLWithPath(path));
+    return urls;
+}
+
 std::vector<std::string> NSSearchPathForDirectoriesInDomains(NSSearchPathDirectory directory) {
     switch (directory) {
     case NSSearchPathDirectory::DocumentDirectory:

@@ -111,14 +111,16 @@ Result<NSFileAttributes> NSFileManager::attributesOfItemAtPath(std::string_view 
     return attributesFrom(attributes);
 }
 
-std::vector<std::string> NSSearchPathForDirectoriesInDomains(NSSearchPathDirectory directory) {
+std::vector<Ref<NSURL>> NSFileManager::URLsForDirectory(NSSearchPathDirectory directory) const {
     const AutoreleasePool pool;
+    return send<"-[NSFileManager URLsForDirectory:inDomains:]", std::vector<Ref<NSURL>>>(manager(), directory,
+                                                                                         userDomain);
+}
+
+std::vector<std::string> NSSearchPathForDirectoriesInDomains(NSSearchPathDirectory directory) {
     std::vector<std::string> paths;
-    const id urls =
-        send<"-[NSFileManager URLsForDirectory:inDomains:]", id>(manager(), directory, userDomain);
-    paths.reserve(countOf(urls));
-    for (std::uint64_t i = 0; i < countOf(urls); ++i)
-        paths.push_back(send<"-[NSURL path]", std::string>(objectAt(urls, i)));
+    for (const auto& url : NSFileManager::defaultManager().URLsForDirectory(directory))
+        paths.push_back(url->path());
     return paths;
 }
 

@@ -51,6 +51,11 @@ void UIViewController::setModalPresentationStyle(UIModalPresentationStyle style)
     send<"-[UIViewController setModalPresentationStyle:]", void>(*this, style);
 }
 
+Ref<UIPopoverPresentationController> UIViewController::popoverPresentationController() const {
+    return send<"-[UIViewController popoverPresentationController]", Ref<UIPopoverPresentationController>>(
+        *this);
+}
+
 void UIViewController::setModalInPresentation(bool modal) {
     send<"-[UIViewController setModalInPresentation:]", void>(*this, modal);
 }

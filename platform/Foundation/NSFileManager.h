@@ -2,6 +2,7 @@
 
 #include "Foundation/NSDate.h"
 #include "Foundation/NSError.h"
+#include "Foundation/NSURL.h"
 
 #include <cstdint>
 #include <optional>
@@ -53,6 +54,9 @@ public:
 
     /// The attributes of the thing itself: for a link those of the link.
     [[nodiscard]] Result<NSFileAttributes> attributesOfItemAtPath(std::string_view path) const;
+
+    /// The folders of that kind in the user's domain, the preferred one first. Its existence is not promised.
+    [[nodiscard]] std::vector<Ref<NSURL>> URLsForDirectory(NSSearchPathDirectory directory) const;
 
 private:
     NSFileManager() = default;

@@ -49,6 +49,12 @@ std::string_view extensionOf(std::string_view path) {
     return extension.contains(' ') ? std::string_view() : extension;
 }
 
+bool mayStandInUrlPath(char character) {
+    constexpr std::string_view marks = "!$&'()*+,-./:=@_~";
+    return (character >= 'a' && character <= 'z') || (character >= 'A' && character <= 'Z') ||
+           (character >= '0' && character <= '9') || marks.contains(character);
+}
+
 } // namespace
 
 bool isValidUTF8(std::string_view text) {
@@ -102,6 +108,24 @@ std::string stringByDeletingPathExtension(std::string_view path) {
     if (!extension.empty())
         path.remove_suffix(extension.size() + 1);
     return std::string(path);
+}
+
+std::string stringByAddingPercentEncodingWithURLPathAllowedCharacters(std::string_view text) {
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    constexpr unsigned bitsPerDigit = 4;
+    constexpr unsigned lastDigit = 0xF;
+    std::string encoded;
+    for (const char character : text) {
+        if (mayStandInUrlPath(character)) {
+            encoded += character;
+            continue;
+        }
+        const auto byte = static_cast<std::uint8_t>(character);
+        encoded += '%';
+        encoded += digits[byte >> bitsPerDigit];
+        encoded += digits[byte & lastDigit];
+    }
+    return encoded;
 }
 
 std::vector<std::string> componentsSeparatedByString(std::string_view text, std::string_view separator) {

@@ -30,6 +30,10 @@
 /// The path without its extension and the dot before that, if it has one: "/a/b.tar" of "/a/b.tar.gz".
 [[nodiscard]] std::string stringByDeletingPathExtension(std::string_view path);
 
+/// The text with every byte percent-encoded that may not stand in the path of a URL as it is: all but
+/// letters, digits and "!$&'()*+,-./:=@_~".
+[[nodiscard]] std::string stringByAddingPercentEncodingWithURLPathAllowedCharacters(std::string_view text);
+
 /// What stands before, between and after the separators, of which each is exactly `separator`; the whole text
 /// when there is none in it.
 /// \pre `separator` is not empty

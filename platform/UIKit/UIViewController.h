@@ -1,6 +1,7 @@
 #pragma once
 
 #include "UIKit/UINavigationItem.h"
+#include "UIKit/UIPopoverPresentationController.h"
 #include "UIKit/UIResponder.h"
 #include "UIKit/UIView.h"
 
@@ -65,6 +66,10 @@ public:
 
     /// Whether, presented, the user cannot swipe or tap it away. Not so until it is set.
     void setModalInPresentation(bool modal);
+
+    /// The popover that the controller is shown in when it is presented on a tablet; empty for a controller
+    /// that is presented in no popover.
+    [[nodiscard]] Ref<UIPopoverPresentationController> popoverPresentationController() const;
 
     /// For the platform's own code.
     [[nodiscard]] UIViewControllerPeer& peer() const { return *peer_; }

@@ -83,3 +83,22 @@ TEST(NSString, ComponentsStandBetweenSeparators) {
     EXPECT_EQ(componentsSeparatedByString("", ", "), Texts{""});
     EXPECT_EQ(componentsSeparatedByString(",,,", ",,"), (Texts{"", ","}));
 }
+
+TEST(NSString, WhatMayStandInTheUrlsPathIsNotEncoded) {
+    const auto* const allowed =
+        "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789!$&'()*+,-./:=@_~";
+    EXPECT_EQ(stringByAddingPercentEncodingWithURLPathAllowedCharacters(allowed), allowed);
+    EXPECT_EQ(stringByAddingPercentEncodingWithURLPathAllowedCharacters(""), "");
+}
+
+TEST(NSString, AllElseIsPercentEncodedByteByByte) {
+    const auto encoded = [](std::string_view text) {
+        return stringByAddingPercentEncodingWithURLPathAllowedCharacters(text);
+    };
+    EXPECT_EQ(encoded("/my backup.tar.gz"), "/my%20backup.tar.gz");
+    EXPECT_EQ(encoded("a%20b"), "a%2520b");
+    EXPECT_EQ(encoded("ü"), "%C3%BC");
+    EXPECT_EQ(encoded("🎨"), "%F0%9F%8E%A8");
+    EXPECT_EQ(encoded(" \"#%;<>?[\\]^`{|}\x7f\n"), "%20%22%23%25%3B%3C%3E%3F%5B%5C%5D%5E%60%7B%7C%7D%7F%0A");
+    EXPECT_EQ(encoded(std::string_view("\0", 1)), "%00");
+}

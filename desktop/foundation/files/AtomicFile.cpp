@@ -9,6 +9,7 @@
 #include <cerrno>
 #include <cstdint>
 #include <cstdio>
+#include <span>
 #include <utility>
 
 namespace {
@@ -22,7 +23,7 @@ bool makeNamesLasting(int folder) {
 
 } // namespace
 
-AtomicFile::AtomicFile(int folder, std::string temporaryName, FileDescriptor file)
+AtomicFile::AtomicFile(int folder, std::string temporaryName, RegularFile file)
     : folder_(folder),
       temporaryName_(std::move(temporaryName)),
       file_(std::move(file)) {}
@@ -42,7 +43,21 @@ std::expected<void, int> AtomicFile::replace(const FileDescriptor& folder, const
     auto file = create(folder.get(), temporaryPrefix);
     if (!file)
         return std::unexpected(file.error());
-    if (!file->write(bytes) || !file->takeModeOf(name) || !file->takePlaceOf(name))
+    if (auto written = file->file_.write(std::as_bytes(std::span(bytes))); !written)
+        return written;
+    if (!file->takeModeOf(name) || !file->takePlaceOf(name))
+        return std::unexpected(errno);
+    return {};
+}
+
+std::expected<void, int> AtomicFile::makeCopy(const FileDescriptor& folder, const std::string& name,
+                                              RegularFile& original) {
+    auto file = create(folder.get(), usualPrefix);
+    if (!file)
+        return std::unexpected(file.error());
+    if (auto copied = original.copyTo(file->file_); !copied)
+        return copied;
+    if (fchmod(file->file_.get(), original.status().st_mode & ACCESSPERMS) != 0 || !file->takeFreePlace(name))
         return std::unexpected(errno);
     return {};
 }
@@ -52,23 +67,12 @@ std::expected<AtomicFile, int> AtomicFile::create(int folder, std::string_view t
     while (true) {
         const auto name =
             std::string(temporaryPrefix) + std::to_string(getpid()) + '-' + std::to_string(++count);
-        FileDescriptor file(
-            openat(folder, name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, modeOfNewFile));
+        auto file = RegularFile::openIn(folder, name, O_WRONLY | O_CREAT | O_EXCL, modeOfNewFile);
         if (file)
-            return AtomicFile(folder, name, std::move(file));
-        if (errno != EEXIST) // left over by a process that had this one's number
-            return std::unexpected(errno);
+            return AtomicFile(folder, name, std::move(*file));
+        if (file.error() != EEXIST) // left over by a process that had this one's number
+            return std::unexpected(file.error());
     }
-}
-
-bool AtomicFile::write(std::string_view bytes) {
-    while (!bytes.empty()) {
-        const auto written = ::write(file_.get(), bytes.data(), bytes.size());
-        if (written < 0 && errno != EINTR)
-            return false;
-        bytes.remove_prefix(written < 0 ? 0 : static_cast<std::size_t>(written));
-    }
-    return true;
 }
 
 bool AtomicFile::takeModeOf(const std::string& name) {
@@ -79,7 +83,16 @@ bool AtomicFile::takeModeOf(const std::string& name) {
 }
 
 bool AtomicFile::takePlaceOf(const std::string& name) {
-    if (fsync(file_.get()) != 0 || renameat(folder_, temporaryName_.c_str(), folder_, name.c_str()) != 0)
+    return takePlace(name, 0);
+}
+
+bool AtomicFile::takeFreePlace(const std::string& name) {
+    return takePlace(name, RENAME_NOREPLACE);
+}
+
+bool AtomicFile::takePlace(const std::string& name, unsigned flags) {
+    if (fsync(file_.get()) != 0 ||
+        renameat2(folder_, temporaryName_.c_str(), folder_, name.c_str(), flags) != 0)
         return false;
     temporaryName_.clear();
     return makeNamesLasting(folder_);

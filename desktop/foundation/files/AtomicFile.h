@@ -1,6 +1,6 @@
 #pragma once
 
-#include "files/FileDescriptor.h"
+#include "files/RegularFile.h"
 
 #include <expected>
 #include <string>
@@ -21,20 +21,26 @@ public:
                                             std::string_view bytes,
                                             std::string_view temporaryPrefix = usualPrefix);
 
+    /// Makes a file with what is left to be read of another one, and with that one's mode. `EEXIST` when
+    /// something is there already.
+    static std::expected<void, int> makeCopy(const FileDescriptor& folder, const std::string& name,
+                                             RegularFile& original);
+
     AtomicFile(AtomicFile&& other) noexcept;
     ~AtomicFile();
 
 private:
-    AtomicFile(int folder, std::string temporaryName, FileDescriptor file);
+    AtomicFile(int folder, std::string temporaryName, RegularFile file);
 
     [[nodiscard]] static std::expected<AtomicFile, int> create(int folder, std::string_view temporaryPrefix);
 
     // These leave the reason of a failure in errno.
-    [[nodiscard]] bool write(std::string_view bytes);
     [[nodiscard]] bool takeModeOf(const std::string& name);
     [[nodiscard]] bool takePlaceOf(const std::string& name);
+    [[nodiscard]] bool takeFreePlace(const std::string& name);
+    [[nodiscard]] bool takePlace(const std::string& name, unsigned flags);
 
     int folder_;
     std::string temporaryName_; ///< empty once there is none to remove
-    FileDescriptor file_;
+    RegularFile file_;
 };

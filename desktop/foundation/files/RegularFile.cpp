@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <utility>
+#include <vector>
 
 namespace {
 
@@ -45,6 +46,13 @@ std::expected<RegularFile, int> RegularFile::open(const DeviceRoot& root, std::s
 std::expected<RegularFile, int> RegularFile::openIn(int folder, const std::string& name, int flags,
                                                     mode_t mode) {
     FileDescriptor file(openat(folder, name.c_str(), flags | neverWait | O_NOFOLLOW | O_CLOEXEC, mode));
+    if (!file)
+        return std::unexpected(errno);
+    return check(std::move(file));
+}
+
+std::expected<RegularFile, int> RegularFile::openOnHost(const std::string& hostPath) {
+    FileDescriptor file(::open(hostPath.c_str(), O_RDONLY | neverWait | O_CLOEXEC));
     if (!file)
         return std::unexpected(errno);
     return check(std::move(file));
@@ -92,4 +100,18 @@ std::expected<void, int> RegularFile::write(std::span<const std::byte> bytes) {
     if (*written != bytes.size())
         return std::unexpected(EIO);
     return {};
+}
+
+std::expected<void, int> RegularFile::copyTo(RegularFile& other) {
+    constexpr std::size_t chunkSize = std::size_t{128} * 1024;
+    std::vector<std::byte> chunk(chunkSize);
+    while (true) {
+        const auto count = read(chunk);
+        if (!count)
+            return std::unexpected(count.error());
+        if (*count == 0)
+            return {};
+        if (auto written = other.write(std::span(chunk).first(*count)); !written)
+            return written;
+    }
 }

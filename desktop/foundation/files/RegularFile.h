@@ -24,6 +24,9 @@ public:
     [[nodiscard]] static std::expected<RegularFile, int> openIn(int folder, const std::string& name,
                                                                 int flags, mode_t mode = 0);
 
+    /// Opens a file of the host for reading; links are followed.
+    [[nodiscard]] static std::expected<RegularFile, int> openOnHost(const std::string& hostPath);
+
     /// What was known of the file when it was opened.
     [[nodiscard]] const struct stat& status() const { return status_; }
 
@@ -32,6 +35,9 @@ public:
 
     /// Reads all that is left. \returns `EFBIG` when that is more than the maximum
     [[nodiscard]] std::expected<NSData, int> readAll(std::size_t maximumSize);
+
+    /// Reads all that is left and writes it to the other file at its place.
+    [[nodiscard]] std::expected<void, int> copyTo(RegularFile& other);
 
     /// Writes all bytes at the current place.
     [[nodiscard]] std::expected<void, int> write(std::span<const std::byte> bytes);

@@ -9,11 +9,8 @@
 #include <array>
 #include <cerrno>
 #include <climits>
-#include <vector>
 
 namespace {
-
-constexpr std::size_t chunkSize = std::size_t{128} * 1024;
 
 // The copy belongs to whoever copies: it must not lend that one's rights as the original lent its owner's.
 constexpr mode_t copiedModeBits = 01777;
@@ -26,19 +23,6 @@ std::expected<void, int> answer(int result) {
     if (result != 0)
         return std::unexpected(errno);
     return {};
-}
-
-std::expected<void, int> copyBytes(RegularFile& from, RegularFile& to) {
-    std::vector<std::byte> chunk(chunkSize);
-    while (true) {
-        const auto count = from.read(chunk);
-        if (!count)
-            return std::unexpected(count.error());
-        if (*count == 0)
-            return {};
-        if (auto written = to.write(std::span(chunk).first(*count)); !written)
-            return written;
-    }
 }
 
 std::expected<void, int> setModeAndTimes(int file, const struct stat& original) {
@@ -99,7 +83,7 @@ std::expected<void, int> TreeCopy::copyFile(const TreeEntry& entry) const {
                                   S_IRUSR | S_IWUSR);
     if (!to)
         return std::unexpected(to.error());
-    if (auto copied = copyBytes(*from, *to); !copied)
+    if (auto copied = from->copyTo(*to); !copied)
         return copied;
     return setModeAndTimes(to->get(), from->status());
 }

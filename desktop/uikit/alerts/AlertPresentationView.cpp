@@ -102,7 +102,8 @@ std::optional<Presented::Details> AlertPresentationView::details() const {
                    .swipeDismissable = false,
                    .items = {},
                    .barItem = {},
-                   .fields = fields()};
+                   .fields = fields(),
+                   .urls = {}};
 }
 
 UIView& AlertPresentationView::shownView() const {

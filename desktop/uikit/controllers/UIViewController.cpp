@@ -59,3 +59,7 @@ void UIViewController::setModalPresentationStyle(UIModalPresentationStyle style)
 void UIViewController::setModalInPresentation(bool modal) {
     peer_->setModalInPresentation(modal);
 }
+
+Ref<UIPopoverPresentationController> UIViewController::popoverPresentationController() const {
+    return peer_->popover();
+}

@@ -57,6 +57,12 @@ public:
 
     void setModalInPresentation(bool modal) { isModal_ = modal; }
 
+    /// What the popover points to that the controller is shown in; empty when it is shown in none.
+    [[nodiscard]] virtual Ref<UIPopoverPresentationController> popover() const { return nullptr; }
+
+    /// Why the controller cannot be presented as it is; empty when it can.
+    [[nodiscard]] virtual std::string obstacle() const { return {}; }
+
     /// What brings the view into a window when the controller is presented.
     [[nodiscard]] virtual Ref<PresentationView> makePresentationView();
 

@@ -3,6 +3,7 @@
 #include "screen/Presented.h"
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 /// What the content of a sheet tells of itself to scripts, beyond its navigation bar and its text fields. A
@@ -20,4 +21,10 @@ public:
     [[nodiscard]] virtual std::string sheetSymbol() const = 0;
     /// The list below them.
     [[nodiscard]] virtual std::vector<Presented::Item> sheetItems() const = 0;
+
+    /// What scripts are told that it is.
+    [[nodiscard]] virtual std::string_view sheetKind() const { return "sheet"; }
+
+    /// What it is about, where that has URLs.
+    [[nodiscard]] virtual std::vector<std::string> sheetUrls() const { return {}; }
 };

@@ -200,6 +200,10 @@ Ref<UINavigationItem> SheetPresentationView::barItem() const {
     return shown != controller() ? retain<UINavigationItem>(&shown->navigationItem()) : nullptr;
 }
 
+std::string_view SheetPresentationView::kind() const {
+    return content() != nullptr ? content()->sheetKind() : "sheet";
+}
+
 std::string SheetPresentationView::title() const {
     const auto shown = page();
     auto title = content() != nullptr ? content()->sheetTitle() : std::string();
@@ -217,11 +221,13 @@ std::optional<Presented::Details> SheetPresentationView::details() const {
                     .swipeDismissable = !isModal(),
                     .items = {},
                     .barItem = barItem(),
-                    .fields = fields()};
+                    .fields = fields(),
+                    .urls = {}};
     if (const auto* const told = content()) {
         details.detail = told->sheetDetail();
         details.symbol = told->sheetSymbol();
         details.items = told->sheetItems();
+        details.urls = told->sheetUrls();
     }
     return details;
 }

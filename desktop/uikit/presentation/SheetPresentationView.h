@@ -36,7 +36,7 @@ public:
     [[nodiscard]] bool stepsBack() const override { return true; }
 
     // Presented:
-    [[nodiscard]] std::string_view kind() const override { return "sheet"; }
+    [[nodiscard]] std::string_view kind() const override;
 
     [[nodiscard]] std::string title() const override;
 

@@ -27,7 +27,7 @@ std::string UIViewControllerPeer::presentingProblem(const Ref<UIViewController>&
     if (other.presentation_ != nullptr || other.parent_ != nullptr || isShown ||
         controller.get() == controller_)
         return "which is shown already";
-    return {};
+    return other.obstacle();
 }
 
 void UIViewControllerPeer::present(const Ref<UIViewController>& controller, bool animated,

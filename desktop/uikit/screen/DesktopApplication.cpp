@@ -1,5 +1,8 @@
 #include "screen/DesktopApplication.h"
 
+#include "DesktopURL.h"
+#include "Device.h"
+#include "Dispatch/MainQueue.h"
 #include "ObjectiveC/Class.h"
 #include "screen/Screen.h"
 #include "screen/UIWindow.h"
@@ -7,6 +10,7 @@
 
 #include <algorithm>
 #include <ranges>
+#include <utility>
 
 namespace {
 
@@ -14,10 +18,26 @@ const Class classObject = Class::define<DesktopApplication, UIResponder>(
     "UIApplication", {method<"suspend", &DesktopApplication::suspend>(),
                       method<"keyWindow", &DesktopApplication::keyWindow>()});
 
+const std::string& textOf(const Ref<NSURL>& url) {
+    return dynamicCast<DesktopURL>(url)->absoluteString();
+}
+
 } // namespace
 
 Ref<UIApplication> UIApplication::sharedApplication() {
     return retain(&DesktopApplication::shared());
+}
+
+// NOLINTNEXTLINE(readability-convert-member-functions-to-static): as the contract has it
+bool UIApplication::canOpenURL(const Ref<NSURL>& url) const {
+    return Device::current().urls().canOpen(textOf(url));
+}
+
+// NOLINTNEXTLINE(readability-convert-member-functions-to-static): as the contract has it
+void UIApplication::openURL(const Ref<NSURL>& url, std::function<void(bool)> completion) {
+    const auto isOpened = Device::current().urls().open(textOf(url));
+    if (completion)
+        MainQueue::async([completion = std::move(completion), isOpened] { completion(isOpened); });
 }
 
 DesktopApplication& DesktopApplication::shared() {

@@ -49,6 +49,7 @@ public:
         std::vector<Item> items;
         Ref<UINavigationItem> barItem; ///< what its navigation bar shows; empty when it has none
         std::vector<Field> fields;
+        std::vector<std::string> urls; ///< of what is shared
     };
 
     virtual ~Presented() = default;

@@ -50,6 +50,12 @@ void choose(id action);
 /// Takes the alert away that a controller has presented, and runs what one of its buttons is for.
 void answerAlertOf(id controller, unsigned index);
 
+/// The user chooses a file in a document picker.
+void pickDocument(id picker, const char* path);
+/// From now on the object is sent "noticed:" for notifications of that name.
+void observe(id observer, const char* name);
+void postNotification(const char* name);
+
 /// Runs the completions of animations.
 void finishAnimations();
 /// A finger comes down, moves or is lifted at that place of a control; the control's own class is asked.

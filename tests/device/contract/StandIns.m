@@ -13,7 +13,7 @@ NSString *describe(id object) {
     if ([object isKindOfClass:[NSString class]])
         return [NSString stringWithFormat:@"\"%@\"", object];
     if ([object isKindOfClass:[NSNumber class]] || [object isKindOfClass:[UIColor class]] ||
-        [object isKindOfClass:[UIImage class]])
+        [object isKindOfClass:[UIImage class]] || [object isKindOfClass:[NSURL class]])
         return [object description];
     if ([object isKindOfClass:[NSArray class]]) {
         NSMutableArray *parts = [NSMutableArray array];
@@ -514,6 +514,7 @@ void finishAnimations(void) {
         callBlock(completion);
 }
 - (UIViewController *)presentedViewController { return presented; }
+- (id)popoverPresentationController { return nil; }
 - (void)setModalPresentationStyle:(NSInteger)style { record(self, _cmd, @"%ld", (long)style); }
 - (void)setModalInPresentation:(BOOL)modal { record(self, _cmd, @"%d", modal); }
 - (void)dealloc {
@@ -604,6 +605,16 @@ void finishAnimations(void) {
     return shared;
 }
 - (void)suspend { record(self, _cmd, @""); }
+- (BOOL)canOpenURL:(NSURL *)url {
+    record(self, _cmd, @"%@", describe(url));
+    return ![[url scheme] isEqual:@"none"];
+}
+- (void)openURL:(NSURL *)url options:(NSDictionary *)options completionHandler:(void *)completion {
+    record(self, _cmd, @"%@ %lu%@", describe(url), (unsigned long)[options count],
+           completion ? @" completion" : @"");
+    if (completion)
+        callBlockWithBool(completion, [[url scheme] isEqual:@"works"]);
+}
 @end
 
 @implementation PSSpecifier

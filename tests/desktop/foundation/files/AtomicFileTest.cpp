@@ -110,3 +110,36 @@ TEST_F(AtomicFileTest, AFolderThatIsGoneIsAFailure) {
     ASSERT_FALSE(replaced);
     EXPECT_EQ(replaced.error(), ENOENT);
 }
+
+TEST_F(AtomicFileTest, ACopyHasTheBytesAndTheModeOfItsOriginal) {
+    const std::string bytes(300'000, 'x'); // more than is read at once
+    write("original", bytes);
+    ASSERT_EQ(chmod(path("original").c_str(), 0640), 0);
+    auto original = RegularFile::openOnHost(path("original"));
+    ASSERT_TRUE(original);
+    ASSERT_TRUE(AtomicFile::makeCopy(folder_, "copy", *original));
+    EXPECT_EQ(read("copy"), bytes);
+    EXPECT_EQ(modeOf("copy"), 0640U);
+    EXPECT_EQ(names().size(), 2U);
+}
+
+TEST_F(AtomicFileTest, ACopyTakesNobodysPlace) {
+    write("original", "new");
+    write("there", "old");
+    ASSERT_EQ(symlink("nowhere", path("link").c_str()), 0);
+    for (const auto* const name : {"there", "link"}) {
+        auto original = RegularFile::openOnHost(path("original"));
+        ASSERT_TRUE(original);
+        EXPECT_EQ(AtomicFile::makeCopy(folder_, name, *original), std::unexpected(EEXIST)) << name;
+    }
+    EXPECT_EQ(read("there"), "old");
+    EXPECT_EQ(names().size(), 3U);
+}
+
+TEST_F(AtomicFileTest, ACopyThatFailsLeavesNothing) {
+    write("original", "bytes");
+    auto original = RegularFile::openOnHost(path("original"));
+    ASSERT_TRUE(original);
+    EXPECT_EQ(AtomicFile::makeCopy(folder_, std::string(300, 'n'), *original), std::unexpected(ENAMETOOLONG));
+    EXPECT_EQ(names(), std::vector<std::string>{"original"});
+}

@@ -72,3 +72,15 @@ TEST_F(RegularFileTest, OpeningInAFolderFollowsNoLink) {
     EXPECT_EQ(RegularFile::openIn(folder->get(), "link", O_RDONLY).error(), ELOOP);
     EXPECT_EQ(errorOf("/link", O_RDONLY), 0);
 }
+
+TEST_F(RegularFileTest, AFileOfTheHostIsOpenedThroughLinksAndAnythingElseIsRefused) {
+    device.write("/folder/file", "abc");
+    std::filesystem::create_symlink("file", device.hostPath("/folder/link"));
+    ASSERT_EQ(mkfifo(device.hostPath("/folder/pipe").c_str(), 0600), 0);
+    auto file = RegularFile::openOnHost(device.hostPath("/folder/link"));
+    ASSERT_TRUE(file.has_value());
+    EXPECT_EQ(file->readAll(10), NSData::dataWithBytes("abc"));
+    EXPECT_EQ(RegularFile::openOnHost(device.hostPath("/folder/none")).error(), ENOENT);
+    EXPECT_EQ(RegularFile::openOnHost(device.hostPath("/folder")).error(), EISDIR);
+    EXPECT_EQ(RegularFile::openOnHost(device.hostPath("/folder/pipe")).error(), ENOTSUP);
+}

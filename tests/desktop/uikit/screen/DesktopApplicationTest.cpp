@@ -34,3 +34,22 @@ TEST(DesktopApplicationTest, TheKeyWindowAndItsControllerAreFoundByTheirNames) {
     EXPECT_EQ(MessageTraits<Ref<NSObject>>::unpack(window->performSelector("rootViewController")),
               controller);
 }
+
+TEST(DesktopApplicationTest, AUrlIsOpenedAndWhoAskedIsToldLater) {
+    ShownScreen shown;
+    auto& urls = Device::current().urls();
+    urls.setHandler("works", UrlOpener::Handler::Works);
+    urls.setHandler("fails", UrlOpener::Handler::Fails);
+    const auto application = UIApplication::sharedApplication();
+    std::vector<bool> told;
+    for (const auto* const text : {"works://a%20b", "fails://a", "none://a"}) {
+        const auto url = NSURL::URLWithString(text);
+        EXPECT_EQ(application->canOpenURL(url), std::string_view(text) != "none://a");
+        application->openURL(url, [&told](bool isOpened) { told.push_back(isOpened); });
+        application->openURL(url, {});
+    }
+    EXPECT_TRUE(told.empty());
+    shown.device.settle();
+    EXPECT_EQ(told, (std::vector{true, false, false}));
+    EXPECT_EQ(urls.take(), (std::vector<std::string>{"works://a%20b", "works://a%20b"}));
+}

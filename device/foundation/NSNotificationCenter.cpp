@@ -1,0 +1,15 @@
+#include "Foundation/NSNotificationCenter.h"
+
+#include "Message.h"
+
+NSNotificationCenter& NSNotificationCenter::defaultCenter() {
+    static NSNotificationCenter shared;
+    return shared;
+}
+
+// NOLINTNEXTLINE(readability-convert-member-functions-to-static): as the contract has it
+void NSNotificationCenter::removeObserver(const NSObject& observer) {
+    const AutoreleasePool pool;
+    send<"-[NSNotificationCenter removeObserver:]", void>(
+        sendToClass<"+[NSNotificationCenter defaultCenter]", id>(), observer);
+}

@@ -1,0 +1,93 @@
+// Stand-ins of what files are chosen with and shared by.
+#import "StandIns.h"
+
+@interface UIDevice : NSObject
+@end
+
+@implementation UIDevice
++ (UIDevice *)currentDevice {
+    static UIDevice *shared;
+    if (shared == nil)
+        shared = [UIDevice new];
+    return shared;
+}
+- (NSInteger)userInterfaceIdiom {
+    record(self, _cmd, @"");
+    return 1;
+}
+@end
+
+@interface UIPopoverPresentationController : NSObject
+@end
+
+@implementation UIPopoverPresentationController
+- (void)setSourceView:(UIView *)view { record(self, _cmd, @"%@", describe(view)); }
+- (void)setSourceRect:(CGRect)rect { record(self, _cmd, @"%@", describeRect(rect)); }
+@end
+
+@interface UIActivityViewController : UIViewController {
+    UIPopoverPresentationController *popover;
+}
+@end
+
+@implementation UIActivityViewController
+- (id)initWithActivityItems:(NSArray *)items applicationActivities:(NSArray *)activities {
+    record(self, _cmd, @"%@ %@", describe(items), describe(activities));
+    if ((self = [self init]))
+        popover = [UIPopoverPresentationController new];
+    return self;
+}
+- (UIPopoverPresentationController *)popoverPresentationController { return popover; }
+- (void)dealloc {
+    [popover release];
+    [super dealloc];
+}
+@end
+
+@interface UIDocumentPickerViewController : UIViewController {
+@public
+    id delegate; // not kept alive
+}
+@end
+
+@implementation UIDocumentPickerViewController
+- (id)initWithDocumentTypes:(NSArray *)types inMode:(NSUInteger)mode {
+    record(self, _cmd, @"%@ %lu", describe(types), (unsigned long)mode);
+    return [self init];
+}
+- (void)setDelegate:(id)given {
+    record(self, _cmd, @"%@", describe(given));
+    delegate = given;
+}
+- (void)setAllowsMultipleSelection:(BOOL)allows { record(self, _cmd, @"%d", allows); }
+- (void)setDirectoryURL:(NSURL *)folder { record(self, _cmd, @"%@", describe(folder)); }
+@end
+
+@interface NSObject (DocumentPickerDelegate)
+- (void)documentPicker:(UIDocumentPickerViewController *)picker didPickDocumentsAtURLs:(NSArray *)urls;
+@end
+
+void pickDocument(UIDocumentPickerViewController *picker, const char *path) {
+    NSURL *url = [NSURL fileURLWithPath:[NSString stringWithUTF8String:path]];
+    [picker->delegate documentPicker:picker didPickDocumentsAtURLs:[NSArray arrayWithObject:url]];
+}
+
+@implementation NSURL (StandIn)
+- (BOOL)startAccessingSecurityScopedResource {
+    record(self, _cmd, @"%@", [self path]);
+    return YES;
+}
+- (void)stopAccessingSecurityScopedResource { record(self, _cmd, @"%@", [self path]); }
+@end
+
+// GNUstep's own centre is at work here.
+void observe(id observer, const char *name) {
+    [[NSNotificationCenter defaultCenter] addObserver:observer
+                                             selector:@selector(noticed:)
+                                                 name:[NSString stringWithUTF8String:name]
+                                               object:nil];
+}
+
+void postNotification(const char *name) {
+    [[NSNotificationCenter defaultCenter] postNotificationName:[NSString stringWithUTF8String:name] object:nil];
+}
