@@ -56,7 +56,8 @@ Entry makeEntry(const std::string& name, const NSFileAttributes& attributes) {
     return entry;
 }
 
-/// A file that cannot be read is no failure, and neither is one that has grown beyond its declared size.
+/// A file that cannot be read is no failure, nor is one that has outgrown its declared size. Of the results
+/// -1 alone counts: after another failure the library refuses the next header.
 bool packContent(archive& writer, const std::string& path) {
     const auto data = NSData::dataWithContentsOfFile(path);
     return !data || archive_write_data(&writer, data->bytes.data(), data->bytes.size()) != -1;

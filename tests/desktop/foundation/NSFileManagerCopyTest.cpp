@@ -1,5 +1,7 @@
+#include "LowerLimit.h"
+#include "Meanwhile.h"
 #include "NSFileManagerFixture.h"
-#include "files/Meanwhile.h"
+#include "WithoutPrivileges.h"
 
 #include <sys/stat.h>
 

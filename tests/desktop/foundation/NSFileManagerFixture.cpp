@@ -3,7 +3,6 @@
 #include "Foundation/Format.h"
 #include "files/FileDescriptor.h"
 
-#include <sys/fsuid.h>
 #include <sys/stat.h>
 
 #include <fcntl.h>
@@ -61,26 +60,4 @@ void NSFileManagerFixture::expectError(const NSError& error, std::int64_t code, 
     EXPECT_TRUE(description.contains(stringWithFormat(
         "NSUnderlyingError={Error Domain=NSPOSIXErrorDomain Code=%@ ", std::to_string(hostError))))
         << description;
-}
-
-WithoutPrivileges::WithoutPrivileges() {
-    constexpr uid_t nobody = 65534;
-    setfsuid(nobody); // which takes the file capabilities along
-}
-
-WithoutPrivileges::~WithoutPrivileges() {
-    setfsuid(geteuid());
-}
-
-LowerLimit::LowerLimit(__rlimit_resource resource, rlim_t limit)
-    : resource_(resource),
-      handlerBefore_(std::signal(SIGXFSZ, SIG_IGN)) {
-    EXPECT_EQ(getrlimit(resource_, &before_), 0);
-    const rlimit lower{.rlim_cur = limit, .rlim_max = before_.rlim_max};
-    EXPECT_EQ(setrlimit(resource_, &lower), 0);
-}
-
-LowerLimit::~LowerLimit() {
-    EXPECT_EQ(setrlimit(resource_, &before_), 0);
-    static_cast<void>(std::signal(SIGXFSZ, handlerBefore_));
 }

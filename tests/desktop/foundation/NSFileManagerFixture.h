@@ -4,9 +4,7 @@
 #include "TestDevice.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
-#include <csignal>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -43,27 +41,4 @@ protected:
 private:
     static void expectError(const NSError& error, std::int64_t code, const std::string& text, int hostError,
                             std::string_view path);
-};
-
-/// While it lives, this thread touches files without the rights of an administrator, if it had any.
-class WithoutPrivileges {
-public:
-    WithoutPrivileges();
-    ~WithoutPrivileges();
-    WithoutPrivileges(const WithoutPrivileges&) = delete;
-    WithoutPrivileges& operator=(const WithoutPrivileges&) = delete;
-};
-
-/// While it lives, one limit of this process is lower than it was.
-class LowerLimit {
-public:
-    LowerLimit(__rlimit_resource resource, rlim_t limit);
-    ~LowerLimit();
-    LowerLimit(const LowerLimit&) = delete;
-    LowerLimit& operator=(const LowerLimit&) = delete;
-
-private:
-    __rlimit_resource resource_;
-    rlimit before_{};
-    sighandler_t handlerBefore_;
 };

@@ -1,6 +1,8 @@
+#include "LowerLimit.h"
+#include "Meanwhile.h"
 #include "NSFileManagerFixture.h"
+#include "WithoutPrivileges.h"
 #include "files/FileDescriptor.h"
-#include "files/Meanwhile.h"
 
 #include <fcntl.h>
 #include <unistd.h>

@@ -1,4 +1,6 @@
+#include "LowerLimit.h"
 #include "NSFileManagerFixture.h"
+#include "WithoutPrivileges.h"
 #include "time/UnixTime.h"
 
 #include <sys/stat.h>

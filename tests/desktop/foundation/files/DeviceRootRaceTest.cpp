@@ -1,6 +1,6 @@
 #include "TestDevice.h"
 #include "files/DeviceRoot.h"
-#include "files/Meanwhile.h"
+#include "Meanwhile.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
