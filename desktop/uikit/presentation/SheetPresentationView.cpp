@@ -6,6 +6,7 @@
 #include "controllers/DesktopNavigationItem.h"
 #include "controllers/UIViewControllerPeer.h"
 #include "controls/UIControlPeer.h"
+#include "navigation/UINavigationBarPeer.h"
 #include "navigation/UINavigationControllerPeer.h"
 #include "presentation/Presentation.h"
 #include "presentation/SheetContent.h"
@@ -25,6 +26,16 @@ const Class classObject = Class::define<SheetPresentationView, PresentationView>
 constexpr double modalGive = 0.25;
 constexpr double upwardGive = 0.015;
 constexpr std::chrono::milliseconds springBackTime{300};
+
+/// What a bar shows that the page has put into its view by itself; empty when it has none.
+Ref<UINavigationItem> itemOfOwnBar(const UIView& view) {
+    for (const auto& subview : view.peer().subviews()) {
+        const auto bar = dynamicCast<UINavigationBar>(subview);
+        if (const auto content = bar ? peerOf<UINavigationBarPeer>(*bar).content() : nullptr)
+            return content->item();
+    }
+    return nullptr;
+}
 
 } // namespace
 
@@ -197,7 +208,10 @@ FilePicker* SheetPresentationView::filePicker() const {
 
 Ref<UINavigationItem> SheetPresentationView::barItem() const {
     const auto shown = page();
-    return shown != controller() ? retain<UINavigationItem>(&shown->navigationItem()) : nullptr;
+    if (!shown)
+        return nullptr;
+    return shown != controller() ? retain<UINavigationItem>(&shown->navigationItem())
+                                 : itemOfOwnBar(shown->view());
 }
 
 std::string_view SheetPresentationView::kind() const {
