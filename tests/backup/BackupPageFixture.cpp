@@ -98,6 +98,13 @@ Ref<OBWelcomeController> BackupPageFixture::sheet() const {
 
 void BackupPageFixture::tapOn(std::string_view label) {
     layOut();
+    for (const auto& action : isPresenting() ? presented().actions() : std::vector<Presented::Action>()) {
+        if (action.title != label)
+            continue;
+        tap(CGPoint{CGRectGetMidX(action.frame), CGRectGetMidY(action.frame)});
+        settle();
+        return;
+    }
     const auto elements = AccessibilityElement::allIn(*viewInFront());
     const auto found = std::ranges::find_if(elements, [label](const AccessibilityElement& element) {
         return canBePressed(element) && element.label == label;
@@ -183,7 +190,8 @@ void BackupPageFixture::makeFile(const std::string& name) {
     const auto dateOf = [&manager](const std::string& file) {
         return manager.attributesOfItemAtPath(std::string(backupsFolder) + "/" + file)->fileCreationDate;
     };
-    const auto others = namesIn(backupsFolder);
+    auto others = namesIn(backupsFolder);
+    std::erase(others, name);
     const auto isNewest = [&] {
         return std::ranges::all_of(others, [&](const auto& other) { return dateOf(other) < dateOf(name); });
     };

@@ -5,7 +5,9 @@
 #include "PreferenceKeys.h"
 #include "PreferenceStore.h"
 
+#include <algorithm>
 #include <filesystem>
+#include <random>
 
 namespace {
 
@@ -196,12 +198,17 @@ TEST_F(cxBackupRestoreControllerRestoreTest, WhatIsNoArchiveIsAnError) {
 }
 
 TEST_F(cxBackupRestoreControllerRestoreTest, OfADamagedArchiveWhatCouldBeReadIsRestored) {
-    makeBackup("a.tar.gz", {{"kCustomIcon-IMG", "new"}});
+    std::mt19937 random; // what cannot be compressed
+    std::string bytes(100'000, '\0');
+    std::ranges::generate(bytes, [&random] { return static_cast<char>(random()); });
+    makeBackup("a.tar.gz", {{"kCustomIcon-IMG", bytes}});
     const auto path = std::string(backupsFolder) + "/a.tar.gz";
-    const auto whole = device.read(path);
-    device.write(path, whole.substr(0, whole.size() - 12)); // without what it ends with
+    device.write(path, device.read(path).substr(0, 60'000));
     EXPECT_EQ(restore("a.tar.gz"), warning);
     EXPECT_EQ(notifications(), told);
+    const auto restored = readIfThere(image("kCustomIcon-IMG")).value_or("");
+    EXPECT_FALSE(restored.empty());
+    EXPECT_TRUE(bytes.starts_with(restored));
 }
 
 TEST_F(cxBackupRestoreControllerRestoreTest, AnImageThatCannotBeCopiedIsLoggedAndTheOthersAreRestored) {

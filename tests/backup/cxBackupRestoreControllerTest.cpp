@@ -46,8 +46,8 @@ TEST_F(cxBackupRestoreControllerTest, AFolderThatCannotBeMadeIsNoFailureYet) {
 }
 
 TEST_F(cxBackupRestoreControllerTest, ShowsDatesShortly) {
-    constexpr NSDate date{815973120}; // 2026-11-10 02:12
-    EXPECT_EQ(page->dateFormatter()->stringFromDate(date), "11/10/26, 2:12\u202fAM");
+    constexpr NSDate date{815973120}; // 2026-11-10 03:12
+    EXPECT_EQ(page->dateFormatter()->stringFromDate(date), "11/10/26, 3:12\u202fAM");
 }
 
 TEST_F(cxBackupRestoreControllerTest, LoadsItsRowsOnce) {
