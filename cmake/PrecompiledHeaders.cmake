@@ -9,8 +9,8 @@ set(PRECOMPILED_TESTS <filesystem> <fstream> <gtest/gtest.h> <random>)
 set(PRECOMPILED_PICTURES <QGuiApplication> <QImage> <QJsonArray> <QJsonObject> <QPainter> <QPainterPath>)
 
 # What a program, and what a library, is compiled differently for when it links it.
-set(PRECOMPILED_PROGRAM_TRAITS corvex_portable corvex_unoptimised GTest::gtest Qt6::Core Qt6::Gui)
-set(PRECOMPILED_LIBRARY_TRAITS corvex_portable Qt6::Gui)
+set(PRECOMPILED_PROGRAM_TRAITS corvex_portable corvex_unoptimised GTest::gtest Qt6::Core Qt6::Gui Qt6::Widgets)
+set(PRECOMPILED_LIBRARY_TRAITS corvex_portable Qt6::Gui Qt6::Widgets)
 
 # corvex_linked_libraries(RESULT TARGET): the names of all that a target is compiled with, directly or through others.
 function(corvex_linked_libraries result target)
@@ -61,6 +61,9 @@ function(corvex_precompiled_headers result target)
         list(APPEND headers ${PRECOMPILED_PICTURES})
     elseif("Qt6::Core" IN_LIST traits)
         find_package(Qt6 REQUIRED COMPONENTS Core)
+    endif()
+    if("Qt6::Widgets" IN_LIST traits)
+        find_package(Qt6 REQUIRED COMPONENTS Widgets)
     endif()
     set(source ${CMAKE_BINARY_DIR}/precompiled/${kind}.cpp)
     file(CONFIGURE OUTPUT ${source} CONTENT "int main() {}\n" @ONLY)

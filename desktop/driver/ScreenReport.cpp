@@ -98,6 +98,9 @@ void addDetails(const Presented::Details& details, const UIView& shown, QJsonObj
     report["right"] = bar ? barItemReports(bar->rightItems()) : QJsonArray();
     report["fields"] = fieldReports(details.fields);
     report["urls"] = urlReports(details.urls);
+    report["popover"] = details.popoverSource
+                            ? QJsonValue(QJsonObject{{"sourceRect", jsonOf(*details.popoverSource)}})
+                            : QJsonValue();
 }
 
 QJsonObject presentedReport(const Presented& presented) {

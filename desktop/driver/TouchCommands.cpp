@@ -84,13 +84,19 @@ Answer tap(TouchDispatcher& touches, const CommandTable::Arguments& arguments) {
     return tapOn(*view, touches);
 }
 
+/// Whether it can be drawn down, whatever it shows.
+bool isCard(const Presented& presented) {
+    const auto details = presented.details();
+    return details && (details->style == "pageSheet" || details->style == "formSheet");
+}
+
 /// Draws the sheet from its upper edge to the screen's lower one.
 Answer swipeDown(TouchDispatcher& touches) {
     constexpr double grip = 16; // points below the upper edge
     constexpr auto steps = 10;
     Screen::current().layoutIfNeeded();
     const auto* const sheet = Screen::current().presentations().top();
-    if (sheet == nullptr || sheet->kind() != "sheet")
+    if (sheet == nullptr || !isCard(*sheet))
         return std::unexpected("no sheet is presented");
     const auto& card = sheet->shownView();
     const auto frame = card.peer().convertToScreen(card.bounds());

@@ -3,13 +3,14 @@
 #include "DesktopColor.h"
 #include "ObjectiveC/Class.h"
 #include "RowImage.h"
-#include "UIKit/UIAlertController.h"
 #include "UIKit/UIButton.h"
+#include "alerts/Complaint.h"
 #include "controllers/DesktopBarButtonItem.h"
 #include "controllers/DesktopNavigationItem.h"
 #include "controllers/UIViewControllerPeer.h"
 #include "controls/UIButtonPeer.h"
 #include "screen/FilePicker.h"
+#include "screen/Screen.h"
 #include "text/UITextFieldPeer.h"
 #include "views/UILabelPeer.h"
 
@@ -36,6 +37,7 @@ public:
 
     const Ref<UILabel> text = make<UILabel>();
     const Ref<UITextField> field = make<UITextField>();
+    const Ref<UIButton> browser = make<UIButton>(); ///< shown where a dialog can be opened
     const Ref<UIButton> remover = make<UIButton>();
     const Ref<UIImageView> preview = make<UIImageView>();
 };
@@ -51,12 +53,16 @@ ImagePickerView::ImagePickerView() {
     path.setPlaceholder("Path of a File");
     path.setTextInputTraits({.capitals = TextInputTraits::Capitals::None});
     path.setEndsOnReturn(true);
+    auto& browse = peerOf<UIButtonPeer>(*browser);
+    browse.setTitle(HostFileDialog::buttonTitle);
+    browse.setFontStyle({.size = 17});
+    browse.setHidden(Screen::current().fileDialog() == nullptr);
     auto& button = peerOf<UIButtonPeer>(*remover);
     button.setTitle("Remove Image");
     button.setFontStyle({.size = 17});
     button.setTitleColor(DesktopColor::system(SystemColor::Red));
-    for (const auto& view :
-         {Ref<UIView>(text), Ref<UIView>(field), Ref<UIView>(preview), Ref<UIView>(remover)})
+    for (const auto& view : {Ref<UIView>(text), Ref<UIView>(field), Ref<UIView>(browser),
+                             Ref<UIView>(preview), Ref<UIView>(remover)})
         addSubview(view);
 }
 
@@ -70,6 +76,10 @@ void ImagePickerView::layoutSubviews() {
     y += height + margin;
     field->setFrame(CGRectMake(margin, y, width, rowHeight));
     y += rowHeight + margin;
+    if (!browser->peer().isHidden()) {
+        browser->setFrame(CGRectMake(margin, y, width, rowHeight));
+        y += rowHeight + margin;
+    }
     const auto bottom = bounds().size.height - safe.bottom - margin;
     remover->setFrame(CGRectMake(margin, bottom - rowHeight, width, rowHeight));
     preview->setFrame(CGRectMake(margin, y, width, std::max(0.0, bottom - rowHeight - margin - y)));
@@ -92,7 +102,7 @@ public:
 private:
     void showImage() const;
     void pickTyped();
-    void complain(const std::string& problem) const;
+    void browseHost();
 
     const Ref<DesktopSpecifier> row_;
     const std::function<void()> changed_;
@@ -102,6 +112,9 @@ private:
 Ref<UIView> GcImagePickerControllerPeer::makeView() {
     picker_ = make<ImagePickerView>();
     peerOf<UITextFieldPeer>(*picker_->field).setReturnHandler([this] { pickTyped(); });
+    peerOf<UIButtonPeer>(*picker_->browser).addHandler(UIControlEvents::TouchUpInside, [this] {
+        browseHost();
+    });
     peerOf<UIButtonPeer>(*picker_->remover).addHandler(UIControlEvents::TouchUpInside, [this] {
         RowImage(*row_).remove();
         changed_();
@@ -145,7 +158,7 @@ GcImagePickerControllerPeer::pickFiles(const std::vector<std::string>& hostPaths
                           ? RowImage(*row_).keep(hostPaths.front())
                           : std::expected<void, std::string>(std::unexpected("One image is wanted."));
     if (!kept) {
-        complain(kept.error());
+        complain(controller(), "The Image Cannot Be Used", kept.error());
         return kept;
     }
     changed_();
@@ -158,11 +171,13 @@ void GcImagePickerControllerPeer::cancelPicking() {
     controller().dismissViewControllerAnimated(true, {});
 }
 
-void GcImagePickerControllerPeer::complain(const std::string& problem) const {
-    const auto alert = UIAlertController::alertControllerWithTitle("The Image Cannot Be Used", problem,
-                                                                   UIAlertControllerStyle::Alert);
-    alert->addAction(UIAlertAction::actionWithTitle("OK", UIAlertActionStyle::Default, {}));
-    controller().presentViewController(alert, true, {});
+void GcImagePickerControllerPeer::browseHost() {
+    Screen::current().fileDialog()->chooseFile(
+        [weak = Weak<UIViewController>(&controller()), this](const std::string& path) {
+            const auto kept = weak.strong();
+            if (kept && isViewLoaded() && view().peer().window() != nullptr)
+                static_cast<void>(pickFiles({path}));
+        });
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #include "Program.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <cstdio>
 #include <cstdlib>
 
@@ -33,8 +33,12 @@ int run(const ProgramOptions& options, char** arguments) {
     if (drives)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     auto count = 1; // the options are none of Qt's
-    const QGuiApplication application(count, arguments);
-    return drives ? runDriver(options) : runWindow(options);
+    if (drives) {
+        const QGuiApplication application(count, arguments);
+        return runDriver(options);
+    }
+    const QApplication application(count, arguments); // for the desktop's own dialogs
+    return runWindow(options);
 }
 
 } // namespace

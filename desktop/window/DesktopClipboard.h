@@ -8,4 +8,5 @@ public:
     // Clipboard:
     [[nodiscard]] std::string text() const override;
     void setText(const std::string& text) override;
+    void setFiles(const std::vector<std::string>& urls) override;
 };

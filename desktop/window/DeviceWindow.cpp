@@ -1,6 +1,7 @@
 #include "DeviceWindow.h"
 
 #include "DesktopClipboard.h"
+#include "DesktopFileDialog.h"
 #include "Device.h"
 #include "TextKeys.h"
 #include "WindowAccessibility.h"
@@ -95,6 +96,7 @@ DeviceWindow::DeviceWindow(Screen& screen, TouchDispatcher& touches, Options opt
     connect(&timer_, &QTimer::timeout, this, &DeviceWindow::refresh);
     qGuiApp->installEventFilter(this);
     screen_.setClipboard(std::make_unique<DesktopClipboard>());
+    screen_.setFileDialog(std::make_unique<DesktopFileDialog>(*this));
     followAppearance();
     place();
 }

@@ -74,6 +74,6 @@ TEST_F(cxBackupRestoreControllerPadTest, OnATabletThePopoverPointsAtTheMiddleOfT
     ASSERT_TRUE(isPresenting());
     EXPECT_EQ(presented().kind(), "share");
     const auto size = page->view().bounds().size;
-    EXPECT_EQ(details().popover, CGRectMake(size.width / 2, size.height / 2, 0, 0));
+    EXPECT_EQ(details().popoverSource, CGRectMake(size.width / 2, size.height / 2, 0, 0));
     EXPECT_EQ(device.log().take(), Log{"Sharing backup: My Settings.tar.gz"});
 }

@@ -103,7 +103,8 @@ std::optional<Presented::Details> AlertPresentationView::details() const {
                    .items = {},
                    .barItem = {},
                    .fields = fields(),
-                   .urls = {}};
+                   .urls = {},
+                   .popoverSource = {}};
 }
 
 UIView& AlertPresentationView::shownView() const {

@@ -21,6 +21,7 @@ AlertView::AlertView(const std::string& title, const std::optional<std::string>&
       blur_(make<UIView>()),
       tint_(make<UIView>()),
       texts_(make<AlertTextView>(title, message)) {
+    peer().setAccessibility({}); // its buttons are elements, it is none itself
     setClipsToBounds(true);
     layer().setCornerRadius(cornerRadius);
     layer().peer().continuousCorners = true;

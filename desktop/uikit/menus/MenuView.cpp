@@ -26,6 +26,7 @@ MenuView::MenuView(const Ref<DesktopMenu>& menu, Chosen chosen)
       panel_(make<UIView>()),
       blur_(make<UIView>()),
       tint_(make<UIView>()) {
+    peer().setAccessibility({}); // its rows are elements, it is none itself
     layer().setShadowRadius(shadowRadius);
     layer().setShadowOpacity(shadowOpacity);
     layer().setShadowOffset({});

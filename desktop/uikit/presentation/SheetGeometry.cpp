@@ -21,7 +21,9 @@ CGRect centred(CGSize size, double width, double top, double height) {
 
 CGRect SheetGeometry::cardFrame(UIModalPresentationStyle style) const {
     if (idiom == Idiom::Phone) {
-        const auto top = safeArea.top + topGap;
+        const auto highest = safeArea.top + topGap;
+        const auto top =
+            std::max(highest, size.height - safeArea.bottom - contentHeight.value_or(size.height));
         return CGRectMake(0, top, size.width, size.height - top);
     }
     const auto edge = std::max(safeArea.top, safeArea.bottom) + padGap;

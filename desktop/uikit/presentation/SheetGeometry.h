@@ -5,12 +5,15 @@
 #include "Traits.h"
 #include "UIKit/UIViewController.h"
 
+#include <optional>
+
 /// Where sheets are on a screen, and what becomes of what they cover. Lengths are in points.
 struct SheetGeometry {
     Idiom idiom = Idiom::Phone;
     CGSize size;           ///< of the window
     UIEdgeInsets safeArea; ///< of the window
     double keyboardHeight = 0;
+    std::optional<double> contentHeight = std::nullopt; ///< of a phone's card that need not fill the screen
 
     static constexpr double cornerRadius = 10;
 
@@ -21,7 +24,10 @@ struct SheetGeometry {
     [[nodiscard]] double wayOut(const CGRect& card) const { return size.height - card.origin.y; }
 
     /// Whether what a sheet covers moves aside for it.
-    [[nodiscard]] bool coveredStepsBack() const { return idiom == Idiom::Phone; }
+    [[nodiscard]] bool coveredStepsBack() const { return fillsPhone(); }
+
+    /// Whether there is next to nothing beside the card that a finger could mean.
+    [[nodiscard]] bool fillsPhone() const { return idiom == Idiom::Phone && !contentHeight; }
 
     /// What is done to a covered view of that frame. \param amount from 0, when it is where it was, to 1
     [[nodiscard]] AffineTransform steppedBack(const CGRect& frame, double amount) const;

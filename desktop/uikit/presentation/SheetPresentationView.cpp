@@ -3,15 +3,10 @@
 #include "CALayerPeer.h"
 #include "DesktopColor.h"
 #include "ObjectiveC/Class.h"
-#include "controllers/DesktopNavigationItem.h"
 #include "controllers/UIViewControllerPeer.h"
 #include "controls/UIControlPeer.h"
-#include "navigation/UINavigationBarPeer.h"
-#include "navigation/UINavigationControllerPeer.h"
 #include "presentation/Presentation.h"
-#include "presentation/SheetContent.h"
 #include "presentation/SheetPanGestureRecognizer.h"
-#include "screen/FilePicker.h"
 #include "screen/Screen.h"
 #include "screen/UIWindow.h"
 #include "scrolling/ScrollMotion.h"
@@ -26,16 +21,6 @@ const Class classObject = Class::define<SheetPresentationView, PresentationView>
 constexpr double modalGive = 0.25;
 constexpr double upwardGive = 0.015;
 constexpr std::chrono::milliseconds springBackTime{300};
-
-/// What a bar shows that the page has put into its view by itself; empty when it has none.
-Ref<UINavigationItem> itemOfOwnBar(const UIView& view) {
-    for (const auto& subview : view.peer().subviews()) {
-        const auto bar = dynamicCast<UINavigationBar>(subview);
-        if (const auto content = bar ? peerOf<UINavigationBarPeer>(*bar).content() : nullptr)
-            return content->item();
-    }
-    return nullptr;
-}
 
 } // namespace
 
@@ -56,7 +41,7 @@ SheetPresentationView::SheetPresentationView(UIViewController& controller)
     card_->addSubview(retain(&controller.view()));
     card_->peer().addGestureRecognizer(make<SheetPanGestureRecognizer>(*this));
     peerOf<UIControlPeer>(*dimming_).addHandler(UIControlEvents::TouchUpInside, [this] {
-        if (geometry().idiom == Idiom::Pad)
+        if (!geometry().fillsPhone())
             dismissPresented();
     });
 }
@@ -98,10 +83,12 @@ bool SheetPresentationView::blackensStatusBar() const {
 // Where everything is.
 
 SheetGeometry SheetPresentationView::geometry() const {
+    const auto* const content = page().content();
     return {.idiom = peer().traits().idiom,
             .size = bounds().size,
             .safeArea = peer().safeAreaInsets(),
-            .keyboardHeight = Screen::current().keyboardHeight()};
+            .keyboardHeight = Screen::current().keyboardHeight(),
+            .contentHeight = content != nullptr ? content->sheetHeight() : std::nullopt};
 }
 
 void SheetPresentationView::layoutSubviews() {
@@ -187,61 +174,10 @@ void SheetPresentationView::dismissPresented() {
 
 // What it tells of itself.
 
-Ref<UIViewController> SheetPresentationView::page() const {
-    auto shown = controller();
-    if (const auto navigation = dynamicCast<UINavigationController>(shown)) {
-        if (auto top = peerOf<UINavigationControllerPeer>(*navigation).top())
-            return top;
-    }
-    return shown;
-}
-
-const SheetContent* SheetPresentationView::content() const {
-    const auto shown = page();
-    return shown ? peerIf<SheetContent>(*shown) : nullptr;
-}
-
-FilePicker* SheetPresentationView::filePicker() const {
-    const auto shown = page();
-    return shown ? peerIf<FilePicker>(*shown) : nullptr;
-}
-
-Ref<UINavigationItem> SheetPresentationView::barItem() const {
-    const auto shown = page();
-    if (!shown)
-        return nullptr;
-    return shown != controller() ? retain<UINavigationItem>(&shown->navigationItem())
-                                 : itemOfOwnBar(shown->view());
-}
-
-std::string_view SheetPresentationView::kind() const {
-    return content() != nullptr ? content()->sheetKind() : "sheet";
-}
-
-std::string SheetPresentationView::title() const {
-    const auto shown = page();
-    auto title = content() != nullptr ? content()->sheetTitle() : std::string();
-    if (title.empty() && shown)
-        title = shown->peer().navigationItem().title();
-    return title;
-}
-
 std::optional<Presented::Details> SheetPresentationView::details() const {
-    const auto shown = controller();
-    Details details{.controllerClass = shown ? shown->isa().name() : "",
-                    .detail = {},
-                    .symbol = {},
-                    .style = style_ == UIModalPresentationStyle::FormSheet ? "formSheet" : "pageSheet",
-                    .swipeDismissable = !isModal(),
-                    .items = {},
-                    .barItem = barItem(),
-                    .fields = fields(),
-                    .urls = {}};
-    if (const auto* const told = content()) {
-        details.detail = told->sheetDetail();
-        details.symbol = told->sheetSymbol();
-        details.items = told->sheetItems();
-        details.urls = told->sheetUrls();
-    }
+    auto details = page().details();
+    details.style = style_ == UIModalPresentationStyle::FormSheet ? "formSheet" : "pageSheet";
+    details.swipeDismissable = !isModal();
+    details.fields = fields();
     return details;
 }

@@ -2,9 +2,9 @@
 
 #include "UIKit/UIControl.h"
 #include "presentation/PresentationView.h"
+#include "presentation/PresentedPage.h"
 #include "presentation/SheetGeometry.h"
 
-class SheetContent;
 class SheetPanGestureRecognizer;
 
 /// A presented controller as a card above what it covers, which a finger may draw down. Made by the
@@ -36,16 +36,16 @@ public:
     [[nodiscard]] bool stepsBack() const override { return true; }
 
     // Presented:
-    [[nodiscard]] std::string_view kind() const override;
+    [[nodiscard]] std::string_view kind() const override { return page().kind(); }
 
-    [[nodiscard]] std::string title() const override;
+    [[nodiscard]] std::string title() const override { return page().title(); }
 
     /// What may be chosen there is in its items and its bar.
     [[nodiscard]] std::vector<Action> actions() const override { return {}; }
 
     [[nodiscard]] std::optional<Details> details() const override;
 
-    [[nodiscard]] FilePicker* filePicker() const override;
+    [[nodiscard]] FilePicker* filePicker() const override { return page().filePicker(); }
 
     [[nodiscard]] UIView& shownView() const override { return *card_; }
 
@@ -65,11 +65,9 @@ protected:
 private:
     [[nodiscard]] bool isModal() const;
     [[nodiscard]] SheetGeometry geometry() const;
-    /// The controller whose page the sheet shows.
-    [[nodiscard]] Ref<UIViewController> page() const;
-    /// Null when the page tells nothing of itself.
-    [[nodiscard]] const SheetContent* content() const;
-    [[nodiscard]] Ref<UINavigationItem> barItem() const;
+
+    [[nodiscard]] PresentedPage page() const { return PresentedPage(controller()); }
+
     void setOpenness(double openness);
     void placeCard();
     void place();

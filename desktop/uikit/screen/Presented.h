@@ -44,12 +44,13 @@ public:
         std::string controllerClass;
         std::string detail; ///< the text below the title; empty when there is none
         std::string symbol; ///< above the title; empty when there is none
-        std::string style;  ///< "pageSheet", "formSheet" or "alert"
+        std::string style;  ///< "pageSheet", "formSheet", "popover" or "alert"
         bool swipeDismissable = false;
         std::vector<Item> items;
         Ref<UINavigationItem> barItem; ///< what its navigation bar shows; empty when it has none
         std::vector<Field> fields;
-        std::vector<std::string> urls; ///< of what is shared
+        std::vector<std::string> urls;       ///< of what is shared
+        std::optional<CGRect> popoverSource; ///< what a popover points to, in points of the screen
     };
 
     virtual ~Presented() = default;

@@ -3,6 +3,7 @@
 #include "CoreGraphics/CGGeometry.h"
 #include "ObjectiveC/Ref.h"
 #include "Traits.h"
+#include "screen/HostFileDialog.h"
 #include "screen/Presentations.h"
 #include "screen/ScreenKeyboard.h"
 #include "typing/Clipboard.h"
@@ -74,6 +75,11 @@ public:
     /// For a window, in place of the device's own. \pre it is not empty
     void setClipboard(std::unique_ptr<Clipboard> clipboard) { clipboard_ = std::move(clipboard); }
 
+    /// Null where there is no window that could open one.
+    [[nodiscard]] HostFileDialog* fileDialog() const { return fileDialog_.get(); }
+
+    void setFileDialog(std::unique_ptr<HostFileDialog> dialog) { fileDialog_ = std::move(dialog); }
+
     /// Lays out what needs it in all windows before the next picture.
     void layoutIfNeeded();
     /// Has `layoutIfNeeded` called by the main queue.
@@ -98,6 +104,7 @@ private:
     std::unique_ptr<ScreenKeyboard> keyboard_ = makeKeyboard();
     FirstResponder firstResponder_{[this] { scheduleKeyboard(); }};
     std::unique_ptr<Clipboard> clipboard_ = std::make_unique<Clipboard>();
+    std::unique_ptr<HostFileDialog> fileDialog_;
     double keyboardHeight_ = 0;
     bool layoutIsNeeded_ = false;
     bool layoutIsScheduled_ = false;

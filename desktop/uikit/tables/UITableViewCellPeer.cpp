@@ -212,10 +212,19 @@ CGRect UITableViewCellPeer::accessoryFrame(const CGRect& bounds) const {
                       metrics.rounded((bounds.size.height - size.height) / 2), size.width, size.height);
 }
 
+double UITableViewCellPeer::imageWidth() const {
+    return imageColumn_.value_or(sizeOf(*imageView_->image()).width);
+}
+
+void UITableViewCellPeer::setImageColumn(double width) {
+    imageColumn_ = width;
+    setNeedsLayout();
+}
+
 UITableViewCellPeer::TextRoom UITableViewCellPeer::textRoom(double width) const {
     auto left = margin_;
-    if (const auto image = imageView_->image())
-        left += sizeOf(*image).width + iconGap;
+    if (imageView_->image())
+        left += imageWidth() + iconGap;
     auto right = width - margin_;
     if (accessory() != nullptr)
         right = accessoryFrame(CGRectMake(0, 0, width, 0)).origin.x - textGap;
@@ -262,8 +271,8 @@ void UITableViewCellPeer::layOutTexts(const CGRect& bounds) {
     const auto room = textRoom(bounds.size.width);
     if (const auto image = imageView_->image()) {
         const auto size = sizeOf(*image);
-        imageView_->setFrame(
-            CGRectMake(margin_, (bounds.size.height - size.height) / 2, size.width, size.height));
+        imageView_->setFrame(CGRectMake(margin_ + (imageWidth() - size.width) / 2,
+                                        (bounds.size.height - size.height) / 2, size.width, size.height));
     }
     if (style_ == UITableViewCellStyle::Subtitle && hasText(*detailTextLabel_))
         layOutStacked(room, bounds.size.height);

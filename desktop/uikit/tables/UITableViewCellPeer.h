@@ -5,6 +5,7 @@
 #include "UIKit/UITableViewCell.h"
 #include "views/UIViewPeer.h"
 
+#include <optional>
 #include <string>
 
 class UITableViewPeer;
@@ -38,6 +39,9 @@ public:
 
     /// Takes no room without an image.
     [[nodiscard]] UIImageView& imageView() const { return *imageView_; }
+
+    /// The room for the image, which is in its middle; as wide as the image until it is set.
+    void setImageColumn(double width);
 
     [[nodiscard]] UITableViewCellAccessoryType accessoryType() const { return accessoryType_; }
 
@@ -100,6 +104,8 @@ private:
     [[nodiscard]] UITableViewPeer* table() const;
     [[nodiscard]] const UIView* accessory() const;
     [[nodiscard]] CGRect accessoryFrame(const CGRect& bounds) const;
+    /// \pre there is an image
+    [[nodiscard]] double imageWidth() const;
     [[nodiscard]] TextRoom textRoom(double width) const;
     /// Of the content view in a cell of that width.
     [[nodiscard]] double contentWidth(double width) const;
@@ -126,6 +132,7 @@ private:
     Ref<UIView> accessoryView_;
     UITableViewCellAccessoryType accessoryType_ = UITableViewCellAccessoryType::None;
     double margin_ = 16;
+    std::optional<double> imageColumn_;
     double selectionFade_ = 0;
     bool lastInCard_ = true;
     bool detailHasPriority_ = false;

@@ -3,7 +3,7 @@
 #include "AllCommands.h"
 #include "CountedButton.h"
 
-DriverFixture::DriverFixture() {
+DriverFixture::DriverFixture(const Screen::Options& options) : Phone(options) {
     addAllCommands(commands_, {.application = application_,
                                .touches = finger,
                                .compositor = compositor_,

@@ -43,7 +43,7 @@ private:
 /// All commands on a phone with an application's window.
 class DriverFixture : public Phone {
 protected:
-    DriverFixture();
+    explicit DriverFixture(const Screen::Options& options = {});
 
     /// What a command answers; fails the test when it cannot be done.
     [[nodiscard]] QJsonObject ask(const std::string& line) const;

@@ -212,7 +212,9 @@ TEST_F(PresentingTest, ScreenTellsOfASheet) {
                                         {"left", QJsonArray()},
                                         {"right", QJsonArray()},
                                         {"actions", QJsonArray()},
-                                        {"fields", QJsonArray()}}));
+                                        {"fields", QJsonArray()},
+                                        {"urls", QJsonArray()},
+                                        {"popover", QJsonValue()}}));
 }
 
 TEST_F(PresentingTest, ScreenTellsOfTheBarOfASheet) {

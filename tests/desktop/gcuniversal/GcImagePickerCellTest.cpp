@@ -1,5 +1,6 @@
 #include "GcImagePickerCell.h"
 
+#include "DialogStandIn.h"
 #include "cells/RowsFixture.h"
 #include "screen/FilePicker.h"
 #include "screen/Presentations.h"
@@ -124,5 +125,34 @@ TEST_F(GcImagePickerCellTest, RemovesThePicture) {
     open();
     press("Remove Image");
     EXPECT_FALSE(preview().image());
+    EXPECT_EQ(elementsOf("photo"), Texts{"Row photo=no image"});
+}
+
+TEST_F(GcImagePickerCellTest, TheHostsDialogChoosesAPictureWhereThereIsOne) {
+    open();
+    for (const auto& element : AccessibilityElement::allIn(sheet()->shownView()))
+        EXPECT_NE(element.label, HostFileDialog::buttonTitle);
+    press("Cancel");
+    auto dialog = std::make_unique<DialogStandIn>();
+    auto& asked = *dialog;
+    screen.setFileDialog(std::move(dialog));
+    open();
+    press(HostFileDialog::buttonTitle);
+    EXPECT_EQ(asked.filesAsked, 1);
+    asked.answer(picture());
+    settle();
+    EXPECT_TRUE(isKept());
+    EXPECT_EQ(sheet(), nullptr);
+}
+
+TEST_F(GcImagePickerCellTest, WhatTheHostsDialogAnswersTooLateIsLeft) {
+    auto dialog = std::make_unique<DialogStandIn>();
+    auto& asked = *dialog;
+    screen.setFileDialog(std::move(dialog));
+    open();
+    press(HostFileDialog::buttonTitle);
+    press("Cancel");
+    asked.answer(picture());
+    settle();
     EXPECT_EQ(elementsOf("photo"), Texts{"Row photo=no image"});
 }

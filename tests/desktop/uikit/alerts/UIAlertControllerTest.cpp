@@ -1,6 +1,7 @@
 #include "CALayerPeer.h"
 #include "DesktopColor.h"
 #include "DesktopFont.h"
+#include "accessibility/AccessibilityElement.h"
 #include "alerts/AlertView.h"
 #include "alerts/UIAlertControllerPeer.h"
 #include "presentation/PresentationFixture.h"
@@ -70,6 +71,14 @@ TEST_F(UIAlertControllerTest, tellsOfItself) {
     EXPECT_EQ(actions[1].title, "Reset");
     EXPECT_TRUE(actions[1].destructive);
     EXPECT_FALSE(actions[1].cancels);
+}
+
+TEST_F(UIAlertControllerTest, tellsAssistiveProgramsOfItsTextsAndButtons) {
+    present(usual());
+    std::vector<std::string> labels;
+    for (const auto& element : AccessibilityElement::allIn(top()->shownView()))
+        labels.push_back(element.label);
+    EXPECT_THAT(labels, ElementsAre("Reset Settings", "Are you sure?", "Cancel", "Reset"));
 }
 
 TEST_F(UIAlertControllerTest, isInTheMiddleOfTheScreenWithItsButtonsAtItsEnd) {

@@ -1,5 +1,6 @@
 #include "CALayerPeer.h"
 #include "DesktopImage.h"
+#include "accessibility/AccessibilityElement.h"
 #include "navigation/NavigationFixture.h"
 #include "screen/Compositor.h"
 
@@ -72,6 +73,15 @@ TEST_F(MenuPresentationTest, standsOutFromABlackPage) {
     };
     EXPECT_EQ(gray(panel.origin.x - 4, CGRectGetMidY(panel)), 0);
     EXPECT_NEAR(gray(panel.origin.x + 6, panel.origin.y + 22), 37, 1);
+}
+
+TEST_F(MenuPresentationTest, tellsAssistivePrograms) {
+    tap(gear());
+    settle();
+    std::vector<std::string> labels;
+    for (const auto& element : AccessibilityElement::allIn(menu()->shownView()))
+        labels.push_back(element.label);
+    EXPECT_THAT(labels, ElementsAre("Apply", "Reset Settings", "Never"));
 }
 
 TEST_F(MenuPresentationTest, tellsOfItsActions) {

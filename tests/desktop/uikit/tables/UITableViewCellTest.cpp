@@ -161,6 +161,17 @@ TEST_F(UITableViewCellTest, LargeImagesAreShownSmaller) {
     EXPECT_EQ(peerOf<UITableViewCellPeer>(*cell).imageView().frame(), CGRectMake(16, 14.75, 29, 14.5));
 }
 
+TEST_F(UITableViewCellTest, ImagesStandInTheMiddleOfTheirColumn) {
+    const auto cell = cellOf(UITableViewCellStyle::Default);
+    peerOf<UITableViewCellPeer>(*cell).textLabel().setText("Title");
+    peerOf<UITableViewCellPeer>(*cell).imageView().setImage(
+        make<DesktopImage>(QImage(20, 20, QImage::Format_ARGB32_Premultiplied), 1));
+    peerOf<UITableViewCellPeer>(*cell).setImageColumn(29);
+    layOut(*cell);
+    EXPECT_EQ(peerOf<UITableViewCellPeer>(*cell).imageView().frame(), CGRectMake(20.5, 12, 20, 20));
+    EXPECT_EQ(peerOf<UITableViewCellPeer>(*cell).textLabel().frame().origin.x, 61);
+}
+
 TEST_F(UITableViewCellTest, APressedRowHasNoSeparator) {
     const auto cell = cellOf(UITableViewCellStyle::Default);
     const auto& separator = cell->peer().subviews().front()->peer().subviews()[2]->peer();

@@ -12,4 +12,11 @@ TEST(ClipboardTest, KeepsTheLastText) {
     EXPECT_EQ(clipboard.text(), "Zürich");
 }
 
+TEST(ClipboardTest, KeepsFilesAsTheirUrls) {
+    Clipboard clipboard;
+    clipboard.setText("text");
+    clipboard.setFiles({"file:///a", "file:///b"});
+    EXPECT_EQ(clipboard.text(), "file:///a\nfile:///b");
+}
+
 } // namespace
