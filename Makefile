@@ -59,11 +59,12 @@ fuzz:
 	@tools/fuzz $${SECONDS_EACH:-600}
 
 bench:
-	@tools/setup build
+	@tools/setup build bench
 	@cmake --preset desktop >/dev/null
-	@cmake --build --preset desktop -j 2 --target bench_painting bench_long_list
+	@cmake --build --preset desktop -j 2 --target bench_painting bench_long_list bench_archive
 	@build/desktop/bench/bench_painting
 	@build/desktop/bench/bench_long_list
+	@build/desktop/bench/bench_archive
 
 coverage:
 	@tools/setup build test coverage

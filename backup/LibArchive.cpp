@@ -5,6 +5,7 @@
 #include "Foundation/NSString.h"
 #include "ObjectiveC/Class.h"
 #include "System/FileSystemRepresentation.h"
+#include "System/UTF8Locale.h"
 
 #include <archive.h>
 #include <archive_entry.h>
@@ -109,8 +110,9 @@ void unpackItem(archive& reader, archive_entry& entry, std::string_view folder) 
     if (!name)
         return;
     const auto path = stringByAppendingPathComponent(folder, *name);
-    // NOLINTNEXTLINE(bugprone-unused-return-value): where there is no folder, no file comes to be
-    NSFileManager::defaultManager().createDirectoryAtPath(stringByDeletingLastPathComponent(path), true);
+    // Where no folder comes to be, no file does.
+    [[maybe_unused]] const auto made =
+        NSFileManager::defaultManager().createDirectoryAtPath(stringByDeletingLastPathComponent(path), true);
     if (archive_entry_filetype(&entry) == AE_IFREG)
         unpackContent(reader, path);
 }
@@ -124,6 +126,7 @@ void unpackItems(archive& reader, std::string_view folder) {
 } // namespace
 
 Result<void> LibArchive::createArchiveAtPath(std::string_view path, std::string_view contentsPath) {
+    const UTF8Locale locale; // the library translates names from the locale's encoding
     const Writer writer(archive_write_new());
     archive_write_add_filter_gzip(writer.get());
     archive_write_set_format_pax_restricted(writer.get());
@@ -136,6 +139,7 @@ Result<void> LibArchive::createArchiveAtPath(std::string_view path, std::string_
 }
 
 Result<void> LibArchive::extractArchiveAtPath(std::string_view path, std::string_view toPath) {
+    const UTF8Locale locale; // and to it
     const Reader reader(archive_read_new());
     archive_read_support_filter_gzip(reader.get());
     archive_read_support_format_tar(reader.get());

@@ -1,7 +1,5 @@
 #include "Foundation/NSData.h"
 
-#include <algorithm>
-#include <iterator>
 #include <span>
 
 namespace {
@@ -24,11 +22,8 @@ void appendHex(std::string& text, std::span<const std::byte> bytes) {
 } // namespace
 
 NSData NSData::dataWithBytes(std::string_view text) {
-    NSData data;
-    data.bytes.reserve(text.size());
-    std::ranges::transform(text, std::back_inserter(data.bytes),
-                           [](char character) { return static_cast<std::byte>(character); });
-    return data;
+    const auto bytes = std::as_bytes(std::span(text));
+    return {.bytes = {bytes.begin(), bytes.end()}};
 }
 
 std::string_view NSData::view() const {

@@ -21,6 +21,7 @@ void LibArchiveFixture::put(const std::string& name, std::string_view content) c
 }
 
 Result<void> LibArchiveFixture::unpack(std::string_view bytes) const {
+    fs::remove(hostArchive()); // to overwrite a file takes longer
     device.write(archivePath, bytes);
     fs::remove_all(device.hostPath(unpackedPath));
     fs::create_directories(device.hostPath(unpackedPath));
