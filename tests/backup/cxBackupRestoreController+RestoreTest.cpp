@@ -199,11 +199,11 @@ TEST_F(cxBackupRestoreControllerRestoreTest, WhatIsNoArchiveIsAnError) {
 
 TEST_F(cxBackupRestoreControllerRestoreTest, OfADamagedArchiveWhatCouldBeReadIsRestored) {
     std::mt19937 random; // what cannot be compressed
-    std::string bytes(100'000, '\0');
+    std::string bytes(300'000, '\0');
     std::ranges::generate(bytes, [&random] { return static_cast<char>(random()); });
     makeBackup("a.tar.gz", {{"kCustomIcon-IMG", bytes}});
     const auto path = std::string(backupsFolder) + "/a.tar.gz";
-    device.write(path, device.read(path).substr(0, 60'000));
+    device.write(path, device.read(path).substr(0, 200'000));
     EXPECT_EQ(restore("a.tar.gz"), warning);
     EXPECT_EQ(notifications(), told);
     const auto restored = readIfThere(image("kCustomIcon-IMG")).value_or("");

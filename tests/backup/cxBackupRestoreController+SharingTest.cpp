@@ -1,5 +1,6 @@
 #include "BackupPageFixture.h"
 #include "Device.h"
+#include "views/UIViewPeer.h"
 
 namespace {
 
@@ -74,6 +75,7 @@ TEST_F(cxBackupRestoreControllerPadTest, OnATabletThePopoverPointsAtTheMiddleOfT
     ASSERT_TRUE(isPresenting());
     EXPECT_EQ(presented().kind(), "share");
     const auto size = page->view().bounds().size;
-    EXPECT_EQ(details().popoverSource, CGRectMake(size.width / 2, size.height / 2, 0, 0));
+    EXPECT_EQ(details().popoverSource,
+              page->view().peer().convertToScreen(CGRectMake(size.width / 2, size.height / 2, 0, 0)));
     EXPECT_EQ(device.log().take(), Log{"Sharing backup: My Settings.tar.gz"});
 }
