@@ -58,6 +58,18 @@ Ref<UIColor> UIColor::labelColor() {
     return DesktopColor::system(SystemColor::Label);
 }
 
+Ref<UIColor> UIColor::systemBlueColor() {
+    return DesktopColor::system(SystemColor::Blue);
+}
+
+Ref<UIColor> UIColor::systemGreenColor() {
+    return DesktopColor::system(SystemColor::Green);
+}
+
+Ref<UIColor> UIColor::systemOrangeColor() {
+    return DesktopColor::system(SystemColor::Orange);
+}
+
 Ref<UIColor> UIColor::systemRedColor() {
     return DesktopColor::system(SystemColor::Red);
 }

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <memory>
 
 namespace {
 
@@ -22,8 +23,24 @@ constexpr FontStyle descriptionStyle{.size = 15};
 
 } // namespace
 
+/// An item that a tap is watched for is a button.
+class OBBulletedListItem::Peer final : public UIViewPeer {
+public:
+    // UIViewPeer:
+    [[nodiscard]] Accessibility accessibility() const override {
+        const auto& item = dynamic_cast<const OBBulletedListItem&>(view());
+        if (!item.isTappable())
+            return UIViewPeer::accessibility();
+        return {.label = item.content().title,
+                .value = item.content().description,
+                .role = AccessibilityRole::Button,
+                .isElement = true};
+    }
+};
+
 OBBulletedListItem::OBBulletedListItem(const Content& content)
-    : content_(content),
+    : UIView(std::make_unique<Peer>()),
+      content_(content),
       image_(make<UIImageView>()),
       title_(wrappedLabel(content.title, titleStyle, SystemColor::Label)) {
     image_->setImage(content.image);

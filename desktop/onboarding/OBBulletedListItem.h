@@ -30,6 +30,8 @@ public:
     void layoutSubviews() override;
 
 private:
+    class Peer;
+
     [[nodiscard]] double textHeight(double width) const;
 
     Content content_;

@@ -41,3 +41,7 @@ void OBWelcomeController::addBulletedListItemWithTitle(std::string_view title, s
     item->setTintColor(tintColor);
     peerOf<OBWelcomeControllerPeer>(*this).welcomeView().addItem(item);
 }
+
+Ref<UIView> OBWelcomeController::bulletedList() const {
+    return retain(&peerOf<OBWelcomeControllerPeer>(*this).welcomeView().list());
+}

@@ -2,15 +2,31 @@
 
 #include "Message.h"
 
+#include <functional>
+#include <memory>
+
 namespace {
 
 id objectFor(std::monostate /*nothing*/) {
     return nullptr;
 }
 
+id objectFor(const MessageBlock& block) {
+    const Block<void()> made(*block);
+    const auto* const object = static_cast<BlockRef>(made);
+    return objc_autorelease(objc_retain(reinterpret_cast<id>(const_cast<BlockObject*>(object))));
+}
+
 template <class T>
 id objectFor(const T& value) {
     return rawAnswer(value);
+}
+
+/// A copy of the block is kept for as long as the value is.
+MessageValue blockOf(id object) {
+    const std::shared_ptr<const void> kept(_Block_copy(object), &_Block_release);
+    return std::make_shared<const std::function<void()>>(
+        [kept] { reinterpret_cast<void (^)()>(const_cast<void*>(kept.get()))(); });
 }
 
 MessageValue orNothing(std::optional<PropertyList> value) {
@@ -35,6 +51,8 @@ MessageValue messageValueOf(id object, MessageType type) {
         return instanceAs<NSObject>(object);
     case MessageType::Objects:
         return fromRaw<std::vector<Ref<NSObject>>>(object);
+    case MessageType::Block:
+        return blockOf(object);
     case MessageType::Nothing:
     case MessageType::Boolean:
     case MessageType::Integer:

@@ -11,7 +11,10 @@ namespace {
 
 using RawArgument = std::variant<ObjcBool, std::int64_t, double, id>;
 
-constexpr std::size_t parametersAtMost = 2;
+// Numbers that are passed otherwise than objects are, only where the pane has them: for each list of types
+// there is a function.
+constexpr std::size_t parametersAtMost = 4;
+constexpr std::size_t parametersOfAnyTypeAtMost = 2;
 
 MessageValue valueOf(const RawArgument& argument, MessageType type) {
     if (const auto* const boolean = std::get_if<ObjcBool>(&argument))
@@ -81,6 +84,17 @@ bool isInitialiser(const Method& method) {
 // The types that a method has are put together one after the other: the result first, then the parameters.
 
 template <class R, class... P>
+IMP entryWith(std::span<const MessageType> further);
+
+template <class R, class Number, class... P>
+IMP entryWithNumber(std::span<const MessageType> further) {
+    if constexpr (sizeof...(P) < parametersOfAnyTypeAtMost)
+        return entryWith<R, P..., Number>(further);
+    else
+        return nullptr;
+}
+
+template <class R, class... P>
 IMP entryWith(std::span<const MessageType> further) {
     if (further.empty())
         return reinterpret_cast<IMP>(&entry<R, P...>);
@@ -88,11 +102,11 @@ IMP entryWith(std::span<const MessageType> further) {
         const auto rest = further.subspan(1);
         switch (further.front()) {
         case MessageType::Boolean:
-            return entryWith<R, P..., ObjcBool>(rest);
+            return entryWithNumber<R, ObjcBool, P...>(rest);
         case MessageType::Integer:
             return entryWith<R, P..., std::int64_t>(rest);
         case MessageType::Real:
-            return entryWith<R, P..., double>(rest);
+            return entryWithNumber<R, double, P...>(rest);
         default:
             return entryWith<R, P..., id>(rest);
         }
@@ -110,6 +124,8 @@ std::string_view encodingOfType(MessageType type) {
         return encodingOf<std::int64_t>;
     case MessageType::Real:
         return encodingOf<double>;
+    case MessageType::Block:
+        return encodingOf<BlockRef>;
     default:
         return encodingOf<id>;
     }

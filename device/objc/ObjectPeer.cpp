@@ -3,6 +3,7 @@
 #include "FrameworkClass.h"
 #include "Instances.h"
 #include "Message.h"
+#include "ObjectiveC/Class.h"
 #include "ObjectiveC/Weak.h"
 
 namespace {
@@ -22,6 +23,10 @@ NSObject::NSObject() : peer_(new ObjectPeer(*this)) {}
 NSObject::~NSObject() {
     peer_->releaseAttachedValues();
     delete peer_;
+}
+
+std::string NSStringFromClass(const NSObject& instance) {
+    return class_getName(object_getClass(objectOf(instance)));
 }
 
 bool NSObject::init() {

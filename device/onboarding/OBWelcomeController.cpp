@@ -36,3 +36,7 @@ void OBWelcomeController::addBulletedListItemWithTitle(std::string_view title, s
     send<"-[OBWelcomeController addBulletedListItemWithTitle:description:image:tintColor:]", void>(
         *this, title, description, image, tintColor);
 }
+
+Ref<UIView> OBWelcomeController::bulletedList() const {
+    return send<"-[OBWelcomeController bulletedList]", Ref<UIView>>(*this);
+}

@@ -44,6 +44,18 @@ Ref<UIColor> UIColor::labelColor() {
     return sendToClass<"+[UIColor labelColor]", Ref<UIColor>>();
 }
 
+Ref<UIColor> UIColor::systemBlueColor() {
+    return sendToClass<"+[UIColor systemBlueColor]", Ref<UIColor>>();
+}
+
+Ref<UIColor> UIColor::systemGreenColor() {
+    return sendToClass<"+[UIColor systemGreenColor]", Ref<UIColor>>();
+}
+
+Ref<UIColor> UIColor::systemOrangeColor() {
+    return sendToClass<"+[UIColor systemOrangeColor]", Ref<UIColor>>();
+}
+
 Ref<UIColor> UIColor::systemRedColor() {
     return sendToClass<"+[UIColor systemRedColor]", Ref<UIColor>>();
 }

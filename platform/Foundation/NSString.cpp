@@ -35,6 +35,20 @@ std::string_view withoutTrailingSlashes(std::string_view path) {
     return path;
 }
 
+std::string_view componentAtEndOf(std::string_view path) {
+    path = withoutTrailingSlashes(path);
+    return path == "/" ? path : path.substr(path.rfind('/') + 1);
+}
+
+std::string_view extensionOf(std::string_view path) {
+    const auto component = componentAtEndOf(path);
+    const auto dot = component.rfind('.');
+    if (dot == std::string_view::npos || dot == 0)
+        return {};
+    const auto extension = component.substr(dot + 1);
+    return extension.contains(' ') ? std::string_view() : extension;
+}
+
 bool mayStandInUrlPath(char character) {
     constexpr std::string_view marks = "!$&'()*+,-./:=@_~";
     return (character >= 'a' && character <= 'z') || (character >= 'A' && character <= 'Z') ||
@@ -78,6 +92,22 @@ std::string stringByDeletingLastPathComponent(std::string_view path) {
     if (slash == std::string_view::npos)
         return {};
     return std::string(withoutTrailingSlashes(path.substr(0, slash == 0 ? 1 : slash)));
+}
+
+std::string lastPathComponent(std::string_view path) {
+    return std::string(componentAtEndOf(path));
+}
+
+std::string pathExtension(std::string_view path) {
+    return std::string(extensionOf(path));
+}
+
+std::string stringByDeletingPathExtension(std::string_view path) {
+    const auto extension = extensionOf(path);
+    path = withoutTrailingSlashes(path);
+    if (!extension.empty())
+        path.remove_suffix(extension.size() + 1);
+    return std::string(path);
 }
 
 std::string stringByAddingPercentEncodingWithURLPathAllowedCharacters(std::string_view text) {

@@ -20,6 +20,16 @@
 /// What precedes the last component: "/a" of "/a/b", "/" of "/a", "" of "a".
 [[nodiscard]] std::string stringByDeletingLastPathComponent(std::string_view path);
 
+/// "b" of "/a/b" and of "/a/b/", "/" of "/", "" of "".
+[[nodiscard]] std::string lastPathComponent(std::string_view path);
+
+/// What follows the last dot of the last component: "gz" of "/a/b.tar.gz". "" without such a dot, when it is
+/// the component's first character or its last, and when what follows it holds a space.
+[[nodiscard]] std::string pathExtension(std::string_view path);
+
+/// The path without its extension and the dot before that, if it has one: "/a/b.tar" of "/a/b.tar.gz".
+[[nodiscard]] std::string stringByDeletingPathExtension(std::string_view path);
+
 /// The text with every byte percent-encoded that may not stand in the path of a URL as it is: all but
 /// letters, digits and "!$&'()*+,-./:=@_~".
 [[nodiscard]] std::string stringByAddingPercentEncodingWithURLPathAllowedCharacters(std::string_view text);

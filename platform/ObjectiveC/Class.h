@@ -93,5 +93,8 @@ private:
     std::vector<Method> methods_;
 };
 
+/// The runtime name of the object's own class, whether or not the class table knows that one.
+[[nodiscard]] std::string NSStringFromClass(const NSObject& instance);
+
 /// The class of that name, or null when no loaded code defines one.
 [[nodiscard]] const Class* NSClassFromString(std::string_view name);

@@ -5,11 +5,14 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <functional>
+#include <memory>
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 /// What a parameter or result of a method is, in the terms that a platform needs to carry it.
@@ -22,6 +25,7 @@ enum class MessageType : char {
     Value,   ///< a property-list object, or null
     Object,  ///< any other object, or null
     Objects, ///< an array of such objects
+    Block,   ///< a block without parameters and result, or null
 };
 
 /// A method that can be called by its selector's text. Made by `method`; lives as long as the program's code.
@@ -150,6 +154,45 @@ struct MessageTraits<std::vector<Ref<T>>> {
 
     static MessageValue pack(const std::vector<Ref<T>>& value) {
         return std::vector<Ref<NSObject>>(value.begin(), value.end());
+    }
+};
+
+template <>
+struct MessageTraits<std::optional<std::vector<std::string>>> {
+    static constexpr auto type = MessageType::Value;
+
+    /// What is no text is left out.
+    static std::optional<std::vector<std::string>> unpack(const MessageValue& value) {
+        const auto* list = std::get_if<PropertyList>(&value);
+        const auto* array = list != nullptr ? list->getIf<PropertyList::Array>() : nullptr;
+        if (array == nullptr)
+            return std::nullopt;
+        std::vector<std::string> texts;
+        for (const auto& element : *array) {
+            if (const auto* text = element.getIf<std::string>())
+                texts.push_back(*text);
+        }
+        return texts;
+    }
+
+    static MessageValue pack(const std::optional<std::vector<std::string>>& value) {
+        return value ? MessageValue(PropertyList(PropertyList::Array(value->begin(), value->end())))
+                     : MessageValue();
+    }
+};
+
+template <>
+struct MessageTraits<std::function<void()>> {
+    static constexpr auto type = MessageType::Block;
+
+    static std::function<void()> unpack(const MessageValue& value) {
+        const auto* block = std::get_if<MessageBlock>(&value);
+        return block != nullptr ? **block : std::function<void()>();
+    }
+
+    static MessageValue pack(std::function<void()> value) {
+        return value ? MessageValue(std::make_shared<const std::function<void()>>(std::move(value)))
+                     : MessageValue();
     }
 };
 

@@ -32,4 +32,7 @@ public:
     /// \param tintColor of the item; the view's own tint when it is empty
     void addBulletedListItemWithTitle(std::string_view title, std::string_view description,
                                       const Ref<UIImage>& image, const Ref<UIColor>& tintColor);
+
+    /// What the items are in, each in its order; empty when the page has none.
+    [[nodiscard]] Ref<UIView> bulletedList() const;
 };

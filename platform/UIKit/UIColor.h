@@ -22,5 +22,8 @@ public:
     [[nodiscard]] static Ref<UIColor> lightGrayColor();
     /// Of texts.
     [[nodiscard]] static Ref<UIColor> labelColor();
+    [[nodiscard]] static Ref<UIColor> systemBlueColor();
+    [[nodiscard]] static Ref<UIColor> systemGreenColor();
+    [[nodiscard]] static Ref<UIColor> systemOrangeColor();
     [[nodiscard]] static Ref<UIColor> systemRedColor();
 };

@@ -3,7 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <functional>
 #include <limits>
+#include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -28,6 +31,12 @@ public:
         return values;
     }
 
+    std::optional<std::vector<std::string>> texts(std::optional<std::vector<std::string>> values) {
+        return values;
+    }
+
+    std::function<void()> block(std::function<void()> value) { return value; }
+
     void store(const std::optional<PropertyList>& value, const Ref<NSObject>& owner) {
         stored = value.has_value() && owner != nullptr;
     }
@@ -44,6 +53,8 @@ constexpr Method name = method<"name:", &Receiver::name>();
 constexpr Method value = method<"value:", &Receiver::value>();
 constexpr Method self = method<"self:", &Receiver::self>();
 constexpr Method reversed = method<"reversed:", &Receiver::reversed>();
+constexpr Method texts = method<"texts:", &Receiver::texts>();
+constexpr Method block = method<"block:", &Receiver::block>();
 constexpr Method store = method<"store:owner:", &Receiver::store>();
 
 class MethodTest : public testing::Test {
@@ -90,6 +101,24 @@ TEST_F(MethodTest, CarriesListsOfObjectsAndLeavesOutWhatIsOfAnotherClass) {
     EXPECT_EQ(call(reversed, {Objects{first, stranger, second}}), MessageValue(Objects{second, first}));
     EXPECT_EQ(call(reversed, {nothing}), MessageValue(Objects()));
     EXPECT_EQ(reversed.result, MessageType::Objects);
+}
+
+TEST_F(MethodTest, CarriesListsOfTextsAsValuesAndLeavesOutWhatIsNone) {
+    EXPECT_EQ(call(texts, {list(PropertyList::Array{"a", 2, "b"})}), list(PropertyList::Array{"a", "b"}));
+    EXPECT_EQ(call(texts, {list(PropertyList::Array())}), list(PropertyList::Array()));
+    EXPECT_EQ(call(texts, {list("a")}), nothing);
+    EXPECT_EQ(texts.result, MessageType::Value);
+}
+
+TEST_F(MethodTest, CarriesBlocksThatAreCalledOnTheOtherSide) {
+    int calls = 0;
+    const MessageValue sent = std::make_shared<const std::function<void()>>([&calls] { ++calls; });
+    const auto answer = call(block, {sent});
+    (*std::get<MessageBlock>(answer))();
+    EXPECT_EQ(calls, 1);
+    EXPECT_EQ(call(block, {nothing}), nothing);
+    EXPECT_EQ(block.result, MessageType::Block);
+    EXPECT_EQ(block.parameters.front(), MessageType::Block);
 }
 
 TEST_F(MethodTest, AbsentTextValuesAndObjectsStayAbsent) {

@@ -49,6 +49,31 @@ TEST(NSString, DeletingTheLastPathComponentLeavesTheFolder) {
     EXPECT_EQ(stringByDeletingLastPathComponent(""), "");
 }
 
+TEST(NSString, TheLastPathComponentIsWhatFollowsTheLastSlashThatSeparates) {
+    EXPECT_EQ(lastPathComponent("/a/b"), "b");
+    EXPECT_EQ(lastPathComponent("/a/b//"), "b");
+    EXPECT_EQ(lastPathComponent("b"), "b");
+    EXPECT_EQ(lastPathComponent("/"), "/");
+    EXPECT_EQ(lastPathComponent("//"), "/");
+    EXPECT_EQ(lastPathComponent(""), "");
+}
+
+TEST(NSString, ThePathExtensionFollowsTheLastDotOfTheLastComponent) {
+    EXPECT_EQ(pathExtension("/a/b.tar.gz"), "gz");
+    EXPECT_EQ(pathExtension("b.GZ/"), "GZ");
+    EXPECT_EQ(pathExtension(".a.gz"), "gz");
+    for (const auto* const none : {"", "/", "b", "/a.gz/b", ".gz", "/a/.gz", "b.", "b.a gz"})
+        EXPECT_EQ(pathExtension(none), "") << none;
+}
+
+TEST(NSString, DeletingThePathExtensionTakesOneAway) {
+    EXPECT_EQ(stringByDeletingPathExtension("/a/b.tar.gz"), "/a/b.tar");
+    EXPECT_EQ(stringByDeletingPathExtension("b.gz/"), "b");
+    EXPECT_EQ(stringByDeletingPathExtension("a..gz"), "a.");
+    for (const auto* const kept : {"", "/", "b", "/a.gz/b", ".gz", "/a/.gz", "b.", "b.a gz"})
+        EXPECT_EQ(stringByDeletingPathExtension(kept), kept);
+}
+
 TEST(NSString, ComponentsStandBetweenSeparators) {
     using Texts = std::vector<std::string>;
     EXPECT_EQ(componentsSeparatedByString("a, b, c", ", "), (Texts{"a", "b", "c"}));

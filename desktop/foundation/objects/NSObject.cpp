@@ -13,6 +13,10 @@ bool NSObject::respondsToSelector(std::string_view selector) const {
     return isa().instanceMethod(selector) != nullptr;
 }
 
+std::string NSStringFromClass(const NSObject& instance) {
+    return instance.isa().name();
+}
+
 MessageValue NSObject::performSelector(std::string_view selector,
                                        std::initializer_list<MessageValue> arguments) {
     const auto* const method = isa().instanceMethod(selector);

@@ -2,6 +2,7 @@
 
 #include "ObjectiveC/Class.h"
 #include "controllers/DesktopNavigationItem.h"
+#include "navigation/UINavigationBarPeer.h"
 #include "navigation/UINavigationControllerPeer.h"
 #include "screen/FilePicker.h"
 
@@ -15,6 +16,16 @@ Ref<UIViewController> pageOf(const Ref<UIViewController>& controller) {
             return top;
     }
     return controller;
+}
+
+/// What a bar shows that the page has put into its view by itself; empty when it has none.
+Ref<UINavigationItem> itemOfOwnBar(const UIView& view) {
+    for (const auto& subview : view.peer().subviews()) {
+        const auto bar = dynamicCast<UINavigationBar>(subview);
+        if (const auto content = bar ? peerOf<UINavigationBarPeer>(*bar).content() : nullptr)
+            return content->item();
+    }
+    return nullptr;
 }
 
 } // namespace
@@ -45,7 +56,8 @@ std::string PresentedPage::title() const {
 Ref<UINavigationItem> PresentedPage::barItem() const {
     if (page_ != controller_)
         return retain<UINavigationItem>(&page_->navigationItem());
-    return content() != nullptr ? content()->sheetBarItem() : nullptr;
+    auto item = content() != nullptr ? content()->sheetBarItem() : nullptr;
+    return item || !page_ ? item : itemOfOwnBar(page_->view());
 }
 
 Presented::Details PresentedPage::details() const {

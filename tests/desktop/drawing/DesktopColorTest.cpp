@@ -39,6 +39,12 @@ TEST(DesktopColor, HasThePlatformsPlainColours) {
               (ColorComponents{0.2, 0.2, 0.2, 0.3}));
     EXPECT_EQ(DesktopColor::resolve(UIColor::labelColor(), dark),
               systemColor(SystemColor::Label, Appearance::Dark));
+    EXPECT_EQ(DesktopColor::resolve(UIColor::systemBlueColor(), dark),
+              systemColor(SystemColor::Blue, Appearance::Dark));
+    EXPECT_EQ(DesktopColor::resolve(UIColor::systemGreenColor(), dark),
+              systemColor(SystemColor::Green, Appearance::Dark));
+    EXPECT_EQ(DesktopColor::resolve(UIColor::systemOrangeColor(), dark),
+              systemColor(SystemColor::Orange, Appearance::Dark));
     EXPECT_EQ(DesktopColor::resolve(UIColor::systemRedColor(), dark),
               systemColor(SystemColor::Red, Appearance::Dark));
 }

@@ -105,4 +105,15 @@ TEST_F(OBBulletedListItemTest, IsTappableWhileATapIsWatchedFor) {
     EXPECT_FALSE(item_->isTappable());
 }
 
+TEST_F(OBBulletedListItemTest, IsAButtonToThoseWhoDoNotSeeItWhileATapIsWatchedFor) {
+    make({"Title", "A text", symbol("gear")});
+    EXPECT_FALSE(item_->peer().accessibility().isElement);
+    item_->peer().addGestureRecognizer(::make<TapGestureRecognizer>());
+    const auto told = item_->peer().accessibility();
+    EXPECT_TRUE(told.isElement);
+    EXPECT_EQ(told.role, AccessibilityRole::Button);
+    EXPECT_EQ(told.label, "Title");
+    EXPECT_EQ(told.value, "A text");
+}
+
 } // namespace

@@ -93,6 +93,9 @@ void callBlockWithObject(void *block, id object) {
 + (UIColor *)grayColor { return [self named:@"gray"]; }
 + (UIColor *)yellowColor { return [self named:@"yellow"]; }
 + (UIColor *)lightGrayColor { return [self named:@"lightGray"]; }
++ (UIColor *)systemBlueColor { return [self named:@"systemBlue"]; }
++ (UIColor *)systemGreenColor { return [self named:@"systemGreen"]; }
++ (UIColor *)systemOrangeColor { return [self named:@"systemOrange"]; }
 + (UIColor *)systemRedColor { return [self named:@"systemRed"]; }
 - (NSString *)description { return name; }
 - (void *)CGColor { return self; }

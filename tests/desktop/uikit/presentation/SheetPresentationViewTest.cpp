@@ -1,6 +1,7 @@
 #include "presentation/SheetPresentationView.h"
 
 #include "DesktopColor.h"
+#include "UIKit/UINavigationBar.h"
 #include "UIKit/UITextField.h"
 #include "presentation/PresentationFixture.h"
 #include "presentation/SheetContent.h"
@@ -377,6 +378,17 @@ TEST_F(SheetPresentationViewTest, tellsOfThePageOfItsNavigationController) {
     EXPECT_EQ(details->fields[0].placeholder, "Name");
     EXPECT_EQ(details->fields[0].text, "Backup");
     EXPECT_TRUE(details->fields[0].isFirstResponder);
+}
+
+TEST_F(SheetPresentationViewTest, tellsOfTheBarThatItsPageHasInItsView) {
+    const auto sheet = page("B");
+    const auto bar = make<UINavigationBar>();
+    sheet->view().addSubview(bar);
+    present(sheet);
+    EXPECT_EQ(top()->details()->barItem, nullptr) << "the bar shows nothing yet";
+    const auto item = UINavigationItem::initWithTitle("");
+    bar->setItems({item});
+    EXPECT_EQ(top()->details()->barItem, item);
 }
 
 TEST_F(SheetPresentationViewTest, isDismissedFromOutsideUnlessTheUserMayNot) {
