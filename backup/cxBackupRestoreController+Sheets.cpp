@@ -30,7 +30,7 @@ void addBackdrop(UIView& view, std::int64_t style) {
 } // namespace
 
 // The presentation style is one that all who present sheets replace; that is meant.
-Ref<OBWelcomeController> cxBackupRestoreController::createWelcomeController(
+Ref<OBWelcomeController> cxBackupRestoreController::createWelcomeControllerWithTitle(
     const std::optional<std::string>& title, const std::optional<std::string>& detailText,
     const std::optional<std::string>& symbolName, std::int64_t backdropStyle) {
     auto sheet = OBWelcomeController::initWithTitle(title.value_or(""), detailText, symbolName.value_or(""));
@@ -45,7 +45,7 @@ Ref<OBWelcomeController> cxBackupRestoreController::createWelcomeController(
 Ref<OBWelcomeController> cxBackupRestoreController::makeSheet(const std::optional<std::string>& title,
                                                               const std::optional<std::string>& detailText,
                                                               const std::optional<std::string>& symbolName) {
-    return createWelcomeController(title, detailText, symbolName, sheetBackdropStyle);
+    return createWelcomeControllerWithTitle(title, detailText, symbolName, sheetBackdropStyle);
 }
 
 Ref<UIBarButtonItem> cxBackupRestoreController::makeBarButton(std::string_view title,

@@ -30,7 +30,7 @@ const Class classObject = Class::define<cxBackupRestoreController, PSListControl
      method<"showMessage:withTitle:", showMessage>(),
      method<"dismissMessageController:", &cxBackupRestoreController::dismissMessageController>(),
      method<"createWelcomeControllerWithTitle:detailText:symbolName:backdropStyle:",
-            &cxBackupRestoreController::createWelcomeController>(),
+            &cxBackupRestoreController::createWelcomeControllerWithTitle>(),
      method<"dismissWelcomeController:", &cxBackupRestoreController::dismissWelcomeController>(),
      method<"findBulletedListItemsInView:", &cxBackupRestoreController::findBulletedListItemsInView>(),
      method<"handleBulletedListTap:", &cxBackupRestoreController::handleBulletedListTap>(),

@@ -60,10 +60,9 @@ public:
     void dismissMessageController(const Ref<UIBarButtonItem>& sender);
 
     /// A sheet that is yet to be presented; empty when there can be none.
-    [[nodiscard]] Ref<OBWelcomeController>
-    createWelcomeController(const std::optional<std::string>& title,
-                            const std::optional<std::string>& detailText,
-                            const std::optional<std::string>& symbolName, std::int64_t backdropStyle);
+    [[nodiscard]] Ref<OBWelcomeController> createWelcomeControllerWithTitle(
+        const std::optional<std::string>& title, const std::optional<std::string>& detailText,
+        const std::optional<std::string>& symbolName, std::int64_t backdropStyle);
     /// Closes the sheet that is shown, if one is.
     void dismissWelcomeController(const Ref<NSObject>& sender);
 

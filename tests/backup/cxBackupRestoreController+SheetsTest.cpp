@@ -28,7 +28,7 @@ protected:
     cxBackupRestoreControllerSheetsTest() { show(); }
 
     [[nodiscard]] Ref<OBWelcomeController> build() {
-        return page->createWelcomeController("Title", "Detail", "gear", 2);
+        return page->createWelcomeControllerWithTitle("Title", "Detail", "gear", 2);
     }
 
     /// Presented, with one item in its list. \returns the item
@@ -79,7 +79,7 @@ TEST_F(cxBackupRestoreControllerSheetsTest, ASheetIsBuiltByItsSelectorToo) {
 }
 
 TEST_F(cxBackupRestoreControllerSheetsTest, WithoutSuchABackdropASheetHasNone) {
-    const auto built = page->createWelcomeController("Title", std::nullopt, "no such symbol", 4711);
+    const auto built = page->createWelcomeControllerWithTitle("Title", std::nullopt, "no such symbol", 4711);
     const auto beneath = dynamicCast<_UIBackdropView>(built->view().peer().subviews().at(0));
     EXPECT_TRUE(!beneath || !beneath->layer().peer().backdrop);
 }
