@@ -63,7 +63,7 @@ public:
 private:
     void create() {
         EXPECT_EQ(program.done("screen").value("page"), "cxBackupRestoreController");
-        give({"back", "tap General", "set removeSOS true", "back", "tap Backups", "tap \"Create Backup\"",
+        give({"back", "tap Banner", "set kCustom true", "back", "tap Backups", "tap \"Create Backup\"",
               "tap \"Create Backup\" #2", "type My Settings", "tap Create"});
         EXPECT_EQ(presented()["title"], "Success");
         EXPECT_EQ(presented()["right"].toArray()[0].toObject()["title"], "OK");
@@ -94,13 +94,13 @@ private:
     }
 
     void restore() {
-        give({"back", "tap General", "set removeSOS false", "back", "tap Backups", "tap \"Show Backups\"",
+        give({"back", "tap Banner", "set kCustom false", "back", "tap Backups", "tap \"Show Backups\"",
               "tap \"My Settings.tar\"", "tap Restore"});
-        EXPECT_EQ(stored("removeSOS"), "0");
+        EXPECT_EQ(stored("kCustom"), "0");
         static_cast<void>(events("notifications"));
         give({"tap Restore"});
         EXPECT_EQ(presented()["title"], "Success");
-        EXPECT_EQ(stored("removeSOS"), "1");
+        EXPECT_EQ(stored("kCustom"), "1");
         EXPECT_EQ(events("notifications"), QJsonArray{"com.orvel.corvexprefs/ReloadPrefs"});
         give({"tap OK"});
     }
