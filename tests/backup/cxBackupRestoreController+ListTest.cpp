@@ -239,6 +239,7 @@ TEST_F(cxBackupRestoreControllerListTest, ADeletedBackupIsGoneAndTheOthersAreSho
     EXPECT_EQ(message(), deleted);
     EXPECT_EQ(namesIn(backupsFolder), Names{"b.tar.gz"});
     tapOn("OK");
+    ASSERT_TRUE(isPresenting());
     EXPECT_EQ(presented().title(), "Available Backups");
     EXPECT_EQ(titlesOfItems(), Names{"b.tar"});
     EXPECT_EQ(page->currentBackupsList(), Names{"b.tar.gz"});

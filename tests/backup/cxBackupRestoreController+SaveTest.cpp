@@ -56,6 +56,12 @@ TEST_F(cxBackupRestoreControllerSaveTest, WithoutANameItIsCalledByTheTime) {
     EXPECT_EQ(namesIn(backupsFolder), (Names{"Backup_20261116-0312.tar.gz", "Backup_20261116-0313.tar.gz"}));
 }
 
+TEST_F(cxBackupRestoreControllerSaveTest, TheTimeIsTheLocalOneOfADayOf24Hours) {
+    advance(std::chrono::hours(12));
+    EXPECT_EQ(save(std::nullopt), success);
+    EXPECT_EQ(namesIn(backupsFolder), Names{"Backup_20261116-1512.tar.gz"});
+}
+
 TEST_F(cxBackupRestoreControllerSaveTest, AnyNameIsTakenAsItStands) {
     for (const auto* const name :
          {"My Settings", " ", "...", ".hidden", "Grüße 🎨", "a\nb", "a.tar.gz", "%@", "~"}) {

@@ -104,6 +104,12 @@ static BOOL failed(NSError **error) {
 }
 @end
 
+static NSString *documents = @"/var/mobile/Documents";
+
+void setDocumentsFolder(const char *path) {
+    ASSIGN(documents, path ? [NSString stringWithUTF8String:path] : @"/var/mobile/Documents");
+}
+
 @interface NSFileManager (StandIn)
 - (NSURL *)temporaryDirectory;
 - (NSArray *)URLsForDirectory:(NSUInteger)directory inDomains:(NSUInteger)domains;
@@ -113,6 +119,6 @@ static BOOL failed(NSError **error) {
 - (NSURL *)temporaryDirectory { return [NSURL fileURLWithPath:NSTemporaryDirectory()]; }
 - (NSArray *)URLsForDirectory:(NSUInteger)directory inDomains:(NSUInteger)domains {
     record(self, _cmd, @"%lu %lu", (unsigned long)directory, (unsigned long)domains);
-    return [NSArray arrayWithObject:[NSURL fileURLWithPath:@"/var/mobile/Documents"]];
+    return [NSArray arrayWithObject:[NSURL fileURLWithPath:documents]];
 }
 @end

@@ -42,7 +42,16 @@ double heightOfRow(id page, long row);
 /// Null when the page's class has no bundle that the framework could tell.
 const char* bundlePathOf(id page);
 
+/// The user's documents are in that folder from now on; in the device's own for null.
+void setDocumentsFolder(const char* path);
+
 id titleViewOf(id controller);
+/// Of the bar in the sheet that a controller has presented; null when there is none there.
+id leftButtonOf(id controller);
+id rightButtonOf(id controller);
+/// An item of that sheet's list, and what watches for taps on it; null for nothing.
+id listItemOf(id controller, unsigned index);
+id recognizerOf(id view);
 id menuActionOf(id controller, unsigned index);
 id presentedBy(id controller);
 /// Runs what a menu's row is for.

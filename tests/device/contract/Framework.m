@@ -84,6 +84,32 @@ id menuActionOf(UIViewController *controller, unsigned index) {
     return [item->menu->children objectAtIndex:index];
 }
 
+static UINavigationItem *sheetItemOf(UIViewController *controller) {
+    for (UIView *subview in controller->presented->view->subviews) {
+        if ([subview isKindOfClass:[UINavigationBar class]])
+            return [((UINavigationBar *)subview)->items lastObject];
+    }
+    return nil;
+}
+
+id leftButtonOf(UIViewController *controller) {
+    UINavigationItem *item = sheetItemOf(controller);
+    return item ? [item->leftBarButtonItems lastObject] : nil;
+}
+
+id rightButtonOf(UIViewController *controller) {
+    UINavigationItem *item = sheetItemOf(controller);
+    return item ? [item->rightBarButtonItems lastObject] : nil;
+}
+
+id listItemOf(UIViewController *controller, unsigned index) {
+    return [((OBWelcomeController *)controller->presented)->list->subviews objectAtIndex:index];
+}
+
+id recognizerOf(UIView *view) {
+    return [view->recognizers lastObject];
+}
+
 id presentedBy(UIViewController *controller) {
     return controller->presented;
 }

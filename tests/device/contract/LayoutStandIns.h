@@ -40,7 +40,10 @@ typedef struct UIEdgeInsets {
 @interface UIStackView : UIView
 @end
 
-@interface UINavigationBar : UIView
+@interface UINavigationBar : UIView {
+@public
+    NSArray* items;
+}
 @end
 
 @interface UIScrollView : UIView

@@ -66,6 +66,9 @@ static id answer(id receiver, SEL question, Class class) {
 - (void)addGestureRecognizer:(UITapGestureRecognizer *)recognizer {
     record(self, _cmd, @"%@", describe(recognizer));
     recognizer->view = self;
+    if (recognizers == nil)
+        recognizers = [NSMutableArray new];
+    [recognizers addObject:recognizer];
 }
 - (NSArray *)subviews { return subviews; }
 - (void)setTranslatesAutoresizingMaskIntoConstraints:(BOOL)translates { record(self, _cmd, @"%d", translates); }
@@ -120,7 +123,14 @@ static id answer(id receiver, SEL question, Class class) {
 @end
 
 @implementation UINavigationBar
-- (void)setItems:(NSArray *)items { record(self, _cmd, @"%@", describe(items)); }
+- (void)setItems:(NSArray *)given {
+    record(self, _cmd, @"%@", describe(given));
+    ASSIGN(items, given);
+}
+- (void)dealloc {
+    [items release];
+    [super dealloc];
+}
 @end
 
 @implementation UINavigationItem (Buttons)
@@ -128,8 +138,14 @@ static id answer(id receiver, SEL question, Class class) {
     record(self, _cmd, @"%@", describe(title));
     return [super init];
 }
-- (void)setLeftBarButtonItem:(UIBarButtonItem *)item { record(self, _cmd, @"%@", describe(item)); }
-- (void)setRightBarButtonItem:(UIBarButtonItem *)item { record(self, _cmd, @"%@", describe(item)); }
+- (void)setLeftBarButtonItem:(UIBarButtonItem *)item {
+    record(self, _cmd, @"%@", describe(item));
+    ASSIGN(leftBarButtonItems, [NSArray arrayWithObject:item]);
+}
+- (void)setRightBarButtonItem:(UIBarButtonItem *)item {
+    record(self, _cmd, @"%@", describe(item));
+    ASSIGN(rightBarButtonItems, [NSArray arrayWithObject:item]);
+}
 @end
 
 @implementation UIBarButtonItem (Title)

@@ -79,6 +79,7 @@ void callBlockWithObject(void* block, id object);
     CALayer* layer;
     UIView* superview; // not kept alive
     NSMutableArray* subviews;
+    NSMutableArray* recognizers;
 }
 - (id)initWithFrame:(CGRect)frame;
 - (id)initWithCoder:(NSCoder*)coder;
@@ -164,6 +165,7 @@ void callBlockWithObject(void* block, id object);
 @interface UINavigationItem : NSObject {
 @public
     UIView* titleView;
+    NSArray* leftBarButtonItems;
     NSArray* rightBarButtonItems;
 }
 @end
@@ -198,7 +200,14 @@ void callBlockWithObject(void* block, id object);
 }
 @end
 
-@interface OBWelcomeController : UIViewController
+@interface OBBulletedListItem : UIView
+@end
+
+@interface OBWelcomeController : UIViewController {
+@public
+    UIView* list;
+}
+- (UIView*)bulletedList;
 @end
 
 @interface UIApplication : UIResponder

@@ -285,6 +285,7 @@ static NSMutableArray *completions;
     [backgroundColor release];
     [layer release];
     [subviews release];
+    [recognizers release];
     [super dealloc];
 }
 @end
@@ -481,6 +482,7 @@ void finishAnimations(void) {
 }
 - (void)dealloc {
     [titleView release];
+    [leftBarButtonItems release];
     [rightBarButtonItems release];
     [super dealloc];
 }
@@ -576,6 +578,9 @@ void finishAnimations(void) {
 }
 @end
 
+@implementation OBBulletedListItem
+@end
+
 @implementation OBWelcomeController
 - (id)initWithTitle:(NSString *)title detailText:(NSString *)detailText icon:(UIImage *)icon {
     record(self, _cmd, @"%@ %@ %@", describe(title), describe(detailText), describe(icon));
@@ -597,6 +602,18 @@ void finishAnimations(void) {
                                image:(UIImage *)image
                            tintColor:(UIColor *)color {
     record(self, _cmd, @"%@ %@ %@ %@", describe(title), describe(description), describe(image), describe(color));
+    OBBulletedListItem *item = [OBBulletedListItem new];
+    [[self bulletedList]->subviews addObject:item];
+    [item release];
+}
+- (UIView *)bulletedList {
+    if (list == nil)
+        list = [UIView new];
+    return list;
+}
+- (void)dealloc {
+    [list release];
+    [super dealloc];
 }
 @end
 

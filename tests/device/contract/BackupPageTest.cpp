@@ -1,0 +1,242 @@
+#include "Foundation/NSDictionary.h"
+#include "Foundation/NSFileManager.h"
+#include "Foundation/NSString.h"
+#include "Foundation/NSUUID.h"
+#include "Framework.h"
+#include "Instances.h"
+#include "Journal.h"
+#include "ObjectiveC/AttachedValues.h"
+#include "PreferenceStore.h"
+#include "Text.h"
+#include "UIKit/UITextField.h"
+#include "cxBackupRestoreController.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace {
+
+using Lines = std::vector<std::string>;
+
+/// The page of backups, made and asked as the frameworks do it, with documents of its own.
+class BackupPageTest : public testing::Test {
+protected:
+    BackupPageTest() {
+        EXPECT_TRUE(files.createDirectoryAtPath(folder, true));
+        setDocumentsFolder(folder.c_str());
+        page = newByName("cxBackupRestoreController");
+    }
+
+    ~BackupPageTest() override {
+        instance().dismissViewControllerAnimated(false, {}); // what is presented may keep the page alive
+        objc_release(page);
+        forgetSuites();
+        setDocumentsFolder(nullptr);
+        EXPECT_TRUE(files.removeItemAtPath(folder));
+        takeJournal();
+    }
+
+    [[nodiscard]] cxBackupRestoreController& instance() const {
+        return dynamic_cast<cxBackupRestoreController&>(*instanceOf(page));
+    }
+
+    [[nodiscard]] std::string backup(std::string_view name) const {
+        return folder + "/CorvexBackups/" + std::string(name);
+    }
+
+    /// The lines of the journal that hold any of the texts.
+    [[nodiscard]] static Lines journalOf(std::initializer_list<std::string_view> texts) {
+        Lines lines = takeJournal();
+        std::erase_if(lines, [&](const std::string& line) {
+            return std::ranges::none_of(texts, [&](std::string_view text) { return line.contains(text); });
+        });
+        return lines;
+    }
+
+    void save(const char* name) const {
+        perform(page, "saveBackupWithName:", text(name));
+        perform(page, "dismissMessageController:", rightButtonOf(page));
+        takeJournal();
+    }
+
+    NSFileManager& files = NSFileManager::defaultManager();
+    const std::string folder = stringByAppendingPathComponent(NSTemporaryDirectory(), NSUUIDString());
+    id page = nullptr;
+
+private:
+    const AutoreleasePool pool_;
+};
+
+} // namespace
+
+TEST_F(BackupPageTest, IsAPageOfTheFrameworkWithItsFolder) {
+    EXPECT_STREQ(class_getName(class_getSuperclass(object_getClass(page))), "PSListController");
+    EXPECT_TRUE(files.fileExistsAtPath(folder + "/CorvexBackups"));
+    EXPECT_EQ(textOf(perform(page, "backupsPath", nullptr)), folder + "/CorvexBackups");
+    EXPECT_NE(perform(page, "dateFormatter", nullptr), nullptr);
+    EXPECT_EQ(perform(page, "currentBackupsList", nullptr), nullptr);
+}
+
+TEST_F(BackupPageTest, LoadsItsListOnce) {
+    takeJournal();
+    specifiersOf(page);
+    specifiersOf(page);
+    EXPECT_EQ(takeJournal(), Lines{("-[cxBackupRestoreController loadSpecifiersFromPlistName:target:] "
+                                    "\"BackupRestore\" cxBackupRestoreController")});
+}
+
+TEST_F(BackupPageTest, TheCreateSheetIsBuiltInOrder) {
+    takeJournal();
+    perform(page, "createBackup", nullptr);
+    EXPECT_EQ(
+        journalOf({"OBWelcomeController", "settingsForStyle", "atIndex", "setBackgroundColor",
+                   "UIBarButtonItem", "UINavigationItem", "UINavigationBar", "activateConstraints"}),
+        (Lines{"-[OBWelcomeController initWithTitle:detailText:symbolName:] \"Create Backup\" \"Save your "
+               "current "
+               "settings\" \"square.and.arrow.down.fill\"",
+               "-[OBWelcomeController viewDidLoad]",
+               "+[_UIBackdropViewSettings settingsForStyle:] 2",
+               "-[UIView insertSubview:atIndex:] _UIBackdropView 0",
+               "-[UIView setBackgroundColor:] clear",
+               "-[OBWelcomeController setModalPresentationStyle:] 1",
+               "-[OBWelcomeController addBulletedListItemWithTitle:description:image:tintColor:] "
+               "\"Settings\" \"All "
+               "your preferences and configurations\" <gear 0> systemBlue",
+               "-[OBWelcomeController addBulletedListItemWithTitle:description:image:tintColor:] \"Images\" "
+               "\"Custom images and icons\" <photo 0> systemGreen",
+               "-[OBWelcomeController addBulletedListItemWithTitle:description:image:tintColor:] "
+               "\"Customizations\" \"Theme settings and visual preferences\" <paintbrush 0> systemOrange",
+               "-[UIBarButtonItem initWithTitle:style:target:action:] \"Cancel\" 0 cxBackupRestoreController "
+               "dismissWelcomeController:",
+               "-[UIBarButtonItem initWithTitle:style:target:action:] \"Create Backup\" 2 "
+               "cxBackupRestoreController showBackupNamePrompt:",
+               "-[UINavigationBar initWithFrame:] {{0, 0}, {0, 0}}",
+               "-[UINavigationBar setTranslatesAutoresizingMaskIntoConstraints:] 0",
+               "-[UIView addSubview:] UINavigationBar",
+               "-[UINavigationItem initWithTitle:] \"\"",
+               "-[UINavigationItem setLeftBarButtonItem:] UIBarButtonItem",
+               "-[UINavigationItem setRightBarButtonItem:] UIBarButtonItem",
+               "-[UINavigationBar setItems:] [UINavigationItem]",
+               "-[UINavigationBar topAnchor]",
+               "-[UINavigationBar leadingAnchor]",
+               "-[UINavigationBar trailingAnchor]",
+               "+[NSLayoutConstraint activateConstraints:] [NSLayoutConstraint, NSLayoutConstraint, "
+               "NSLayoutConstraint]",
+               "-[OBWelcomeController setModalPresentationStyle:] 2",
+               "-[OBWelcomeController setModalInPresentation:] 1",
+               "-[cxBackupRestoreController presentViewController:animated:completion:] OBWelcomeController "
+               "1"}));
+}
+
+TEST_F(BackupPageTest, TheFieldHasTheKeyboardBeforeThePromptIsPresented) {
+    perform(page, "createBackup", nullptr);
+    takeJournal();
+    perform(page, "showBackupNamePrompt:", rightButtonOf(page));
+    EXPECT_EQ(
+        journalOf({"dismissViewController", "UITextField", "activateConstraints", "presentViewController"}),
+        (Lines{"-[cxBackupRestoreController dismissViewControllerAnimated:completion:] 1 completion",
+               "-[UITextField initWithFrame:] {{0, 0}, {0, 0}}",
+               "-[UITextField setPlaceholder:] \"Backup Name\"", "-[UITextField setBorderStyle:] 3",
+               "-[UITextField setTranslatesAutoresizingMaskIntoConstraints:] 0",
+               "-[UIView addSubview:] UITextField", "-[UITextField leadingAnchor]",
+               "-[UITextField trailingAnchor]", "-[UITextField centerYAnchor]", "-[UITextField heightAnchor]",
+               "+[NSLayoutConstraint activateConstraints:] [NSLayoutConstraint, NSLayoutConstraint, "
+               "NSLayoutConstraint, NSLayoutConstraint, NSLayoutConstraint, NSLayoutConstraint, "
+               "NSLayoutConstraint]",
+               "-[UITextField becomeFirstResponder]",
+               "-[cxBackupRestoreController presentViewController:animated:completion:] OBWelcomeController "
+               "1"}));
+}
+
+TEST_F(BackupPageTest, ANameThatIsTypedBecomesAnArchive) {
+    perform(page, "createBackup", nullptr);
+    perform(page, "showBackupNamePrompt:", rightButtonOf(page));
+    const auto attached =
+        attachedValueOf<Ref<NSObject>>(*instanceAs<NSObject>(presentedBy(page)), "BackupNameTextField");
+    ASSERT_TRUE(attached);
+    perform(objectOf(**attached), "setText:", text("My Settings"));
+    perform(page, "handleBackupNameSave:", rightButtonOf(page));
+    EXPECT_TRUE(files.fileExistsAtPath(backup("My Settings.tar.gz")));
+}
+
+TEST_F(BackupPageTest, WithoutANameAnAlertComesOverThePrompt) {
+    perform(page, "createBackup", nullptr);
+    perform(page, "showBackupNamePrompt:", rightButtonOf(page));
+    takeJournal();
+    perform(page, "handleBackupNameSave:", rightButtonOf(page));
+    EXPECT_EQ(
+        journalOf({"UIAlert", "dismiss"}),
+        (Lines{"+[UIAlertController alertControllerWithTitle:message:preferredStyle:] \"Error\" \"Please "
+               "enter a backup name\" 1",
+               "+[UIAlertAction actionWithTitle:style:handler:] \"OK\" 0",
+               "-[UIAlertController addAction:] \"OK\"",
+               "-[OBWelcomeController presentViewController:animated:completion:] UIAlertController 1"}));
+}
+
+TEST_F(BackupPageTest, TheListLeadsToTheOptionsAndTheseToTheEnd) {
+    save("a");
+    perform(page, "showBackupList", nullptr);
+    EXPECT_EQ(journalOf({"addBulletedListItem", "setTag", "initWithTarget", "addGestureRecognizer"}).size(),
+              4U);
+    auto* const item = listItemOf(page, 0);
+    ASSERT_NE(recognizerOf(item), nullptr);
+    EXPECT_EQ(attachedValueOf<std::string>(*instanceAs<NSObject>(item), "BackupName"), "a.tar.gz");
+    perform(page, "handleBackupListItemTap:", recognizerOf(item));
+    EXPECT_EQ(
+        journalOf({"dismissViewController", "symbolName", "setTag"}),
+        (Lines{"-[cxBackupRestoreController dismissViewControllerAnimated:completion:] 1 completion",
+               "-[OBWelcomeController initWithTitle:detailText:symbolName:] \"a.tar\" \"Choose an action "
+               "for this backup\" \"doc.fill\"",
+               "-[OBBulletedListItem setTag:] 0", "-[OBBulletedListItem setTag:] 1",
+               "-[OBBulletedListItem setTag:] 2", "-[OBBulletedListItem setTag:] 3"}));
+    perform(page, "handleBulletedListTap:", recognizerOf(listItemOf(page, 3)));
+    EXPECT_FALSE(files.fileExistsAtPath(backup("a.tar.gz")));
+    EXPECT_EQ(
+        journalOf({"dismissViewController", "log:", "symbolName"}),
+        (Lines{"-[cxBackupRestoreController dismissViewControllerAnimated:completion:] 1 completion",
+               "log: Deleting backup: a.tar.gz",
+               "-[OBWelcomeController initWithTitle:detailText:symbolName:] \"Success\" \"Backup deleted "
+               "successfully\" \"info.circle.fill\""}));
+}
+
+TEST_F(BackupPageTest, ARestoredBackupReplacesTheSettingsAndIsTold) {
+    PreferenceStore::open()->setObject("blue", "textColor");
+    save("a");
+    PreferenceStore::open()->setObject("red", "textColor");
+    PreferenceStore::open()->setObject(true, "kCenter");
+    takeJournal();
+    perform(page, "restoreBackup:", text("a.tar.gz"));
+    auto* const button = rightButtonOf(page);
+    EXPECT_EQ(attachedValueOf<std::string>(*instanceAs<NSObject>(button), "ArchivePath"), backup("a.tar.gz"));
+    const auto staging = attachedValueOf<std::string>(*instanceAs<NSObject>(button), "TempDir").value_or("");
+    EXPECT_TRUE(files.fileExistsAtPath(staging));
+    EXPECT_EQ(journalOf({"setTintColor"}), Lines{"-[UIBarButtonItem setTintColor:] systemRed"});
+    perform(page, "handleRestoreConfirm:", button);
+    EXPECT_FALSE(files.fileExistsAtPath(staging));
+    EXPECT_EQ(PreferenceStore::open()->objectForKey("textColor"), PropertyList("blue"));
+    EXPECT_EQ(PreferenceStore::open()->objectForKey("kCenter"), std::nullopt);
+}
+
+TEST_F(BackupPageTest, ThePickerIsForArchivesInImportMode) {
+    takeJournal();
+    perform(page, "importBackup", nullptr);
+    EXPECT_EQ(
+        journalOf({"UIDocumentPicker"}),
+        (Lines{"-[UIDocumentPickerViewController initWithDocumentTypes:inMode:] [\"public.data\", "
+               "\"public.archive\", \"org.gnu.gnu-zip-tar\", \"public.tar-archive\", \"org.gnu.gnu-zip\", "
+               "\"public.composite-content\"] 0",
+               "-[UIDocumentPickerViewController setDelegate:] cxBackupRestoreController",
+               "-[UIDocumentPickerViewController setModalPresentationStyle:] 2",
+               "-[UIDocumentPickerViewController setAllowsMultipleSelection:] 0",
+               "-[UIDocumentPickerViewController setDirectoryURL:] file://" + folder + "/",
+               "-[cxBackupRestoreController presentViewController:animated:completion:] "
+               "UIDocumentPickerViewController 1"}));
+}
+
+TEST_F(BackupPageTest, MethodsOfSeveralParametersAreOfTheTypesThatTheyTake) {
+    EXPECT_STREQ(typesOf("cxBackupRestoreController", "showMessage:withTitle:completion:"), "v@:@@@?");
+    EXPECT_STREQ(typesOf("cxBackupRestoreController",
+                         "createWelcomeControllerWithTitle:detailText:symbolName:backdropStyle:"),
+                 "@@:@@@q");
+}
