@@ -17,7 +17,7 @@ const std::vector<std::string>& backupImportTypes() {
 }
 
 bool unpackForChecking(const NSURL& url, const std::string& folder) {
-    NSFileManager::defaultManager().createDirectoryAtPath(folder, true);
+    static_cast<void>(NSFileManager::defaultManager().createDirectoryAtPath(folder, true));
     return LibArchive::extractArchiveAtPath(url.path(), folder).has_value();
 }
 
@@ -53,7 +53,7 @@ void cxBackupRestoreController::didPickDocumentsAtURLs(const Ref<UIDocumentPicke
         return;
     if (hasAccess)
         url.stopAccessingSecurityScopedResource();
-    NSFileManager::defaultManager().removeItemAtPath(folder);
+    static_cast<void>(NSFileManager::defaultManager().removeItemAtPath(folder));
 }
 
 cxBackupRestoreController::CleanUp cxBackupRestoreController::importFromURL(const NSURL& url,

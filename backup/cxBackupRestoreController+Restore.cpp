@@ -30,7 +30,7 @@ bool restoreImage(std::string_view name, const std::string& folder, const std::s
         return true;
     const auto destination = stringByAppendingPathComponent(imageFolder, name);
     if (files.fileExistsAtPath(destination))
-        files.removeItemAtPath(destination);
+        static_cast<void>(files.removeItemAtPath(destination));
     const auto copied = files.copyItemAtPath(source, destination);
     if (!copied)
         NSLog("Error restoring file %@: %@", name, copied.error());
@@ -44,7 +44,7 @@ bool restoreImages(const std::string& folder) {
         return false;
     auto& files = NSFileManager::defaultManager();
     if (!files.fileExistsAtPath(*destination))
-        files.createDirectoryAtPath(*destination, true);
+        static_cast<void>(files.createDirectoryAtPath(*destination, true));
     bool restored = true;
     for (const auto name : ImageFileSet)
         restored = restoreImage(name, folder, *destination) && restored;
@@ -55,7 +55,7 @@ bool restoreImages(const std::string& folder) {
 
 void cxBackupRestoreController::restoreBackup(const std::optional<std::string>& fileName) {
     const auto folder = newStagingPath();
-    NSFileManager::defaultManager().createDirectoryAtPath(folder, true);
+    static_cast<void>(NSFileManager::defaultManager().createDirectoryAtPath(folder, true));
     const auto sheet = makeSheet("Confirm Restore", "This will replace your current settings. Continue?",
                                  "exclamationmark.triangle.fill");
     if (!sheet)
@@ -89,7 +89,7 @@ void cxBackupRestoreController::restoreFromArchive(const std::string& archivePat
         performRestoreFromFolder(folder);
     else
         showMessage(descriptionOf(unpacked.error()), "Error");
-    NSFileManager::defaultManager().removeItemAtPath(folder);
+    static_cast<void>(NSFileManager::defaultManager().removeItemAtPath(folder));
 }
 
 void cxBackupRestoreController::performRestoreFromFolder(const std::optional<std::string>& folder) {

@@ -21,7 +21,7 @@ void copyImages(const std::string& folder) {
     for (const auto name : ImageFileSet) {
         const auto image = imageFile(name);
         if (image && files.fileExistsAtPath(*image))
-            files.copyItemAtPath(*image, stringByAppendingPathComponent(folder, name));
+            static_cast<void>(files.copyItemAtPath(*image, stringByAppendingPathComponent(folder, name)));
     }
 }
 
@@ -49,5 +49,5 @@ void cxBackupRestoreController::saveBackupWithName(const std::optional<std::stri
         showMessage("Backup created successfully", "Success");
     else
         showMessage(descriptionOf(packed.error()), "Error");
-    files.removeItemAtPath(folder);
+    static_cast<void>(files.removeItemAtPath(folder));
 }

@@ -64,7 +64,7 @@ bool cxBackupRestoreController::init() {
         return false;
     backupsPath_ = backupsFolder();
     if (backupsPath_)
-        NSFileManager::defaultManager().createDirectoryAtPath(*backupsPath_, true);
+        static_cast<void>(NSFileManager::defaultManager().createDirectoryAtPath(*backupsPath_, true));
     dateFormatter_ = NSDateFormatter::dateFormatter();
     dateFormatter_->setDateStyle(NSDateFormatterStyle::Short);
     dateFormatter_->setTimeStyle(NSDateFormatterStyle::Short);

@@ -12,6 +12,7 @@
 #include <optional>
 
 class QDropEvent;
+class QEvent;
 class QInputMethodQueryEvent;
 class FilePicker;
 class Screen;

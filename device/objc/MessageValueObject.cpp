@@ -14,6 +14,7 @@ id objectFor(std::monostate /*nothing*/) {
 id objectFor(const MessageBlock& block) {
     const Block<void()> made(*block);
     const auto* const object = static_cast<BlockRef>(made);
+    // NOLINTNEXTLINE(*-pro-type-const-cast): the runtime's functions take no constant objects
     return objc_autorelease(objc_retain(reinterpret_cast<id>(const_cast<BlockObject*>(object))));
 }
 
@@ -24,9 +25,9 @@ id objectFor(const T& value) {
 
 /// A copy of the block is kept for as long as the value is.
 MessageValue blockOf(id object) {
-    const std::shared_ptr<const void> kept(_Block_copy(object), &_Block_release);
+    const std::shared_ptr<void> kept(_Block_copy(object), &_Block_release);
     return std::make_shared<const std::function<void()>>(
-        [kept] { reinterpret_cast<void (^)()>(const_cast<void*>(kept.get()))(); });
+        [kept] { reinterpret_cast<void (^)()>(kept.get())(); });
 }
 
 MessageValue orNothing(std::optional<PropertyList> value) {

@@ -4,6 +4,7 @@
 #include "Device.h"
 #include "Foundation/NSDictionary.h"
 #include "Foundation/NSFileManager.h"
+#include "Foundation/NSString.h"
 #include "LibArchive.h"
 #include "LoadedBundles.h"
 #include "ObjectiveC/Class.h"
@@ -165,7 +166,7 @@ BackupPageFixture::Files BackupPageFixture::unpacked(const std::string& archiveP
     EXPECT_TRUE(LibArchive::extractArchiveAtPath(archivePath, folder)) << archivePath;
     Files files;
     for (const auto& name : manager.enumeratorAtPath(folder))
-        files.emplace(name, device.read(folder + "/" + name));
+        files.emplace(name, device.read(stringByAppendingPathComponent(folder, name)));
     EXPECT_TRUE(manager.removeItemAtPath(folder));
     return files;
 }
@@ -175,7 +176,7 @@ void BackupPageFixture::pack(const std::string& archivePath, const Files& files)
     auto& manager = NSFileManager::defaultManager();
     EXPECT_TRUE(manager.createDirectoryAtPath(folder, true));
     for (const auto& [name, content] : files)
-        device.write(folder + "/" + name, content);
+        device.write(stringByAppendingPathComponent(folder, name), content);
     EXPECT_TRUE(LibArchive::createArchiveAtPath(archivePath, folder)) << archivePath;
     EXPECT_TRUE(manager.removeItemAtPath(folder));
 }

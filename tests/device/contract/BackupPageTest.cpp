@@ -19,6 +19,18 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
+const std::string sheetMade = "-[OBWelcomeController initWithTitle:detailText:symbolName:] ";
+const std::string itemAdded =
+    "-[OBWelcomeController addBulletedListItemWithTitle:description:image:tintColor:] ";
+const std::string buttonMade = "-[UIBarButtonItem initWithTitle:style:target:action:] ";
+const std::string presented = "-[cxBackupRestoreController presentViewController:animated:completion:] ";
+const std::string sevenConstraints =
+    "[NSLayoutConstraint, NSLayoutConstraint, NSLayoutConstraint, NSLayoutConstraint, "
+    "NSLayoutConstraint, NSLayoutConstraint, NSLayoutConstraint]";
+const std::string importedTypes =
+    R"(["public.data", "public.archive", "org.gnu.gnu-zip-tar", "public.tar-archive", )"
+    R"("org.gnu.gnu-zip", "public.composite-content"])";
+
 /// The page of backups, made and asked as the frameworks do it, with documents of its own.
 class BackupPageTest : public testing::Test {
 protected:
@@ -92,25 +104,18 @@ TEST_F(BackupPageTest, TheCreateSheetIsBuiltInOrder) {
     EXPECT_EQ(
         journalOf({"OBWelcomeController", "settingsForStyle", "atIndex", "setBackgroundColor",
                    "UIBarButtonItem", "UINavigationItem", "UINavigationBar", "activateConstraints"}),
-        (Lines{"-[OBWelcomeController initWithTitle:detailText:symbolName:] \"Create Backup\" \"Save your "
-               "current "
-               "settings\" \"square.and.arrow.down.fill\"",
+        (Lines{sheetMade + "\"Create Backup\" \"Save your current settings\" \"square.and.arrow.down.fill\"",
                "-[OBWelcomeController viewDidLoad]",
                "+[_UIBackdropViewSettings settingsForStyle:] 2",
                "-[UIView insertSubview:atIndex:] _UIBackdropView 0",
                "-[UIView setBackgroundColor:] clear",
                "-[OBWelcomeController setModalPresentationStyle:] 1",
-               "-[OBWelcomeController addBulletedListItemWithTitle:description:image:tintColor:] "
-               "\"Settings\" \"All "
-               "your preferences and configurations\" <gear 0> systemBlue",
-               "-[OBWelcomeController addBulletedListItemWithTitle:description:image:tintColor:] \"Images\" "
-               "\"Custom images and icons\" <photo 0> systemGreen",
-               "-[OBWelcomeController addBulletedListItemWithTitle:description:image:tintColor:] "
-               "\"Customizations\" \"Theme settings and visual preferences\" <paintbrush 0> systemOrange",
-               "-[UIBarButtonItem initWithTitle:style:target:action:] \"Cancel\" 0 cxBackupRestoreController "
-               "dismissWelcomeController:",
-               "-[UIBarButtonItem initWithTitle:style:target:action:] \"Create Backup\" 2 "
-               "cxBackupRestoreController showBackupNamePrompt:",
+               itemAdded + "\"Settings\" \"All your preferences and configurations\" <gear 0> systemBlue",
+               itemAdded + "\"Images\" \"Custom images and icons\" <photo 0> systemGreen",
+               itemAdded +
+                   "\"Customizations\" \"Theme settings and visual preferences\" <paintbrush 0> systemOrange",
+               buttonMade + "\"Cancel\" 0 cxBackupRestoreController dismissWelcomeController:",
+               buttonMade + "\"Create Backup\" 2 cxBackupRestoreController showBackupNamePrompt:",
                "-[UINavigationBar initWithFrame:] {{0, 0}, {0, 0}}",
                "-[UINavigationBar setTranslatesAutoresizingMaskIntoConstraints:] 0",
                "-[UIView addSubview:] UINavigationBar",
@@ -121,12 +126,11 @@ TEST_F(BackupPageTest, TheCreateSheetIsBuiltInOrder) {
                "-[UINavigationBar topAnchor]",
                "-[UINavigationBar leadingAnchor]",
                "-[UINavigationBar trailingAnchor]",
-               "+[NSLayoutConstraint activateConstraints:] [NSLayoutConstraint, NSLayoutConstraint, "
-               "NSLayoutConstraint]",
+               ("+[NSLayoutConstraint activateConstraints:] [NSLayoutConstraint, NSLayoutConstraint, "
+                "NSLayoutConstraint]"),
                "-[OBWelcomeController setModalPresentationStyle:] 2",
                "-[OBWelcomeController setModalInPresentation:] 1",
-               "-[cxBackupRestoreController presentViewController:animated:completion:] OBWelcomeController "
-               "1"}));
+               presented + "OBWelcomeController 1"}));
 }
 
 TEST_F(BackupPageTest, TheFieldHasTheKeyboardBeforeThePromptIsPresented) {
@@ -141,12 +145,8 @@ TEST_F(BackupPageTest, TheFieldHasTheKeyboardBeforeThePromptIsPresented) {
                "-[UITextField setTranslatesAutoresizingMaskIntoConstraints:] 0",
                "-[UIView addSubview:] UITextField", "-[UITextField leadingAnchor]",
                "-[UITextField trailingAnchor]", "-[UITextField centerYAnchor]", "-[UITextField heightAnchor]",
-               "+[NSLayoutConstraint activateConstraints:] [NSLayoutConstraint, NSLayoutConstraint, "
-               "NSLayoutConstraint, NSLayoutConstraint, NSLayoutConstraint, NSLayoutConstraint, "
-               "NSLayoutConstraint]",
-               "-[UITextField becomeFirstResponder]",
-               "-[cxBackupRestoreController presentViewController:animated:completion:] OBWelcomeController "
-               "1"}));
+               "+[NSLayoutConstraint activateConstraints:] " + sevenConstraints,
+               "-[UITextField becomeFirstResponder]", presented + "OBWelcomeController 1"}));
 }
 
 TEST_F(BackupPageTest, ANameThatIsTypedBecomesAnArchive) {
@@ -183,21 +183,17 @@ TEST_F(BackupPageTest, TheListLeadsToTheOptionsAndTheseToTheEnd) {
     ASSERT_NE(recognizerOf(item), nullptr);
     EXPECT_EQ(attachedValueOf<std::string>(*instanceAs<NSObject>(item), "BackupName"), "a.tar.gz");
     perform(page, "handleBackupListItemTap:", recognizerOf(item));
-    EXPECT_EQ(
-        journalOf({"dismissViewController", "symbolName", "setTag"}),
-        (Lines{"-[cxBackupRestoreController dismissViewControllerAnimated:completion:] 1 completion",
-               "-[OBWelcomeController initWithTitle:detailText:symbolName:] \"a.tar\" \"Choose an action "
-               "for this backup\" \"doc.fill\"",
-               "-[OBBulletedListItem setTag:] 0", "-[OBBulletedListItem setTag:] 1",
-               "-[OBBulletedListItem setTag:] 2", "-[OBBulletedListItem setTag:] 3"}));
+    EXPECT_EQ(journalOf({"dismissViewController", "symbolName", "setTag"}),
+              (Lines{"-[cxBackupRestoreController dismissViewControllerAnimated:completion:] 1 completion",
+                     sheetMade + "\"a.tar\" \"Choose an action for this backup\" \"doc.fill\"",
+                     "-[OBBulletedListItem setTag:] 0", "-[OBBulletedListItem setTag:] 1",
+                     "-[OBBulletedListItem setTag:] 2", "-[OBBulletedListItem setTag:] 3"}));
     perform(page, "handleBulletedListTap:", recognizerOf(listItemOf(page, 3)));
     EXPECT_FALSE(files.fileExistsAtPath(backup("a.tar.gz")));
-    EXPECT_EQ(
-        journalOf({"dismissViewController", "log:", "symbolName"}),
-        (Lines{"-[cxBackupRestoreController dismissViewControllerAnimated:completion:] 1 completion",
-               "log: Deleting backup: a.tar.gz",
-               "-[OBWelcomeController initWithTitle:detailText:symbolName:] \"Success\" \"Backup deleted "
-               "successfully\" \"info.circle.fill\""}));
+    EXPECT_EQ(journalOf({"dismissViewController", "log:", "symbolName"}),
+              (Lines{"-[cxBackupRestoreController dismissViewControllerAnimated:completion:] 1 completion",
+                     "log: Deleting backup: a.tar.gz",
+                     sheetMade + "\"Success\" \"Backup deleted successfully\" \"info.circle.fill\""}));
 }
 
 TEST_F(BackupPageTest, ARestoredBackupReplacesTheSettingsAndIsTold) {
@@ -223,15 +219,12 @@ TEST_F(BackupPageTest, ThePickerIsForArchivesInImportMode) {
     perform(page, "importBackup", nullptr);
     EXPECT_EQ(
         journalOf({"UIDocumentPicker"}),
-        (Lines{"-[UIDocumentPickerViewController initWithDocumentTypes:inMode:] [\"public.data\", "
-               "\"public.archive\", \"org.gnu.gnu-zip-tar\", \"public.tar-archive\", \"org.gnu.gnu-zip\", "
-               "\"public.composite-content\"] 0",
+        (Lines{"-[UIDocumentPickerViewController initWithDocumentTypes:inMode:] " + importedTypes + " 0",
                "-[UIDocumentPickerViewController setDelegate:] cxBackupRestoreController",
                "-[UIDocumentPickerViewController setModalPresentationStyle:] 2",
                "-[UIDocumentPickerViewController setAllowsMultipleSelection:] 0",
                "-[UIDocumentPickerViewController setDirectoryURL:] file://" + folder + "/",
-               "-[cxBackupRestoreController presentViewController:animated:completion:] "
-               "UIDocumentPickerViewController 1"}));
+               presented + "UIDocumentPickerViewController 1"}));
 }
 
 TEST_F(BackupPageTest, MethodsOfSeveralParametersAreOfTheTypesThatTheyTake) {
