@@ -25,7 +25,7 @@ id objectFor(const T& value) {
 
 /// A copy of the block is kept for as long as the value is.
 MessageValue blockOf(id object) {
-    const std::shared_ptr<void> kept(_Block_copy(object), &_Block_release);
+    const std::shared_ptr<void> kept(_Block_copy(object), [](void* block) { _Block_release(block); });
     return std::make_shared<const std::function<void()>>(
         [kept] { reinterpret_cast<void (^)()>(kept.get())(); });
 }
