@@ -1,6 +1,6 @@
+#include "Meanwhile.h"
 #include "TestDevice.h"
 #include "files/DeviceRoot.h"
-#include "Meanwhile.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
