@@ -1,6 +1,8 @@
 #include "BackupFiles.h"
 
+#include "Foundation/NSDictionary.h"
 #include "Foundation/NSFileManager.h"
+#include "Foundation/NSLog.h"
 #include "Foundation/NSString.h"
 #include "Foundation/NSUUID.h"
 #include "RootPrefixResolver.h"
@@ -48,6 +50,23 @@ bool isBackupName(std::string_view fileName) {
 bool isImportable(std::string_view extension) {
     const auto compared = lowercase(std::string(extension));
     return compared == "gz" || compared == "tar.gz"; // no extension is the second one: that is meant
+}
+
+bool holdsEssentialSettings(std::string_view folder) {
+    const auto path = stringByAppendingPathComponent(folder, backupPreferencesName);
+    if (!NSFileManager::defaultManager().fileExistsAtPath(path)) {
+        NSLog("preferences.plist not found");
+        return false;
+    }
+    const auto values = dictionaryWithContentsOfFile(path);
+    if (!values) {
+        NSLog("preferences.plist could not be read or is empty");
+        return false;
+    }
+    if (std::ranges::any_of(EssentialKeys, [&](std::string_view key) { return values->contains(key); }))
+        return true;
+    NSLog("preferences.plist missing essential keys");
+    return false;
 }
 
 std::optional<std::string> descriptionOf(const Ref<NSError>& error) {

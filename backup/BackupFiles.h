@@ -35,6 +35,9 @@ inline constexpr std::string_view backupPreferencesName = "preferences.plist";
 /// meant.
 [[nodiscard]] bool isImportable(std::string_view extension);
 
+/// Whether the settings in a folder have a value for at least one of the essential keys. Why not is logged.
+[[nodiscard]] bool holdsEssentialSettings(std::string_view folder);
+
 /// A backup in its folder.
 struct BackupFile {
     std::string name;

@@ -1,11 +1,6 @@
-#include "Foundation/NSDictionary.h"
 #include "Foundation/NSFileManager.h"
-#include "Foundation/NSLog.h"
-#include "Foundation/NSString.h"
 #include "LibArchive.h"
 #include "cxBackupRestoreController.h"
-
-#include <algorithm>
 
 namespace {
 
@@ -82,18 +77,5 @@ cxBackupRestoreController::CleanUp cxBackupRestoreController::importFromURL(cons
 }
 
 bool cxBackupRestoreController::validateBackupContents(const std::optional<std::string>& folder) {
-    const auto path = stringByAppendingPathComponent(folder.value_or(""), backupPreferencesName);
-    if (!NSFileManager::defaultManager().fileExistsAtPath(path)) {
-        NSLog("preferences.plist not found");
-        return false;
-    }
-    const auto values = dictionaryWithContentsOfFile(path);
-    if (!values) {
-        NSLog("preferences.plist could not be read or is empty");
-        return false;
-    }
-    if (std::ranges::any_of(EssentialKeys, [&](std::string_view key) { return values->contains(key); }))
-        return true;
-    NSLog("preferences.plist missing essential keys");
-    return false;
+    return holdsEssentialSettings(folder.value_or(""));
 }

@@ -1,3 +1,4 @@
+#include "BackupFiles.h"
 #include "Device.h"
 #include "GzipBytes.h"
 #include "LibArchive.h"
@@ -48,6 +49,9 @@ public:
         require(std::distance(fs::directory_iterator(home_), {}) == 1);
         return tree;
     }
+
+    /// Whether what has been unpacked would be taken in as a backup.
+    [[nodiscard]] static bool isBackup() { return holdsEssentialSettings("/deep/folder"); }
 
     /// Packs what has been unpacked; the files that are in no folder come out of that as they were.
     void packAgain() const {
@@ -103,11 +107,13 @@ private:
 
 } // namespace
 
-/// Whatever an archive holds stays in the device, is the same with another compression, and is packed again.
+/// Whatever an archive holds is judged, stays in the device, is the same with another compression, and is
+/// packed again.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
     const std::string_view archive(reinterpret_cast<const char*>(bytes), size);
     const auto& phone = Phone::shared();
     const auto tree = phone.unpacked(archive);
+    require(!Phone::isBackup() || tree.contains("deep/folder/preferences.plist"));
     if (tree.contains("deep/folder/"))
         phone.packAgain();
     if (!archive.starts_with("\x1F\x8B"))
