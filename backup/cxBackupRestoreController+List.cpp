@@ -92,8 +92,8 @@ void cxBackupRestoreController::addBackupsToSheet(OBWelcomeController& sheet,
     currentBackupsList_.emplace();
     for (const auto& [name, date] : backups) {
         currentBackupsList_->push_back(name);
-        sheet.addBulletedListItemWithTitle(backupTitle(name),
-                                           date ? dateFormatter_->stringFromDate(*date) : std::string(),
+        const auto shownDate = date && dateFormatter_ ? dateFormatter_->stringFromDate(*date) : std::string();
+        sheet.addBulletedListItemWithTitle(backupTitle(name), shownDate,
                                            UIImage::systemImageNamed(fileSymbol), UIColor::systemBlueColor());
     }
 }

@@ -119,6 +119,14 @@ TEST_F(cxBackupRestoreControllerListTest, AnItemTellsTheBackupsDate) {
     EXPECT_TRUE(item.tappable);
 }
 
+TEST_F(cxBackupRestoreControllerListTest, WithoutAFormatterNoDateIsShown) {
+    makeBackup("a.tar.gz");
+    page->setDateFormatter(nullptr);
+    showList();
+    ASSERT_EQ(details().items.size(), 1U);
+    EXPECT_EQ(details().items.front().description, "");
+}
+
 TEST_F(cxBackupRestoreControllerListTest, EachItemHasItsNumberAndTheNameOfItsBackup) {
     makeBackup("b.tar.gz");
     makeBackup("a.tar.gz");
