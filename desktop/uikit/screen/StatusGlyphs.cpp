@@ -43,7 +43,10 @@ QPainterPath StatusGlyphs::wireless() {
         QPainterPath sector;
         sector.arcMoveTo(square(outer), 90 + aperture / 2);
         sector.arcTo(square(outer), 90 + aperture / 2, -aperture);
-        sector.arcTo(square(inner), 90 - aperture / 2, aperture);
+        if (arc == 0)
+            sector.lineTo(foot);
+        else
+            sector.arcTo(square(inner), 90 - aperture / 2, aperture);
         sector.closeSubpath();
         path.addPath(sector);
     }
