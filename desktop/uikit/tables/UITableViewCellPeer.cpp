@@ -233,9 +233,10 @@ UITableViewCellPeer::TextRoom UITableViewCellPeer::textRoom(double width) const 
 
 double UITableViewCellPeer::heightFor(double width) const {
     const auto room = textRoom(width).width();
-    auto texts = heightOf(*textLabel_, room);
+    // Rounded to pixels, a line would need another height at each scale.
+    auto texts = peerOf<UILabelPeer>(*textLabel_).heightOfLines(room);
     if (style_ == UITableViewCellStyle::Subtitle && hasText(*detailTextLabel_))
-        texts += heightOf(*detailTextLabel_, room);
+        texts += peerOf<UILabelPeer>(*detailTextLabel_).heightOfLines(room);
     const TableMetrics metrics(width, traits().displayScale);
     return metrics.rounded(
         std::max({TableMetrics::minimumRowHeight, texts + 2 * verticalPadding, constrainedHeight(width)}));

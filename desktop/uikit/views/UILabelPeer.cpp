@@ -110,18 +110,25 @@ void UILabelPeer::changed() {
     setNeedsConstraintLayout();
 }
 
-CGSize UILabelPeer::textSize(double width) const {
+/// Nothing without text.
+std::optional<TextLayout> UILabelPeer::layoutInWidth(double width) const {
     const auto& text = text_.value_or(std::string());
     if (text.empty())
-        return {};
-    const TextLayout layout(
-        text, fontStyle_,
-        {.maximumWidth = width, .maximumLines = numberOfLines_, .pixelScale = traits().displayScale});
-    return {layout.size().width(), layout.size().height()};
+        return std::nullopt;
+    return TextLayout(text, fontStyle_,
+                      {.maximumWidth = numberOfLines_ != 1 && width > 0 ? width : noLimit,
+                       .maximumLines = numberOfLines_,
+                       .pixelScale = traits().displayScale});
 }
 
 CGSize UILabelPeer::sizeThatFits(CGSize room) const {
-    return textSize(numberOfLines_ != 1 && room.width > 0 ? room.width : noLimit);
+    const auto layout = layoutInWidth(room.width);
+    return layout ? CGSize{layout->size().width(), layout->size().height()} : CGSize();
+}
+
+double UILabelPeer::heightOfLines(double width) const {
+    const auto layout = layoutInWidth(width);
+    return layout ? static_cast<double>(layout->lineCount()) * fontStyle_.lineHeight() : 0;
 }
 
 std::optional<double> UILabelPeer::intrinsicWidth() const {

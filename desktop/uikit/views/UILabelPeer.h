@@ -63,6 +63,8 @@ public:
 
     /// From the bounds' top to the first line's baseline, in points.
     [[nodiscard]] double firstBaseline() const;
+    /// What the text's lines need in a width, in points that are not rounded to pixels; 0 without text.
+    [[nodiscard]] double heightOfLines(double width) const;
     /// Whether there is text that the bounds have no room for.
     [[nodiscard]] bool isTruncated() const;
 
@@ -85,7 +87,7 @@ private:
     };
 
     void changed();
-    [[nodiscard]] CGSize textSize(double width) const;
+    [[nodiscard]] std::optional<TextLayout> layoutInWidth(double width) const;
     [[nodiscard]] std::size_t lineLimit(const FontStyle& style, double height) const;
     [[nodiscard]] TextLayoutOptions optionsFor(const FontStyle& style, CGSize size, double scale) const;
     [[nodiscard]] FontStyle styleFitting(CGSize size, double scale) const;

@@ -16,9 +16,23 @@ protected:
     UITableViewPadTest() : TableFixture({.idiom = Idiom::Pad, .scale = 2}) {}
 };
 
+class UITableViewScaleTest : public TableFixture, public testing::WithParamInterface<double> {
+protected:
+    UITableViewScaleTest() : TableFixture({.scale = GetParam()}) {}
+};
+
 constexpr double pixel = 1.0 / 3;
 
 } // namespace
+
+TEST_P(UITableViewScaleTest, ARowOfOneLineIsAsHighAtEveryScale) {
+    content_.sections = {
+        {.rows = {{.title = "One line", .height = std::nullopt}}, .header = {}, .footer = {}}};
+    show();
+    EXPECT_NEAR(cell({0, 0}).frame().size.height, 44, 1e-9);
+}
+
+INSTANTIATE_TEST_SUITE_P(Scales, UITableViewScaleTest, testing::Values(1, 1.25, 1.5, 2, 3));
 
 TEST_F(UITableViewTest, PlacesRowsInCards) {
     content_.sections = {NotedContent::sectionOf(2), NotedContent::sectionOf(1)};
