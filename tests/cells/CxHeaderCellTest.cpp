@@ -13,6 +13,8 @@
 #include "views/UIImageViewPeer.h"
 #include "views/UILabelPeer.h"
 
+#include <QImage>
+#include <QPainter>
 #include <algorithm>
 
 namespace {
@@ -164,6 +166,22 @@ TEST_F(CxHeaderCellTest, TheGradientIsBehindAllElseAndKeepsItsFirstSize) {
     EXPECT_EQ(gradient->peer().frame(), CGRectMake(0, 0, 320, 44));
     EXPECT_EQ(gradient->cornerRadius(), 15);
     EXPECT_EQ(resolved(cell->contentView().peer().backgroundColor()).alpha, 0);
+}
+
+TEST_F(CxHeaderCellTest, TheGradientGoesFromTheUpperLeftCornerToTheLowerRightOne) {
+    const auto cell = made({});
+    const auto gradient =
+        dynamicCast<CAGradientLayer>(cell->contentView().layer().peer().sublayers().front());
+    ASSERT_TRUE(gradient);
+    QImage picture(100, 100, QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    peerOf<CAGradientLayerPeer>(*gradient).drawLayer(painter, CGRectMake(0, 0, 100, 100), Traits());
+    painter.end();
+    const auto lightnessAt = [&picture](int x, int y) { return picture.pixelColor(x, y).lightness(); };
+    EXPECT_LT(lightnessAt(20, 20), lightnessAt(80, 20));
+    EXPECT_EQ(lightnessAt(80, 20), lightnessAt(20, 80));
+    EXPECT_LT(lightnessAt(20, 80), lightnessAt(80, 80));
 }
 
 TEST_F(CxHeaderCellTest, TheCardsEdgesAreRoundAndCutItOff) {

@@ -187,6 +187,15 @@ TEST_F(TweakCustomCellTest, EveryButtonHasItsIconItsPageAndTheSameLooks) {
     }
 }
 
+TEST_F(TweakCustomCellTest, EachIconIsThePictureOfItsName) {
+    for (const auto& [name, side] : {std::pair{"one", 10}, std::pair{"two", 20}, std::pair{"three", 30}})
+        device.write(assets + std::string(name) + ".png", pngFile(side, side));
+    const auto cell = shown(fullRow());
+    EXPECT_EQ(DesktopImage::sizeOf(*cell->leftIconImage()), (CGSize{10, 10}));
+    EXPECT_EQ(DesktopImage::sizeOf(*cell->middleIconImage()), (CGSize{20, 20}));
+    EXPECT_EQ(DesktopImage::sizeOf(*cell->rightIconImage()), (CGSize{30, 30}));
+}
+
 TEST_F(TweakCustomCellTest, EveryCaptionIsSetAlike) {
     const auto captions = captionsOf(*shown(fullRow()));
     ASSERT_EQ(captions.size(), 3U);
