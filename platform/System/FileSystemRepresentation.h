@@ -2,7 +2,9 @@
 
 #include <memory>
 #include <optional>
+#include <string>
 #include <string_view>
+#include <utility>
 
 /// The name by which other libraries' functions, which know nothing of device paths, open a file of the
 /// device. It is good for as long as the object lives, and leads to the file that the path led to at its
@@ -18,17 +20,15 @@ public:
     /// written.
     [[nodiscard]] static std::optional<FileSystemRepresentation> ofFileForWriting(std::string_view path);
 
-    FileSystemRepresentation(FileSystemRepresentation&& other) noexcept;
-    FileSystemRepresentation& operator=(FileSystemRepresentation&& other) noexcept;
-    ~FileSystemRepresentation();
-
-    /// Valid as long as this object, and never empty.
-    [[nodiscard]] const char* c_str() const;
+    /// Valid until this object is moved or ends, and never empty.
+    [[nodiscard]] const char* c_str() const { return name_.c_str(); }
 
 private:
-    struct State;
+    /// \param kept what the name is good with, for as long as that lives; null for nothing
+    FileSystemRepresentation(std::string name, std::shared_ptr<const void> kept)
+        : name_(std::move(name)),
+          kept_(std::move(kept)) {}
 
-    explicit FileSystemRepresentation(std::unique_ptr<State> state);
-
-    std::unique_ptr<State> state_;
+    std::string name_;
+    std::shared_ptr<const void> kept_;
 };
