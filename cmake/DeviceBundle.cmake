@@ -8,8 +8,9 @@ find_program(DEVICE_LIPO llvm-lipo-22 REQUIRED)
 set(DEVICE_MINIMUM_SYSTEM 15.0)
 set(DEVICE_RUN_PATHS /var/jb/usr/lib @loader_path/.jbroot/usr/lib)
 
-add_compile_options(-fno-exceptions -fblocks -fvisibility=hidden -fvisibility-inlines-hidden
+set(DEVICE_CODE_OPTIONS -fno-exceptions -fblocks -fvisibility=hidden -fvisibility-inlines-hidden
     -ffile-prefix-map=${CMAKE_SOURCE_DIR}=.)
+add_compile_options(${DEVICE_CODE_OPTIONS})
 
 # The tools run here, so another compiler makes them.
 set(ARM64E ${CMAKE_BINARY_DIR}/tools/corvex-arm64e)

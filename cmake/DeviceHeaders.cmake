@@ -24,8 +24,9 @@ execute_process(COMMAND pkg-config --variable=includedir libarchive OUTPUT_VARIA
 file(COPY ${archive_headers}/archive.h ${archive_headers}/archive_entry.h DESTINATION ${own_headers})
 
 # The first folder that has a header wins. The package's TargetConditionals.h would call every target a Mac.
-add_compile_options(-nostdinc++ -nostdlibinc)
+set(DEVICE_HEADER_OPTIONS -nostdinc++ -nostdlibinc)
 foreach(folder ${own_headers} ${CMAKE_SOURCE_DIR}/device/headers ${library_headers}
         ${system_headers}/aarch64-macos.13-none ${system_headers}/any-macos.13-any ${system_headers}/any-macos-any)
-    add_compile_options("SHELL:-isystem ${folder}")
+    list(APPEND DEVICE_HEADER_OPTIONS -isystem${folder})
 endforeach()
+add_compile_options(${DEVICE_HEADER_OPTIONS})

@@ -3,8 +3,7 @@
 #
 # g++ forgets here where the library's own headers switch a warning off, so that it may warn of what is right, where texts
 # are put together with "+" at that; with append() it does not.
-set(PRECOMPILED_STANDARD <algorithm> <array> <chrono> <cmath> <cstddef> <cstdint> <expected> <functional> <map> <memory>
-    <mutex> <optional> <set> <span> <string> <string_view> <utility> <variant> <vector>)
+include(${CMAKE_CURRENT_LIST_DIR}/PrecompiledStandardHeaders.cmake)
 set(PRECOMPILED_TESTS <filesystem> <fstream> <gtest/gtest.h> <random>)
 set(PRECOMPILED_PICTURES <QGuiApplication> <QImage> <QJsonArray> <QJsonObject> <QPainter> <QPainterPath>)
 

@@ -1,0 +1,34 @@
+# The C++ library's headers, read by the compiler once for each of the device's architectures, instead of once a source.
+# What CMake offers knows of one architecture. The compiler takes from a folder the file that fits, and refuses, with an
+# error, where none does.
+include(${CMAKE_CURRENT_LIST_DIR}/PrecompiledStandardHeaders.cmake)
+
+# corvex_device_precompile_headers(TARGETS...): for libraries of the bundle.
+function(corvex_device_precompile_headers)
+    set(folder ${CMAKE_BINARY_DIR}/precompiled)
+    list(TRANSFORM PRECOMPILED_STANDARD REPLACE "(.+)" "#include \\1\n" OUTPUT_VARIABLE lines)
+    list(JOIN lines "" content)
+    set(header ${folder}/standard.h)
+    file(CONFIGURE OUTPUT ${header} CONTENT "${content}" @ONLY)
+    string(TOUPPER "CMAKE_CXX_FLAGS_${CMAKE_BUILD_TYPE}" build_type_flags)
+    separate_arguments(optimisation UNIX_COMMAND "${${build_type_flags}}")
+    set(read_headers ${CMAKE_CXX_COMPILER} --target=${DEVICE_TARGET} ${optimisation} ${DEVICE_HEADER_OPTIONS}
+        ${DEVICE_CODE_OPTIONS} ${CMAKE_CXX23_STANDARD_COMPILE_OPTION} -fpch-instantiate-templates -x c++-header ${header})
+
+    set(precompiled ${folder}/cmake_pch.pch)
+    set(made)
+    foreach(architecture IN LISTS DEVICE_ARCHITECTURES)
+        set(file ${precompiled}/${architecture}.pch)
+        add_custom_command(OUTPUT ${file}
+            COMMAND ${CMAKE_COMMAND} -E make_directory ${precompiled}
+            COMMAND ${read_headers} -arch ${architecture} -MD -MT ${file} -MF ${folder}/${architecture}.d -o ${file}
+            DEPENDS ${header} DEPFILE ${folder}/${architecture}.d
+            COMMENT "Reading the C++ library's headers for ${architecture}" VERBATIM)
+        list(APPEND made ${file})
+    endforeach()
+    add_custom_target(device_precompiled_headers DEPENDS ${made})
+    foreach(target IN LISTS ARGN)
+        target_compile_options(${target} PRIVATE "SHELL:-include-pch ${precompiled}")
+        add_dependencies(${target} device_precompiled_headers)
+    endforeach()
+endfunction()
