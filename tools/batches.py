@@ -23,7 +23,7 @@ TEMPLATE_ARGUMENTS = re.compile(r"<[^<>]*>")
 MEMBER = re.compile(r"(?:\.|->|\b(?!std)\w+::)([A-Za-z_]\w*)")
 # What is found by its name.
 FOUND_BY_NAME = {"PrintTo"}
-NAMELESS = re.compile(r"^(?:(?:INSTANTIATE_|TYPED_)?TEST\w*|static_assert)\(|^using namespace\b|^using [\w:]+;")
+NAMELESS = re.compile(r"^(?:(?:INSTANTIATE_|TYPED_)?TEST\w*|static_assert)\(|^using (?:namespace|enum)\b|^using [\w:]+;")
 PROGRAM = re.compile(r"^int main\(", re.MULTILINE)
 
 

@@ -28,7 +28,7 @@ class OwnNamesTest(unittest.TestCase):
         self.assertEqual(self.names('const FrameworkClass\n    frameworkClass("UIView");'), {"frameworkClass"})
 
     def test_what_declares_nothing(self):
-        self.assertEqual(self.names("using std::string;\nusing namespace std::chrono_literals;"), set())
+        self.assertEqual(self.names("using std::string;\nusing enum Kind;\nusing namespace std::chrono_literals;"), set())
         self.assertEqual(self.names("static_assert(sizeof(int) == 4);\nTEST(Suite, Name) {\n    run();\n}"), set())
 
     def test_members_are_none(self):

@@ -11,7 +11,7 @@ from pathlib import Path
 TIDY = Path(__file__).resolve().parents[2] / "tools" / "tidy"
 
 # Notes which source it is given with which command, or for several at once their names with the settings that hold
-# there, and finds the word BAD.
+# there, and finds the word BAD, and CLASH where it stands twice.
 CLANG_TIDY = """#!/usr/bin/env python3
 import json, os, pathlib, sys
 if sys.argv[1:] == ["--version"]:
@@ -35,7 +35,7 @@ if "LOUD" in text:
     print(f"{source}:1:1: warning: LOUD")
 if "CRASH" in text:
     print("it crashed", file=sys.stderr)
-sys.exit(1 if "BAD" in text or "CRASH" in text else 0)
+sys.exit(1 if "BAD" in text or "CRASH" in text or text.count("CLASH") > 1 else 0)
 """
 
 # Every source includes the header of its name and those that it names, and is at its end there.
@@ -201,14 +201,20 @@ class TidyTest(unittest.TestCase):
         self.assertIn("3 sources looked at", self.output)
         self.assertEqual(self.looked_at(database), [])
 
-    def test_what_is_found_in_several_is_looked_for_in_each(self):
-        database = self.several(A="// a\n", B="BAD\n", C="// c\n")
+    def test_what_is_found_in_several_is_looked_for_in_halves(self):
+        database = self.several(A="// a\n", B="// b\n", C="BAD\n", D="// d\n")
         self.assertEqual(
-            self.looked_at(database, clean=False), ["A.cpp", "B.cpp", "C.cpp", "core/A.cpp core/B.cpp core/C.cpp"]
+            self.looked_at(database, clean=False),
+            ["C.cpp", "D.cpp", "core/A.cpp core/B.cpp", "core/A.cpp core/B.cpp core/C.cpp core/D.cpp", "core/C.cpp core/D.cpp"],
         )
-        self.assertIn("core/B.cpp is not clean:\n", self.output)
-        self.assertIn("3 sources looked at, 1 of them not clean", self.output)
-        self.assertEqual(self.looked_at(database, clean=False), ["B.cpp"])
+        self.assertIn("core/C.cpp is not clean:\n", self.output)
+        self.assertIn("4 sources looked at, 1 of them not clean", self.output)
+        self.assertEqual(self.looked_at(database, clean=False), ["C.cpp"])
+
+    def test_sources_that_are_right_only_apart_are_clean(self):
+        together = self.several(A="CLASH\n", B="// b\n", C="CLASH\n")
+        self.assertEqual(self.looked_at(together), ["A.cpp", "core/A.cpp core/B.cpp core/C.cpp", "core/B.cpp core/C.cpp"])
+        self.assertEqual(self.looked_at(together), [])
 
     def test_at_most_sixteen_are_one(self):
         database = self.several(**{f"S{number:02}": "" for number in range(33)})
@@ -223,6 +229,25 @@ class TidyTest(unittest.TestCase):
         self.several(A="", B="")
         database = self.database("desktop", ("core/A.cpp", "-O2 -o A.o -c"), ("core/B.cpp", "-O2 -o B.o -c"))
         self.assertEqual(self.looked_at(database), ["core/A.cpp core/B.cpp"])
+
+    def arguments_of_all(self):
+        (entry,) = json.loads((self.root / "build/tidy/batches/0/compile_commands.json").read_text())
+        return entry["arguments"]
+
+    def test_where_headers_are_is_put_together(self):
+        self.several(A="", B="")
+        database = self.database(
+            "desktop", ("core/A.cpp", "-I/a -I/both -isystem /s -O2"), ("core/B.cpp", "-I/both -isystem/t -I/b -O2")
+        )
+        self.assertEqual(self.looked_at(database), ["core/A.cpp core/B.cpp"])
+        folders = [argument for argument in self.arguments_of_all() if argument.startswith(("-I", "-isystem"))]
+        self.assertEqual(folders, ["-I/a", "-I/both", "-isystem/s", "-isystem/t", "-I/b"])
+
+    def test_what_is_defined_is_put_together_where_it_agrees(self):
+        self.several(A="", B="", C="")
+        database = self.database("desktop", ("core/A.cpp", "-DX=1"), ("core/B.cpp", "-DX=1 -DY"), ("core/C.cpp", "-DX=2"))
+        self.assertEqual(self.looked_at(database), ["C.cpp", "core/A.cpp core/B.cpp"])
+        self.assertEqual([argument for argument in self.arguments_of_all() if argument.startswith("-D")], ["-DX=1", "-DY"])
 
     def test_a_program_is_looked_at_alone(self):
         database = self.several(A="", B="", C="int main() {}\n")
