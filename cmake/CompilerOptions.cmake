@@ -6,6 +6,10 @@ target_compile_options(corvex_warnings INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast -Wnon-virtual-dtor
     -Woverloaded-virtual -Wcast-align -Wformat=2 -Wundef -Werror)
 
+# With what these machines have of memory, g++ needs not collect garbage: a seventh of its time on a test.
+target_compile_options(corvex_warnings INTERFACE
+    "$<$<CXX_COMPILER_ID:GNU>:--param=ggc-min-expand=1000;--param=ggc-min-heapsize=1048576>")
+
 # Code that is compiled for the device too, which has no exceptions.
 add_library(corvex_portable INTERFACE)
 target_link_libraries(corvex_portable INTERFACE corvex_warnings)

@@ -300,6 +300,10 @@ class TidyTest(unittest.TestCase):
             looked_at = self.tidy(self.database("desktop", ("core/Store.cpp", "-O2"), compiler=cached))
             self.assertEqual(looked_at["Store.cpp"], [compiler, "-O2", str(self.root / "core/Store.cpp")])
 
+    def test_limits_of_the_building_compiler_are_left_out_of_the_command(self):
+        looked_at = self.tidy(self.one_source(arguments="--param=ggc-min-heapsize=1048576 -O2"))
+        self.assertEqual(looked_at["Store.cpp"], ["c++", "-O2", str(self.root / "core/Store.cpp")])
+
     def test_a_source_for_several_processors_is_looked_at_for_the_first(self):
         looked_at = self.tidy(self.one_source(arguments="-arch arm64 -arch arm64e -fuse-lipo=lipo -Os"))
         self.assertEqual(looked_at["Store.cpp"], ["c++", "-arch", "arm64", "-Os", str(self.root / "core/Store.cpp")])
