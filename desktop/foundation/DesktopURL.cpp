@@ -91,15 +91,9 @@ std::string DesktopURL::path() const {
 }
 
 std::string DesktopURL::lastPathComponent() const {
-    const auto whole = path();
-    return whole == "/" ? whole : whole.substr(whole.rfind('/') + 1);
+    return ::lastPathComponent(path());
 }
 
 std::string DesktopURL::pathExtension() const {
-    const auto name = lastPathComponent();
-    const auto dot = name.rfind('.');
-    if (dot == std::string::npos || name.find_first_not_of('.') >= dot)
-        return {};
-    auto extension = name.substr(dot + 1);
-    return extension.contains(' ') ? std::string() : extension;
+    return ::pathExtension(path());
 }

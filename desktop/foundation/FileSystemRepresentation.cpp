@@ -5,7 +5,6 @@
 
 #include <fcntl.h>
 
-#include <string>
 #include <utility>
 
 namespace {
@@ -18,20 +17,14 @@ std::shared_ptr<const RegularFile> opened(std::string_view path, int flags) {
     return file ? std::make_shared<const RegularFile>(std::move(*file)) : nullptr;
 }
 
-/// The name by whose number the host's kernel finds the open file again: one of any other kind could come to
-/// lead out of the device's root meanwhile.
-std::string nameOf(const RegularFile& file) {
-    return "/proc/self/fd/" + std::to_string(file.get());
-}
-
 } // namespace
 
 std::optional<FileSystemRepresentation> FileSystemRepresentation::ofFileForReading(std::string_view path) {
     const auto file = opened(path, O_RDONLY);
-    return file ? std::optional(FileSystemRepresentation(nameOf(*file), file)) : std::nullopt;
+    return file ? std::optional(FileSystemRepresentation(file->openPath(), file)) : std::nullopt;
 }
 
 std::optional<FileSystemRepresentation> FileSystemRepresentation::ofFileForWriting(std::string_view path) {
     const auto file = opened(path, O_WRONLY | O_CREAT);
-    return file ? std::optional(FileSystemRepresentation(nameOf(*file), file)) : std::nullopt;
+    return file ? std::optional(FileSystemRepresentation(file->openPath(), file)) : std::nullopt;
 }

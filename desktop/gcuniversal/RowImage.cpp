@@ -4,6 +4,7 @@
 #include "DesktopImage.h"
 #include "Foundation/NSData.h"
 #include "Foundation/NSFileManager.h"
+#include "Foundation/NSString.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -83,7 +84,7 @@ std::expected<void, std::string> RowImage::keep(const std::string& hostPath) con
     if (!decoded(*content))
         return std::unexpected("The file is no image that can be used. Choose a PNG, JPEG or HEIC file.");
     auto& files = NSFileManager::defaultManager();
-    const auto folder = path().substr(0, path().rfind('/'));
+    const auto folder = stringByDeletingLastPathComponent(path());
     const std::string_view bytes(content->data(), static_cast<std::size_t>(content->size()));
     if (!files.createDirectoryAtPath(folder, true) ||
         !files.createFileAtPath(path(), NSData::dataWithBytes(bytes)))

@@ -62,6 +62,7 @@ TEST(NSString, ThePathExtensionFollowsTheLastDotOfTheLastComponent) {
     EXPECT_EQ(pathExtension("/a/b.tar.gz"), "gz");
     EXPECT_EQ(pathExtension("b.GZ/"), "GZ");
     EXPECT_EQ(pathExtension(".a.gz"), "gz");
+    EXPECT_EQ(pathExtension("..gz"), "gz");
     for (const auto* const none : {"", "/", "b", "/a.gz/b", ".gz", "/a/.gz", "b.", "b.a gz"})
         EXPECT_EQ(pathExtension(none), "") << none;
 }

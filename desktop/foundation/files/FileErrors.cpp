@@ -1,5 +1,7 @@
 #include "files/FileErrors.h"
 
+#include "Foundation/NSString.h"
+
 #include <algorithm>
 #include <array>
 #include <cerrno>
@@ -103,13 +105,6 @@ std::string fillIn(std::string_view text, std::string_view x, std::string_view y
     return filled += text;
 }
 
-/// What follows the last "/", trailing ones not counted: "b" of "/a/b/", "/" of "/", "" of "".
-std::string_view nameIn(std::string_view path) {
-    while (path.size() > 1 && path.ends_with('/'))
-        path.remove_suffix(1);
-    return path == "/" ? path : path.substr(path.rfind('/') + 1);
-}
-
 } // namespace
 
 Ref<NSError> fileError(FileOperation operation, int error, std::string_view path, std::string_view toFolder) {
@@ -117,7 +112,7 @@ Ref<NSError> fileError(FileOperation operation, int error, std::string_view path
     auto underlying = NSError::errorWithDomain(
         NSPOSIXErrorDomain, error,
         {{std::string(NSLocalizedDescriptionKey), std::generic_category().message(error)}});
-    auto text = fillIn(outcome.text, nameIn(path), nameIn(toFolder));
+    auto text = fillIn(outcome.text, lastPathComponent(path), lastPathComponent(toFolder));
     return NSError::errorWithDomain(
         NSCocoaErrorDomain, outcome.code,
         {{std::string(NSLocalizedDescriptionKey), std::move(text)}, {std::string(NSFilePathErrorKey), path}},

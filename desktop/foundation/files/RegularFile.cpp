@@ -69,6 +69,10 @@ std::expected<RegularFile, int> RegularFile::check(FileDescriptor file) {
     return RegularFile(std::move(file), status);
 }
 
+std::string RegularFile::openPath() const {
+    return "/proc/self/fd/" + std::to_string(get());
+}
+
 std::expected<std::size_t, int> RegularFile::read(std::span<std::byte> buffer) {
     return transferAll(buffer, [this](auto left) { return ::read(file_.get(), left.data(), left.size()); });
 }

@@ -44,6 +44,10 @@ public:
 
     [[nodiscard]] int get() const { return file_.get(); }
 
+    /// A path of the host that leads to this very file as long as it is open. One of any other kind could
+    /// come to lead elsewhere meanwhile, out of the device's root at that.
+    [[nodiscard]] std::string openPath() const;
+
 private:
     RegularFile(FileDescriptor file, const struct stat& status);
 

@@ -5,14 +5,6 @@
 #include <algorithm>
 #include <string>
 
-namespace {
-
-std::string nameFor(const RegularFile& file) {
-    return "/proc/self/fd/" + std::to_string(file.get());
-}
-
-} // namespace
-
 LibraryFiles& LibraryFiles::shared() {
     // Never destroyed: libraries are given back until the program's very end.
     static auto* const files = new LibraryFiles;
@@ -23,7 +15,7 @@ std::expected<LibraryFiles::Handle, std::string> LibraryFiles::load(RegularFile 
     const std::scoped_lock lock(mutex_);
     const Identity identity(file.status().st_dev, file.status().st_ino);
     const auto entry = entries_.try_emplace(identity, std::move(file), nullptr).first;
-    auto* const library = dlopen(nameFor(entry->second.file).c_str(), flags);
+    auto* const library = dlopen(entry->second.file.openPath().c_str(), flags);
     if (library == nullptr) {
         std::string reason = dlerror(); // before the loader is asked anything else
         forgetUnlessLoaded(entry);
@@ -42,7 +34,7 @@ void LibraryFiles::unload(void* library) {
 }
 
 void LibraryFiles::forgetUnlessLoaded(std::map<Identity, Entry>::iterator entry) {
-    if (auto* const library = dlopen(nameFor(entry->second.file).c_str(), RTLD_LAZY | RTLD_NOLOAD))
+    if (auto* const library = dlopen(entry->second.file.openPath().c_str(), RTLD_LAZY | RTLD_NOLOAD))
         dlclose(library);
     else
         entries_.erase(entry);

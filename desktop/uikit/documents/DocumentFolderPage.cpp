@@ -27,11 +27,6 @@ constexpr auto reuseIdentifier = "document";
 constexpr double symbolSize = 24;
 constexpr double symbolColumn = 29; ///< as wide as the icons of settings
 
-/// The folder's own name, but for the user's documents.
-std::string titleOf(const std::string& path) {
-    return path.substr(path.rfind('/') + 1);
-}
-
 std::string detailOf(const DocumentEntry& entry) {
     const auto formatter = NSDateFormatter::dateFormatter();
     formatter->setDateStyle(NSDateFormatterStyle::Short);
@@ -48,7 +43,7 @@ public:
         : path_(std::move(path)),
           rules_(std::move(rules)),
           entries_(documentsIn(path_)) {
-        setTitle(titleOf(path_));
+        setTitle(lastPathComponent(path_));
     }
 
     ~DocumentFolderPagePeer() override { table().setContent(nullptr); }

@@ -15,12 +15,8 @@ namespace {
 
 constexpr auto inboxName = "com.apple.Preferences-Inbox";
 
-std::string nameIn(const std::string& path) {
-    return path.substr(path.rfind('/') + 1);
-}
-
 std::string problem(const std::string& path, int error) {
-    return "“" + nameIn(path) + "” could not be opened: " + std::strerror(error) + ".";
+    return "“" + lastPathComponent(path) + "” could not be opened: " + std::strerror(error) + ".";
 }
 
 std::expected<void, int> copyInto(const std::string& folder, const std::string& name, RegularFile& file) {
@@ -35,11 +31,11 @@ std::expected<std::string, std::string> take(std::expected<RegularFile, int> fil
     const auto folder = NSTemporaryDirectory() + inboxName + "/" + NSUUIDString();
     if (const auto made = files.createDirectoryAtPath(folder, true); !made)
         return std::unexpected(made.error()->localizedDescription());
-    if (const auto copied = copyInto(folder, nameIn(path), *file); !copied) {
+    if (const auto copied = copyInto(folder, lastPathComponent(path), *file); !copied) {
         static_cast<void>(files.removeItemAtPath(folder));
         return std::unexpected(problem(path, copied.error()));
     }
-    return stringByAppendingPathComponent(folder, nameIn(path));
+    return stringByAppendingPathComponent(folder, lastPathComponent(path));
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "DesktopImage.h"
 #include "Device.h"
+#include "Foundation/NSString.h"
 #include "alerts/Complaint.h"
 #include "documents/DocumentFolderPage.h"
 #include "documents/DocumentInbox.h"
@@ -95,8 +96,7 @@ void UIDocumentPickerViewControllerPeer::cancelPicking() {
 std::expected<std::string, std::string>
 UIDocumentPickerViewControllerPeer::copyOf(const std::string& hostPath) const {
     if (!isOfOneOf(types_, hostPath))
-        return std::unexpected("“" + hostPath.substr(hostPath.rfind('/') + 1) +
-                               "” is not of a kind that can be chosen.");
+        return std::unexpected("“" + lastPathComponent(hostPath) + "” is not of a kind that can be chosen.");
     return DocumentInbox::takeHostFile(hostPath);
 }
 

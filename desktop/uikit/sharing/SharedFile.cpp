@@ -22,8 +22,7 @@ std::expected<RegularFile, int> opened(const std::string& path) {
 /// Where the host has a file that is open.
 std::expected<std::string, int> hostPathOf(const RegularFile& file) {
     std::array<char, PATH_MAX> path{};
-    const auto link = "/proc/self/fd/" + std::to_string(file.get());
-    const auto length = readlink(link.c_str(), path.data(), path.size());
+    const auto length = readlink(file.openPath().c_str(), path.data(), path.size());
     if (length < 0)
         return std::unexpected(errno);
     return std::string(path.data(), static_cast<std::size_t>(length));
@@ -32,7 +31,7 @@ std::expected<std::string, int> hostPathOf(const RegularFile& file) {
 } // namespace
 
 std::string SharedFile::name() const {
-    return path_.substr(path_.rfind('/') + 1);
+    return lastPathComponent(path_);
 }
 
 std::string SharedFile::problem(int error) const {

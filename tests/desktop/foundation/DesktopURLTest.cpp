@@ -46,7 +46,7 @@ TEST(DesktopURLTest, TheExtensionFollowsTheLastDot) {
     EXPECT_EQ(extension("/a/b.GZ"), "GZ");
     EXPECT_EQ(extension("/a.b/c"), "");
     EXPECT_EQ(extension("/a/.gz"), "");
-    EXPECT_EQ(extension("/a/..gz"), "");
+    EXPECT_EQ(extension("/a/..gz"), "gz");
     EXPECT_EQ(extension("/a/b."), "");
     EXPECT_EQ(extension("/a/b.c d"), "");
     EXPECT_EQ(extension("/a/b c.d"), "d");
