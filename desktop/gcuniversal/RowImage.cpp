@@ -5,6 +5,7 @@
 #include "Foundation/NSData.h"
 #include "Foundation/NSFileManager.h"
 #include "Foundation/NSString.h"
+#include "HeifPicture.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -23,7 +24,7 @@ constexpr auto suffix = "-IMG";
 constexpr qint64 greatestSize = 64LL * 1024 * 1024; ///< bytes of a file
 
 /// By the names that the readers give them.
-constexpr std::array<std::string_view, 4> formats{"png", "jpeg", "heic", "heif"};
+constexpr std::array<std::string_view, 2> formats{"png", "jpeg"};
 
 bool isNameOfOneFile(const std::string& name) {
     return !name.empty() && !name.contains('/') && name != "." && name != "..";
@@ -31,6 +32,8 @@ bool isNameOfOneFile(const std::string& name) {
 
 /// A picture of a known kind in those bytes; nothing for anything else.
 std::optional<QImage> decoded(QByteArray bytes) {
+    if (isHeif(bytes))
+        return heifPicture(bytes);
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::ReadOnly);
     QImageReader reader(&buffer);

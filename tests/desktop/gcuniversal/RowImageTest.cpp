@@ -53,6 +53,20 @@ TEST_F(RowImageTest, KeepsAPictureAsItIs) {
     EXPECT_EQ(Device::current().notifications().take().size(), 2U);
 }
 
+TEST_F(RowImageTest, KeepsAPhotoOfATelephone) {
+    const std::string photo = PICTURES "/upright.heic";
+    ASSERT_TRUE(image_.keep(photo));
+    EXPECT_EQ(device.read(kept), contentOf(photo));
+    ASSERT_TRUE(image_.image());
+    EXPECT_EQ(DesktopImage::sizeOf(*image_.image()), (CGSize{64, 32}));
+}
+
+TEST_F(RowImageTest, RefusesAPhotoOfATelephoneThatIsDamaged) {
+    const auto photo = contentOf(PICTURES "/upright.heic");
+    EXPECT_FALSE(image_.keep(file("a.heic", photo.substr(0, photo.size() / 2))));
+    EXPECT_FALSE(image_.exists());
+}
+
 TEST_F(RowImageTest, GoesByTheContentAndNotByTheName) {
     const auto source = picture("a.png");
     EXPECT_TRUE(image_.keep(file("b.txt", contentOf(source))));
