@@ -1,6 +1,8 @@
 #include "Imports.h"
 
+#include "Failure.h"
 #include "Kernel.h"
+#include "Texts.h"
 
 namespace {
 
@@ -66,23 +68,6 @@ uint64_t Imports::address(const char* symbol) {
         if (areEqual(import.symbol, symbol))
             return reinterpret_cast<uint64_t>(import.address);
     return reinterpret_cast<uint64_t>(code(unexpectedCall));
-}
-
-bool areEqual(const char* left, const char* right) {
-    while (*left != 0 && *left == *right) {
-        ++left;
-        ++right;
-    }
-    return *left == *right;
-}
-
-void fail(const char* reason, const char* what) {
-    constexpr auto unusable = 99;
-    Kernel::write("loader: ");
-    Kernel::write(reason);
-    Kernel::write(what);
-    Kernel::write("\n");
-    Kernel::exit(unusable);
 }
 
 void* memcpy(void* to, const void* from, size_t size) {
