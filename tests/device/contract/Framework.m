@@ -119,7 +119,7 @@ void choose(UIAction *action) {
 }
 
 void answerAlertOf(UIViewController *controller, unsigned index) {
-    UIAlertController *alert = [[controller->presented retain] autorelease];
+    UIAlertController *alert = (UIAlertController *)[[controller->presented retain] autorelease];
     UIAlertAction *action = [alert->actions objectAtIndex:index];
     DESTROY(controller->presented);
     if (action->handler)

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "Runtime.h"
+
 #include <cstddef>
+#include <cstdint>
 #include <string>
 
 /// Runs what waits on the main queue, and what that queues. \returns how much that was
@@ -8,3 +11,19 @@ std::size_t runWaitingWork();
 
 /// The file that is opened in the place of BackBoardServices; none when the path is empty.
 void setServicesLibrary(std::string path);
+
+// The types that the device's half knows by name alone.
+struct DispatchQueue {};
+
+struct NotificationCenterObject {};
+
+extern "C" {
+extern DispatchQueue _dispatch_main_q; // NOLINT(*-reserved-identifier): the system's name
+void dispatch_async_f(DispatchQueue* queue, void* context, void (*work)(void* context));
+std::uint64_t dispatch_time(std::uint64_t base, std::int64_t nanoseconds);
+void dispatch_after_f(std::uint64_t when, DispatchQueue* queue, void* context, void (*work)(void* context));
+NotificationCenterObject* CFNotificationCenterGetDarwinNotifyCenter();
+void CFNotificationCenterPostNotification(NotificationCenterObject* center, id name, const void* object,
+                                          const void* userInfo, bool deliverImmediately);
+void AudioServicesPlaySystemSound(std::uint32_t sound);
+}
