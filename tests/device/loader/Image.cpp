@@ -24,6 +24,8 @@ Image::Image(const char* path, Architecture architecture, Binder bind, Disturban
       fixups_(file_.chainedFixups()),
       size_(file_.memorySize()),
       memory_(allocatePages(size_)) {
+    if (!file_.hasRightSignature())
+        fail("the code is not as it was signed in ", path);
     if (fixups_ == nullptr)
         fail("nothing says where the pointers are in ", path);
     placeSegments();

@@ -1,5 +1,6 @@
 #include "ImageFile.h"
 
+#include "CodeSignature.h"
 #include "Failure.h"
 #include "Kernel.h"
 #include "Texts.h"
@@ -11,6 +12,7 @@ constexpr uint32_t universalMagic = 0xCAFEBABE; // the numbers of that header ha
 constexpr uint32_t imageMagic = 0xFEEDFACF;
 constexpr uint32_t segmentCommand = 0x19;
 constexpr uint32_t symbolTableCommand = 2;
+constexpr uint32_t signatureCommand = 0x1D;
 constexpr uint32_t chainedFixupsCommand = 0x80000034;
 constexpr size_t headerSize = 32;
 
@@ -47,6 +49,14 @@ ImageFile::ImageFile(const char* path, Architecture architecture) : architecture
     if (header_ == nullptr || readNumber<uint32_t>(header_) != imageMagic ||
         !isFor(architecture, readNumber<uint32_t>(header_ + 4), readNumber<uint32_t>(header_ + 8)))
         fail("no code for the architecture is in ", path);
+}
+
+bool ImageFile::hasRightSignature() const {
+    const auto* const found = command(signatureCommand);
+    if (found == nullptr)
+        return false;
+    const auto place = readNumber<uint32_t>(found + 8);
+    return CodeSignature(header_, header_ + place).holds(place);
 }
 
 size_t ImageFile::memorySize() const {

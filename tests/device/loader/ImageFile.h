@@ -28,6 +28,9 @@ public:
 
     [[nodiscard]] Architecture architecture() const { return architecture_; }
 
+    /// Whether the file is signed, and as it was when it was.
+    [[nodiscard]] bool hasRightSignature() const;
+
     /// How much memory the segments take.
     [[nodiscard]] size_t memorySize() const;
 

@@ -76,6 +76,14 @@ void* memcpy(void* to, const void* from, size_t size) {
     return to;
 }
 
+void* memmove(void* to, const void* from, size_t size) {
+    if (to <= from)
+        return memcpy(to, from, size);
+    for (size_t i = size; i-- > 0;)
+        static_cast<uint8_t*>(to)[i] = static_cast<const uint8_t*>(from)[i];
+    return to;
+}
+
 void* memset(void* to, int byte, size_t size) {
     for (size_t i = 0; i < size; ++i)
         static_cast<uint8_t*>(to)[i] = static_cast<uint8_t>(byte);

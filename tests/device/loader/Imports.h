@@ -14,5 +14,6 @@ public:
 // The compiler itself calls these.
 extern "C" {
 void* memcpy(void* to, const void* from, size_t size);
+void* memmove(void* to, const void* from, size_t size);
 void* memset(void* to, int byte, size_t size);
 }
