@@ -2,7 +2,7 @@
 set(CMAKE_SYSTEM_NAME Linux)
 set(CMAKE_SYSTEM_PROCESSOR aarch64)
 
-set(CMAKE_SYSROOT ${CMAKE_CURRENT_LIST_DIR}/../build/sysroot)
+get_filename_component(CMAKE_SYSROOT ${CMAKE_CURRENT_LIST_DIR}/../build/sysroot ABSOLUTE)
 if(NOT EXISTS ${CMAKE_SYSROOT}/lock)
     message(FATAL_ERROR "device-shipped: ${CMAKE_SYSROOT} is not there; run tools/setup shipped")
 endif()
@@ -15,7 +15,7 @@ set(CMAKE_MODULE_LINKER_FLAGS_INIT -fuse-ld=lld)
 
 # A processor that has signed pointers.
 find_program(AARCH64_EMULATOR qemu-aarch64 REQUIRED)
-set(CMAKE_CROSSCOMPILING_EMULATOR ${AARCH64_EMULATOR} -cpu max -L ${CMAKE_SYSROOT})
+set(CMAKE_CROSSCOMPILING_EMULATOR env QEMU_LD_PREFIX=${CMAKE_SYSROOT} ${AARCH64_EMULATOR} -cpu max)
 
 set(CMAKE_FIND_ROOT_PATH ${CMAKE_SYSROOT})
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)

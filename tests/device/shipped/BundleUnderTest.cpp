@@ -62,8 +62,8 @@ void BundleUnderTest::load(const Call& call) {
     loaded->runInitialisers();
 }
 
-const Image& BundleUnderTest::image() {
-    return *loaded;
+const Image* BundleUnderTest::image() {
+    return loaded ? &*loaded : nullptr;
 }
 
 const char* BundleUnderTest::path() {

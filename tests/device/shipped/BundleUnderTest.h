@@ -23,8 +23,8 @@ public:
     /// and names them, when the bundle imports what nothing is known of.
     static void load(const Call& call);
 
-    /// The functions below are for after that.
-    [[nodiscard]] static const Image& image();
+    /// Null before that.
+    [[nodiscard]] static const Image* image();
     [[nodiscard]] static const char* path();
     [[nodiscard]] static bool leavesSymbolsUnsigned();
 };

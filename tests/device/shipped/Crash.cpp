@@ -12,8 +12,10 @@ namespace {
 
 /// A place in the bundle, as its file has it; others as they are.
 unsigned long long placeInBundle(unsigned long long address) {
-    const auto start = reinterpret_cast<unsigned long long>(BundleUnderTest::image().memory());
-    return address >= start ? address - start : address;
+    const auto* const image = BundleUnderTest::image();
+    if (image == nullptr || !image->contains(reinterpret_cast<const void*>(address)))
+        return address;
+    return address - reinterpret_cast<unsigned long long>(image->memory());
 }
 
 extern "C" void tellCrash(int signal, siginfo_t* /*information*/, void* context) {

@@ -44,10 +44,11 @@ void* symbolOf(void* library, const char* name) {
 int findImage(const void* address, Dl_info* found) {
     const auto* const place =
         reinterpret_cast<const void*>(CodePointers::stripped(reinterpret_cast<std::uint64_t>(address)));
-    if (!BundleUnderTest::image().contains(place))
+    const auto* const image = BundleUnderTest::image();
+    if (image == nullptr || !image->contains(place))
         return dladdr(place, found);
     *found = {.dli_fname = BundleUnderTest::path(),
-              .dli_fbase = BundleUnderTest::image().memory(),
+              .dli_fbase = image->memory(),
               .dli_sname = nullptr,
               .dli_saddr = nullptr};
     return 1;
