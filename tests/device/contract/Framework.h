@@ -79,6 +79,7 @@ void layOut(id view);
 
 /// A message by the text of its selector, with objects, as target and action send them.
 id perform(id receiver, const char* selector, id argument);
+bool answersTo(id receiver, const char* selector);
 id performWithTwo(id receiver, const char* selector, id first, id second);
 /// The same through the types that the class was published with, and answered as a number.
 long invokeForInteger(id receiver, const char* selector, id argument);

@@ -1,6 +1,8 @@
 // What the tests ask the frameworks' objects, and set them to.
 #import "LayoutStandIns.h"
 
+#import <objc/runtime.h>
+
 @interface UIView (State)
 - (CGRect)frame;
 - (CGRect)bounds;
@@ -75,6 +77,10 @@ id subviewOf(UIView *view, unsigned index) {
 
 void sendActions(UIControl *control, unsigned long events) {
     [control sendActionsForControlEvents:events];
+}
+
+BOOL answersTo(id receiver, const char *selector) {
+    return [receiver respondsToSelector:sel_registerName(selector)];
 }
 
 unsigned countOfArray(NSArray *array) {

@@ -6,7 +6,8 @@ set(DEVICE_PANE_TESTS
     ${CMAKE_CURRENT_LIST_DIR}/ImageSwitchTest.cpp
     ${CMAKE_CURRENT_LIST_DIR}/PublishedMethodsTest.cpp
     ${CMAKE_CURRENT_LIST_DIR}/RootPageTest.cpp
-    ${CMAKE_CURRENT_LIST_DIR}/RulePageTest.cpp)
+    ${CMAKE_CURRENT_LIST_DIR}/RulePageTest.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/ScenarioTest.cpp)
 
 # What stands in for the frameworks and the system, and what the tests handle it with.
 set(DEVICE_STAND_INS
@@ -23,3 +24,6 @@ set(DEVICE_TEST_SUPPORT
     ${CMAKE_CURRENT_LIST_DIR}/Journal.cpp
     ${CMAKE_CURRENT_LIST_DIR}/StateOfEachTest.cpp
     ${CMAKE_CURRENT_LIST_DIR}/SystemStandIns.cpp)
+
+# What the scenario tells the frameworks, as the pane's sources do when they are compiled for this machine.
+set(DEVICE_SCENARIO_JOURNAL ${CMAKE_SOURCE_DIR}/build/device-contract/scenario.journal)
