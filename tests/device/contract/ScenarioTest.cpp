@@ -11,12 +11,13 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <regex>
 #include <string>
-#include <utility>
+#include <string_view>
 #include <vector>
 
 namespace {
@@ -59,17 +60,21 @@ protected:
 private:
     /// Without what differs from one run to the next.
     [[nodiscard]] std::string withoutPlaces(std::string line) const {
-        static const std::vector<std::pair<std::regex, const char*>> different{
-            {std::regex(R"([^ "]*/[0-9A-F]{8}(-[0-9A-F]{4}){3}-[0-9A-F]{12})"), "TEMPORARY"},
-            {std::regex("[0-9]+/[0-9]+/[0-9]+, [0-9]+:[0-9]+[^\"]*"), "DATE"}};
-        for (const auto& [place, name] :
-             {std::pair(folder_, "DOCUMENTS"), std::pair(folderOfCode(), "BUNDLE")}) {
-            for (auto at = line.find(place); at != std::string::npos; at = line.find(place))
-                line.replace(at, place.size(), name);
-        }
-        for (const auto& [pattern, name] : different)
-            line = std::regex_replace(line, pattern, name);
+        replace(line, folder_, "", "DOCUMENTS");
+        replace(line, folderOfCode(), "", "BUNDLE");
+        replace(line, temporaryFolder(), "\" ", "TEMPORARY");
+        if (line.contains("addBulletedListItem"))
+            line = std::regex_replace(line, std::regex("[0-9/]+, [0-9]+:[0-9]+[^\"]*"), "DATE");
         return line;
+    }
+
+    /// \param ends what ends a longer text that begins so; nothing when it is that text alone
+    static void replace(std::string& line, const std::string& text, std::string_view ends,
+                        std::string_view name) {
+        for (auto at = line.find(text); at != std::string::npos; at = line.find(text)) {
+            const auto end = ends.empty() ? at + text.size() : line.find_first_of(ends, at);
+            line.replace(at, std::min(end, line.size()) - at, name);
+        }
     }
 
     const std::string folder_ =
