@@ -1,11 +1,12 @@
 #include "ClassPublisher.h"
 #include "CodeUnderTest.h"
 #include "StateOfEachTest.h"
+#include "SystemStandIns.h"
 
 #include <gtest/gtest.h>
 
 std::string folderOfCode() {
-    const std::string services = SERVICES_LIBRARY; // which is built beside the programs
+    const std::string services = servicesLibrary(); // which is built beside the programs
     return services.substr(0, services.rfind('/'));
 }
 

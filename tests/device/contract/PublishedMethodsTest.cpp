@@ -136,7 +136,7 @@ bool areInOrder(const Lines& lines, const Lines& journal) {
 class PublishedMethodsTest : public testing::Test {
 protected:
     PublishedMethodsTest() {
-        setServicesLibrary(SERVICES_LIBRARY);
+        setServicesLibrary(servicesLibrary());
         storeValue(boolean(true), "kEnabled");
         perform(page, "setupPreferences", nullptr);
         takeJournal();
@@ -148,7 +148,7 @@ protected:
         dismissPresented(page);
         objc_release(page);
         forgetSuites();
-        setServicesLibrary({});
+        setServicesLibrary(nullptr);
     }
 
     const id page = newByName("cxRootListController");

@@ -17,14 +17,14 @@ using Lines = std::vector<std::string>;
 /// The bundle's page, made and asked as the Preferences framework makes and asks it.
 class RootPageTest : public testing::Test {
 protected:
-    RootPageTest() { setServicesLibrary(SERVICES_LIBRARY); }
+    RootPageTest() { setServicesLibrary(servicesLibrary()); }
 
     ~RootPageTest() override {
         dismissPresented(page); // what is presented may keep the page alive
         objc_release(page);
         forgetSuites();
         refuseInitialisersOf(nullptr);
-        setServicesLibrary({});
+        setServicesLibrary(nullptr);
     }
 
     /// \param knowsWhatIsNew whether that has been shown before
@@ -192,7 +192,7 @@ TEST_F(RootPageTest, ApplySuspendsTheApplicationAndEndsItHalfASecondLater) {
 }
 
 TEST_F(RootPageTest, WithoutTheServiceNothingIsEnded) {
-    setServicesLibrary({});
+    setServicesLibrary(nullptr);
     perform(page, "terminateSettingsUsingBKS", nullptr);
     EXPECT_EQ(
         takeJournal(),

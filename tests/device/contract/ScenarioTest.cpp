@@ -29,12 +29,12 @@ protected:
     ScenarioTest() {
         files::create_directories(folder_);
         setDocumentsFolder(folder_.c_str());
-        setServicesLibrary(SERVICES_LIBRARY);
+        setServicesLibrary(servicesLibrary());
     }
 
     ~ScenarioTest() override {
         forgetSuites();
-        setServicesLibrary({});
+        setServicesLibrary(nullptr);
         setDocumentsFolder(nullptr);
         files::remove_all(folder_);
     }

@@ -42,12 +42,16 @@ std::size_t runWaitingWork() {
     return count;
 }
 
-void setServicesLibrary(std::string path) {
-    librarySetAside() = std::move(path);
-}
-
 extern "C" {
 const char* textOfString(id string);
+
+void setServicesLibrary(const char* path) {
+    librarySetAside() = path != nullptr ? path : "";
+}
+
+const char* servicesLibrary() {
+    return SERVICES_LIBRARY;
+}
 
 DispatchQueue _dispatch_main_q;
 

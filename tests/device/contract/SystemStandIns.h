@@ -4,13 +4,9 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <string>
 
 /// Runs what waits on the main queue, and what that queues. \returns how much that was
 std::size_t runWaitingWork();
-
-/// The file that is opened in the place of BackBoardServices; none when the path is empty.
-void setServicesLibrary(std::string path);
 
 // The types that the device's half knows by name alone.
 struct DispatchQueue {};
@@ -18,6 +14,11 @@ struct DispatchQueue {};
 struct NotificationCenterObject {};
 
 extern "C" {
+/// The file that is opened in the place of BackBoardServices; none for null.
+void setServicesLibrary(const char* path);
+/// The file that tests have for that.
+const char* servicesLibrary();
+
 extern DispatchQueue _dispatch_main_q; // NOLINT(*-reserved-identifier): the system's name
 void dispatch_async_f(DispatchQueue* queue, void* context, void (*work)(void* context));
 std::uint64_t dispatch_time(std::uint64_t base, std::int64_t nanoseconds);
