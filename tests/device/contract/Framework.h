@@ -97,7 +97,10 @@ const char** selectorsOf(const char* className);
 
 id number(double value);
 id boolean(bool value);
+id wholeNumber(long long value);
+id largeNumber(unsigned long long value);
 id text(const char* utf8);
+id listOf(id first, id second);
 id emptySpecifier();
 
 /// As the journal writes an argument.

@@ -55,6 +55,18 @@ id boolean(BOOL value) {
     return [NSNumber numberWithBool:value];
 }
 
+id wholeNumber(long long value) {
+    return [NSNumber numberWithLongLong:value];
+}
+
+id largeNumber(unsigned long long value) {
+    return [NSNumber numberWithUnsignedLongLong:value];
+}
+
+id listOf(id first, id second) {
+    return [NSArray arrayWithObjects:first, second, nil];
+}
+
 void readFrame(UIView *view, CGRect *frame) {
     *frame = [view frame];
 }

@@ -1,6 +1,7 @@
 # What tests the pane from outside, as the frameworks deal with it: over the sources as they are compiled for this machine,
 # and over the bundle as it is installed.
 set(DEVICE_PANE_TESTS
+    ${CMAKE_CURRENT_LIST_DIR}/BackupMethodsTest.cpp
     ${CMAKE_CURRENT_LIST_DIR}/BackupPageTest.cpp
     ${CMAKE_CURRENT_LIST_DIR}/CellsTest.cpp
     ${CMAKE_CURRENT_LIST_DIR}/ImageSwitchTest.cpp

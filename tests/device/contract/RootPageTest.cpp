@@ -357,6 +357,55 @@ TEST_F(RootPageTest, AnObjectOfAnotherClassArrivesAsNone) {
     EXPECT_EQ(perform(page, "toggleSwitch", nullptr), nullptr);
 }
 
+TEST_F(RootPageTest, WhateverObjectComesIsToldApartAndLeftAsItWas) {
+    for (const auto* const name : {"CAGradientLayer",
+                                   "CALayer",
+                                   "NSMutableSet",
+                                   "PSControlTableCell",
+                                   "PSListController",
+                                   "PSSwitchTableCell",
+                                   "UIApplication",
+                                   "UIButton",
+                                   "UIControl",
+                                   "UIEvent",
+                                   "UILabel",
+                                   "UIMenu",
+                                   "UINavigationBar",
+                                   "UINavigationController",
+                                   "UIResponder",
+                                   "UIScrollView",
+                                   "UIStackView",
+                                   "UITableView",
+                                   "UITableViewCell",
+                                   "UITextField",
+                                   "UITouch",
+                                   "UIViewController",
+                                   "NSLayoutDimension",
+                                   "NSLayoutXAxisAnchor",
+                                   "UIAction",
+                                   "UIAlertController",
+                                   "UIBarButtonItem",
+                                   "UIBezierPath",
+                                   "UIDevice",
+                                   "UIFont",
+                                   "UILayoutGuide",
+                                   "UINavigationItem",
+                                   "UIPopoverPresentationController",
+                                   "UITapGestureRecognizer",
+                                   "UIVisualEffectView"}) {
+        const auto before = aliveOf(name);
+        {
+            const AutoreleasePool pool;
+            auto* const object = newByName(name);
+            ASSERT_NE(object, nullptr) << name;
+            perform(page, "setToggleSwitch:", object);
+            EXPECT_EQ(perform(page, "toggleSwitch", nullptr), nullptr) << name;
+            objc_release(object);
+        }
+        EXPECT_EQ(aliveOf(name), before) << name;
+    }
+}
+
 TEST(RootPageEndTest, APageThatEndsDismissesNothing) {
     auto* const page = newByName("cxRootListController");
     {

@@ -119,3 +119,13 @@ TEST_F(RulePageTest, EachPageLoadsItsListOnce) {
         objc_release(opened);
     }
 }
+
+TEST_F(RulePageTest, ItsPropertiesAndItsJudgementAreMessagesToo) {
+    perform(page, "setHasDynamicSpecifiers:", nullptr);
+    EXPECT_FALSE(has("hasDynamicSpecifiers"));
+    perform(page, "setDynamicSpecifiers:", nullptr);
+    EXPECT_EQ(perform(page, "dynamicSpecifiers", nullptr), nullptr);
+    EXPECT_EQ(invokeForInteger(page, "shouldHideSpecifier:", dependent) & 0xFF, 0);
+    setProperty(controlling, number(0), "value");
+    EXPECT_NE(invokeForInteger(page, "shouldHideSpecifier:", dependent) & 0xFF, 0);
+}

@@ -6,6 +6,7 @@
 #include "Failure.h"
 #include "ImportTable.h"
 
+#include <cstdio>
 #include <optional>
 #include <span>
 #include <string_view>
@@ -18,8 +19,9 @@ std::optional<Image> loaded;
 constexpr std::string_view keyOption = "--disturb-key=";
 constexpr std::string_view slotOption = "--disturb-slot=";
 constexpr std::string_view symbolOption = "--unsigned-symbols";
+constexpr std::string_view placeOption = "--tell-place";
 
-void readFault(std::string_view argument, BundleUnderTest::Call& call) {
+void readOption(std::string_view argument, BundleUnderTest::Call& call) {
     if (argument.starts_with(keyOption))
         call.disturbance.key =
             static_cast<unsigned>(std::stoul(std::string(argument.substr(keyOption.size()))));
@@ -27,6 +29,8 @@ void readFault(std::string_view argument, BundleUnderTest::Call& call) {
         call.disturbance.slot = std::stoul(std::string(argument.substr(slotOption.size())));
     else if (argument == symbolOption)
         call.leavesSymbolsUnsigned = true;
+    else if (argument == placeOption)
+        call.tellsPlace = true;
 }
 
 void requireKnownImports() {
@@ -47,9 +51,10 @@ BundleUnderTest::Call BundleUnderTest::readArguments(int count, char** arguments
               .architecture =
                   all[2] == std::string_view("arm64e") ? Architecture::Arm64e : Architecture::Arm64,
               .disturbance = {},
-              .leavesSymbolsUnsigned = false};
+              .leavesSymbolsUnsigned = false,
+              .tellsPlace = false};
     for (const std::string_view argument : all.subspan(3))
-        readFault(argument, call);
+        readOption(argument, call);
     return call;
 }
 
@@ -58,6 +63,8 @@ void BundleUnderTest::load(const Call& call) {
     CodePointers::areSigned(call.architecture == Architecture::Arm64e);
     loaded.emplace(call.path.c_str(), call.architecture, ImportTable::address, call.disturbance);
     requireKnownImports();
+    if (call.tellsPlace)
+        std::fprintf(stderr, "loaded at %p\n", static_cast<const void*>(loaded->memory()));
     ClassRecords::publish(*loaded);
     loaded->runInitialisers();
 }

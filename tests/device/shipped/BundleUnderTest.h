@@ -7,13 +7,15 @@
 /// The bundle that this process has been started to test.
 class BundleUnderTest {
 public:
-    /// What the program was called with: FILE ARCHITECTURE, and faults to plant (`--disturb-key=0`,
-    /// `--disturb-slot=17`, `--unsigned-symbols`). Other arguments are left to others.
+    /// What the program was called with: FILE ARCHITECTURE, faults to plant (`--disturb-key=0`, `--disturb-slot=17`,
+    /// `--unsigned-symbols`), and `--tell-place`, with which the address that the bundle is loaded at goes to the
+    /// standard error. Other arguments are left to others.
     struct Call {
         std::string path;
         Architecture architecture = Architecture::Arm64;
         Image::Disturbance disturbance;
         bool leavesSymbolsUnsigned = false;
+        bool tellsPlace = false;
     };
 
     /// Ends the program when it was called otherwise.
