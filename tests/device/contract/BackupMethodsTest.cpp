@@ -82,6 +82,28 @@ TEST_F(BackupMethodsTest, AMessageIsShownWithItsTitle) {
     EXPECT_EQ(sheets(), Lines{sheetMade + std::string("\"Title\" \"Text\" \"info.circle.fill\"")});
 }
 
+TEST_F(BackupMethodsTest, AMessageMayHaveNothingToDoAfterwards) {
+    performWithMore(page, "showMessage:withTitle:completion:", text("Text"), text("Title"), nullptr, 0);
+    EXPECT_EQ(sheets(), Lines{sheetMade + std::string("\"Title\" \"Text\" \"info.circle.fill\"")});
+}
+
+TEST_F(BackupMethodsTest, ASheetIsMadeAsItIsAskedFor) {
+    auto* const sheet = performWithMore(
+        page, "createWelcomeControllerWithTitle:detailText:symbolName:backdropStyle:", text("Title"),
+        text("Text"), text("gear"), 3);
+    EXPECT_STREQ(class_getName(object_getClass(sheet)), "OBWelcomeController");
+    const auto lines = takeJournal();
+    EXPECT_EQ(lines.front(), sheetMade + std::string("\"Title\" \"Text\" \"gear\""));
+    EXPECT_TRUE(std::ranges::count(lines, "+[_UIBackdropViewSettings settingsForStyle:] 3") == 1);
+}
+
+TEST_F(BackupMethodsTest, AnotherFormatterTellsTheDates) {
+    auto* const formatter = newByName("NSDateFormatter");
+    perform(page, "setDateFormatter:", formatter);
+    EXPECT_EQ(perform(page, "dateFormatter", nullptr), formatter);
+    objc_release(formatter);
+}
+
 TEST_F(BackupMethodsTest, AnArchiveIsSharedFromTheMiddleOfATablet) {
     save("a");
     perform(page, "shareBackup:", text("a.tar.gz"));

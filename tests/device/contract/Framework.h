@@ -81,6 +81,8 @@ void layOut(id view);
 id perform(id receiver, const char* selector, id argument);
 bool answersTo(id receiver, const char* selector);
 id performWithTwo(id receiver, const char* selector, id first, id second);
+/// With three objects and a number more, for methods of as many parameters or one less.
+id performWithMore(id receiver, const char* selector, id first, id second, id third, std::int64_t number);
 /// The same through the types that the class was published with, and answered as a number.
 long invokeForInteger(id receiver, const char* selector, id argument);
 void invokeWithDouble(id receiver, const char* selector, double argument);

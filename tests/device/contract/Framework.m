@@ -164,6 +164,12 @@ id performWithTwo(id receiver, const char *selector, id first, id second) {
     return [receiver performSelector:sel_registerName(selector) withObject:first withObject:second];
 }
 
+id performWithMore(id receiver, const char *selector, id first, id second, id third, long number) {
+    typedef id (*Method)(id, SEL, id, id, id, long);
+    SEL name = sel_registerName(selector);
+    return ((Method)[receiver methodForSelector:name])(receiver, name, first, second, third, number);
+}
+
 static NSInvocation *invocationWithTwo(id receiver, const char *selector, void *argument, void *second) {
     SEL name = sel_registerName(selector);
     NSMethodSignature *signature = [receiver methodSignatureForSelector:name];

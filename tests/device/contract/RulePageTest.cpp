@@ -123,9 +123,20 @@ TEST_F(RulePageTest, EachPageLoadsItsListOnce) {
 TEST_F(RulePageTest, ItsPropertiesAndItsJudgementAreMessagesToo) {
     perform(page, "setHasDynamicSpecifiers:", nullptr);
     EXPECT_FALSE(has("hasDynamicSpecifiers"));
+    auto* const rules = newByName("NSMutableDictionary");
+    perform(page, "setDynamicSpecifiers:", rules);
+    EXPECT_EQ(perform(page, "dynamicSpecifiers", nullptr), rules);
+    objc_release(rules);
     perform(page, "setDynamicSpecifiers:", nullptr);
     EXPECT_EQ(perform(page, "dynamicSpecifiers", nullptr), nullptr);
     EXPECT_EQ(invokeForInteger(page, "shouldHideSpecifier:", dependent) & 0xFF, 0);
     setProperty(controlling, number(0), "value");
     EXPECT_NE(invokeForInteger(page, "shouldHideSpecifier:", dependent) & 0xFF, 0);
+}
+
+TEST_F(RulePageTest, WhatThePageDoesNotOverrideIsTheFrameworks) {
+    perform(page, "reloadSpecifiers", nullptr);
+    perform(page, "becomeFirstResponder", nullptr);
+    EXPECT_EQ(takeJournal(), (Lines{"-[cxBannerController reloadSpecifiers]",
+                                    "-[cxBannerController becomeFirstResponder]"}));
 }

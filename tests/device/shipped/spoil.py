@@ -4,8 +4,7 @@
 WHAT is "byte", for which the copy is left with a signature that no longer fits; or, signed anew:
 
 - "instruction": where the pane plays a sound, it plays another one;
-- "fixup": what is bound to the function that sends messages is bound to the import after it;
-- "slot NUMBER": a signed pointer is to be signed with another diversity, by its number from the first.
+- "fixup": what is bound to the function that sends messages is bound to the import after it.
 
 Prints where the fault is, as the half's file has it.
 """
@@ -16,16 +15,18 @@ import sys
 from pathlib import Path
 
 SUBTYPES = {"arm64": 0, "arm64e": 2}
+UNIVERSAL = b"\xca\xfe\xba\xbe"
 SEGMENT, FIXUPS, SIGNATURE = 0x19, 0x80000034, 0x1D
 SOUND = 0x5280BDE0  # mov w0, #1519
 
 
 class Half:
-    """One architecture's part of a universal file, to be changed in place."""
+    """One architecture's part of a universal file, or a file for it alone, to be changed in place."""
 
     def __init__(self, data, architecture):
         self.data, self.start = data, 0
-        for entry in range(8, 8 + 20 * struct.unpack_from(">I", data, 4)[0], 20):
+        parts = struct.unpack_from(">I", data, 4)[0] if data.startswith(UNIVERSAL) else 0
+        for entry in range(8, 8 + 20 * parts, 20):
             _, subtype, offset, _, _ = struct.unpack_from(">5I", data, entry)
             if subtype & 0xFFFFFF == SUBTYPES[architecture]:
                 self.start = offset
@@ -97,7 +98,7 @@ class Half:
         self.write("32s", hashes + 32 * page, hashlib.sha256(content).digest())
 
 
-def spoil(half, what, number):
+def spoil(half, what):
     """Plants the fault. Returns its place."""
     offset = half.sections["__text"][2]
     if what == "byte":
@@ -107,9 +108,6 @@ def spoil(half, what, number):
         _, size, _ = half.sections["__text"]
         place = next(place for place in range(offset, offset + size, 4) if half.read("<I", place) == SOUND)
         half.write("<I", place, SOUND + (1 << 5))
-    elif what == "slot":
-        place = list(half.signed_slots())[number]
-        half.write("<Q", place, half.read("<Q", place) ^ 1 << 32)
     else:
         bound = half.ordinal("_objc_msgSend")
         _, size, start = half.sections["__got"]
@@ -121,10 +119,10 @@ def spoil(half, what, number):
 
 
 def main(arguments):
-    if len(arguments) < 4 or arguments[2] not in SUBTYPES:
+    if len(arguments) != 4 or arguments[2] not in SUBTYPES:
         sys.exit(__doc__)
     data = bytearray(Path(arguments[0]).read_bytes())
-    place = spoil(Half(data, arguments[2]), arguments[3], int(arguments[4]) if len(arguments) > 4 else 0)
+    place = spoil(Half(data, arguments[2]), arguments[3])
     Path(arguments[1]).write_bytes(data)
     print(f"{place:x}")
 
