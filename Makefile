@@ -1,5 +1,5 @@
 # Everything a person does with this tree. The first call of a target installs what it needs and what is missing.
-.PHONY: help run test test-sanitized smoke device package device-test lint format fuzz bench coverage clean
+.PHONY: help run test test-sanitized smoke device package device-test device-coverage lint format fuzz bench coverage clean
 
 help:
 	@echo "make run       build the program and open its window (without a display: a walk with pictures in out/)"
@@ -8,7 +8,8 @@ help:
 	@echo "make smoke     handle the window from outside, on a virtual display"
 	@echo "make device    build the bundle for the device, in build/device/corvexPrefs.bundle"
 	@echo "make package   build the package that installs it, build/device/corvexprefs_VERSION_iphoneos-arm64.deb"
-	@echo "make device-test  the device's tests alone: other programs read both; its half runs over another runtime"
+	@echo "make device-test  the device's tests alone: other programs read both; its half, and the bundle itself, run over another runtime"
+	@echo "make device-coverage  report how much of the bundle's code its tests reach, and which functions they do not"
 	@echo "make lint      check format, static analysis and the rules of the tree"
 	@echo "make format    format all C++ files"
 	@echo "make fuzz      run each fuzzer for SECONDS_EACH (default 600) seconds"
@@ -21,8 +22,8 @@ run:
 	@tools/run
 
 test:
-	@tools/setup build test device contract
-	@tools/test desktop device device-contract
+	@tools/setup build test device contract shipped
+	@tools/test desktop device device-contract device-shipped
 
 test-sanitized:
 	@tools/setup build test sanitize
@@ -43,11 +44,18 @@ package:
 	@tools/device device_package
 
 device-test:
-	@tools/setup build device contract
-	@tools/test device device-contract
+	@tools/setup build device contract shipped
+	@tools/test device device-contract device-shipped
+
+device-coverage:
+	@tools/setup build device shipped
+	@tools/device all
+	@cmake --preset device-shipped >/dev/null
+	@cmake --build --preset device-shipped -j 2 --target shipped_pane_test
+	@tools/device-coverage
 
 lint:
-	@tools/setup build test device contract fuzz lint
+	@tools/setup build test device contract shipped fuzz lint
 	@tools/lint
 
 format:

@@ -99,7 +99,7 @@ function(corvex_device_bundle name)
 
     add_custom_command(OUTPUT ${arm64}
         COMMAND ${CMAKE_COMMAND} -E make_directory ${work}/arm64
-        COMMAND ${link} -x -o ${arm64} -filelist ${list} ${arg_STUBS}
+        COMMAND ${link} -x -map ${arm64}.map -o ${arm64} -filelist ${list} ${arg_STUBS}
         DEPENDS ${list} ${objects} ${stub_files} ${exports}
         COMMENT "Linking ${file_name} for arm64" VERBATIM COMMAND_EXPAND_LISTS)
     # The linker takes prepared objects for arm64. Local symbols carry what it does not know, so they are kept.

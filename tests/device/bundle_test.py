@@ -65,6 +65,10 @@ class VerifyDeviceTest(unittest.TestCase):
             breach = "loads [] weakly, where the stubs list ['/usr/lib/libchain.dylib']"
             self.assert_breach(f"{architecture}: {breach}", run)
 
+    def test_a_listed_name_that_nothing_imports(self):
+        run = verify(stubs=self.other_stubs("symbol _strcmp\n", "symbol _strcmp\nsymbol _strtod\n"))
+        self.assert_breach("the stubs of libchain list _strtod, which nothing imports", run)
+
     def test_exports(self):
         self.assert_breach("arm64: exports _runChecks", verify(exports=EXPORTS[1:]))
         self.assert_breach("arm64e: does not export _missing", verify(exports=[*EXPORTS, "_missing"]))

@@ -4,9 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include <atomic>
 #include <string>
-#include <thread>
 #include <utility>
 #include <vector>
 
@@ -103,22 +101,4 @@ TEST_F(WeakTest, WatchesAnotherObjectAfterAssignment) {
     Weak<LoggedObject> weak(first);
     weak = second;
     EXPECT_EQ(weak.strong(), second);
-}
-
-TEST_F(WeakTest, ReadingWhileTheLastOwnerLeavesOnAnotherThreadGivesTheObjectOrNull) {
-    for (int round = 0; round < 200; ++round) {
-        auto owner = make<LoggedObject>("a", journal);
-        const Weak<LoggedObject> weak(owner);
-        std::atomic<bool> begun = false;
-        std::thread reader([&] {
-            begun = true;
-            while (const auto held = weak.strong())
-                ASSERT_EQ(held->name(), "a");
-        });
-        while (!begun)
-            std::this_thread::yield();
-        owner = nullptr;
-        reader.join();
-        ASSERT_EQ(weak.strong(), nullptr);
-    }
 }

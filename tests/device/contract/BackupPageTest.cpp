@@ -1,23 +1,22 @@
-#include "Foundation/NSDictionary.h"
-#include "Foundation/NSFileManager.h"
-#include "Foundation/NSString.h"
-#include "Foundation/NSUUID.h"
 #include "Framework.h"
-#include "Instances.h"
 #include "Journal.h"
-#include "ObjectiveC/AttachedValues.h"
-#include "PreferenceStore.h"
-#include "Text.h"
-#include "UIKit/UITextField.h"
-#include "cxBackupRestoreController.h"
 
 #include <gtest/gtest.h>
 
+#include <unistd.h>
+
 #include <algorithm>
+#include <filesystem>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
 
 namespace {
 
 using Lines = std::vector<std::string>;
+
+namespace files = std::filesystem;
 
 const std::string sheetMade = "-[OBWelcomeController initWithTitle:detailText:symbolName:] ";
 const std::string itemAdded =
@@ -35,22 +34,18 @@ const std::string importedTypes =
 class BackupPageTest : public testing::Test {
 protected:
     BackupPageTest() {
-        EXPECT_TRUE(files.createDirectoryAtPath(folder, true));
+        files::create_directories(folder);
         setDocumentsFolder(folder.c_str());
         page = newByName("cxBackupRestoreController");
     }
 
     ~BackupPageTest() override {
-        instance().dismissViewControllerAnimated(false, {}); // what is presented may keep the page alive
+        dismissPresented(page); // what is presented may keep the page alive
         objc_release(page);
         forgetSuites();
         setDocumentsFolder(nullptr);
-        EXPECT_TRUE(files.removeItemAtPath(folder));
+        files::remove_all(folder);
         takeJournal();
-    }
-
-    [[nodiscard]] cxBackupRestoreController& instance() const {
-        return dynamic_cast<cxBackupRestoreController&>(*instanceOf(page));
     }
 
     [[nodiscard]] std::string backup(std::string_view name) const {
@@ -72,8 +67,17 @@ protected:
         takeJournal();
     }
 
-    NSFileManager& files = NSFileManager::defaultManager();
-    const std::string folder = stringByAppendingPathComponent(NSTemporaryDirectory(), NSUUIDString());
+    /// What lies in the folder for temporary files.
+    [[nodiscard]] static std::set<files::path> temporaryItems() {
+        const files::directory_iterator items(temporaryFolder());
+        std::set<files::path> paths;
+        for (const auto& item : items)
+            paths.insert(item.path());
+        return paths;
+    }
+
+    const std::string folder =
+        files::temp_directory_path() / ("corvex-documents-" + std::to_string(getpid()));
     id page = nullptr;
 
 private:
@@ -84,8 +88,8 @@ private:
 
 TEST_F(BackupPageTest, IsAPageOfTheFrameworkWithItsFolder) {
     EXPECT_STREQ(class_getName(class_getSuperclass(object_getClass(page))), "PSListController");
-    EXPECT_TRUE(files.fileExistsAtPath(folder + "/CorvexBackups"));
-    EXPECT_EQ(textOf(perform(page, "backupsPath", nullptr)), folder + "/CorvexBackups");
+    EXPECT_TRUE(files::exists(folder + "/CorvexBackups"));
+    EXPECT_EQ(describedAnswer(page, "backupsPath"), "\"" + folder + "/CorvexBackups\"");
     EXPECT_NE(perform(page, "dateFormatter", nullptr), nullptr);
     EXPECT_EQ(perform(page, "currentBackupsList", nullptr), nullptr);
 }
@@ -152,12 +156,11 @@ TEST_F(BackupPageTest, TheFieldHasTheKeyboardBeforeThePromptIsPresented) {
 TEST_F(BackupPageTest, ANameThatIsTypedBecomesAnArchive) {
     perform(page, "createBackup", nullptr);
     perform(page, "showBackupNamePrompt:", rightButtonOf(page));
-    const auto attached =
-        attachedValueOf<Ref<NSObject>>(*instanceAs<NSObject>(presentedBy(page)), "BackupNameTextField");
-    ASSERT_TRUE(attached);
-    perform(objectOf(**attached), "setText:", text("My Settings"));
+    auto* const field = fieldPresentedBy(page);
+    ASSERT_NE(field, nullptr);
+    perform(field, "setText:", text("My Settings"));
     perform(page, "handleBackupNameSave:", rightButtonOf(page));
-    EXPECT_TRUE(files.fileExistsAtPath(backup("My Settings.tar.gz")));
+    EXPECT_TRUE(files::exists(backup("My Settings.tar.gz")));
 }
 
 TEST_F(BackupPageTest, WithoutANameAnAlertComesOverThePrompt) {
@@ -181,7 +184,6 @@ TEST_F(BackupPageTest, TheListLeadsToTheOptionsAndTheseToTheEnd) {
               4U);
     auto* const item = listItemOf(page, 0);
     ASSERT_NE(recognizerOf(item), nullptr);
-    EXPECT_EQ(attachedValueOf<std::string>(*instanceAs<NSObject>(item), "BackupName"), "a.tar.gz");
     perform(page, "handleBackupListItemTap:", recognizerOf(item));
     EXPECT_EQ(journalOf({"dismissViewController", "symbolName", "setTag"}),
               (Lines{"-[cxBackupRestoreController dismissViewControllerAnimated:completion:] 1 completion",
@@ -189,7 +191,7 @@ TEST_F(BackupPageTest, TheListLeadsToTheOptionsAndTheseToTheEnd) {
                      "-[OBBulletedListItem setTag:] 0", "-[OBBulletedListItem setTag:] 1",
                      "-[OBBulletedListItem setTag:] 2", "-[OBBulletedListItem setTag:] 3"}));
     perform(page, "handleBulletedListTap:", recognizerOf(listItemOf(page, 3)));
-    EXPECT_FALSE(files.fileExistsAtPath(backup("a.tar.gz")));
+    EXPECT_FALSE(files::exists(backup("a.tar.gz")));
     EXPECT_EQ(journalOf({"dismissViewController", "log:", "symbolName"}),
               (Lines{"-[cxBackupRestoreController dismissViewControllerAnimated:completion:] 1 completion",
                      "log: Deleting backup: a.tar.gz",
@@ -197,21 +199,20 @@ TEST_F(BackupPageTest, TheListLeadsToTheOptionsAndTheseToTheEnd) {
 }
 
 TEST_F(BackupPageTest, ARestoredBackupReplacesTheSettingsAndIsTold) {
-    PreferenceStore::open()->setObject("blue", "textColor");
+    storeValue(text("blue"), "textColor");
     save("a");
-    PreferenceStore::open()->setObject("red", "textColor");
-    PreferenceStore::open()->setObject(true, "kCenter");
+    storeValue(text("red"), "textColor");
+    storeValue(boolean(true), "kCenter");
     takeJournal();
+    const auto before = temporaryItems();
     perform(page, "restoreBackup:", text("a.tar.gz"));
     auto* const button = rightButtonOf(page);
-    EXPECT_EQ(attachedValueOf<std::string>(*instanceAs<NSObject>(button), "ArchivePath"), backup("a.tar.gz"));
-    const auto staging = attachedValueOf<std::string>(*instanceAs<NSObject>(button), "TempDir").value_or("");
-    EXPECT_TRUE(files.fileExistsAtPath(staging));
+    EXPECT_EQ(temporaryItems().size(), before.size() + 1);
     EXPECT_EQ(journalOf({"setTintColor"}), Lines{"-[UIBarButtonItem setTintColor:] systemRed"});
     perform(page, "handleRestoreConfirm:", button);
-    EXPECT_FALSE(files.fileExistsAtPath(staging));
-    EXPECT_EQ(PreferenceStore::open()->objectForKey("textColor"), PropertyList("blue"));
-    EXPECT_EQ(PreferenceStore::open()->objectForKey("kCenter"), std::nullopt);
+    EXPECT_EQ(temporaryItems(), before);
+    EXPECT_EQ(described(storedValue("textColor")), "\"blue\"");
+    EXPECT_EQ(storedValue("kCenter"), nullptr);
 }
 
 TEST_F(BackupPageTest, ThePickerIsForArchivesInImportMode) {

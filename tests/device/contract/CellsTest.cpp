@@ -1,37 +1,21 @@
 // The pane's own cells, made and handled as the framework does it.
 
-#include "CXSwitchWithInfoCell.h"
-#include "CxHeaderCell.h"
+#include "CodeUnderTest.h"
 #include "Framework.h"
-#include "Instances.h"
 #include "Journal.h"
-#include "ObjectiveC/Class.h"
-#include "Text.h"
-#include "TweakButton.h"
-#include "TweakCustomCell.h"
-#include "UIKit/UIViewController.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <initializer_list>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 namespace {
 
 using Lines = std::vector<std::string>;
-
-/// A page that keeps what is to open other pages.
-class OpeningPage final : public UIViewController {
-public:
-    void openController(const Ref<UIControl>& sender) { opened.push_back(sender); }
-
-    std::vector<Ref<UIControl>> opened;
-};
-
-const Class pageClass = Class::define<OpeningPage, UIViewController>(
-    "OpeningPage", {method<"openController:", &OpeningPage::openController>()});
 
 class CellsTest : public testing::Test {
 protected:
@@ -42,11 +26,10 @@ protected:
     }
 
     /// A row of the page with those properties.
-    [[nodiscard]] id row(std::initializer_list<std::pair<const char*, PropertyList>> properties) const {
+    [[nodiscard]] id row(std::initializer_list<std::pair<const char*, id>> properties) const {
         auto* const specifier = emptySpecifier();
         for (const auto& [key, value] : properties)
-            instanceAs<NSObject>(specifier)->performSelector("setProperty:forKey:",
-                                                             {value, PropertyList(key)});
+            performWithTwo(specifier, "setProperty:forKey:", value, text(key));
         perform(specifier, "setTarget:", page);
         takeJournal();
         return specifier;
@@ -84,8 +67,7 @@ TEST_F(CellsTest, ASwitchRowHasItsInfoButtonInPlace) {
                "-[UIButton trailingAnchor]", "-[UIView trailingAnchor]",
                "-[NSLayoutXAxisAnchor constraintEqualToAnchor:constant:] NSLayoutXAxisAnchor -4",
                "+[NSLayoutConstraint activateConstraints:] [NSLayoutConstraint, NSLayoutConstraint]"}));
-    EXPECT_EQ(perform(cell, "infoButton", nullptr),
-              objectOf(*instanceAs<CXSwitchWithInfoCell>(cell)->infoButton()));
+    EXPECT_EQ(perform(cell, "infoButton", nullptr), subviewOf(perform(cell, "contentView", nullptr), 0));
     objc_release(cell);
 }
 
@@ -94,7 +76,7 @@ TEST_F(CellsTest, NothingIsLeftAliveOfCellsThatAreGone) {
         const AutoreleasePool pool;
         auto* const table = newByName("UIView");
         for (const auto* const name : {"CXSwitchWithInfoCell", "CxHeaderCell", "TweakCustomCell"}) {
-            auto* const cell = newCell(name, 0, text("row"), row({{"leftIcon", "one"}}));
+            auto* const cell = newCell(name, 0, text("row"), row({{"leftIcon", text("one")}}));
             moveView(cell, table);
             moveView(cell, nullptr);
             moveView(cell, table);
@@ -124,9 +106,9 @@ TEST_F(CellsTest, TheInfoButtonHasTheCellsTint) {
 
 TEST_F(CellsTest, ATapExplainsTheRowAboveThePageThatItIsIn) {
     putViewsInto(page);
-    auto* const cell =
-        newCell("CXSwitchWithInfoCell", 0, nullptr,
-                row({{"infoTitle", "Title"}, {"label", "Label"}, {"infoMessage", "One\\nTwo\\n"}}));
+    auto* const cell = newCell(
+        "CXSwitchWithInfoCell", 0, nullptr,
+        row({{"infoTitle", text("Title")}, {"label", text("Label")}, {"infoMessage", text("One\\nTwo\\n")}}));
     takeJournal();
     perform(cell, "infoButtonTapped", nullptr);
     EXPECT_EQ(journalOf({"UIAlert", "keyWindow"}),
@@ -140,7 +122,7 @@ TEST_F(CellsTest, ATapExplainsTheRowAboveThePageThatItIsIn) {
 
 TEST_F(CellsTest, ATapExplainsARowWithoutAPageAboveTheWindowsController) {
     showRootController(page);
-    auto* const cell = newCell("CXSwitchWithInfoCell", 0, nullptr, row({{"label", "Label"}}));
+    auto* const cell = newCell("CXSwitchWithInfoCell", 0, nullptr, row({{"label", text("Label")}}));
     takeJournal();
     perform(cell, "infoButtonTapped", nullptr);
     EXPECT_EQ(journalOf({"alertControllerWithTitle", "keyWindow", "present"}),
@@ -161,9 +143,7 @@ TEST_F(CellsTest, ARowWithoutTextsIsExplainedWithoutATitle) {
 
 TEST_F(CellsTest, AHeaderIsBuiltFromTheBackToTheFront) {
     auto* const cell =
-        newCell("CxHeaderCell", 0, nullptr, row({{"title", "Corvex"}, {"description", "Text"}}));
-    const std::string_view program = SERVICES_LIBRARY; // which is built beside this one
-    const std::string folder(program.substr(0, program.rfind('/')));
+        newCell("CxHeaderCell", 0, nullptr, row({{"title", text("Corvex")}, {"description", text("Text")}}));
     const auto lines = journalOf({"setBackgroundColor", "CAGradientLayer", "Effect", "Sublayer", "addSubview",
                                   "Arranged", "imageNamed", "setText:", "setAlpha", "animate"});
     EXPECT_EQ(lines, (Lines{"-[UIView setBackgroundColor:] clear",
@@ -185,7 +165,7 @@ TEST_F(CellsTest, AHeaderIsBuiltFromTheBackToTheFront) {
                             "-[UIVisualEffectView bottomAnchor]",
                             "-[UIView addSubview:] UIStackView",
                             "+[UIImage imageNamed:inBundle:compatibleWithTraitCollection:] \"icon.png\" \"" +
-                                folder + "\" nil",
+                                folderOfCode() + "\" nil",
                             "-[UIStackView addArrangedSubview:] UIImageView",
                             "-[UILabel setText:] \"Corvex • 3.0.1\"",
                             "-[UIStackView addArrangedSubview:] UILabel",
@@ -194,14 +174,13 @@ TEST_F(CellsTest, AHeaderIsBuiltFromTheBackToTheFront) {
                             "-[UIView setAlpha:] 0",
                             "+[UIView animateWithDuration:delay:options:animations:completion:] 0.3 0 0",
                             "-[UIView setAlpha:] 1"}));
-    EXPECT_EQ(textOf(perform(perform(cell, "descriptionLabel", nullptr), "text", nullptr)), "Text");
-    EXPECT_EQ(perform(cell, "mainStackView", nullptr),
-              objectOf(*instanceAs<CxHeaderCell>(cell)->mainStackView()));
+    EXPECT_EQ(describedAnswer(perform(cell, "descriptionLabel", nullptr), "text"), "\"Text\"");
+    EXPECT_STREQ(class_getName(object_getClass(perform(cell, "mainStackView", nullptr))), "UIStackView");
     objc_release(cell);
 }
 
 TEST_F(CellsTest, TheHeadersLabelsAreSetAsTheyAreToLook) {
-    auto* const cell = newCell("CxHeaderCell", 0, nullptr, row({{"description", "Text"}}));
+    auto* const cell = newCell("CxHeaderCell", 0, nullptr, row({{"description", text("Text")}}));
     auto lines = journalOf({"-[UILabel ", "+[UIFont "});
     std::erase_if(lines, [](const std::string& line) { return line.contains("initWithFrame"); });
     EXPECT_EQ(
@@ -239,9 +218,9 @@ TEST_F(CellsTest, ARowOfButtonsWithoutASpecifierIsRefused) {
 }
 
 TEST_F(CellsTest, ARowOfButtonsIsBuiltEachTimeItComesIntoASuperview) {
-    auto* const cell = newCell("TweakCustomCell", 0, nullptr, row({{"leftIcon", "one"}}));
+    auto* const cell = newCell("TweakCustomCell", 0, nullptr, row({{"leftIcon", text("one")}}));
     auto* const table = newByName("UIView");
-    const auto stacks = [&] { return instanceAs<UIView>(cell)->subviews().size(); };
+    const auto stacks = [&] { return subviewCountOf(cell); };
     EXPECT_EQ(stacks(), 0U);
     moveView(cell, table);
     EXPECT_EQ(stacks(), 1U);
@@ -259,14 +238,14 @@ TEST_F(CellsTest, ARowOfButtonsIsBuiltEachTimeItComesIntoASuperview) {
 
 TEST_F(CellsTest, AButtonOfTheRowIsReadiedStepByStep) {
     auto* const cell = newCell("TweakCustomCell", 0, nullptr,
-                               row({{"leftIcon", "one"},
-                                    {"leftLabel", "First"},
-                                    {"leftClass", "FirstPage"},
-                                    {"iconColor", "F00"},
-                                    {"iconShadowColor", "0000ff80"},
-                                    {"fontColor", "default"},
-                                    {"iconInset", 12},
-                                    {"renderingMode", "true"}}));
+                               row({{"leftIcon", text("one")},
+                                    {"leftLabel", text("First")},
+                                    {"leftClass", text("FirstPage")},
+                                    {"iconColor", text("F00")},
+                                    {"iconShadowColor", text("0000ff80")},
+                                    {"fontColor", text("default")},
+                                    {"iconInset", number(12)},
+                                    {"renderingMode", text("true")}}));
     auto* const table = newByName("UIView");
     moveView(cell, table);
     auto lines = takeJournal();
@@ -291,26 +270,27 @@ TEST_F(CellsTest, AButtonOfTheRowIsReadiedStepByStep) {
 }
 
 TEST_F(CellsTest, ATapSendsTheButtonToTheRowsTarget) {
-    auto* const cell = newCell("TweakCustomCell", 0, nullptr, row({{"middleClass", "SecondPage"}}));
+    auto* const cell = newCell("TweakCustomCell", 0, nullptr, row({{"middleClass", text("SecondPage")}}));
     auto* const table = newByName("UIView");
     moveView(cell, table);
-    const auto stack = instanceAs<UIView>(cell)->subviews().front();
-    const auto button = dynamicCast<TweakButton>(stack->subviews().at(1)->subviews().front());
-    ASSERT_TRUE(button);
-    button->sendActionsForControlEvents(UIControlEvents::TouchUpInside);
-    EXPECT_EQ(instanceAs<OpeningPage>(page)->opened, (std::vector<Ref<UIControl>>{button}));
-    EXPECT_EQ(button->identifier(), "SecondPage");
-    perform(objectOf(*button), "setIdentifier:", text("Other"));
-    EXPECT_EQ(button->identifier(), "Other");
-    instanceAs<OpeningPage>(page)->opened.clear();
+    constexpr unsigned long touchUpInside = 64;
+    auto* const button = subviewOf(subviewOf(subviewOf(cell, 0), 1), 0);
+    ASSERT_STREQ(class_getName(object_getClass(button)), "TweakButton");
+    sendActions(button, touchUpInside);
+    EXPECT_EQ(openerOf(page, 0), button);
+    EXPECT_EQ(openerOf(page, 1), nullptr);
+    EXPECT_EQ(describedAnswer(button, "identifier"), "\"SecondPage\"");
+    perform(button, "setIdentifier:", text("Other"));
+    EXPECT_EQ(describedAnswer(button, "identifier"), "\"Other\"");
+    forgetOpenersOf(page);
     objc_release(cell);
     objc_release(table);
 }
 
 TEST_F(CellsTest, TheRowsSmallerMethodsAnswerObjectiveC) {
-    auto* const cell = newCell("TweakCustomCell", 0, nullptr, row({{"rightIcon", "three"}}));
+    auto* const cell = newCell("TweakCustomCell", 0, nullptr, row({{"rightIcon", text("three")}}));
     const auto color = [&](const char* selector, const char* hex) {
-        return textOf(perform(perform(cell, selector, text(hex)), "description", nullptr));
+        return described(perform(cell, selector, text(hex)));
     };
     takeJournal();
     EXPECT_NE(loadedImage(cell, text("one"), 2), nullptr);
@@ -324,6 +304,6 @@ TEST_F(CellsTest, TheRowsSmallerMethodsAnswerObjectiveC) {
     EXPECT_EQ(color("getFontColor:", "default"), "label");
     EXPECT_EQ(color("getFontColor:", "00f"), "rgba(0, 0, 1, 1)");
     perform(cell, "setupUI", nullptr);
-    EXPECT_EQ(instanceAs<UIView>(cell)->subviews().size(), 1U);
+    EXPECT_EQ(subviewCountOf(cell), 1U);
     objc_release(cell);
 }

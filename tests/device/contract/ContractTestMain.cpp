@@ -1,35 +1,14 @@
 #include "ClassPublisher.h"
-#include "Framework.h"
-#include "Journal.h"
-#include "Runtime.h"
+#include "CodeUnderTest.h"
+#include "StateOfEachTest.h"
 #include "SystemStandIns.h"
 
 #include <gtest/gtest.h>
 
-#include <optional>
-
-namespace {
-
-/// Each test has an autorelease pool, as whatever runs on a device's main thread has, and a journal of its
-/// own. What it has begun and left to be done ends with it.
-class StateOfEachTest final : public testing::EmptyTestEventListener {
-public:
-    void OnTestStart(const testing::TestInfo& /*test*/) override {
-        pool_.emplace();
-        takeJournal();
-    }
-
-    void OnTestEnd(const testing::TestInfo& /*test*/) override {
-        finishAnimations();
-        runWaitingWork();
-        pool_.reset();
-    }
-
-private:
-    std::optional<AutoreleasePool> pool_;
-};
-
-} // namespace
+std::string folderOfCode() {
+    const std::string services = servicesLibrary(); // which is built beside the programs
+    return services.substr(0, services.rfind('/'));
+}
 
 // What the runtime and GNUstep allocate for themselves and never free.
 // NOLINTBEGIN(bugprone-reserved-identifier): the sanitizer asks for these names

@@ -19,16 +19,19 @@ static id endObject(id self, SEL selector, ...) {
     return nil;
 }
 
-@implementation NSObject (EndOfObjects)
-- (oneway void)release {
+static id releaseObject(id self, SEL selector, ...) {
+    (void)selector;
     if (takeOwnerAway(self, hasOneOwner, NSDecrementExtraRefCountWasZero)) {
         const void* ended = self;
         [self dealloc];
         forgetEnd(ended);
     }
+    return nil;
 }
 
+@implementation NSObject (EndOfObjects)
 + (void)load {
     class_replaceMethod(self, @selector(dealloc), endObject, "v@:");
+    class_replaceMethod(self, @selector(release), releaseObject, "Vv@:");
 }
 @end

@@ -2,14 +2,20 @@
 #import "Journal.h"
 #import "StandIns.h"
 
-void NSLog(NSString *format, ...) {
+void logWithArguments(NSString *format, va_list arguments);
+
+void logWithArguments(NSString *format, va_list arguments) {
     NSAutoreleasePool *pool = [NSAutoreleasePool new];
-    va_list list;
-    va_start(list, format);
-    NSString *line = [[[NSString alloc] initWithFormat:format arguments:list] autorelease];
-    va_end(list);
+    NSString *line = [[[NSString alloc] initWithFormat:format arguments:arguments] autorelease];
     addToJournal([[@"log: " stringByAppendingString:line] UTF8String]);
     [pool release];
+}
+
+void NSLog(NSString *format, ...) {
+    va_list arguments;
+    va_start(arguments, format);
+    logWithArguments(format, arguments);
+    va_end(arguments);
 }
 
 // The preferences of each suite, for as long as the process lives.
@@ -72,6 +78,17 @@ static NSMutableDictionary *suites;
 
 void forgetSuites(void) {
     DESTROY(suites);
+}
+
+static NSString *const panesSuite = @"com.orvel.corvexprefs";
+
+id storedValue(const char *key) {
+    return [[suites objectForKey:panesSuite] objectForKey:[NSString stringWithUTF8String:key]];
+}
+
+void storeValue(id value, const char *key) {
+    [[[SuiteDefaults alloc] initWithSuite:panesSuite] release]; // which makes the suite when there is none
+    [[suites objectForKey:panesSuite] setObject:value forKey:[NSString stringWithUTF8String:key]];
 }
 
 @interface NSFileHandle (StandIn)

@@ -3,6 +3,8 @@
 #include "CoreGraphics/CGGeometry.h"
 #include "Runtime.h"
 
+#include <string>
+
 /// What the frameworks do to the pane, done by Objective-C code: its messages are the compiler's own. Objects
 /// are autoreleased unless it says otherwise.
 extern "C" {
@@ -77,7 +79,10 @@ void layOut(id view);
 
 /// A message by the text of its selector, with objects, as target and action send them.
 id perform(id receiver, const char* selector, id argument);
+bool answersTo(id receiver, const char* selector);
 id performWithTwo(id receiver, const char* selector, id first, id second);
+/// With three objects and a number more, for methods of as many parameters or one less.
+id performWithMore(id receiver, const char* selector, id first, id second, id third, std::int64_t number);
 /// The same through the types that the class was published with, and answered as a number.
 long invokeForInteger(id receiver, const char* selector, id argument);
 void invokeWithDouble(id receiver, const char* selector, double argument);
@@ -93,11 +98,63 @@ const char* typesOf(const char* className, const char* selector);
 const char** selectorsOf(const char* className);
 
 id number(double value);
+id boolean(bool value);
+id wholeNumber(long long value);
+id largeNumber(unsigned long long value);
 id text(const char* utf8);
+id listOf(id first, id second);
 id emptySpecifier();
+
+/// As the journal writes an argument.
+const char* descriptionOf(id object);
+unsigned countOfArray(id array);
+id elementOf(id array, unsigned index);
+
+void readFrame(id view, CGRect* frame);
+void readBounds(id view, CGRect* bounds);
+void setFrameOf(id view, CGRect frame);
+unsigned subviewCountOf(id view);
+/// Null when there are not so many.
+id subviewOf(id view, unsigned index);
+void sendActions(id control, unsigned long events);
+
+void dismissPresented(id controller);
+void showPage(id navigation, id page);
+/// Of the sheet that a controller has presented; null when there is none there.
+id fieldPresentedBy(id controller);
+/// What was given to an "OpeningPage", a controller that does no more with it.
+id openerOf(id page, unsigned index);
+void forgetOpenersOf(id page);
+
+/// What the pane's preferences hold; null for nothing.
+id storedValue(const char* key);
+void storeValue(id value, const char* key);
+const char* temporaryFolder();
 
 /// How many objects of exactly that class are alive.
 long aliveOf(const char* className);
 /// The preferences of all suites are gone.
 void forgetSuites();
+}
+
+/// Of a description by `descriptionOf`.
+[[nodiscard]] inline std::string described(id object) {
+    return descriptionOf(object);
+}
+
+/// What an object answers to a message without an argument, described.
+[[nodiscard]] inline std::string describedAnswer(id object, const char* selector) {
+    return described(perform(object, selector, nullptr));
+}
+
+[[nodiscard]] inline CGRect frameOf(id view) {
+    CGRect frame;
+    readFrame(view, &frame);
+    return frame;
+}
+
+[[nodiscard]] inline CGRect boundsOf(id view) {
+    CGRect bounds;
+    readBounds(view, &bounds);
+    return bounds;
 }

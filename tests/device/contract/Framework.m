@@ -119,7 +119,7 @@ void choose(UIAction *action) {
 }
 
 void answerAlertOf(UIViewController *controller, unsigned index) {
-    UIAlertController *alert = [[controller->presented retain] autorelease];
+    UIAlertController *alert = (UIAlertController *)[[controller->presented retain] autorelease];
     UIAlertAction *action = [alert->actions objectAtIndex:index];
     DESTROY(controller->presented);
     if (action->handler)
@@ -162,6 +162,12 @@ id perform(id receiver, const char *selector, id argument) {
 
 id performWithTwo(id receiver, const char *selector, id first, id second) {
     return [receiver performSelector:sel_registerName(selector) withObject:first withObject:second];
+}
+
+id performWithMore(id receiver, const char *selector, id first, id second, id third, long number) {
+    typedef id (*Method)(id, SEL, id, id, id, long);
+    SEL name = sel_registerName(selector);
+    return ((Method)[receiver methodForSelector:name])(receiver, name, first, second, third, number);
 }
 
 static NSInvocation *invocationWithTwo(id receiver, const char *selector, void *argument, void *second) {

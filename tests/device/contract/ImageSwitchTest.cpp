@@ -1,11 +1,12 @@
 #include "Framework.h"
-#include "GlintImageSwitch.h"
-#include "Instances.h"
 #include "Journal.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <string>
+#include <string_view>
+#include <vector>
 
 namespace {
 
@@ -82,11 +83,13 @@ protected:
         objc_release(control);
     }
 
-    [[nodiscard]] GlintImageSwitch& instance() const {
-        return dynamic_cast<GlintImageSwitch&>(*instanceOf(control));
-    }
+    [[nodiscard]] id part(const char* name) const { return perform(control, name, nullptr); }
 
-    [[nodiscard]] CGRect thumb() const { return instance().thumbView()->frame(); }
+    [[nodiscard]] CGRect thumb() const { return frameOf(part("thumbView")); }
+
+    [[nodiscard]] bool isOn() const { return invokeForBoolean(control, "isOn"); }
+
+    void setOn() const { invokeWithBooleans(control, "setOn:", true, false); }
 
     const id control = newWithFrame("GlintImageSwitch", CGRect());
 };
@@ -109,7 +112,7 @@ TEST(ImageSwitchMakingTest, EveryInitialiserMakesTheSwitchWithItsParts) {
         EXPECT_EQ(std::ranges::count(lines, "-[GlintImageSwitch addSubview:] UIView"), 2);
         EXPECT_EQ(std::ranges::count(lines, "-[UIView addSubview:] UIImageView"), 3);
         EXPECT_EQ(std::ranges::count(lines, "-[UIView addSubview:] UILabel"), 2);
-        EXPECT_EQ(instanceAs<GlintImageSwitch>(control)->bounds().size, (CGSize{50, 30}));
+        EXPECT_EQ(boundsOf(control).size, (CGSize{50, 30}));
         objc_release(control);
     }
     EXPECT_EQ(aliveOf("GlintImageSwitch"), 0);
@@ -127,15 +130,15 @@ TEST_F(ImageSwitchTest, IsMadeOfItsPartsInOrder) {
 }
 
 TEST_F(ImageSwitchTest, ItsPartsAreFoundByTheirNames) {
-    const auto part = [this](const char* name) { return perform(control, name, nullptr); };
-    EXPECT_EQ(part("onLabel"), objectOf(*instance().onLabel()));
-    EXPECT_EQ(part("offLabel"), objectOf(*instance().offLabel()));
-    EXPECT_EQ(part("backgroundView"), objectOf(*instance().backgroundView()));
-    EXPECT_EQ(part("thumbView"), objectOf(*instance().thumbView()));
+    auto* const track = subviewOf(control, 0);
+    EXPECT_EQ(part("backgroundView"), track);
+    EXPECT_EQ(part("thumbView"), subviewOf(control, 1));
+    EXPECT_EQ(part("onLabel"), subviewOf(track, 2));
+    EXPECT_EQ(part("offLabel"), subviewOf(track, 3));
 }
 
 TEST_F(ImageSwitchTest, ItsLookChangesOnePartAfterTheOther) {
-    instance().setOn(true);
+    setOn();
     EXPECT_EQ(takeJournal(),
               (Lines{"-[UIView setFrame:] {{21, 1}, {28, 28}}",
                      "-[UIView setBackgroundColor:] rgba(0.3, 0.85, 0.39, 1)",
@@ -145,8 +148,8 @@ TEST_F(ImageSwitchTest, ItsLookChangesOnePartAfterTheOther) {
 }
 
 TEST_F(ImageSwitchTest, LayoutPlacesEveryPartAndLeavesTheShadow) {
-    instance().setOn(true);
-    instance().setFrame(CGRectMake(0, 0, 100, 40));
+    setOn();
+    setFrameOf(control, CGRectMake(0, 0, 100, 40));
     takeJournal();
     layOut(control);
     EXPECT_EQ(
@@ -159,7 +162,7 @@ TEST_F(ImageSwitchTest, LayoutPlacesEveryPartAndLeavesTheShadow) {
 }
 
 TEST_F(ImageSwitchTest, OtherCornersComeWithAnotherShadow) {
-    instance().setRounded(false);
+    invokeWithBooleans(control, "setRounded:", false, false);
     EXPECT_EQ(takeJournal(),
               (Lines{"-[CALayer setCornerRadius:] 2", "-[CALayer setCornerRadius:] 2",
                      "+[UIBezierPath bezierPathWithRoundedRect:cornerRadius:] {{0, 0}, {28, 28}} 2",
@@ -183,7 +186,7 @@ TEST_F(ImageSwitchTest, AFingerThatCrossesTheMiddleFlipsTheSwitch) {
                      "-[GlintImageSwitch continueTrackingWithTouch:withEvent:] UITouch nil",
                      "-[GlintImageSwitch endTrackingWithTouch:withEvent:] UITouch nil",
                      "-[GlintImageSwitch sendActionsForControlEvents:] 4096"}));
-    EXPECT_TRUE(instance().isOn());
+    EXPECT_TRUE(isOn());
     EXPECT_EQ(thumb(), CGRectMake(21, 1, 28, 28));
 }
 
@@ -203,7 +206,7 @@ TEST_F(ImageSwitchTest, ATouchThatIsTakenAwayChangesNothing) {
     touchMoved(control, 40);
     takeJournal();
     touchCancelled(control);
-    EXPECT_FALSE(instance().isOn());
+    EXPECT_FALSE(isOn());
     EXPECT_EQ(thumb().origin.x, 1);
     const auto lines = takeJournal();
     ASSERT_GE(lines.size(), 2U);
@@ -219,8 +222,8 @@ TEST_F(ImageSwitchTest, TheThumbIsWiderWhileTheControlIsHandled) {
 }
 
 TEST_F(ImageSwitchTest, LayoutIsTheSwitchsAndWaitsForAnimations) {
-    instance().setOn(true);
-    instance().setFrame(CGRectMake(0, 0, 100, 40));
+    setOn();
+    setFrameOf(control, CGRectMake(0, 0, 100, 40));
     touchDown(control, 60);
     layOut(control);
     EXPECT_EQ(thumb().size.height, 28);

@@ -1,16 +1,14 @@
+#include "CodeUnderTest.h"
 #include "Framework.h"
-#include "Instances.h"
 #include "Journal.h"
-#include "PreferenceStore.h"
-#include "PropertyListObject.h"
 #include "SystemStandIns.h"
-#include "Text.h"
-#include "UIKit/UINavigationController.h"
-#include "cxRootListController.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <string>
+#include <string_view>
+#include <vector>
 
 namespace {
 
@@ -19,34 +17,21 @@ using Lines = std::vector<std::string>;
 /// The bundle's page, made and asked as the Preferences framework makes and asks it.
 class RootPageTest : public testing::Test {
 protected:
-    RootPageTest() { setServicesLibrary(SERVICES_LIBRARY); }
+    RootPageTest() { setServicesLibrary(servicesLibrary()); }
 
     ~RootPageTest() override {
-        instance().dismissViewControllerAnimated(false, {}); // what is presented may keep the page alive
+        dismissPresented(page); // what is presented may keep the page alive
         objc_release(page);
         forgetSuites();
         refuseInitialisersOf(nullptr);
-        setServicesLibrary({});
+        setServicesLibrary(nullptr);
     }
 
     /// \param knowsWhatIsNew whether that has been shown before
     void load(bool knowsWhatIsNew = true) const {
         if (knowsWhatIsNew)
-            store("3.0.1", "LastVersionPopupShown");
+            storeValue(text("3.0.1"), "LastVersionPopupShown");
         viewOf(page);
-    }
-
-    static void store(const PropertyList& value, std::string_view key) {
-        PreferenceStore::open()->setObject(value, key);
-        takeJournal();
-    }
-
-    [[nodiscard]] static std::optional<PropertyList> stored(std::string_view key) {
-        return PreferenceStore::open()->objectForKey(key);
-    }
-
-    [[nodiscard]] cxRootListController& instance() const {
-        return dynamic_cast<cxRootListController&>(*instanceOf(page));
     }
 
     /// The lines of the journal that hold any of the texts.
@@ -65,7 +50,7 @@ protected:
 
 TEST_F(RootPageTest, IsMadeByNameAsASubclassOfTheFrameworksPage) {
     EXPECT_STREQ(class_getName(class_getSuperclass(object_getClass(page))), "PSListController");
-    EXPECT_NE(dynamic_cast<cxRootListController*>(instanceOf(page)), nullptr);
+    EXPECT_STREQ(class_getName(object_getClass(page)), "cxRootListController");
 }
 
 TEST_F(RootPageTest, SpecifiersAreLoadedOnceAndAreTheInheritedArrayItself) {
@@ -78,32 +63,30 @@ TEST_F(RootPageTest, SpecifiersAreLoadedOnceAndAreTheInheritedArrayItself) {
     EXPECT_EQ(specifiers, keptSpecifiersOf(page));
     EXPECT_EQ(specifiersOf(page), specifiers);
     EXPECT_TRUE(takeJournal().empty());
-    ASSERT_EQ(instance().specifiers().size(), 2U);
-    EXPECT_EQ(instance().specifiers()[1]->propertyForKey("id"), PropertyList("row"));
+    ASSERT_EQ(countOfArray(specifiers), 2U);
+    EXPECT_EQ(described(perform(elementOf(specifiers, 1), "propertyForKey:", text("id"))), "\"row\"");
     EXPECT_EQ(aliveOf("PSSpecifier"), 2);
 }
 
 TEST_F(RootPageTest, RowsAreReadAndWrittenByTheFramework) {
     auto* const specifier = emptySpecifier();
-    instanceAs<PSSpecifier>(specifier)->performSelector("setProperty:forKey:",
-                                                        {PropertyList(0.5), PropertyList("value")});
-    EXPECT_EQ(propertyListOf(readValueOf(page, specifier)), PropertyList(0.5));
+    performWithTwo(specifier, "setProperty:forKey:", number(0.5), text("value"));
+    EXPECT_EQ(described(readValueOf(page, specifier)), "0.5");
     setValueOf(page, number(2), specifier);
     EXPECT_EQ(takeJournal(), (Lines{"-[PSSpecifier setProperty:forKey:] 0.5 \"value\"",
                                     "-[cxRootListController readPreferenceValue:] PSSpecifier",
                                     "-[cxRootListController setPreferenceValue:specifier:] 2 PSSpecifier"}));
-    EXPECT_TRUE(instance().cachedSpecifiers().empty());
+    EXPECT_EQ(keptSpecifiersOf(page), nullptr);
 }
 
 TEST_F(RootPageTest, ARowIsFoundByItsIdentifier) {
     specifiersOf(page);
-    EXPECT_TRUE(instance().specifierForID("row"));
-    EXPECT_FALSE(instance().specifierForID("other"));
+    EXPECT_NE(perform(page, "specifierForID:", text("row")), nullptr);
+    EXPECT_EQ(perform(page, "specifierForID:", text("other")), nullptr);
 }
 
 TEST_F(RootPageTest, TellsTheFrameworkTheBundleThatItsCodeIsIn) {
-    const std::string_view program = SERVICES_LIBRARY; // which is built beside this one
-    EXPECT_EQ(bundlePathOf(page), program.substr(0, program.rfind('/')));
+    EXPECT_EQ(bundlePathOf(page), folderOfCode());
 }
 
 TEST_F(RootPageTest, LoadingTheViewDoesOneThingAfterTheOther) {
@@ -118,16 +101,14 @@ TEST_F(RootPageTest, LoadingTheViewDoesOneThingAfterTheOther) {
 }
 
 TEST_F(RootPageTest, TheMasterSwitchIsInTheBarWithAllItsProperties) {
-    store(true, "kEnabled");
+    storeValue(boolean(true), "kEnabled");
     load();
-    const auto shown = instanceAs<GlintImageSwitch>(titleViewOf(page));
-    ASSERT_TRUE(shown);
-    EXPECT_TRUE(shown->isOn());
-    EXPECT_TRUE(shown->isRounded());
-    EXPECT_EQ(shown->frame(), CGRectMake(135, 339, 50, 30));
-    const auto description = [&](const char* property) {
-        return textOf(perform(perform(objectOf(*shown), property, nullptr), "description", nullptr));
-    };
+    auto* const shown = titleViewOf(page);
+    ASSERT_STREQ(class_getName(object_getClass(shown)), "GlintImageSwitch");
+    EXPECT_TRUE(invokeForBoolean(shown, "isOn"));
+    EXPECT_TRUE(invokeForBoolean(shown, "isRounded"));
+    EXPECT_EQ(frameOf(shown), CGRectMake(135, 339, 50, 30));
+    const auto description = [&](const char* property) { return describedAnswer(shown, property); };
     EXPECT_EQ(description("thumbTintColor"), "rgba(0.19, 0.23, 0.33, 1)");
     EXPECT_EQ(description("onThumbTintColor"), "rgba(0.19, 0.23, 0.33, 1)");
     EXPECT_EQ(description("activeColor"), "rgba(0.07, 0.09, 0.11, 1)");
@@ -136,13 +117,13 @@ TEST_F(RootPageTest, TheMasterSwitchIsInTheBarWithAllItsProperties) {
     EXPECT_EQ(description("borderColor"), "clear");
     EXPECT_EQ(description("shadowColor"), "black");
     for (const auto* property : {"thumbImage", "onImage", "offImage"})
-        EXPECT_EQ(perform(objectOf(*shown), property, nullptr), nullptr) << property;
+        EXPECT_EQ(perform(shown, property, nullptr), nullptr) << property;
     for (const auto* property : {"onLabel", "offLabel", "backgroundView", "thumbView"})
-        EXPECT_NE(perform(objectOf(*shown), property, nullptr), nullptr) << property;
+        EXPECT_NE(perform(shown, property, nullptr), nullptr) << property;
 }
 
 TEST_F(RootPageTest, TheMasterSwitchGetsItsColoursBeforeItsValue) {
-    store(true, "kEnabled");
+    storeValue(boolean(true), "kEnabled");
     load();
     auto* const control = newWithFrame("GlintImageSwitch", CGRect());
     takeJournal();
@@ -165,14 +146,14 @@ TEST_F(RootPageTest, AChangedValueReachesThePageAndIsStored) {
     takeJournal();
     EXPECT_TRUE(touchDown(control, 10));
     touchUp(control, 10);
-    EXPECT_EQ(stored("kEnabled"), PropertyList(true));
+    EXPECT_EQ(described(storedValue("kEnabled")), "1");
     EXPECT_EQ(journalOf({"sendActions", "SuiteDefaults"}),
               (Lines{"-[GlintImageSwitch sendActionsForControlEvents:] 4096",
                      "-[SuiteDefaults setObject:forKey:] 1 \"kEnabled\"", "-[SuiteDefaults synchronize]"}));
     finishAnimations();
     touchDown(control, 10);
     touchUp(control, 10);
-    EXPECT_EQ(stored("kEnabled"), PropertyList(false));
+    EXPECT_EQ(described(storedValue("kEnabled")), "0");
 }
 
 TEST_F(RootPageTest, TheTargetIsThePageItself) {
@@ -211,7 +192,7 @@ TEST_F(RootPageTest, ApplySuspendsTheApplicationAndEndsItHalfASecondLater) {
 }
 
 TEST_F(RootPageTest, WithoutTheServiceNothingIsEnded) {
-    setServicesLibrary({});
+    setServicesLibrary(nullptr);
     perform(page, "terminateSettingsUsingBKS", nullptr);
     EXPECT_EQ(
         takeJournal(),
@@ -250,7 +231,7 @@ TEST_F(RootPageTest, ResetAsksFirst) {
 }
 
 TEST_F(RootPageTest, ConfirmingRemovesAllSettingsReloadsAndEndsSettings) {
-    store("kept by nobody", "unknown key");
+    storeValue(text("kept by nobody"), "unknown key");
     load();
     choose(menuActionOf(page, 1));
     takeJournal();
@@ -267,24 +248,23 @@ TEST_F(RootPageTest, ConfirmingRemovesAllSettingsReloadsAndEndsSettings) {
     EXPECT_EQ((Lines{lines.end() - 3, lines.end()}),
               (Lines{"-[cxRootListController reloadSpecifiers]", "-[UIApplication suspend]",
                      "main queue: after 500000000"}));
-    EXPECT_EQ(stored("unknown key"), std::nullopt);
+    EXPECT_EQ(described(storedValue("unknown key")), "nil");
     runWaitingWork();
 }
 
 TEST_F(RootPageTest, OpensThePageThatTheSenderNames) {
     auto* const navigation = newByName("UINavigationController");
-    instanceAs<UINavigationController>(navigation)
-        ->pushViewController(instanceAs<UIViewController>(page), false);
-    takeJournal();
+    showPage(navigation, page);
     auto* const button = newByName("TweakButton");
-    perform(button, "setIdentifier:", text("OpenedPage"));
+    perform(button, "setIdentifier:", text("cxLabelController"));
     takeJournal();
     perform(page, "openController:", button);
-    EXPECT_EQ(takeJournal(),
-              (Lines{"sound 1519", "-[UINavigationController pushViewController:animated:] OpenedPage 1"}));
+    EXPECT_EQ(
+        takeJournal(),
+        (Lines{"sound 1519", "-[UINavigationController pushViewController:animated:] cxLabelController 1"}));
     objc_release(button);
     objc_release(navigation);
-    EXPECT_EQ(aliveOf("OpenedPage"), 0);
+    EXPECT_EQ(aliveOf("cxLabelController"), 0);
 }
 
 TEST_F(RootPageTest, ANameThatNoPageHasIsLogged) {
@@ -327,7 +307,7 @@ TEST_F(RootPageTest, WhatIsNewIsShownOnceOnASheet) {
                "-[cxRootListController presentViewController:animated:completion:] OBWelcomeController 1",
                "-[SuiteDefaults setObject:forKey:] \"3.0.1\" \"LastVersionPopupShown\"",
                "-[SuiteDefaults synchronize]"}));
-    EXPECT_EQ(stored("LastVersionPopupShown"), PropertyList("3.0.1"));
+    EXPECT_EQ(described(storedValue("LastVersionPopupShown")), "\"3.0.1\"");
 }
 
 TEST_F(RootPageTest, WithoutTheSheetNothingIsShown) {
@@ -375,6 +355,55 @@ TEST_F(RootPageTest, WhatIsKeptForOthersIsKept) {
 TEST_F(RootPageTest, AnObjectOfAnotherClassArrivesAsNone) {
     perform(page, "setToggleSwitch:", emptySpecifier());
     EXPECT_EQ(perform(page, "toggleSwitch", nullptr), nullptr);
+}
+
+TEST_F(RootPageTest, WhateverObjectComesIsToldApartAndLeftAsItWas) {
+    for (const auto* const name : {"CAGradientLayer",
+                                   "CALayer",
+                                   "NSMutableSet",
+                                   "PSControlTableCell",
+                                   "PSListController",
+                                   "PSSwitchTableCell",
+                                   "UIApplication",
+                                   "UIButton",
+                                   "UIControl",
+                                   "UIEvent",
+                                   "UILabel",
+                                   "UIMenu",
+                                   "UINavigationBar",
+                                   "UINavigationController",
+                                   "UIResponder",
+                                   "UIScrollView",
+                                   "UIStackView",
+                                   "UITableView",
+                                   "UITableViewCell",
+                                   "UITextField",
+                                   "UITouch",
+                                   "UIViewController",
+                                   "NSLayoutDimension",
+                                   "NSLayoutXAxisAnchor",
+                                   "UIAction",
+                                   "UIAlertController",
+                                   "UIBarButtonItem",
+                                   "UIBezierPath",
+                                   "UIDevice",
+                                   "UIFont",
+                                   "UILayoutGuide",
+                                   "UINavigationItem",
+                                   "UIPopoverPresentationController",
+                                   "UITapGestureRecognizer",
+                                   "UIVisualEffectView"}) {
+        const auto before = aliveOf(name);
+        {
+            const AutoreleasePool pool;
+            auto* const object = newByName(name);
+            ASSERT_NE(object, nullptr) << name;
+            perform(page, "setToggleSwitch:", object);
+            EXPECT_EQ(perform(page, "toggleSwitch", nullptr), nullptr) << name;
+            objc_release(object);
+        }
+        EXPECT_EQ(aliveOf(name), before) << name;
+    }
 }
 
 TEST(RootPageEndTest, APageThatEndsDismissesNothing) {

@@ -1,5 +1,6 @@
 #import "StandIns.h"
 
+#import "BlockCalls.h"
 #import "Journal.h"
 
 #import <objc/runtime.h>
@@ -47,12 +48,6 @@ const char *textOfString(NSString *string) {
     return [string UTF8String];
 }
 
-struct Block {
-    void *isa;
-    int flags, reserved;
-    void (*invoke)(void);
-};
-
 void *copyBlock(void *block) {
     return block ? _Block_copy(block) : NULL;
 }
@@ -63,15 +58,15 @@ void releaseBlock(void *block) {
 }
 
 void callBlock(void *block) {
-    ((void (*)(void *))((struct Block *)block)->invoke)(block);
+    ((void (*)(void *))functionOfBlock(block))(block);
 }
 
 void callBlockWithBool(void *block, BOOL value) {
-    ((void (*)(void *, BOOL))((struct Block *)block)->invoke)(block, value);
+    ((void (*)(void *, BOOL))functionOfBlock(block))(block, value);
 }
 
 void callBlockWithObject(void *block, id object) {
-    ((void (*)(void *, id))((struct Block *)block)->invoke)(block, object);
+    ((void (*)(void *, id))functionOfBlock(block))(block, object);
 }
 
 @implementation UIColor

@@ -4,20 +4,10 @@
 #include "SystemStandIns.h"
 
 #include "Journal.h"
-#include "Runtime.h"
-#include "Text.h"
 
 #include <deque>
 #include <string_view>
 #include <utility>
-
-// The types that the device's half knows by name alone.
-// NOLINTBEGIN(misc-use-internal-linkage)
-struct DispatchQueue {};
-
-struct NotificationCenterObject {};
-
-// NOLINTEND(misc-use-internal-linkage)
 
 namespace {
 
@@ -52,11 +42,17 @@ std::size_t runWaitingWork() {
     return count;
 }
 
-void setServicesLibrary(std::string path) {
-    librarySetAside() = std::move(path);
+extern "C" {
+const char* textOfString(id string);
+
+void setServicesLibrary(const char* path) {
+    librarySetAside() = path != nullptr ? path : "";
 }
 
-extern "C" {
+const char* servicesLibrary() {
+    return SERVICES_LIBRARY;
+}
+
 DispatchQueue _dispatch_main_q;
 
 void dispatch_async_f(DispatchQueue* queue, void* context, void (*work)(void* context)) {
@@ -83,7 +79,7 @@ void CFNotificationCenterPostNotification(NotificationCenterObject* center, id n
                                           const void* userInfo, bool deliverImmediately) {
     const bool isAsMeant = center == CFNotificationCenterGetDarwinNotifyCenter() && object == nullptr &&
                            userInfo == nullptr && deliverImmediately;
-    tell((isAsMeant ? "Darwin notification " : "another notification ") + textOf(name));
+    tell((isAsMeant ? "Darwin notification " : "another notification ") + std::string(textOfString(name)));
 }
 
 void AudioServicesPlaySystemSound(std::uint32_t sound) {

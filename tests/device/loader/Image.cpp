@@ -1,141 +1,149 @@
 #include "Image.h"
 
-#include "Imports.h"
+#include "Failure.h"
 #include "Kernel.h"
 
 namespace {
 
-constexpr size_t largestFile = 1U << 20U;
 constexpr size_t pageSize = 0x4000;
+constexpr unsigned plainFormat = 2;
+constexpr unsigned signedFormat = 12;
 
-template <class T>
-T read(const uint8_t* place) {
-    T value;
-    memcpy(&value, place, sizeof value);
-    return value;
-}
-
-uint64_t bits(uint64_t number, unsigned first, unsigned count) {
-    return number >> first & ((1ULL << count) - 1);
-}
-
-uint64_t signedPointer(uint64_t pointer, uint64_t modifier, unsigned key) {
-    switch (key) {
-    case 0: // NOLINT(bugprone-branch-clone): the instructions differ
-        __asm("pacia %0, %1" : "+r"(pointer) : "r"(modifier));
-        break;
-    case 1:
-        __asm("pacib %0, %1" : "+r"(pointer) : "r"(modifier));
-        break;
-    case 2:
-        __asm("pacda %0, %1" : "+r"(pointer) : "r"(modifier));
-        break;
-    default:
-        __asm("pacdb %0, %1" : "+r"(pointer) : "r"(modifier));
-    }
-    return pointer;
+uint8_t* allocatePages(size_t size) {
+    auto* const memory = Kernel::allocate(size + pageSize);
+    if (memory == nullptr)
+        fail("no memory is left");
+    return memory + (pageSize - reinterpret_cast<uint64_t>(memory) % pageSize) % pageSize;
 }
 
 } // namespace
 
-Image::Image(const char* path, unsigned disturbedKey)
-    : file_(Kernel::mapFile(path, largestFile)),
-      memory_(Kernel::allocate(largestFile + pageSize)) {
-    if (file_ == nullptr || memory_ == nullptr)
-        fail("cannot read ", path);
-    if (read<uint32_t>(file_) != 0xFEEDFACF || read<uint32_t>(file_ + 8) != 0x80000002)
-        fail("no file for arm64e: ", path);
-    memory_ += pageSize - reinterpret_cast<uint64_t>(memory_) % pageSize;
-    readCommands();
-    bindImports();
-    const auto* const starts = fixups_ + read<uint32_t>(fixups_ + 4);
-    for (uint32_t i = 0; i < read<uint32_t>(starts); ++i)
-        if (const auto offset = read<uint32_t>(starts + 4 + 4ULL * i); offset != 0)
-            fillSegment(starts + offset, disturbedKey);
+Image::Image(const char* path, Architecture architecture, Binder bind, Disturbance disturbance)
+    : file_(path, architecture),
+      disturbance_(disturbance),
+      fixups_(file_.chainedFixups()),
+      size_(file_.memorySize()),
+      memory_(allocatePages(size_)) {
+    if (!file_.hasRightSignature())
+        fail("the code is not as it was signed in ", path);
+    if (fixups_ == nullptr)
+        fail("nothing says where the pointers are in ", path);
+    placeSegments();
+    bindImports(bind);
+    const auto* const starts = fixups_ + readNumber<uint32_t>(fixups_ + 4);
+    for (uint32_t i = 0; i < readNumber<uint32_t>(starts); ++i) {
+        if (const auto offset = readNumber<uint32_t>(starts + 4 + 4ULL * i); offset != 0)
+            fillSegment(starts + offset);
+    }
+    protectSegments();
 }
 
 void Image::runInitialisers() const {
-    for (uint64_t i = 0; i < initialiserCount_; ++i)
-        reinterpret_cast<void (*)()>(memory_ + read<uint32_t>(memory_ + initialisers_ + 4 * i))();
+    constexpr uint8_t initialiserOffsets = 0x16;
+    const auto offsets = file_.sectionOfKind(initialiserOffsets);
+    for (uint64_t i = 0; i < offsets.size / 4; ++i)
+        reinterpret_cast<void (*)()>(memory_ + readNumber<uint32_t>(memory_ + offsets.address + 4 * i))();
 }
 
-int (*Image::function(const char* symbol) const)() {
-    const auto* const symbols = file_ + read<uint32_t>(symbolTable_ + 8);
-    const auto* const names = reinterpret_cast<const char*>(file_ + read<uint32_t>(symbolTable_ + 16));
-    for (uint32_t i = 0; i < read<uint32_t>(symbolTable_ + 12); ++i)
-        if (const auto* const entry = symbols + 16ULL * i; areEqual(names + read<uint32_t>(entry), symbol))
-            return reinterpret_cast<int (*)()>(memory_ + read<uint64_t>(entry + 8));
-    fail("the bundle does not export ", symbol);
+void* Image::exported(const char* symbol) const {
+    uint64_t address = 0;
+    if (!file_.exported(symbol, address))
+        fail("the bundle does not export ", symbol);
+    return memory_ + address;
 }
 
-void Image::readCommands() {
-    const auto* command = file_ + 32;
-    for (uint32_t i = 0; i < read<uint32_t>(file_ + 16); ++i) {
-        const auto type = read<uint32_t>(command);
-        if (type == 0x19)
-            readSegment(command);
-        else if (type == 0x80000034)
-            fixups_ = file_ + read<uint32_t>(command + 8);
-        else if (type == 2)
-            symbolTable_ = command;
-        command += read<uint32_t>(command + 4);
+const void* const* Image::classRecords() const {
+    return reinterpret_cast<const void* const*>(memory_ + file_.sectionNamed("__objc_classlist").address);
+}
+
+size_t Image::classRecordCount() const {
+    return file_.sectionNamed("__objc_classlist").size / sizeof(void*);
+}
+
+bool Image::contains(const void* address) const {
+    return address >= memory_ && address < memory_ + size_;
+}
+
+void Image::placeSegments() {
+    ImageFile::Segment segment{};
+    for (unsigned i = 0; file_.segment(i, segment); ++i)
+        __builtin_memcpy(memory_ + segment.address, segment.content, segment.contentSize);
+}
+
+void Image::protectSegments() const {
+    constexpr uint32_t writable = 2;
+    ImageFile::Segment segment{};
+    for (unsigned i = 0; file_.segment(i, segment); ++i) {
+        const auto protection = segment.isFixed ? segment.protection & ~writable : segment.protection;
+        if (!Kernel::protect(memory_ + segment.address, segment.size, protection))
+            fail("a segment cannot be protected");
     }
 }
 
-void Image::readSegment(const uint8_t* command) {
-    constexpr uint32_t initialiserOffsets = 0x16;
-    const auto address = read<uint64_t>(command + 24);
-    const auto size = read<uint64_t>(command + 48);
-    if (address + size > largestFile)
-        fail("the bundle is larger than the loader expects");
-    memcpy(memory_ + address, file_ + read<uint64_t>(command + 40), size);
-    for (uint32_t i = 0; i < read<uint32_t>(command + 64); ++i) {
-        const auto* const section = command + 72 + 80ULL * i;
-        if (bits(read<uint32_t>(section + 64), 0, 8) != initialiserOffsets)
-            continue;
-        initialisers_ = read<uint64_t>(section + 32);
-        initialiserCount_ = read<uint64_t>(section + 40) / 4;
+void Image::bindImports(Binder bind) {
+    constexpr uint32_t withoutAddends = 1;
+    constexpr uint32_t withAddends = 2;
+    const auto format = readNumber<uint32_t>(fixups_ + 20);
+    if (format != withoutAddends && format != withAddends)
+        fail("the imports are of a format that is not known");
+    importCount_ = readNumber<uint32_t>(fixups_ + 16);
+    imports_ = reinterpret_cast<uint64_t*>(allocatePages(importCount_ * sizeof(uint64_t)));
+    const auto* const names = reinterpret_cast<const char*>(fixups_ + readNumber<uint32_t>(fixups_ + 12));
+    const auto* import = fixups_ + readNumber<uint32_t>(fixups_ + 8);
+    for (unsigned long i = 0; i < importCount_; ++i) {
+        imports_[i] = bind(names + bitsOf(readNumber<uint32_t>(import), 9, 23));
+        if (format == withAddends)
+            imports_[i] += static_cast<uint64_t>(static_cast<int64_t>(readNumber<int32_t>(import + 4)));
+        import += format == withAddends ? 8 : 4;
     }
 }
 
-void Image::bindImports() {
-    if (fixups_ == nullptr || read<uint32_t>(fixups_ + 20) != 2)
-        fail("the bundle's imports are not of the format with addends");
-    const auto* const names = reinterpret_cast<const char*>(fixups_ + read<uint32_t>(fixups_ + 12));
-    for (uint32_t i = 0; i < read<uint32_t>(fixups_ + 16); ++i) {
-        const auto* const import = fixups_ + read<uint32_t>(fixups_ + 8) + 8ULL * i;
-        const auto addend = static_cast<int64_t>(read<int32_t>(import + 4));
-        imports_[i] =
-            Imports::address(names + bits(read<uint32_t>(import), 9, 23)) + static_cast<uint64_t>(addend);
+void Image::fillSegment(const uint8_t* starts) {
+    const unsigned format = readNumber<uint16_t>(starts + 6);
+    if (format != (file_.architecture() == Architecture::Arm64e ? signedFormat : plainFormat))
+        fail("the pointers are not of the architecture's format");
+    for (uint16_t page = 0; page < readNumber<uint16_t>(starts + 20); ++page) {
+        if (const auto first = readNumber<uint16_t>(starts + 22 + 2ULL * page); first != 0xFFFF)
+            fillChain(memory_ + readNumber<uint64_t>(starts + 8) + page * pageSize + first, format);
     }
 }
 
-void Image::fillSegment(const uint8_t* starts, unsigned disturbedKey) {
-    if (read<uint16_t>(starts + 6) != 12)
-        fail("the bundle's pointers are not of the format for arm64e");
-    for (uint16_t page = 0; page < read<uint16_t>(starts + 20); ++page)
-        if (const auto first = read<uint16_t>(starts + 22 + 2ULL * page); first != 0xFFFF)
-            fillChain(memory_ + read<uint64_t>(starts + 8) + page * pageSize + first, disturbedKey);
-}
-
-void Image::fillChain(uint8_t* place, unsigned disturbedKey) {
+void Image::fillChain(uint8_t* place, unsigned format) {
     for (uint64_t distance = 1; distance != 0; place += distance) {
-        const auto content = read<uint64_t>(place);
-        const auto pointer = filled(content, reinterpret_cast<uint64_t>(place), disturbedKey);
-        memcpy(place, &pointer, sizeof pointer);
-        distance = 8 * bits(content, 51, 11);
+        const auto content = readNumber<uint64_t>(place);
+        const auto isPlain = format == plainFormat;
+        const auto pointer =
+            isPlain ? filledPlain(content) : filledSigned(content, reinterpret_cast<uint64_t>(place));
+        __builtin_memcpy(place, &pointer, sizeof pointer);
+        distance = isPlain ? 4 * bitsOf(content, 51, 12) : 8 * bitsOf(content, 51, 11);
     }
 }
 
-uint64_t Image::filled(uint64_t content, uint64_t place, unsigned disturbedKey) const {
-    const auto isSigned = bits(content, 63, 1) != 0;
-    const auto isBound = bits(content, 62, 1) != 0;
-    const auto pointer = isBound ? imports_[bits(content, 0, 8)]
-                                 : reinterpret_cast<uint64_t>(memory_) + bits(content, 0, isSigned ? 32 : 43);
+uint64_t Image::filledPlain(uint64_t content) const {
+    if (bitsOf(content, 63, 1) != 0)
+        return import(bitsOf(content, 0, 24)) + bitsOf(content, 24, 8);
+    return (reinterpret_cast<uint64_t>(memory_) + bitsOf(content, 0, 36)) | bitsOf(content, 36, 8) << 56U;
+}
+
+uint64_t Image::filledSigned(uint64_t content, uint64_t place) {
+    const auto isSigned = bitsOf(content, 63, 1) != 0;
+    const auto isBound = bitsOf(content, 62, 1) != 0;
+    const auto pointer = isBound
+                             ? import(bitsOf(content, 0, 24))
+                             : reinterpret_cast<uint64_t>(memory_) + bitsOf(content, 0, isSigned ? 32 : 43);
     if (!isSigned)
-        return isBound ? pointer + bits(content, 32, 19) : pointer;
-    const auto key = static_cast<unsigned>(bits(content, 49, 2));
-    const auto diversity = bits(content, 32, 16) ^ (key == disturbedKey ? 1U : 0U);
-    const auto usesAddress = bits(content, 48, 1) != 0;
-    return signedPointer(pointer, usesAddress ? bits(place, 0, 48) | diversity << 48U : diversity, key);
+        return isBound ? pointer + bitsOf(content, 32, 19) : pointer | bitsOf(content, 43, 8) << 56U;
+    const auto key = static_cast<unsigned>(bitsOf(content, 49, 2));
+    const auto isDisturbed = key == disturbance_.key || signedSlotCount_ == disturbance_.slot;
+    ++signedSlotCount_;
+    const auto diversity = static_cast<uint16_t>(bitsOf(content, 32, 16) ^ (isDisturbed ? 1U : 0U));
+    const auto usesAddress = bitsOf(content, 48, 1) != 0;
+    return PointerSignature::add(pointer, static_cast<SigningKey>(key),
+                                 usesAddress ? PointerSignature::modifier(place, diversity) : diversity);
+}
+
+uint64_t Image::import(uint64_t index) const {
+    if (index >= importCount_)
+        fail("a pointer is bound to an import that there is not");
+    return imports_[index];
 }

@@ -1,6 +1,8 @@
 #include "Imports.h"
 
+#include "Failure.h"
 #include "Kernel.h"
+#include "Texts.h"
 
 namespace {
 
@@ -68,25 +70,16 @@ uint64_t Imports::address(const char* symbol) {
     return reinterpret_cast<uint64_t>(code(unexpectedCall));
 }
 
-bool areEqual(const char* left, const char* right) {
-    while (*left != 0 && *left == *right) {
-        ++left;
-        ++right;
-    }
-    return *left == *right;
-}
-
-void fail(const char* reason, const char* what) {
-    constexpr auto unusable = 99;
-    Kernel::write("loader: ");
-    Kernel::write(reason);
-    Kernel::write(what);
-    Kernel::write("\n");
-    Kernel::exit(unusable);
-}
-
 void* memcpy(void* to, const void* from, size_t size) {
     for (size_t i = 0; i < size; ++i)
+        static_cast<uint8_t*>(to)[i] = static_cast<const uint8_t*>(from)[i];
+    return to;
+}
+
+void* memmove(void* to, const void* from, size_t size) {
+    if (to <= from)
+        return memcpy(to, from, size);
+    for (size_t i = size; i-- > 0;)
         static_cast<uint8_t*>(to)[i] = static_cast<const uint8_t*>(from)[i];
     return to;
 }

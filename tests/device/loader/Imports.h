@@ -11,13 +11,9 @@ public:
     [[nodiscard]] static uint64_t address(const char* symbol);
 };
 
-[[nodiscard]] bool areEqual(const char* left, const char* right);
-
-/// Ends the program with a message and a status that no bundle under test answers with.
-[[noreturn]] void fail(const char* reason, const char* what = "");
-
 // The compiler itself calls these.
 extern "C" {
 void* memcpy(void* to, const void* from, size_t size);
+void* memmove(void* to, const void* from, size_t size);
 void* memset(void* to, int byte, size_t size);
 }

@@ -6,10 +6,11 @@ constexpr long openCall = 56;
 constexpr long writeCall = 64;
 constexpr long exitCall = 94;
 constexpr long mapCall = 222;
+constexpr long protectCall = 226;
 constexpr long currentFolder = -100;
 constexpr long errorOutput = 2;
 constexpr long readable = 1;
-constexpr long readableWritableRunnable = 7;
+constexpr long readableAndWritable = 3;
 constexpr long privately = 2;
 constexpr long privatelyWithoutFile = 0x22;
 constexpr long lowestError = -4095;
@@ -56,5 +57,10 @@ const uint8_t* Kernel::mapFile(const char* path, size_t size) {
 }
 
 uint8_t* Kernel::allocate(size_t size) {
-    return map(size, readableWritableRunnable, privatelyWithoutFile, -1);
+    return map(size, readableAndWritable, privatelyWithoutFile, -1);
+}
+
+bool Kernel::protect(uint8_t* memory, size_t size, uint32_t protection) {
+    return call(protectCall, reinterpret_cast<long>(memory), static_cast<long>(size),
+                static_cast<long>(protection)) == 0;
 }

@@ -15,6 +15,9 @@ public:
     /// A file's bytes in memory; null when there is no such file.
     [[nodiscard]] static const uint8_t* mapFile(const char* path, size_t size);
 
-    /// Memory that may be read, written and run; null when there is none.
+    /// Memory that may be read and written; null when there is none.
     [[nodiscard]] static uint8_t* allocate(size_t size);
+
+    /// Says what may be done with memory: read 1, write 2, run 4. \returns whether that is so now
+    [[nodiscard]] static bool protect(uint8_t* memory, size_t size, uint32_t protection);
 };

@@ -1,0 +1,213 @@
+// The methods of the page of backups that its own sheets do not lead through, called as Objective-C calls
+// them.
+
+#include "Framework.h"
+#include "Journal.h"
+#include "SystemStandIns.h"
+
+#include <gtest/gtest.h>
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace {
+
+using Lines = std::vector<std::string>;
+
+namespace files = std::filesystem;
+
+class BackupMethodsTest : public testing::Test {
+protected:
+    BackupMethodsTest() {
+        files::create_directories(folder);
+        setDocumentsFolder(folder.c_str());
+        page = newByName("cxBackupRestoreController");
+        takeJournal();
+    }
+
+    ~BackupMethodsTest() override {
+        runWaitingWork();
+        dismissPresented(page);
+        objc_release(page);
+        forgetSuites();
+        setDocumentsFolder(nullptr);
+        files::remove_all(folder);
+    }
+
+    [[nodiscard]] std::string backup(const char* name) const { return folder + "/CorvexBackups/" + name; }
+
+    void save(const char* name) const {
+        perform(page, "saveBackupWithName:", text(name));
+        perform(page, "dismissMessageController:", rightButtonOf(page));
+        takeJournal();
+    }
+
+    /// The sheets' titles and texts that were made since.
+    [[nodiscard]] static Lines sheets() {
+        Lines lines = takeJournal();
+        std::erase_if(lines, [](const std::string& line) { return !line.contains("symbolName:]"); });
+        return lines;
+    }
+
+    const std::string folder = files::temp_directory_path() / ("corvex-methods-" + std::to_string(getpid()));
+    id page = nullptr;
+
+private:
+    const AutoreleasePool pool_;
+};
+
+constexpr auto sheetMade = "-[OBWelcomeController initWithTitle:detailText:symbolName:] ";
+
+} // namespace
+
+TEST_F(BackupMethodsTest, PropertiesKeepWhatTheyAreSetTo) {
+    perform(page, "setBackupsPath:", text("/elsewhere"));
+    EXPECT_EQ(describedAnswer(page, "backupsPath"), "\"/elsewhere\"");
+    perform(page, "setCurrentBackupsList:", listOf(text("a"), text("b")));
+    EXPECT_EQ(describedAnswer(page, "currentBackupsList"), "[\"a\", \"b\"]");
+    perform(page, "setCurrentBackupsList:", nullptr);
+    EXPECT_EQ(perform(page, "currentBackupsList", nullptr), nullptr);
+    perform(page, "setDateFormatter:", nullptr);
+    EXPECT_EQ(perform(page, "dateFormatter", nullptr), nullptr);
+}
+
+TEST_F(BackupMethodsTest, AMessageIsShownWithItsTitle) {
+    performWithTwo(page, "showMessage:withTitle:", text("Text"), text("Title"));
+    EXPECT_EQ(sheets(), Lines{sheetMade + std::string("\"Title\" \"Text\" \"info.circle.fill\"")});
+}
+
+TEST_F(BackupMethodsTest, AMessageMayHaveNothingToDoAfterwards) {
+    performWithMore(page, "showMessage:withTitle:completion:", text("Text"), text("Title"), nullptr, 0);
+    EXPECT_EQ(sheets(), Lines{sheetMade + std::string("\"Title\" \"Text\" \"info.circle.fill\"")});
+}
+
+TEST_F(BackupMethodsTest, ASheetIsMadeAsItIsAskedFor) {
+    auto* const sheet = performWithMore(
+        page, "createWelcomeControllerWithTitle:detailText:symbolName:backdropStyle:", text("Title"),
+        text("Text"), text("gear"), 3);
+    EXPECT_STREQ(class_getName(object_getClass(sheet)), "OBWelcomeController");
+    const auto lines = takeJournal();
+    EXPECT_EQ(lines.front(), sheetMade + std::string("\"Title\" \"Text\" \"gear\""));
+    EXPECT_TRUE(std::ranges::count(lines, "+[_UIBackdropViewSettings settingsForStyle:] 3") == 1);
+}
+
+TEST_F(BackupMethodsTest, AnotherFormatterTellsTheDates) {
+    auto* const formatter = newByName("NSDateFormatter");
+    perform(page, "setDateFormatter:", formatter);
+    EXPECT_EQ(perform(page, "dateFormatter", nullptr), formatter);
+    objc_release(formatter);
+}
+
+TEST_F(BackupMethodsTest, AnArchiveIsSharedFromTheMiddleOfATablet) {
+    save("a");
+    perform(page, "shareBackup:", text("a.tar.gz"));
+    auto lines = takeJournal();
+    std::erase_if(lines, [](const std::string& line) {
+        return !line.contains("Popover") && !line.contains("Activity");
+    });
+    ASSERT_EQ(lines.size(), 4U);
+    EXPECT_EQ(lines[0], "-[UIActivityViewController initWithActivityItems:applicationActivities:] [file://" +
+                            backup("a.tar.gz") + "] nil");
+    EXPECT_TRUE(lines[1].starts_with("-[UIPopoverPresentationController setSourceView:]"));
+    EXPECT_TRUE(lines[2].starts_with("-[UIPopoverPresentationController setSourceRect:]"));
+    EXPECT_EQ(lines[3], "-[cxBackupRestoreController presentViewController:animated:completion:] "
+                        "UIActivityViewController 1");
+}
+
+TEST_F(BackupMethodsTest, AnArchiveIsShownByTheOtherApplication) {
+    save("a");
+    perform(page, "openInFilza:", text("a.tar.gz"));
+    const auto lines = takeJournal();
+    ASSERT_GE(lines.size(), 2U);
+    EXPECT_EQ(lines[0], "-[UIApplication canOpenURL:] filza://view" + backup("a.tar.gz"));
+    EXPECT_EQ(lines[1], "-[UIApplication openURL:options:completionHandler:] filza://view" +
+                            backup("a.tar.gz") + " 0 completion");
+}
+
+TEST_F(BackupMethodsTest, OptionsAndDeletingAreThereForAnyBackup) {
+    save("a");
+    perform(page, "showOptionsForBackup:", text("a.tar.gz"));
+    EXPECT_EQ(sheets(),
+              Lines{sheetMade + std::string("\"a.tar\" \"Choose an action for this backup\" \"doc.fill\"")});
+    perform(page, "deleteBackup:", text("a.tar.gz"));
+    EXPECT_FALSE(files::exists(backup("a.tar.gz")));
+}
+
+TEST_F(BackupMethodsTest, ASheetIsMadeAndDismissed) {
+    auto* const list = newByName("UIView");
+    EXPECT_EQ(countOfArray(perform(page, "findBulletedListItemsInView:", list)), 0U);
+    objc_release(list);
+    perform(page, "createBackup", nullptr);
+    EXPECT_NE(presentedBy(page), nullptr);
+    perform(page, "dismissWelcomeController:", leftButtonOf(page));
+    EXPECT_EQ(presentedBy(page), nullptr);
+}
+
+TEST_F(BackupMethodsTest, AFolderWithoutSettingsIsNoBackup) {
+    perform(page, "performRestoreFromFolder:", text(folder.c_str()));
+    EXPECT_FALSE(sheets().empty());
+    EXPECT_EQ(perform(page, "validateBackupContents:", text(folder.c_str())), nullptr);
+    EXPECT_EQ(takeJournal(), Lines{"log: preferences.plist not found"});
+}
+
+TEST_F(BackupMethodsTest, AnArchiveThatIsNoneIsToldAndChangesNothing) {
+    std::ofstream(backup("broken.tar.gz")) << std::string(2000, 'x');
+    storeValue(text("blue"), "textColor");
+    perform(page, "restoreBackup:", text("broken.tar.gz"));
+    perform(page, "handleRestoreConfirm:", rightButtonOf(page));
+    const auto shown = sheets();
+    EXPECT_TRUE(std::ranges::any_of(shown, [](const std::string& line) {
+        return line.contains("\"Error\"");
+    })) << testing::PrintToString(shown);
+    EXPECT_EQ(described(storedValue("textColor")), "\"blue\"");
+}
+
+TEST_F(BackupMethodsTest, WhatIsNoArchiveIsNotImported) {
+    perform(page, "importBackup", nullptr);
+    auto* const picker = presentedBy(page);
+    const auto other = folder + "/picture.png";
+    std::ofstream(other) << "picture";
+    pickDocument(picker, other.c_str());
+    EXPECT_FALSE(sheets().empty());
+    EXPECT_FALSE(files::exists(backup("picture.png")));
+    perform(page, "importBackup", nullptr);
+    pickDocument(presentedBy(page), (folder + "/missing.tar.gz").c_str());
+    EXPECT_FALSE(sheets().empty());
+}
+
+TEST_F(BackupMethodsTest, WithoutItsFolderNoBackupIsMade) {
+    files::remove_all(folder);
+    perform(page, "saveBackupWithName:", text("a"));
+    EXPECT_FALSE(files::exists(backup("a.tar.gz")));
+    EXPECT_FALSE(sheets().empty());
+}
+
+TEST_F(BackupMethodsTest, TheOtherApplicationThatIsMissingOrFailsIsTold) {
+    perform(page, "openInFilza:", nullptr);
+    perform(page, "shareBackup:", text("missing.tar.gz"));
+    perform(page, "deleteBackup:", text("missing.tar.gz"));
+    EXPECT_FALSE(takeJournal().empty());
+}
+
+TEST_F(BackupMethodsTest, EveryKindOfSettingSurvivesABackup) {
+    const std::vector<std::pair<const char*, id>> settings{
+        {"textColor", text("blue")},
+        {"kEnabled", boolean(true)},
+        {"blurRadius", number(0.25)},
+        {"imageHeight", wholeNumber(-5)},
+        {"organizedSettingsPosition", largeNumber(18446744073709551615ULL)}};
+    for (const auto& [key, value] : settings)
+        storeValue(value, key);
+    save("all");
+    forgetSuites();
+    perform(page, "restoreBackup:", text("all.tar.gz"));
+    perform(page, "handleRestoreConfirm:", rightButtonOf(page));
+    for (const auto& [key, value] : settings)
+        EXPECT_EQ(described(storedValue(key)), described(value)) << key;
+}
