@@ -1,6 +1,7 @@
 #include "GaussianBlur.h"
 
 #include "BoxBlur.h"
+#include "PixelRows.h"
 
 #include <algorithm>
 #include <climits>
@@ -34,9 +35,10 @@ PixelComponents componentsOf(const QImage& image) {
     return pixels;
 }
 
+/// \pre the values are not negative
 void setRow(QImage& image, int y, std::span<const float> values) {
     std::ranges::transform(values, image.scanLine(y),
-                           [](float value) { return static_cast<uchar>(std::lround(value)); });
+                           [](float value) { return static_cast<uchar>(value + 0.5F); });
 }
 
 PixelComponents blurredComponents(const QImage& image, double horizontalSigma, double verticalSigma,
@@ -86,62 +88,82 @@ struct Between {
     }
 };
 
-std::vector<float> mixedRows(const PixelComponents& pixels, const Between& rows) {
-    const auto row = [&](std::size_t number) {
-        return std::span(pixels.values).subspan(number * pixels.rowLength, pixels.rowLength);
-    };
-    std::vector<float> mixed(pixels.rowLength);
-    std::ranges::transform(row(rows.first), row(rows.second), mixed.begin(),
-                           [&](float first, float second) { return first + (second - first) * rows.share; });
-    return mixed;
-}
+using FineRow = std::vector<PixelRows::Fine>;
 
-/// Fills an image with a smaller one, made larger.
-void setEnlarged(QImage& image, const PixelComponents& pixels) {
-    const auto width = static_cast<std::size_t>(image.width());
+/// The rows, each made longer.
+std::vector<FineRow> widened(const PixelComponents& pixels, std::size_t width) {
     std::vector<Between> columns;
     columns.reserve(width);
     for (std::size_t x = 0; x < width; ++x)
         columns.emplace_back(x, width, pixels.rowLength / pixels.channels);
-    std::vector<float> values(width * pixels.channels);
-    for (int y = 0; y < image.height(); ++y) {
-        const auto row =
-            mixedRows(pixels, Between(static_cast<std::size_t>(y), static_cast<std::size_t>(image.height()),
-                                      pixels.rowCount));
-        auto value = values.begin();
+    std::vector<FineRow> rows(pixels.rowCount, FineRow(width * pixels.channels));
+    for (std::size_t y = 0; y < pixels.rowCount; ++y) {
+        const auto* const row = &pixels.values[y * pixels.rowLength];
+        auto value = rows[y].begin();
         for (const auto& column : columns) {
             for (std::size_t channel = 0; channel < pixels.channels; ++channel) {
                 const float first = row[column.first * pixels.channels + channel];
                 const float second = row[column.second * pixels.channels + channel];
-                *value++ = first + (second - first) * column.share;
+                const float mixed = first + (second - first) * column.share;
+                *value++ = static_cast<PixelRows::Fine>(mixed * PixelRows::fineSteps + 0.5F);
             }
         }
-        setRow(image, y, values);
+    }
+    return rows;
+}
+
+/// Fills an image with a smaller one, made larger.
+void setEnlarged(QImage& image, const PixelComponents& pixels) {
+    const auto rows = widened(pixels, static_cast<std::size_t>(image.width()));
+    for (int y = 0; y < image.height(); ++y) {
+        const Between between(static_cast<std::size_t>(y), static_cast<std::size_t>(image.height()),
+                              pixels.rowCount);
+        const auto& first = rows[between.first];
+        PixelRows::mix(first, rows[between.second],
+                       static_cast<int>(std::lround(between.share * PixelRows::fullShare)),
+                       {image.scanLine(y), first.size()});
     }
 }
 
-void blurAtFraction(QImage& image, double sigma, BlurEdges edges) {
+/// What a wide blur makes of an image, at a fraction of its size.
+PixelComponents blurredAtFraction(const QImage& image, double sigma, BlurEdges edges) {
     const double factor = 2 * sigma / finestSigma;
     const QSize size(fractionOf(image.width(), factor), fractionOf(image.height(), factor));
     const auto smaller = image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    setEnlarged(image, blurredComponents(smaller.convertToFormat(image.format()),
-                                         sigmaAt(sigma, image.width(), size.width()),
-                                         sigmaAt(sigma, image.height(), size.height()), edges));
+    return blurredComponents(smaller.convertToFormat(image.format()),
+                             sigmaAt(sigma, image.width(), size.width()),
+                             sigmaAt(sigma, image.height(), size.height()), edges);
 }
 
 /// The brightness of a colour, by the shares of its components in it.
-double brightness(QRgb color) {
-    return 0.2126 * qRed(color) + 0.7152 * qGreen(color) + 0.0722 * qBlue(color);
+double brightness(double red, double green, double blue) {
+    return 0.2126 * red + 0.7152 * green + 0.0722 * blue;
 }
 
 QRgb saturatedColor(QRgb premultiplied, double factor) {
-    const double gray = brightness(premultiplied);
+    const double gray = brightness(qRed(premultiplied), qGreen(premultiplied), qBlue(premultiplied));
     const double alpha = qAlpha(premultiplied);
     const auto moved = [&](int component) {
         return static_cast<int>(std::lround(std::clamp(gray + (component - gray) * factor, 0.0, alpha)));
     };
     return qRgba(moved(qRed(premultiplied)), moved(qGreen(premultiplied)), moved(qBlue(premultiplied)),
                  qAlpha(premultiplied));
+}
+
+/// \param pixels of the bytes of ARGB32, premultiplied
+void saturate(PixelComponents& pixels, double factor) {
+    constexpr auto alphaPlace = QSysInfo::ByteOrder == QSysInfo::LittleEndian ? 3U : 0U;
+    constexpr auto redPlace = QSysInfo::ByteOrder == QSysInfo::LittleEndian ? 2U : 1U;
+    constexpr auto bluePlace = QSysInfo::ByteOrder == QSysInfo::LittleEndian ? 0U : 3U;
+    constexpr auto greenPlace = 3U - redPlace;
+    for (std::size_t start = 0; start < pixels.values.size(); start += pixels.channels) {
+        const std::span pixel(&pixels.values[start], pixels.channels);
+        const auto gray =
+            static_cast<float>(brightness(pixel[redPlace], pixel[greenPlace], pixel[bluePlace]));
+        for (const auto place : {redPlace, greenPlace, bluePlace})
+            pixel[place] = std::clamp(gray + (pixel[place] - gray) * static_cast<float>(factor), 0.0F,
+                                      pixel[alphaPlace]);
+    }
 }
 
 } // namespace
@@ -152,7 +174,7 @@ QImage blurred(const QImage& image, double sigma, BlurEdges edges) {
     if (result.isNull() || !(sigma > 0))
         return result;
     if (sigma > finestSigma)
-        blurAtFraction(result, sigma, edges);
+        setEnlarged(result, blurredAtFraction(result, sigma, edges));
     else
         blurAtFullSize(result, sigma, edges);
     result.setDevicePixelRatio(image.devicePixelRatio());
@@ -166,5 +188,15 @@ QImage saturated(const QImage& image, double factor) {
         std::ranges::transform(std::span(row, static_cast<std::size_t>(result.width())), row,
                                [&](QRgb color) { return saturatedColor(color, factor); });
     }
+    return result;
+}
+
+QImage blurredBackdrop(const QImage& image, double sigma, double saturation) {
+    if (sigma <= finestSigma)
+        return saturated(blurred(image, sigma, BlurEdges::Extended), saturation);
+    auto pixels = blurredAtFraction(image, sigma, BlurEdges::Extended);
+    saturate(pixels, saturation);
+    QImage result(image.size(), format);
+    setEnlarged(result, pixels);
     return result;
 }

@@ -18,3 +18,7 @@ enum class BlurEdges {
 /// \param image of any format
 /// \returns an image of the same size and pixel ratio, ARGB32 premultiplied
 [[nodiscard]] QImage saturated(const QImage& image, double factor);
+
+/// What is seen through a backdrop of what lies behind it: blurred, its edges extended, then saturated.
+/// \param image ARGB32 premultiplied \returns an image of the same kind and size
+[[nodiscard]] QImage blurredBackdrop(const QImage& image, double sigma, double saturation);

@@ -203,13 +203,13 @@ void Painting::paintBackdrop(const PaintItem& item, Surface& surface) {
     const auto& look = item.look;
     if (!look.backdrop || !damage_.intersects(item.body))
         return;
-    const auto blur =
-        blurred(behind(item.body), look.backdrop->blurRadius * pixelsPerPoint(look), BlurEdges::Extended);
+    const auto seen = blurredBackdrop(behind(item.body), look.backdrop->blurRadius * pixelsPerPoint(look),
+                                      look.backdrop->saturation);
     auto& painter = readied(surface, item, item.body & item.innerClip);
     const auto shape = look.transform().map(shapeOf(item, 0));
     painter.resetTransform();
     painter.setBrushOrigin(item.body.topLeft());
-    painter.fillPath(shape, QBrush(saturated(blur, look.backdrop->saturation)));
+    painter.fillPath(shape, QBrush(seen));
     painter.setBrushOrigin(0, 0);
 }
 
