@@ -79,21 +79,36 @@ Painting::Surface::Surface(QImage& picture, double groupOpacity)
                            QPainter::SmoothPixmapTransform);
 }
 
-Painting::Painting(const PaintList& list, const QRegion& damage, QImage& picture, ScratchImages& scratch,
-                   ShadowRenderer& shadows)
+Painting::Painting(const PaintList& list, const QRegion& damage, QImage& picture, const Tools& tools)
     : items_(list.items()),
       damage_(damage),
-      scratch_(scratch),
-      shadows_(shadows),
-      picture_(picture) {}
+      tools_(tools),
+      picture_(picture),
+      isCovered_(items_.size()) {}
 
-void Painting::paintAll() {
+void Painting::paintAll(const QColor& color) {
+    findCovered();
     Surface surface(picture_, 1);
     surface.painter.setClipRegion(damage_);
-    surface.painter.fillRect(damage_.boundingRect(), Qt::black);
+    surface.painter.setCompositionMode(QPainter::CompositionMode_Source);
+    surface.painter.fillRect(damage_.boundingRect(), color);
+    surface.painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
     surfaces_.push_back(&surface);
     paintItems(0, items_.size(), surface);
     surfaces_.pop_back();
+}
+
+void Painting::findCovered() {
+    QRegion covered;
+    for (auto index = items_.size(); index-- > 0;) {
+        const auto& item = items_[index];
+        isCovered_[index] = (damage_ & item.extent).subtracted(covered).isEmpty();
+        if (isCovered_[index])
+            continue;
+        if (item.look.backdrop)
+            covered -= item.body;
+        covered |= item.opaque;
+    }
 }
 
 void Painting::paintItems(std::size_t first, std::size_t end, Surface& surface) {
@@ -113,7 +128,7 @@ void Painting::paintItem(std::size_t index, Surface& surface) {
 void Painting::paintGroup(std::size_t index, Surface& surface) {
     const auto& item = items_[index];
     const auto region = damage_ & item.wholeExtent;
-    auto& image = scratch_.take();
+    auto& image = tools_.scratch.take();
     clear(image, region);
     {
         Surface group(image, item.opacity);
@@ -127,12 +142,13 @@ void Painting::paintGroup(std::size_t index, Surface& surface) {
     painter.setOpacity(item.opacity);
     paintPart(painter, image, region);
     painter.setOpacity(1);
-    scratch_.release();
+    tools_.scratch.release();
 }
 
 void Painting::paintLayer(std::size_t index, Surface& surface) {
     const auto& item = items_[index];
-    paintShadow(item, surface);
+    if (!isCovered_[index])
+        paintShadow(item, surface);
     if (item.hasSoftMask())
         paintMasked(index, surface);
     else
@@ -141,9 +157,12 @@ void Painting::paintLayer(std::size_t index, Surface& surface) {
 
 void Painting::paintInside(std::size_t index, Surface& surface) {
     const auto& item = items_[index];
-    paintBackdrop(item, surface);
-    paintBackground(item, surface);
-    paintContents(item, surface);
+    if (!isCovered_[index]) {
+        paintBackdrop(item, surface);
+        paintBackground(item, surface);
+        paintContents(item, surface);
+        paintPicture(item, surface);
+    }
     paintItems(index + 1, item.end, surface);
     paintBorder(item, surface);
 }
@@ -155,15 +174,15 @@ void Painting::paintMasked(std::size_t index, Surface& surface) {
         paintInside(index, surface);
         return;
     }
-    auto& saved = scratch_.take();
+    auto& saved = tools_.scratch.take();
     copy(surface.image, saved, edges);
     paintInside(index, surface);
     blendEdges(item, edges, saved, surface);
-    scratch_.release();
+    tools_.scratch.release();
 }
 
 void Painting::blendEdges(const PaintItem& item, const QRegion& edges, QImage& saved, Surface& surface) {
-    auto& mask = scratch_.take();
+    auto& mask = tools_.scratch.take();
     clear(mask, edges);
     {
         Surface shape(mask, 1);
@@ -185,7 +204,7 @@ void Painting::blendEdges(const PaintItem& item, const QRegion& edges, QImage& s
     painter.setCompositionMode(QPainter::CompositionMode_Plus);
     paintPart(painter, saved, edges);
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
-    scratch_.release();
+    tools_.scratch.release();
 }
 
 void Painting::paintShadow(const PaintItem& item, Surface& surface) {
@@ -196,7 +215,7 @@ void Painting::paintShadow(const PaintItem& item, Surface& surface) {
                         .offset = {look.shadowOffset.width, look.shadowOffset.height},
                         .opacity = look.shadowOpacity,
                         .color = asColor(look.shadowColor)};
-    shadows_.paint(readied(surface, item, item.extent), look.shadowShape(), shadow);
+    tools_.shadows.paint(readied(surface, item, item.extent), look.shadowShape(), shadow);
 }
 
 void Painting::paintBackdrop(const PaintItem& item, Surface& surface) {
@@ -243,6 +262,21 @@ void Painting::paintContents(const PaintItem& item, Surface& surface) {
     painter.save();
     item.delegate->drawLayer(painter, item.look.bounds, item.look.traits);
     painter.restore();
+}
+
+void Painting::paintPicture(const PaintItem& item, Surface& surface) {
+    const auto region = damage_ & item.body;
+    if (item.inner == nullptr || region.isEmpty())
+        return;
+    const auto& image = tools_.pictures.picture(item.identity);
+    auto& painter = surface.painter;
+    painter.resetTransform();
+    painter.setClipRegion(region);
+    const auto place = item.placeOfInner();
+    if (place.size() == image.size().toSizeF())
+        painter.drawImage(place.topLeft().toPoint(), image);
+    else
+        painter.drawImage(place, image);
 }
 
 void Painting::paintBorder(const PaintItem& item, Surface& surface) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "LayerPictures.h"
 #include "PaintList.h"
 #include "ScratchImages.h"
 #include "ShadowRenderer.h"
@@ -14,10 +15,17 @@
 /// whole's size, so that the same pixels come out whatever part is painted. Made by LayerPainter.
 class Painting {
 public:
-    Painting(const PaintList& list, const QRegion& damage, QImage& picture, ScratchImages& scratch,
-             ShadowRenderer& shadows);
+    /// What is kept from one painting to the next.
+    struct Tools {
+        ScratchImages& scratch; ///< with room for the picture
+        ShadowRenderer& shadows;
+        const LayerPictures& pictures; ///< up to date
+    };
 
-    void paintAll();
+    Painting(const PaintList& list, const QRegion& damage, QImage& picture, const Tools& tools);
+
+    /// \param color behind all layers
+    void paintAll(const QColor& color);
 
 private:
     /// A picture that layers are painted into: the whole's, or that of a group on its way into it.
@@ -29,6 +37,8 @@ private:
         Surface(QImage& picture, double groupOpacity);
     };
 
+    /// Tells what is not seen since something lies in front of it.
+    void findCovered();
     void paintItems(std::size_t first, std::size_t end, Surface& surface);
     void paintItem(std::size_t index, Surface& surface);
     void paintGroup(std::size_t index, Surface& surface);
@@ -41,14 +51,15 @@ private:
     void paintBackdrop(const PaintItem& item, Surface& surface);
     void paintBackground(const PaintItem& item, Surface& surface);
     void paintContents(const PaintItem& item, Surface& surface);
+    void paintPicture(const PaintItem& item, Surface& surface);
     void paintBorder(const PaintItem& item, Surface& surface);
     [[nodiscard]] QImage behind(const QRect& rect) const;
     [[nodiscard]] QPainter& readied(Surface& surface, const PaintItem& item, const QRegion& clip) const;
 
     const std::vector<PaintItem>& items_;
     const QRegion& damage_;
-    ScratchImages& scratch_;
-    ShadowRenderer& shadows_;
+    Tools tools_;
     QImage& picture_;
+    std::vector<bool> isCovered_;    ///< of each item, without what is within it
     std::vector<Surface*> surfaces_; ///< the whole's, then those of the groups that are being painted
 };

@@ -56,6 +56,7 @@ void TableCaptionViews::add(std::size_t section, Edge edge, const TableCaption& 
     if (shown_.contains({section, edge}) || (!caption.view && caption.text.empty()))
         return;
     const auto added = shown(caption, edge);
+    added.view->layer().peer().keepsPicture = true;
     table.peer().insertSubview(added.view, 0);
     shown_.emplace(std::pair(section, edge), added);
 }

@@ -93,6 +93,7 @@ void UITableViewCellPeer::viewMade() {
     detailTextLabel_ = make<UILabel>();
     imageView_ = make<UIImageView>();
     separator_ = make<UIView>();
+    layer().peer().keepsPicture = true;
     addSubview(slice_);
     for (const auto& part : {background_, contentView_, separator_})
         slice_->addSubview(part);
