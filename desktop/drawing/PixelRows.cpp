@@ -1,7 +1,5 @@
 #include "PixelRows.h"
 
-#include <cstddef>
-
 void PixelRows::mix(std::span<const Fine> first, std::span<const Fine> second, int share,
                     std::span<std::uint8_t> mixed) {
     constexpr int whole = fineSteps * fullShare;
@@ -9,4 +7,26 @@ void PixelRows::mix(std::span<const Fine> first, std::span<const Fine> second, i
     for (std::size_t index = 0; index < mixed.size(); ++index)
         mixed[index] =
             static_cast<std::uint8_t>((first[index] * rest + second[index] * share + whole / 2) / whole);
+}
+
+void PixelRows::mix(std::span<const std::uint8_t> first, std::span<const std::uint8_t> second, int share,
+                    std::span<std::uint8_t> mixed) {
+    const auto secondShare = static_cast<std::uint16_t>(share);
+    const auto firstShare = static_cast<std::uint16_t>(fullShare - share);
+    for (std::size_t index = 0; index < mixed.size(); ++index) {
+        const auto sum = static_cast<std::uint16_t>(first[index] * firstShare + second[index] * secondShare +
+                                                    fullShare / 2);
+        mixed[index] = static_cast<std::uint8_t>(sum / fullShare);
+    }
+}
+
+void PixelRows::mixWithNext(std::span<const std::uint8_t> row, std::span<const std::uint8_t> shares,
+                            std::span<std::uint8_t> mixed) {
+    for (std::size_t index = 0; index < mixed.size(); ++index) {
+        const auto share = static_cast<std::uint16_t>(shares[index]);
+        const auto rest = static_cast<std::uint16_t>(fullShare - share);
+        const auto sum =
+            static_cast<std::uint16_t>(row[index] * rest + row[index + pixelSize] * share + fullShare / 2);
+        mixed[index] = static_cast<std::uint8_t>(sum / fullShare);
+    }
 }

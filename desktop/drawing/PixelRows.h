@@ -1,9 +1,10 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <span>
 
-/// Work on rows of pixels, in loops that compilers turn into vector instructions. This folder's own.
+/// Work on rows of pixels, in loops that compilers turn into vector instructions.
 namespace PixelRows {
 
 /// A component of a pixel with a fraction: 64 are one step of 255.
@@ -13,8 +14,17 @@ inline constexpr int fineSteps = 64;
 /// Of a mix's second part, all of it.
 inline constexpr int fullShare = 128;
 
+/// Bytes of a pixel in colour.
+inline constexpr std::size_t pixelSize = 4;
+
 /// Mixes two rows. \param share of the second, 0..fullShare \pre all are of one length
-void mix(std::span<const Fine> first, std::span<const Fine> second, int share,
+void mix(std::span<const Fine> first, std::span<const Fine> second, int share, std::span<std::uint8_t> mixed);
+void mix(std::span<const std::uint8_t> first, std::span<const std::uint8_t> second, int share,
          std::span<std::uint8_t> mixed);
+
+/// Mixes each pixel of a row with the one after it. \param shares of the latter, for each byte
+/// \pre the row is a pixel longer than the others
+void mixWithNext(std::span<const std::uint8_t> row, std::span<const std::uint8_t> shares,
+                 std::span<std::uint8_t> mixed);
 
 } // namespace PixelRows

@@ -31,10 +31,9 @@ QRegion damageOfInner(const PaintItem& before, const PaintItem& after) {
     const auto damage = damageBetween(*before.inner, *after.inner);
     if (damage.isEmpty())
         return {};
-    const auto place = after.placeOfInner();
-    if (place.size() != after.inner->size().toSizeF())
+    if (after.isInnerScaled())
         return {after.extent};
-    return damage.translated(place.topLeft().toPoint()) & after.extent;
+    return damage.translated(after.cornerOfInner()) & after.extent;
 }
 
 /// The pixels that one layer's change touches.

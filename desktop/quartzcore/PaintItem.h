@@ -27,9 +27,13 @@ struct PaintItem {
     QRect wholeExtent; ///< the same with all within it
     QRect opaque;      ///< where nothing behind it is seen; may be empty
 
-    /// Where the layer's own picture is; in pixels, whole ones unless that is painted larger or smaller.
-    /// \pre there is one
+    // Of a layer that keeps a picture.
+    /// Whether it is painted larger or smaller than it is kept.
+    [[nodiscard]] bool isInnerScaled() const;
+    /// Where it is, in pixels.
     [[nodiscard]] QRectF placeOfInner() const;
+    /// Where its corner is. \pre it is not scaled
+    [[nodiscard]] QPoint cornerOfInner() const;
 
     /// Whether it is painted apart, and faded as a whole.
     [[nodiscard]] bool isGroup() const { return opacity < 1; }

@@ -70,6 +70,9 @@ constexpr double largestPicture = 16e6;
 constexpr double leastScaling = 0.5;
 constexpr double greatestScaling = 2;
 
+/// How many pixels at the edge of what is opaque may be mixed with what is not, where a picture is scaled.
+constexpr int mixedEdge = 4;
+
 /// What a picture's layers are cut off at, which is farther than any that is kept.
 constexpr QRect everywhere(-16384, -16384, 32768, 32768);
 
@@ -220,6 +223,8 @@ bool PaintList::addPicture(const CALayer& layer, const LayerLook& look, double o
         auto placed = look;
         placed.toPixels = item.look.toPixels;
         item.opaque = filledRect(placed) & item.innerClip;
+        if (item.isInnerScaled())
+            item.opaque.adjust(mixedEdge, mixedEdge, -mixedEdge, -mixedEdge);
     }
     return true;
 }

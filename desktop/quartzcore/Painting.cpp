@@ -2,6 +2,7 @@
 
 #include "GaussianBlur.h"
 #include "LayerDelegate.h"
+#include "ScaledPicture.h"
 
 #include <cmath>
 #include <utility>
@@ -55,6 +56,15 @@ void clear(QImage& image, const QRegion& region) {
 void paintPart(QPainter& painter, const QImage& image, const QRegion& region) {
     const auto rect = region.boundingRect();
     painter.drawImage(rect.topLeft(), image, rect);
+}
+
+/// A rectangle in parts that a processor has near it from one step to the next.
+std::vector<QRect> strips(const QRect& rect) {
+    constexpr auto height = 32;
+    std::vector<QRect> parts;
+    for (auto top = rect.top(); top <= rect.bottom(); top += height)
+        parts.push_back(QRect(rect.left(), top, rect.width(), height) & rect);
+    return parts;
 }
 
 /// The layer's edge, or beyond it where a mask makes the edge.
@@ -265,18 +275,29 @@ void Painting::paintContents(const PaintItem& item, Surface& surface) {
 }
 
 void Painting::paintPicture(const PaintItem& item, Surface& surface) {
-    const auto region = damage_ & item.body;
-    if (item.inner == nullptr || region.isEmpty())
+    if (item.inner == nullptr)
         return;
-    const auto& image = tools_.pictures.picture(item.identity);
+    const auto region = damage_ & item.body;
     auto& painter = surface.painter;
     painter.resetTransform();
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    paintPicture(item, region & item.opaque, painter);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    paintPicture(item, region - item.opaque, painter);
+}
+
+void Painting::paintPicture(const PaintItem& item, const QRegion& region, QPainter& painter) const {
+    const auto& image = tools_.pictures.picture(item.identity);
     painter.setClipRegion(region);
-    const auto place = item.placeOfInner();
-    if (place.size() == image.size().toSizeF())
-        painter.drawImage(place.topLeft().toPoint(), image);
-    else
-        painter.drawImage(place, image);
+    if (!item.isInnerScaled()) {
+        painter.drawImage(item.cornerOfInner(), image);
+        return;
+    }
+    const ScaledPicture scaled(image, item.placeOfInner());
+    for (const auto& rect : region) {
+        for (const auto& strip : strips(rect))
+            painter.drawImage(strip.topLeft(), scaled.part(strip));
+    }
 }
 
 void Painting::paintBorder(const PaintItem& item, Surface& surface) {

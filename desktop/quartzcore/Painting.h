@@ -52,6 +52,7 @@ private:
     void paintBackground(const PaintItem& item, Surface& surface);
     void paintContents(const PaintItem& item, Surface& surface);
     void paintPicture(const PaintItem& item, Surface& surface);
+    void paintPicture(const PaintItem& item, const QRegion& region, QPainter& painter) const;
     void paintBorder(const PaintItem& item, Surface& surface);
     [[nodiscard]] QImage behind(const QRect& rect) const;
     [[nodiscard]] QPainter& readied(Surface& surface, const PaintItem& item, const QRegion& clip) const;

@@ -1,0 +1,68 @@
+#include "ScaledPicture.h"
+
+#include "PixelRows.h"
+
+#include <algorithm>
+#include <cmath>
+#include <span>
+
+namespace {
+
+using Bytes = std::vector<std::uint8_t>;
+
+/// Where a pixel is between two of another row or column of them.
+struct Between {
+    std::size_t first; ///< the second is the next
+    int share;         ///< of the second
+
+    /// \param place the middle of the pixel, with the other row's first edge at 0
+    Between(double place, int count) {
+        const auto last = std::max(0, count - 2);
+        const auto position = std::clamp(place - 0.5, 0.0, static_cast<double>(count - 1));
+        const auto whole = std::min(static_cast<int>(position), last);
+        first = static_cast<std::size_t>(whole);
+        share = static_cast<int>(std::lround((position - whole) * PixelRows::fullShare));
+    }
+};
+
+std::span<const std::uint8_t> row(const QImage& image, std::size_t y) {
+    const auto inside = std::min(static_cast<int>(y), image.height() - 1);
+    return {image.constScanLine(inside), static_cast<std::size_t>(image.width()) * PixelRows::pixelSize};
+}
+
+} // namespace
+
+ScaledPicture::Columns ScaledPicture::columnsOf(const QRect& pixels) const {
+    Columns columns;
+    const auto perPixel = picture_.width() / place_.width();
+    for (int x = pixels.left(); x <= pixels.right(); ++x) {
+        const Between between((x + 0.5 - place_.left()) * perPixel, picture_.width());
+        const auto from = between.first * PixelRows::pixelSize;
+        const auto to = columns.shares.size();
+        auto& runs = columns.runs;
+        if (runs.empty() || runs.back().from + runs.back().size != from)
+            runs.push_back({.from = from, .to = to, .size = 0});
+        runs.back().size += PixelRows::pixelSize;
+        columns.shares.insert(columns.shares.end(), PixelRows::pixelSize,
+                              static_cast<std::uint8_t>(between.share));
+    }
+    return columns;
+}
+
+QImage ScaledPicture::part(const QRect& pixels) const {
+    QImage seen(pixels.size(), QImage::Format_ARGB32_Premultiplied);
+    const auto columns = columnsOf(pixels);
+    const auto perPixel = picture_.height() / place_.height();
+    Bytes mixed(static_cast<std::size_t>(picture_.width() + 1) * PixelRows::pixelSize);
+    const std::span within(mixed.data(), mixed.size() - PixelRows::pixelSize);
+    for (int y = 0; y < seen.height(); ++y) {
+        const Between rows((pixels.top() + y + 0.5 - place_.top()) * perPixel, picture_.height());
+        PixelRows::mix(row(picture_, rows.first), row(picture_, rows.first + 1), rows.share, within);
+        const std::span out(seen.scanLine(y), columns.shares.size());
+        for (const auto& run : columns.runs)
+            PixelRows::mixWithNext(std::span(mixed).subspan(run.from, run.size + PixelRows::pixelSize),
+                                   std::span(columns.shares).subspan(run.to, run.size),
+                                   out.subspan(run.to, run.size));
+    }
+    return seen;
+}
