@@ -49,20 +49,19 @@ ScaledPicture::Columns ScaledPicture::columnsOf(const QRect& pixels) const {
     return columns;
 }
 
-QImage ScaledPicture::part(const QRect& pixels) const {
-    QImage seen(pixels.size(), QImage::Format_ARGB32_Premultiplied);
+void ScaledPicture::copyTo(QImage& target, const QRect& pixels, QPoint corner) const {
     const auto columns = columnsOf(pixels);
     const auto perPixel = picture_.height() / place_.height();
     Bytes mixed(static_cast<std::size_t>(picture_.width() + 1) * PixelRows::pixelSize);
     const std::span within(mixed.data(), mixed.size() - PixelRows::pixelSize);
-    for (int y = 0; y < seen.height(); ++y) {
-        const Between rows((pixels.top() + y + 0.5 - place_.top()) * perPixel, picture_.height());
+    const auto left = static_cast<std::size_t>(pixels.left() - corner.x()) * PixelRows::pixelSize;
+    for (int y = pixels.top(); y <= pixels.bottom(); ++y) {
+        const Between rows((y + 0.5 - place_.top()) * perPixel, picture_.height());
         PixelRows::mix(row(picture_, rows.first), row(picture_, rows.first + 1), rows.share, within);
-        const std::span out(seen.scanLine(y), columns.shares.size());
+        const std::span out(target.scanLine(y - corner.y()) + left, columns.shares.size());
         for (const auto& run : columns.runs)
             PixelRows::mixWithNext(std::span(mixed).subspan(run.from, run.size + PixelRows::pixelSize),
                                    std::span(columns.shares).subspan(run.to, run.size),
                                    out.subspan(run.to, run.size));
     }
-    return seen;
 }

@@ -13,8 +13,10 @@ public:
     /// \param picture ARGB32 premultiplied, not empty \param place where it is seen, in pixels
     ScaledPicture(const QImage& picture, const QRectF& place) : picture_(picture), place_(place) {}
 
-    /// What is seen at some pixels; beyond the edges, more of the pixels at them.
-    [[nodiscard]] QImage part(const QRect& pixels) const;
+    /// Puts what is seen in place of some pixels; beyond the edges, more of the pixels at them.
+    /// \param target ARGB32 premultiplied, with all those pixels
+    /// \param corner of the target, where what is seen has it
+    void copyTo(QImage& target, const QRect& pixels, QPoint corner = {}) const;
 
 private:
     /// Neighbouring pixels of a row that are mixed of as many neighbours.

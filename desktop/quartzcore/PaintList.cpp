@@ -57,10 +57,7 @@ QRect shadowExtent(const LayerLook& look) {
 
 /// What a layer that masks leaves of the picture.
 QRect maskedClip(const LayerLook& look) {
-    const auto rect = look.pixelRect();
-    if (!look.fillsWholePixels())
-        return alignedOutwards(rect, 0);
-    return {rect.topLeft().toPoint(), rect.bottomRight().toPoint() - QPoint(1, 1)};
+    return look.fillsWholePixels() ? look.wholePixels() : alignedOutwards(look.pixelRect(), 0);
 }
 
 /// Larger pictures than these are not kept; pixels.
@@ -126,7 +123,7 @@ QRect filledRect(const LayerLook& look) {
     const auto corner = look.cornerPixels();
     const auto rect =
         look.fillsWholePixels()
-            ? maskedClip(look)
+            ? look.wholePixels()
             : roundedInwards(look.pixelRect().adjusted(0, corner + softEdge, 0, -corner - softEdge));
     return rect.isValid() ? rect : QRect();
 }
@@ -183,7 +180,7 @@ void PaintList::addItem(const CALayer& layer, const LayerLook& look, double opac
     item.opacity = opacity;
     item.identity = peer.identity();
     item.enclosing = around.enclosing;
-    item.delegate = peer.delegate;
+    item.delegate = peer.delegate != nullptr && peer.delegate->hasContents() ? peer.delegate : nullptr;
     item.clip = around.clip;
     item.innerClip = item.look.masksToBounds ? item.clip & maskedClip(item.look) : item.clip;
     item.body = bodyExtent(item.look, item.delegate) & item.clip;

@@ -38,33 +38,32 @@ QRegion softEdges(const PaintItem& item) {
     return QRegion(item.innerClip) - insideOf(corner, 0) - insideOf(0, corner);
 }
 
-/// Replaces the pixels of a region by those of another picture of the same size.
+/// Has a painter paint the rectangles of a region one by one, which is faster than all at once.
+template <class Paint>
+void paintEach(QPainter& painter, const QRegion& region, Paint paint) {
+    for (const auto& rect : region) {
+        painter.setClipRect(rect);
+        paint(rect);
+    }
+}
+
+/// Paints the pixels of a region with those of another picture, which has them at the same place.
+void paintPart(QPainter& painter, const QImage& image, const QRegion& region) {
+    paintEach(painter, region, [&](const QRect& rect) { painter.drawImage(rect.topLeft(), image, rect); });
+}
+
+/// Replaces the pixels of a region by those of another picture.
 void copy(const QImage& from, QImage& to, const QRegion& region) {
     QPainter painter(&to);
     painter.setCompositionMode(QPainter::CompositionMode_Source);
-    painter.setClipRegion(region);
-    painter.drawImage(0, 0, from);
+    paintPart(painter, from, region);
 }
 
 void clear(QImage& image, const QRegion& region) {
     QPainter painter(&image);
-    painter.setCompositionMode(QPainter::CompositionMode_Clear);
-    painter.setClipRegion(region);
-    painter.fillRect(region.boundingRect(), Qt::transparent);
-}
-
-void paintPart(QPainter& painter, const QImage& image, const QRegion& region) {
-    const auto rect = region.boundingRect();
-    painter.drawImage(rect.topLeft(), image, rect);
-}
-
-/// A rectangle in parts that a processor has near it from one step to the next.
-std::vector<QRect> strips(const QRect& rect) {
-    constexpr auto height = 32;
-    std::vector<QRect> parts;
-    for (auto top = rect.top(); top <= rect.bottom(); top += height)
-        parts.push_back(QRect(rect.left(), top, rect.width(), height) & rect);
-    return parts;
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    for (const auto& rect : region)
+        painter.fillRect(rect, Qt::transparent);
 }
 
 /// The layer's edge, or beyond it where a mask makes the edge.
@@ -77,6 +76,19 @@ QPainterPath shapeOf(const PaintItem& item, double inset) {
     path.addRect(QRectF(bounds.origin.x, bounds.origin.y, bounds.size.width, bounds.size.height)
                      .adjusted(-beyond, -beyond, beyond, beyond));
     return path;
+}
+
+/// Whether nothing of an item is painted but its background, so that a group needs no picture of its own.
+bool isBackgroundOnly(const PaintItem& item, std::size_t index) {
+    const auto& look = item.look;
+    return item.end == index + 1 && item.delegate == nullptr && item.inner == nullptr && !look.backdrop &&
+           !look.castsShadow() && !item.hasSoftMask() &&
+           (look.borderWidth == 0 || look.borderColor.alpha == 0);
+}
+
+/// Whether an item is a picture that is painted as it is kept, so that it can be painted faded.
+bool isPictureOnly(const PaintItem& item) {
+    return item.inner != nullptr && !item.hasSoftMask() && !item.isInnerScaled();
 }
 
 } // namespace
@@ -94,10 +106,10 @@ Painting::Painting(const PaintList& list, const QRegion& damage, QImage& picture
       damage_(damage),
       tools_(tools),
       picture_(picture),
-      isCovered_(items_.size()) {}
+      seen_(items_.size()) {}
 
 void Painting::paintAll(const QColor& color) {
-    findCovered();
+    findSeen();
     Surface surface(picture_, 1);
     surface.painter.setClipRegion(damage_);
     surface.painter.setCompositionMode(QPainter::CompositionMode_Source);
@@ -108,12 +120,12 @@ void Painting::paintAll(const QColor& color) {
     surfaces_.pop_back();
 }
 
-void Painting::findCovered() {
+void Painting::findSeen() {
     QRegion covered;
     for (auto index = items_.size(); index-- > 0;) {
         const auto& item = items_[index];
-        isCovered_[index] = (damage_ & item.extent).subtracted(covered).isEmpty();
-        if (isCovered_[index])
+        seen_[index] = (damage_ & item.extent) - covered;
+        if (seen_[index].isEmpty())
             continue;
         if (item.look.backdrop)
             covered -= item.body;
@@ -137,6 +149,17 @@ void Painting::paintItem(std::size_t index, Surface& surface) {
 
 void Painting::paintGroup(std::size_t index, Surface& surface) {
     const auto& item = items_[index];
+    if (isBackgroundOnly(item, index)) {
+        paintBackground(index, surface, item.opacity);
+        return;
+    }
+    auto& painter = surface.painter;
+    if (isPictureOnly(item)) {
+        painter.setOpacity(item.opacity);
+        paintPicture(index, surface);
+        painter.setOpacity(1);
+        return;
+    }
     const auto region = damage_ & item.wholeExtent;
     auto& image = tools_.scratch.take();
     clear(image, region);
@@ -146,9 +169,7 @@ void Painting::paintGroup(std::size_t index, Surface& surface) {
         paintLayer(index, group);
         surfaces_.pop_back();
     }
-    auto& painter = surface.painter;
     painter.resetTransform();
-    painter.setClipRegion(region);
     painter.setOpacity(item.opacity);
     paintPart(painter, image, region);
     painter.setOpacity(1);
@@ -157,7 +178,7 @@ void Painting::paintGroup(std::size_t index, Surface& surface) {
 
 void Painting::paintLayer(std::size_t index, Surface& surface) {
     const auto& item = items_[index];
-    if (!isCovered_[index])
+    if (!seen_[index].isEmpty())
         paintShadow(item, surface);
     if (item.hasSoftMask())
         paintMasked(index, surface);
@@ -167,11 +188,11 @@ void Painting::paintLayer(std::size_t index, Surface& surface) {
 
 void Painting::paintInside(std::size_t index, Surface& surface) {
     const auto& item = items_[index];
-    if (!isCovered_[index]) {
+    if (!seen_[index].isEmpty()) {
         paintBackdrop(item, surface);
-        paintBackground(item, surface);
+        paintBackground(index, surface);
         paintContents(item, surface);
-        paintPicture(item, surface);
+        paintPicture(index, surface);
     }
     paintItems(index + 1, item.end, surface);
     paintBorder(item, surface);
@@ -196,19 +217,17 @@ void Painting::blendEdges(const PaintItem& item, const QRegion& edges, QImage& s
     clear(mask, edges);
     {
         Surface shape(mask, 1);
-        shape.painter.setClipRegion(edges);
-        shape.painter.setTransform(item.look.transform());
-        shape.painter.fillPath(item.look.outline(), Qt::black);
+        const auto outline = item.look.transform().map(item.look.outline());
+        paintEach(shape.painter, edges,
+                  [&](const QRect& /*rect*/) { shape.painter.fillPath(outline, Qt::black); });
     }
     {
         QPainter outside(&saved);
-        outside.setClipRegion(edges);
         outside.setCompositionMode(QPainter::CompositionMode_DestinationOut);
         paintPart(outside, mask, edges);
     }
     auto& painter = surface.painter;
     painter.resetTransform();
-    painter.setClipRegion(edges);
     painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
     paintPart(painter, mask, edges);
     painter.setCompositionMode(QPainter::CompositionMode_Plus);
@@ -255,13 +274,23 @@ QImage Painting::behind(const QRect& rect) const {
     return image;
 }
 
-void Painting::paintBackground(const PaintItem& item, Surface& surface) {
+void Painting::paintBackground(std::size_t index, Surface& surface, double opacity) {
+    const auto& item = items_[index];
     const auto& look = item.look;
-    if (look.background.alpha == 0)
+    auto color = look.background;
+    color.alpha *= opacity;
+    if (color.alpha == 0)
         return;
+    auto& painter = surface.painter;
+    if (look.fillsWholePixels()) {
+        painter.resetTransform();
+        const auto region = seen_[index] & item.innerClip & look.wholePixels();
+        paintEach(painter, region, [&](const QRect& rect) { painter.fillRect(rect, asColor(color)); });
+        return;
+    }
     const auto isEdgeHidden = look.borderColor.alpha == 1; // then no background shines through its edge
     const auto shape = shapeOf(item, isEdgeHidden ? look.borderWidth / 2 : 0);
-    readied(surface, item, item.body & item.innerClip).fillPath(shape, asColor(look.background));
+    readied(surface, item, item.body & item.innerClip).fillPath(shape, asColor(color));
 }
 
 void Painting::paintContents(const PaintItem& item, Surface& surface) {
@@ -274,30 +303,35 @@ void Painting::paintContents(const PaintItem& item, Surface& surface) {
     painter.restore();
 }
 
-void Painting::paintPicture(const PaintItem& item, Surface& surface) {
+void Painting::paintPicture(std::size_t index, Surface& surface) {
+    const auto& item = items_[index];
     if (item.inner == nullptr)
         return;
-    const auto region = damage_ & item.body;
-    auto& painter = surface.painter;
-    painter.resetTransform();
-    painter.setCompositionMode(QPainter::CompositionMode_Source);
-    paintPicture(item, region & item.opaque, painter);
-    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
-    paintPicture(item, region - item.opaque, painter);
-}
-
-void Painting::paintPicture(const PaintItem& item, const QRegion& region, QPainter& painter) const {
-    const auto& image = tools_.pictures.picture(item.identity);
-    painter.setClipRegion(region);
-    if (!item.isInnerScaled()) {
-        painter.drawImage(item.cornerOfInner(), image);
+    const auto region = seen_[index] & item.body;
+    if (item.isInnerScaled()) {
+        paintScaledPicture(item, region, surface);
         return;
     }
-    const ScaledPicture scaled(image, item.placeOfInner());
-    for (const auto& rect : region) {
-        for (const auto& strip : strips(rect))
-            painter.drawImage(strip.topLeft(), scaled.part(strip));
-    }
+    const auto& image = tools_.pictures.picture(item.identity);
+    auto& painter = surface.painter;
+    painter.resetTransform();
+    const auto paint = [&](const QRect& /*rect*/) { painter.drawImage(item.cornerOfInner(), image); };
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    paintEach(painter, region & item.opaque, paint);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    paintEach(painter, region - item.opaque, paint);
+}
+
+void Painting::paintScaledPicture(const PaintItem& item, const QRegion& region, Surface& surface) const {
+    const ScaledPicture scaled(tools_.pictures.picture(item.identity), item.placeOfInner());
+    for (const auto& rect : region& item.opaque)
+        scaled.copyTo(surface.image, rect);
+    surface.painter.resetTransform();
+    paintEach(surface.painter, region - item.opaque, [&](const QRect& rect) {
+        QImage part(rect.size(), QImage::Format_ARGB32_Premultiplied);
+        scaled.copyTo(part, rect, rect.topLeft());
+        surface.painter.drawImage(rect.topLeft(), part);
+    });
 }
 
 void Painting::paintBorder(const PaintItem& item, Surface& surface) {

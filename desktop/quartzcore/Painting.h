@@ -37,8 +37,8 @@ private:
         Surface(QImage& picture, double groupOpacity);
     };
 
-    /// Tells what is not seen since something lies in front of it.
-    void findCovered();
+    /// Where nothing that lies in front covers an item.
+    void findSeen();
     void paintItems(std::size_t first, std::size_t end, Surface& surface);
     void paintItem(std::size_t index, Surface& surface);
     void paintGroup(std::size_t index, Surface& surface);
@@ -49,10 +49,11 @@ private:
     void blendEdges(const PaintItem& item, const QRegion& edges, QImage& saved, Surface& surface);
     void paintShadow(const PaintItem& item, Surface& surface);
     void paintBackdrop(const PaintItem& item, Surface& surface);
-    void paintBackground(const PaintItem& item, Surface& surface);
+    /// \param opacity of a group that has nothing else
+    void paintBackground(std::size_t index, Surface& surface, double opacity = 1);
     void paintContents(const PaintItem& item, Surface& surface);
-    void paintPicture(const PaintItem& item, Surface& surface);
-    void paintPicture(const PaintItem& item, const QRegion& region, QPainter& painter) const;
+    void paintPicture(std::size_t index, Surface& surface);
+    void paintScaledPicture(const PaintItem& item, const QRegion& region, Surface& surface) const;
     void paintBorder(const PaintItem& item, Surface& surface);
     [[nodiscard]] QImage behind(const QRect& rect) const;
     [[nodiscard]] QPainter& readied(Surface& surface, const PaintItem& item, const QRegion& clip) const;
@@ -61,6 +62,6 @@ private:
     const QRegion& damage_;
     Tools tools_;
     QImage& picture_;
-    std::vector<bool> isCovered_;    ///< of each item, without what is within it
+    std::vector<QRegion> seen_;      ///< of the damage, where each item is seen, without what is within it
     std::vector<Surface*> surfaces_; ///< the whole's, then those of the groups that are being painted
 };

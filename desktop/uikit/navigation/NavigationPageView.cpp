@@ -1,5 +1,6 @@
 #include "navigation/NavigationPageView.h"
 
+#include "CALayerPeer.h"
 #include "DesktopColor.h"
 #include "ObjectiveC/Class.h"
 #include "views/UIViewPeer.h"
@@ -71,6 +72,7 @@ void NavigationPageView::placeBeneath(double covered) {
 }
 
 void NavigationPageView::place(double shift, double shadow, double dim) {
+    page_->layer().peer().keepsPicture = shift != 0 || dim != 0;
     peer().setTransform(AffineTransform::translation(shift * bounds().size.width, 0));
     shadow_->setAlpha(shadow);
     dimming_->setAlpha(dim);

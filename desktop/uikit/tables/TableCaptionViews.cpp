@@ -1,5 +1,6 @@
 #include "tables/TableCaptionViews.h"
 
+#include "CALayerPeer.h"
 #include "DesktopColor.h"
 #include "TextLayout.h"
 #include "views/UILabelPeer.h"

@@ -1,6 +1,7 @@
 #include "tables/UITableViewCellPeer.h"
 
 #include "AnimationGroup.h"
+#include "CALayerPeer.h"
 #include "DesktopColor.h"
 #include "DesktopImage.h"
 #include "layout/LayoutProblem.h"
