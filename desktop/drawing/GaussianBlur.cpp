@@ -3,9 +3,13 @@
 #include "BoxBlur.h"
 #include "PixelRows.h"
 
+#include <QPainter>
+#include <QTransform>
 #include <algorithm>
+#include <array>
 #include <climits>
 #include <cmath>
+#include <cstring>
 #include <numbers>
 #include <span>
 
@@ -166,6 +170,45 @@ void saturate(PixelComponents& pixels, double factor) {
     }
 }
 
+QImage maskOf(const QPainterPath& shape, QSize size) {
+    QImage mask(size, QImage::Format_Alpha8);
+    mask.fill(0);
+    QPainter painter(&mask);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillPath(shape, Qt::black);
+    return mask;
+}
+
+/// Pixels of a colour, as opaque as those of a mask.
+PixelComponents inColor(const PixelComponents& mask, QRgb color) {
+    constexpr auto channels = 4U;
+    constexpr float full = 255;
+    const QRgb opaque = color | 0xff000000U;
+    std::array<uchar, channels> bytes{};
+    std::memcpy(bytes.data(), &opaque, channels);
+    PixelComponents pixels{.values = {},
+                           .rowCount = mask.rowCount,
+                           .rowLength = mask.rowLength * channels,
+                           .channels = channels};
+    pixels.values.reserve(mask.values.size() * channels);
+    for (const float alpha : mask.values) {
+        for (const auto byte : bytes)
+            pixels.values.push_back(alpha * static_cast<float>(byte) / full);
+    }
+    return pixels;
+}
+
+/// A mask that is painted at the fraction of its size that it is blurred at.
+PixelComponents blurredMaskAtFraction(const QPainterPath& shape, QSize size, double sigma) {
+    const double factor = 2 * sigma / finestSigma;
+    const QSize smaller(fractionOf(size.width(), factor), fractionOf(size.height(), factor));
+    const auto toSmaller = QTransform::fromScale(static_cast<double>(smaller.width()) / size.width(),
+                                                 static_cast<double>(smaller.height()) / size.height());
+    return blurredComponents(maskOf(toSmaller.map(shape), smaller),
+                             sigmaAt(sigma, size.width(), smaller.width()),
+                             sigmaAt(sigma, size.height(), smaller.height()), BlurEdges::Transparent);
+}
+
 } // namespace
 
 QImage blurred(const QImage& image, double sigma, BlurEdges edges) {
@@ -198,5 +241,20 @@ QImage blurredBackdrop(const QImage& image, double sigma, double saturation) {
     saturate(pixels, saturation);
     QImage result(image.size(), format);
     setEnlarged(result, pixels);
+    return result;
+}
+
+QImage blurredShape(const QPainterPath& shape, QSize size, double sigma, QRgb color) {
+    QImage result(size, format);
+    if (sigma > finestSigma) {
+        setEnlarged(result, inColor(blurredMaskAtFraction(shape, size, sigma), color));
+        return result;
+    }
+    const auto mask = blurred(maskOf(shape, size), sigma, BlurEdges::Transparent);
+    result.fill(QColor(color));
+    QPainter painter(&result);
+    painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+    painter.drawImage(0, 0, mask);
+    painter.end();
     return result;
 }

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QImage>
+#include <QPainterPath>
+#include <QSize>
 
 /// What a blur takes to be beyond an image's edges.
 enum class BlurEdges {
@@ -22,3 +24,7 @@ enum class BlurEdges {
 /// What is seen through a backdrop of what lies behind it: blurred, its edges extended, then saturated.
 /// \param image ARGB32 premultiplied \returns an image of the same kind and size
 [[nodiscard]] QImage blurredBackdrop(const QImage& image, double sigma, double saturation);
+
+/// A shape that is filled with an opaque colour, blurred; nothing is beyond the edges.
+/// \param shape in pixels of an image of that size \returns it, ARGB32 premultiplied
+[[nodiscard]] QImage blurredShape(const QPainterPath& shape, QSize size, double sigma, QRgb color);

@@ -13,20 +13,26 @@ void PixelRows::mix(std::span<const std::uint8_t> first, std::span<const std::ui
                     std::span<std::uint8_t> mixed) {
     const auto secondShare = static_cast<std::uint16_t>(share);
     const auto firstShare = static_cast<std::uint16_t>(fullShare - share);
+    const auto* __restrict one = first.data();
+    const auto* __restrict other = second.data();
+    auto* __restrict out = mixed.data();
     for (std::size_t index = 0; index < mixed.size(); ++index) {
-        const auto sum = static_cast<std::uint16_t>(first[index] * firstShare + second[index] * secondShare +
-                                                    fullShare / 2);
-        mixed[index] = static_cast<std::uint8_t>(sum / fullShare);
+        const auto sum =
+            static_cast<std::uint16_t>(one[index] * firstShare + other[index] * secondShare + fullShare / 2);
+        out[index] = static_cast<std::uint8_t>(sum / fullShare);
     }
 }
 
 void PixelRows::mixWithNext(std::span<const std::uint8_t> row, std::span<const std::uint8_t> shares,
                             std::span<std::uint8_t> mixed) {
+    const auto* __restrict from = row.data();
+    const auto* __restrict shareOf = shares.data();
+    auto* __restrict out = mixed.data();
     for (std::size_t index = 0; index < mixed.size(); ++index) {
-        const auto share = static_cast<std::uint16_t>(shares[index]);
+        const auto share = static_cast<std::uint16_t>(shareOf[index]);
         const auto rest = static_cast<std::uint16_t>(fullShare - share);
         const auto sum =
-            static_cast<std::uint16_t>(row[index] * rest + row[index + pixelSize] * share + fullShare / 2);
-        mixed[index] = static_cast<std::uint8_t>(sum / fullShare);
+            static_cast<std::uint16_t>(from[index] * rest + from[index + pixelSize] * share + fullShare / 2);
+        out[index] = static_cast<std::uint8_t>(sum / fullShare);
     }
 }

@@ -100,13 +100,20 @@ bool suitsPicture(const LayerLook& look, double scale) {
            isWithin(map.d / scale, leastScaling, greatestScaling);
 }
 
-/// Has the origin of the bounds at a whole pixel, when nothing but that tells a picture from its place.
+/// Has a picture at whole pixels, so that nothing but that tells it from its place.
 void snap(LayerLook& look, double scale) {
     auto& map = look.toPixels;
-    if (map.a != scale || map.d != scale)
+    const auto rect = look.pixelRect();
+    if (map.a != scale || map.d != scale) {
+        const auto whole = QRectF(rect.topLeft().toPoint(), rect.bottomRight().toPoint());
+        map.a *= whole.width() / rect.width();
+        map.d *= whole.height() / rect.height();
+        map.tx = whole.left() - map.a * look.bounds.origin.x;
+        map.ty = whole.top() - map.d * look.bounds.origin.y;
         return;
-    map.tx = std::round(map.tx + map.a * look.bounds.origin.x) - map.a * look.bounds.origin.x;
-    map.ty = std::round(map.ty + map.d * look.bounds.origin.y) - map.d * look.bounds.origin.y;
+    }
+    map.tx += std::round(rect.left()) - rect.left();
+    map.ty += std::round(rect.top()) - rect.top();
 }
 
 QRect roundedInwards(const QRectF& rect) {
@@ -128,6 +135,22 @@ QRect filledRect(const LayerLook& look) {
     return rect.isValid() ? rect : QRect();
 }
 
+/// Where the picture of a layer lets nothing through.
+QRect opaqueOfPicture(const PaintItem& item) {
+    const auto inside = item.inner->opaque();
+    const auto unmasked = item.hasSoftMask() ? filledRect(item.look) & item.innerClip : item.innerClip;
+    if (inside.isEmpty())
+        return {};
+    if (!item.isInnerScaled())
+        return inside.translated(item.cornerOfInner()) & unmasked;
+    const auto place = item.placeOfInner();
+    const auto toPlace =
+        QTransform::fromTranslate(place.left(), place.top())
+            .scale(place.width() / item.inner->size().width(), place.height() / item.inner->size().height());
+    const auto seen = roundedInwards(toPlace.mapRect(QRectF(inside)));
+    return seen.adjusted(mixedEdge, mixedEdge, -mixedEdge, -mixedEdge) & unmasked;
+}
+
 } // namespace
 
 PaintList::PaintList(const std::vector<const CALayer*>& roots, CGSize size, double scale)
@@ -147,6 +170,16 @@ PaintList::PaintList(const CALayer& layer, const LayerLook& look, double scale) 
     const auto extent = items_.front().wholeExtent;
     moveBy(-extent.topLeft());
     size_ = extent.size();
+}
+
+QRect PaintList::opaque() const {
+    QRect largest;
+    const auto area = [](const QRect& rect) { return rect.width() * rect.height(); };
+    for (const auto& item : items_) {
+        if (area(item.opaque) > area(largest))
+            largest = item.opaque;
+    }
+    return largest & QRect({}, size_);
 }
 
 void PaintList::moveBy(QPoint distance) {
@@ -216,13 +249,8 @@ bool PaintList::addPicture(const CALayer& layer, const LayerLook& look, double o
     item.innerClip = item.look.masksToBounds ? item.clip & maskedClip(item.look) : item.clip;
     item.body = alignedOutwards(item.placeOfInner(), 0) & item.innerClip;
     item.extent = item.wholeExtent = item.body;
-    if (look.background.alpha == 1 && item.isInFullView()) {
-        auto placed = look;
-        placed.toPixels = item.look.toPixels;
-        item.opaque = filledRect(placed) & item.innerClip;
-        if (item.isInnerScaled())
-            item.opaque.adjust(mixedEdge, mixedEdge, -mixedEdge, -mixedEdge);
-    }
+    if (item.isInFullView())
+        item.opaque = opaqueOfPicture(item);
     return true;
 }
 

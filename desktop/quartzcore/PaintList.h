@@ -25,6 +25,9 @@ public:
     /// Of the picture, in pixels for a point.
     [[nodiscard]] double scale() const { return scale_; }
 
+    /// A part of the picture that lets nothing through, the largest that one layer fills; may be empty.
+    [[nodiscard]] QRect opaque() const;
+
     /// Whether the same layers look different a moment later.
     [[nodiscard]] bool isAnimating() const { return isAnimating_; }
 

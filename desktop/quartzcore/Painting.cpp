@@ -78,6 +78,17 @@ QPainterPath shapeOf(const PaintItem& item, double inset) {
     return path;
 }
 
+/// The pixels between the corners of a background that are filled wholly, where they are worth the trouble.
+QRect insideOf(const LayerLook& look, double inset) {
+    constexpr auto leastSide = 64;
+    const auto edge = 1 + inset * pixelsPerPoint(look);
+    const auto rect =
+        look.pixelRect().adjusted(edge, edge + look.cornerPixels(), -edge, -edge - look.cornerPixels());
+    if (!look.isUpright() || rect.width() < leastSide || rect.height() < leastSide)
+        return {};
+    return rect.toAlignedRect();
+}
+
 /// Whether nothing of an item is painted but its background, so that a group needs no picture of its own.
 bool isBackgroundOnly(const PaintItem& item, std::size_t index) {
     const auto& look = item.look;
@@ -106,7 +117,8 @@ Painting::Painting(const PaintList& list, const QRegion& damage, QImage& picture
       damage_(damage),
       tools_(tools),
       picture_(picture),
-      seen_(items_.size()) {}
+      seen_(items_.size()),
+      isAnySeen_(items_.size()) {}
 
 void Painting::paintAll(const QColor& color) {
     findSeen();
@@ -131,11 +143,17 @@ void Painting::findSeen() {
             covered -= item.body;
         covered |= item.opaque;
     }
+    for (auto index = items_.size(); index-- > 0;) {
+        isAnySeen_[index] = !seen_[index].isEmpty();
+        for (auto within = index + 1; within < items_[index].end && !isAnySeen_[index];
+             within = items_[within].end)
+            isAnySeen_[index] = isAnySeen_[within];
+    }
 }
 
 void Painting::paintItems(std::size_t first, std::size_t end, Surface& surface) {
     for (auto index = first; index < end; index = items_[index].end) {
-        if (damage_.intersects(items_[index].wholeExtent))
+        if (isAnySeen_[index])
             paintItem(index, surface);
     }
 }
@@ -289,8 +307,14 @@ void Painting::paintBackground(std::size_t index, Surface& surface, double opaci
         return;
     }
     const auto isEdgeHidden = look.borderColor.alpha == 1; // then no background shines through its edge
-    const auto shape = shapeOf(item, isEdgeHidden ? look.borderWidth / 2 : 0);
-    readied(surface, item, item.body & item.innerClip).fillPath(shape, asColor(color));
+    const auto inset = isEdgeHidden ? look.borderWidth / 2 : 0;
+    const auto shape = look.transform().map(shapeOf(item, inset));
+    const auto region = seen_[index] & item.body & item.innerClip;
+    const auto inside = insideOf(look, inset);
+    painter.resetTransform();
+    paintEach(painter, region & inside, [&](const QRect& rect) { painter.fillRect(rect, asColor(color)); });
+    painter.setClipRegion(region - inside);
+    painter.fillPath(shape, asColor(color));
 }
 
 void Painting::paintContents(const PaintItem& item, Surface& surface) {

@@ -63,5 +63,6 @@ private:
     Tools tools_;
     QImage& picture_;
     std::vector<QRegion> seen_;      ///< of the damage, where each item is seen, without what is within it
+    std::vector<bool> isAnySeen_;    ///< of each item with all within it
     std::vector<Surface*> surfaces_; ///< the whole's, then those of the groups that are being painted
 };

@@ -48,6 +48,7 @@ NavigationPageView::NavigationPageView(const Ref<UIView>& page)
     dimming_->setBackgroundColor(UIColor::blackColor());
     dimming_->setAlpha(0);
     shadow_->setAlpha(0);
+    shadow_->layer().peer().keepsPicture = true;
     for (const auto& view : {shadow_, page_, dimming_})
         addSubview(view);
 }
@@ -60,25 +61,28 @@ void NavigationPageView::layoutSubviews() {
 }
 
 void NavigationPageView::placeAlone() {
+    page_->layer().peer().keepsPicture = false;
     place(0, 0, 0);
 }
 
 void NavigationPageView::placeAbove(double away) {
+    page_->layer().peer().keepsPicture = true;
     place(away, 1 - away, 0);
 }
 
 void NavigationPageView::placeBeneath(double covered) {
+    page_->layer().peer().keepsPicture = true;
     place(-parallax * covered, 0, greatestDim * covered);
 }
 
 void NavigationPageView::place(double shift, double shadow, double dim) {
-    page_->layer().peer().keepsPicture = shift != 0 || dim != 0;
     peer().setTransform(AffineTransform::translation(shift * bounds().size.width, 0));
     shadow_->setAlpha(shadow);
     dimming_->setAlpha(dim);
 }
 
 void NavigationPageView::releasePage() {
+    page_->layer().peer().keepsPicture = false;
     if (page_->peer().superview() == this)
         page_->peer().removeFromSuperview();
 }
