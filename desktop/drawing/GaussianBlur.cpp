@@ -124,7 +124,7 @@ void setEnlarged(QImage& image, const PixelComponents& pixels) {
                               pixels.rowCount);
         const auto& first = rows[between.first];
         PixelRows::mix(first, rows[between.second],
-                       static_cast<int>(std::lround(between.share * PixelRows::fullShare)),
+                       static_cast<int>(std::lround(between.share * PixelRows::fullFineShare)),
                        {image.scanLine(y), first.size()});
     }
 }

@@ -2,11 +2,16 @@
 
 void PixelRows::mix(std::span<const Fine> first, std::span<const Fine> second, int share,
                     std::span<std::uint8_t> mixed) {
-    constexpr int whole = fineSteps * fullShare;
-    const int rest = fullShare - share;
-    for (std::size_t index = 0; index < mixed.size(); ++index)
-        mixed[index] =
-            static_cast<std::uint8_t>((first[index] * rest + second[index] * share + whole / 2) / whole);
+    constexpr auto whole = fineSteps * fullFineShare;
+    const auto secondShare = static_cast<Fine>(share);
+    const auto firstShare = static_cast<Fine>(fullFineShare - share);
+    const auto* __restrict one = first.data();
+    const auto* __restrict other = second.data();
+    auto* __restrict out = mixed.data();
+    for (std::size_t index = 0; index < mixed.size(); ++index) {
+        const auto sum = static_cast<Fine>(one[index] * firstShare + other[index] * secondShare + whole / 2);
+        out[index] = static_cast<std::uint8_t>(sum / whole);
+    }
 }
 
 void PixelRows::mix(std::span<const std::uint8_t> first, std::span<const std::uint8_t> second, int share,

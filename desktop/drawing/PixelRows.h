@@ -7,9 +7,10 @@
 /// Work on rows of pixels, in loops that compilers turn into vector instructions.
 namespace PixelRows {
 
-/// A component of a pixel with a fraction: 64 are one step of 255.
-using Fine = std::int16_t;
-inline constexpr int fineSteps = 64;
+/// A component of a pixel with a fraction: 4 are one step of 255. Mixed with 64 shares, they fit into 16 bits.
+using Fine = std::uint16_t;
+inline constexpr int fineSteps = 4;
+inline constexpr int fullFineShare = 64;
 
 /// Of a mix's second part, all of it.
 inline constexpr int fullShare = 128;
@@ -17,7 +18,7 @@ inline constexpr int fullShare = 128;
 /// Bytes of a pixel in colour.
 inline constexpr std::size_t pixelSize = 4;
 
-/// Mixes two rows. \param share of the second, 0..fullShare \pre all are of one length
+/// Mixes two rows. \param share of the second, 0..fullFineShare \pre all are of one length
 void mix(std::span<const Fine> first, std::span<const Fine> second, int share, std::span<std::uint8_t> mixed);
 void mix(std::span<const std::uint8_t> first, std::span<const std::uint8_t> second, int share,
          std::span<std::uint8_t> mixed);
