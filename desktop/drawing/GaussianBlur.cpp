@@ -9,6 +9,7 @@
 #include <array>
 #include <climits>
 #include <cmath>
+#include <cstdint>
 #include <cstring>
 #include <numbers>
 #include <span>
@@ -45,20 +46,18 @@ void setRow(QImage& image, int y, std::span<const float> values) {
                            [](float value) { return static_cast<uchar>(value + 0.5F); });
 }
 
-PixelComponents blurredComponents(const QImage& image, double horizontalSigma, double verticalSigma,
-                                  BlurEdges edges) {
+void blurComponents(PixelComponents& pixels, double horizontalSigma, double verticalSigma, BlurEdges edges) {
     const BoxBlur horizontal(horizontalSigma / std::numbers::sqrt3, edges);
     const BoxBlur vertical(verticalSigma / std::numbers::sqrt3, edges);
-    auto pixels = componentsOf(image);
     for (int pass = 0; pass < boxes; ++pass) {
         horizontal.blurRows(pixels);
         vertical.blurColumns(pixels);
     }
-    return pixels;
 }
 
 void blurAtFullSize(QImage& image, double sigma, BlurEdges edges) {
-    const auto pixels = blurredComponents(image, sigma, sigma, edges);
+    auto pixels = componentsOf(image);
+    blurComponents(pixels, sigma, sigma, edges);
     for (int y = 0; y < image.height(); ++y)
         setRow(image, y,
                std::span(pixels.values)
@@ -129,14 +128,58 @@ void setEnlarged(QImage& image, const PixelComponents& pixels) {
     }
 }
 
+/// From so many times its size on, an image's parts have edges at whole pixels.
+constexpr double wholePixelsFrom = 8;
+
+/// Where a part of a row or column begins.
+int edgeOf(int part, int parts, int size) {
+    return static_cast<int>(std::lround(static_cast<double>(part) * size / parts));
+}
+
+/// The means of an image's parts. \param sums of some of its rows, in columns
+void appendMeans(const std::vector<std::uint32_t>& sums, int rows, int width, int parts,
+                 PixelComponents& means) {
+    for (int part = 0; part < parts; ++part) {
+        const auto first = edgeOf(part, parts, width);
+        const auto last = edgeOf(part + 1, parts, width);
+        for (std::size_t channel = 0; channel < means.channels; ++channel) {
+            std::uint64_t sum = 0;
+            for (int x = first; x < last; ++x)
+                sum += sums[static_cast<std::size_t>(x) * means.channels + channel];
+            means.values.push_back(static_cast<float>(sum) / static_cast<float>((last - first) * rows));
+        }
+    }
+}
+
+PixelComponents reduced(const QImage& image, QSize size) {
+    const auto channels = static_cast<std::size_t>(image.depth() / CHAR_BIT);
+    PixelComponents means{.values = {},
+                          .rowCount = static_cast<std::size_t>(size.height()),
+                          .rowLength = static_cast<std::size_t>(size.width()) * channels,
+                          .channels = channels};
+    std::vector<std::uint32_t> sums(static_cast<std::size_t>(image.width()) * channels);
+    for (int part = 0; part < size.height(); ++part) {
+        const auto first = edgeOf(part, size.height(), image.height());
+        const auto last = edgeOf(part + 1, size.height(), image.height());
+        std::ranges::fill(sums, 0U);
+        for (int y = first; y < last; ++y)
+            PixelRows::add(row(image, y), sums);
+        appendMeans(sums, last - first, image.width(), size.width(), means);
+    }
+    return means;
+}
+
 /// What a wide blur makes of an image, at a fraction of its size.
 PixelComponents blurredAtFraction(const QImage& image, double sigma, BlurEdges edges) {
     const double factor = 2 * sigma / finestSigma;
     const QSize size(fractionOf(image.width(), factor), fractionOf(image.height(), factor));
-    const auto smaller = image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    return blurredComponents(smaller.convertToFormat(image.format()),
-                             sigmaAt(sigma, image.width(), size.width()),
-                             sigmaAt(sigma, image.height(), size.height()), edges);
+    auto smaller = factor < wholePixelsFrom
+                       ? componentsOf(image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                                          .convertToFormat(image.format()))
+                       : reduced(image, size);
+    blurComponents(smaller, sigmaAt(sigma, image.width(), size.width()),
+                   sigmaAt(sigma, image.height(), size.height()), edges);
+    return smaller;
 }
 
 /// The brightness of a colour, by the shares of its components in it.
@@ -204,9 +247,10 @@ PixelComponents blurredMaskAtFraction(const QPainterPath& shape, QSize size, dou
     const QSize smaller(fractionOf(size.width(), factor), fractionOf(size.height(), factor));
     const auto toSmaller = QTransform::fromScale(static_cast<double>(smaller.width()) / size.width(),
                                                  static_cast<double>(smaller.height()) / size.height());
-    return blurredComponents(maskOf(toSmaller.map(shape), smaller),
-                             sigmaAt(sigma, size.width(), smaller.width()),
-                             sigmaAt(sigma, size.height(), smaller.height()), BlurEdges::Transparent);
+    auto mask = componentsOf(maskOf(toSmaller.map(shape), smaller));
+    blurComponents(mask, sigmaAt(sigma, size.width(), smaller.width()),
+                   sigmaAt(sigma, size.height(), smaller.height()), BlurEdges::Transparent);
+    return mask;
 }
 
 } // namespace

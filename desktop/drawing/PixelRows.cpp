@@ -41,3 +41,23 @@ void PixelRows::mixWithNext(std::span<const std::uint8_t> row, std::span<const s
         out[index] = static_cast<std::uint8_t>(sum / fullShare);
     }
 }
+
+void PixelRows::paintOver(std::span<std::uint8_t> row, std::span<const std::uint8_t> color,
+                          std::uint8_t rest) {
+    constexpr std::uint16_t half = 128;
+    const auto* __restrict added = color.data();
+    auto* __restrict out = row.data();
+    const std::uint16_t share = rest;
+    for (std::size_t index = 0; index < row.size(); ++index) {
+        const auto part = static_cast<std::uint16_t>(out[index] * share + half);
+        const auto left = static_cast<std::uint16_t>(part + (part >> 8U)); // divided by 255, rounded
+        out[index] = static_cast<std::uint8_t>((left >> 8U) + added[index]);
+    }
+}
+
+void PixelRows::add(std::span<const std::uint8_t> row, std::span<std::uint32_t> sums) {
+    const auto* __restrict from = row.data();
+    auto* __restrict to = sums.data();
+    for (std::size_t index = 0; index < row.size(); ++index)
+        to[index] += from[index];
+}

@@ -7,7 +7,8 @@
 /// Work on rows of pixels, in loops that compilers turn into vector instructions.
 namespace PixelRows {
 
-/// A component of a pixel with a fraction: 4 are one step of 255. Mixed with 64 shares, they fit into 16 bits.
+/// A component of a pixel with a fraction: 4 are one step of 255. Mixed with 64 shares, they fit into 16
+/// bits.
 using Fine = std::uint16_t;
 inline constexpr int fineSteps = 4;
 inline constexpr int fullFineShare = 64;
@@ -27,5 +28,12 @@ void mix(std::span<const std::uint8_t> first, std::span<const std::uint8_t> seco
 /// \pre the row is a pixel longer than the others
 void mixWithNext(std::span<const std::uint8_t> row, std::span<const std::uint8_t> shares,
                  std::span<std::uint8_t> mixed);
+
+/// Paints a colour over a row. \param color premultiplied, for each byte; repeated \param rest what it leaves
+/// of the row, 0..255
+void paintOver(std::span<std::uint8_t> row, std::span<const std::uint8_t> color, std::uint8_t rest);
+
+/// Adds a row to sums, byte by byte. \pre both are of one length
+void add(std::span<const std::uint8_t> row, std::span<std::uint32_t> sums);
 
 } // namespace PixelRows

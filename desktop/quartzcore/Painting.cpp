@@ -2,9 +2,11 @@
 
 #include "GaussianBlur.h"
 #include "LayerDelegate.h"
+#include "PixelRects.h"
 #include "ScaledPicture.h"
 
 #include <cmath>
+#include <ranges>
 #include <utility>
 
 namespace {
@@ -50,20 +52,6 @@ void paintEach(QPainter& painter, const QRegion& region, Paint paint) {
 /// Paints the pixels of a region with those of another picture, which has them at the same place.
 void paintPart(QPainter& painter, const QImage& image, const QRegion& region) {
     paintEach(painter, region, [&](const QRect& rect) { painter.drawImage(rect.topLeft(), image, rect); });
-}
-
-/// Replaces the pixels of a region by those of another picture.
-void copy(const QImage& from, QImage& to, const QRegion& region) {
-    QPainter painter(&to);
-    painter.setCompositionMode(QPainter::CompositionMode_Source);
-    paintPart(painter, from, region);
-}
-
-void clear(QImage& image, const QRegion& region) {
-    QPainter painter(&image);
-    painter.setCompositionMode(QPainter::CompositionMode_Source);
-    for (const auto& rect : region)
-        painter.fillRect(rect, Qt::transparent);
 }
 
 /// The layer's edge, or beyond it where a mask makes the edge.
@@ -122,11 +110,9 @@ Painting::Painting(const PaintList& list, const QRegion& damage, QImage& picture
 
 void Painting::paintAll(const QColor& color) {
     findSeen();
+    isOpaque_ = color.alphaF() == 1;
+    PixelRects::fill(picture_, damage_, color);
     Surface surface(picture_, 1);
-    surface.painter.setClipRegion(damage_);
-    surface.painter.setCompositionMode(QPainter::CompositionMode_Source);
-    surface.painter.fillRect(damage_.boundingRect(), color);
-    surface.painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
     surfaces_.push_back(&surface);
     paintItems(0, items_.size(), surface);
     surfaces_.pop_back();
@@ -180,7 +166,7 @@ void Painting::paintGroup(std::size_t index, Surface& surface) {
     }
     const auto region = damage_ & item.wholeExtent;
     auto& image = tools_.scratch.take();
-    clear(image, region);
+    PixelRects::fill(image, region, Qt::transparent);
     {
         Surface group(image, item.opacity);
         surfaces_.push_back(&group);
@@ -207,7 +193,7 @@ void Painting::paintLayer(std::size_t index, Surface& surface) {
 void Painting::paintInside(std::size_t index, Surface& surface) {
     const auto& item = items_[index];
     if (!seen_[index].isEmpty()) {
-        paintBackdrop(item, surface);
+        paintBackdrop(index, surface);
         paintBackground(index, surface);
         paintContents(item, surface);
         paintPicture(index, surface);
@@ -224,7 +210,7 @@ void Painting::paintMasked(std::size_t index, Surface& surface) {
         return;
     }
     auto& saved = tools_.scratch.take();
-    copy(surface.image, saved, edges);
+    PixelRects::copy(surface.image, saved, edges);
     paintInside(index, surface);
     blendEdges(item, edges, saved, surface);
     tools_.scratch.release();
@@ -232,7 +218,7 @@ void Painting::paintMasked(std::size_t index, Surface& surface) {
 
 void Painting::blendEdges(const PaintItem& item, const QRegion& edges, QImage& saved, Surface& surface) {
     auto& mask = tools_.scratch.take();
-    clear(mask, edges);
+    PixelRects::fill(mask, edges, Qt::transparent);
     {
         Surface shape(mask, 1);
         const auto outline = item.look.transform().map(item.look.outline());
@@ -265,26 +251,30 @@ void Painting::paintShadow(const PaintItem& item, Surface& surface) {
     tools_.shadows.paint(readied(surface, item, item.extent), look.shadowShape(), shadow);
 }
 
-void Painting::paintBackdrop(const PaintItem& item, Surface& surface) {
+void Painting::paintBackdrop(std::size_t index, Surface& surface) {
+    const auto& item = items_[index];
     const auto& look = item.look;
     if (!look.backdrop || !damage_.intersects(item.body))
         return;
     const auto seen = blurredBackdrop(behind(item.body), look.backdrop->blurRadius * pixelsPerPoint(look),
                                       look.backdrop->saturation);
-    auto& painter = readied(surface, item, item.body & item.innerClip);
-    const auto shape = look.transform().map(shapeOf(item, 0));
+    const auto region = seen_[index] & item.body & item.innerClip;
+    const auto inside = isOpaque_ ? insideOf(look, 0) : QRect();
+    PixelRects::copy(seen, surface.image, region & inside, item.body.topLeft());
+    auto& painter = surface.painter;
     painter.resetTransform();
+    painter.setClipRegion(region - inside);
     painter.setBrushOrigin(item.body.topLeft());
-    painter.fillPath(shape, QBrush(seen));
+    painter.fillPath(look.transform().map(shapeOf(item, 0)), QBrush(seen));
     painter.setBrushOrigin(0, 0);
 }
 
 QImage Painting::behind(const QRect& rect) const {
     QImage image(rect.size(), QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
+    PixelRects::copy(picture_, image, QRect({}, rect.size()), -rect.topLeft());
     QPainter painter(&image);
     double opacity = 1;
-    for (const auto* const surface : surfaces_) {
+    for (const auto* const surface : surfaces_ | std::views::drop(1)) {
         opacity *= surface->opacity;
         painter.setOpacity(opacity);
         painter.drawImage(QPoint(), surface->image, rect);
@@ -301,9 +291,8 @@ void Painting::paintBackground(std::size_t index, Surface& surface, double opaci
         return;
     auto& painter = surface.painter;
     if (look.fillsWholePixels()) {
-        painter.resetTransform();
         const auto region = seen_[index] & item.innerClip & look.wholePixels();
-        paintEach(painter, region, [&](const QRect& rect) { painter.fillRect(rect, asColor(color)); });
+        PixelRects::paintOver(surface.image, region, asColor(color));
         return;
     }
     const auto isEdgeHidden = look.borderColor.alpha == 1; // then no background shines through its edge
@@ -312,7 +301,7 @@ void Painting::paintBackground(std::size_t index, Surface& surface, double opaci
     const auto region = seen_[index] & item.body & item.innerClip;
     const auto inside = insideOf(look, inset);
     painter.resetTransform();
-    paintEach(painter, region & inside, [&](const QRect& rect) { painter.fillRect(rect, asColor(color)); });
+    PixelRects::paintOver(surface.image, region & inside, asColor(color));
     painter.setClipRegion(region - inside);
     painter.fillPath(shape, asColor(color));
 }
@@ -340,9 +329,7 @@ void Painting::paintPicture(std::size_t index, Surface& surface) {
     auto& painter = surface.painter;
     painter.resetTransform();
     const auto paint = [&](const QRect& /*rect*/) { painter.drawImage(item.cornerOfInner(), image); };
-    painter.setCompositionMode(QPainter::CompositionMode_Source);
-    paintEach(painter, region & item.opaque, paint);
-    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    PixelRects::copy(image, surface.image, region & item.opaque, item.cornerOfInner());
     paintEach(painter, region - item.opaque, paint);
 }
 

@@ -48,7 +48,7 @@ private:
     /// Brings back what was there where a mask cuts off.
     void blendEdges(const PaintItem& item, const QRegion& edges, QImage& saved, Surface& surface);
     void paintShadow(const PaintItem& item, Surface& surface);
-    void paintBackdrop(const PaintItem& item, Surface& surface);
+    void paintBackdrop(std::size_t index, Surface& surface);
     /// \param opacity of a group that has nothing else
     void paintBackground(std::size_t index, Surface& surface, double opacity = 1);
     void paintContents(const PaintItem& item, Surface& surface);
@@ -63,6 +63,7 @@ private:
     Tools tools_;
     QImage& picture_;
     std::vector<QRegion> seen_;      ///< of the damage, where each item is seen, without what is within it
+    bool isOpaque_ = true;           ///< the picture, behind all layers
     std::vector<bool> isAnySeen_;    ///< of each item with all within it
     std::vector<Surface*> surfaces_; ///< the whole's, then those of the groups that are being painted
 };
