@@ -52,16 +52,21 @@ ScaledPicture::Columns ScaledPicture::columnsOf(const QRect& pixels) const {
 void ScaledPicture::copyTo(QImage& target, const QRect& pixels, QPoint corner) const {
     const auto columns = columnsOf(pixels);
     const auto perPixel = picture_.height() / place_.height();
-    Bytes mixed(static_cast<std::size_t>(picture_.width() + 1) * PixelRows::pixelSize);
-    const std::span within(mixed.data(), mixed.size() - PixelRows::pixelSize);
+    const auto& last = columns.runs.back();
+    const auto first = columns.runs.front().from;
+    const auto width = static_cast<std::size_t>(picture_.width()) * PixelRows::pixelSize;
+    const auto needed = std::min(last.from + last.size + PixelRows::pixelSize, width) - first;
+    Bytes mixed(needed + PixelRows::pixelSize);
     const auto left = static_cast<std::size_t>(pixels.left() - corner.x()) * PixelRows::pixelSize;
     for (int y = pixels.top(); y <= pixels.bottom(); ++y) {
         const Between rows((y + 0.5 - place_.top()) * perPixel, picture_.height());
-        PixelRows::mix(row(picture_, rows.first), row(picture_, rows.first + 1), rows.share, within);
+        PixelRows::mix(row(picture_, rows.first).subspan(first, needed),
+                       row(picture_, rows.first + 1).subspan(first, needed), rows.share,
+                       std::span(mixed).first(needed));
         const std::span out(target.scanLine(y - corner.y()) + left, columns.shares.size());
         for (const auto& run : columns.runs)
-            PixelRows::mixWithNext(std::span(mixed).subspan(run.from, run.size + PixelRows::pixelSize),
-                                   std::span(columns.shares).subspan(run.to, run.size),
-                                   out.subspan(run.to, run.size));
+            PixelRows::mixWithNext(
+                std::span(mixed).subspan(run.from - first, run.size + PixelRows::pixelSize),
+                std::span(columns.shares).subspan(run.to, run.size), out.subspan(run.to, run.size));
     }
 }

@@ -182,6 +182,19 @@ QRect PaintList::opaque() const {
     return largest & QRect({}, size_);
 }
 
+bool PaintList::showsWhatIsBehind() const {
+    QRegion hidden; // by the picture itself, but for the little that is seen at round corners
+    for (const auto& item : items_) {
+        if (item.look.backdrop && !QRegion(item.body).subtracted(hidden).isEmpty())
+            return true;
+        const auto isFilled = item.look.background.alpha == 1 && item.inner == nullptr;
+        if (isFilled && item.isInFullView() && item.look.isUpright())
+            hidden |= alignedOutwards(item.look.pixelRect(), edgeMargin) & item.innerClip;
+        hidden |= item.opaque;
+    }
+    return false;
+}
+
 void PaintList::moveBy(QPoint distance) {
     for (auto& item : items_) {
         item.look.toPixels.tx += distance.x();
@@ -231,7 +244,7 @@ bool PaintList::addPicture(const CALayer& layer, const LayerLook& look, double o
         return false;
     std::shared_ptr<const PaintList> inner(new PaintList(layer, look, scale_));
     const auto size = inner->size();
-    if (static_cast<double>(size.width()) * size.height() > largestPicture)
+    if (static_cast<double>(size.width()) * size.height() > largestPicture || inner->showsWhatIsBehind())
         return false;
     isAnimating_ = isAnimating_ || inner->isAnimating();
     auto& item = items_.emplace_back();

@@ -28,6 +28,9 @@ public:
     /// A part of the picture that lets nothing through, the largest that one layer fills; may be empty.
     [[nodiscard]] QRect opaque() const;
 
+    /// Whether a backdrop in it shows what lies behind the picture.
+    [[nodiscard]] bool showsWhatIsBehind() const;
+
     /// Whether the same layers look different a moment later.
     [[nodiscard]] bool isAnimating() const { return isAnimating_; }
 
