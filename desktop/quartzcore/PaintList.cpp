@@ -78,6 +78,7 @@ LayerLook lookOfPicture(const LayerLook& look) {
     LayerLook kept;
     kept.toPixels = look.toPixels;
     kept.bounds = look.bounds;
+    kept.background.alpha = 0; // which is in the picture
     kept.masksToBounds = look.masksToBounds;
     if (!look.masksToBounds)
         return kept;
