@@ -64,6 +64,12 @@ void blurAtFullSize(QImage& image, double sigma, BlurEdges edges) {
                    .subspan(static_cast<std::size_t>(y) * pixels.rowLength, pixels.rowLength));
 }
 
+/// How much smaller an image is blurred.
+double factorOf(double sigma) {
+    constexpr double largest = PixelRows::rowsAddedAtMost / 2.0;
+    return std::min(largest, 2 * sigma / finestSigma);
+}
+
 int fractionOf(int size, double factor) {
     return std::max(1, static_cast<int>(std::lround(size / factor)));
 }
@@ -137,13 +143,13 @@ int edgeOf(int part, int parts, int size) {
 }
 
 /// The means of an image's parts. \param sums of some of its rows, in columns
-void appendMeans(const std::vector<std::uint32_t>& sums, int rows, int width, int parts,
+void appendMeans(const std::vector<std::uint16_t>& sums, int rows, int width, int parts,
                  PixelComponents& means) {
     for (int part = 0; part < parts; ++part) {
         const auto first = edgeOf(part, parts, width);
         const auto last = edgeOf(part + 1, parts, width);
         for (std::size_t channel = 0; channel < means.channels; ++channel) {
-            std::uint64_t sum = 0;
+            std::uint32_t sum = 0;
             for (int x = first; x < last; ++x)
                 sum += sums[static_cast<std::size_t>(x) * means.channels + channel];
             means.values.push_back(static_cast<float>(sum) / static_cast<float>((last - first) * rows));
@@ -157,11 +163,11 @@ PixelComponents reduced(const QImage& image, QSize size) {
                           .rowCount = static_cast<std::size_t>(size.height()),
                           .rowLength = static_cast<std::size_t>(size.width()) * channels,
                           .channels = channels};
-    std::vector<std::uint32_t> sums(static_cast<std::size_t>(image.width()) * channels);
+    std::vector<std::uint16_t> sums(static_cast<std::size_t>(image.width()) * channels);
     for (int part = 0; part < size.height(); ++part) {
         const auto first = edgeOf(part, size.height(), image.height());
         const auto last = edgeOf(part + 1, size.height(), image.height());
-        std::ranges::fill(sums, 0U);
+        std::ranges::fill(sums, std::uint16_t{0});
         for (int y = first; y < last; ++y)
             PixelRows::add(row(image, y), sums);
         appendMeans(sums, last - first, image.width(), size.width(), means);
@@ -171,7 +177,7 @@ PixelComponents reduced(const QImage& image, QSize size) {
 
 /// What a wide blur makes of an image, at a fraction of its size.
 PixelComponents blurredAtFraction(const QImage& image, double sigma, BlurEdges edges) {
-    const double factor = 2 * sigma / finestSigma;
+    const double factor = factorOf(sigma);
     const QSize size(fractionOf(image.width(), factor), fractionOf(image.height(), factor));
     auto smaller = factor < wholePixelsFrom
                        ? componentsOf(image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
@@ -243,7 +249,7 @@ PixelComponents inColor(const PixelComponents& mask, QRgb color) {
 
 /// A mask that is painted at the fraction of its size that it is blurred at.
 PixelComponents blurredMaskAtFraction(const QPainterPath& shape, QSize size, double sigma) {
-    const double factor = 2 * sigma / finestSigma;
+    const double factor = factorOf(sigma);
     const QSize smaller(fractionOf(size.width(), factor), fractionOf(size.height(), factor));
     const auto toSmaller = QTransform::fromScale(static_cast<double>(smaller.width()) / size.width(),
                                                  static_cast<double>(smaller.height()) / size.height());

@@ -55,9 +55,9 @@ void PixelRows::paintOver(std::span<std::uint8_t> row, std::span<const std::uint
     }
 }
 
-void PixelRows::add(std::span<const std::uint8_t> row, std::span<std::uint32_t> sums) {
+void PixelRows::add(std::span<const std::uint8_t> row, std::span<std::uint16_t> sums) {
     const auto* __restrict from = row.data();
     auto* __restrict to = sums.data();
     for (std::size_t index = 0; index < row.size(); ++index)
-        to[index] += from[index];
+        to[index] = static_cast<std::uint16_t>(to[index] + from[index]);
 }

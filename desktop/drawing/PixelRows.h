@@ -33,7 +33,10 @@ void mixWithNext(std::span<const std::uint8_t> row, std::span<const std::uint8_t
 /// of the row, 0..255
 void paintOver(std::span<std::uint8_t> row, std::span<const std::uint8_t> color, std::uint8_t rest);
 
+/// So many rows can be added to sums.
+inline constexpr int rowsAddedAtMost = 257;
+
 /// Adds a row to sums, byte by byte. \pre both are of one length
-void add(std::span<const std::uint8_t> row, std::span<std::uint32_t> sums);
+void add(std::span<const std::uint8_t> row, std::span<std::uint16_t> sums);
 
 } // namespace PixelRows
