@@ -13,6 +13,8 @@ const QImage& LayerPictures::picture(std::uint64_t identity) const {
 }
 
 void LayerPictures::paintingEnded() {
+    std::erase_if(kept_,
+                  [this](const auto& entry) { return entry.second.lastUse + paintingsUnused < painting_; });
     qsizetype bytes = 0;
     for (const auto& [identity, kept] : kept_)
         bytes += kept.picture.sizeInBytes();

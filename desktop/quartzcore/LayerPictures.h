@@ -13,6 +13,9 @@ public:
     /// Bytes of pictures that are kept, but for those that the last painting showed.
     static constexpr qsizetype capacity = qsizetype{48} << 20;
 
+    /// Paintings in a row that need not use a picture before it is dropped.
+    static constexpr std::uint64_t paintingsUnused = 240;
+
     struct Kept {
         std::shared_ptr<const PaintList> shown; ///< null until it is painted
         QImage picture;                         ///< ARGB32 premultiplied
@@ -25,7 +28,8 @@ public:
     /// The same when it is up to date. \pre `use` was called for it in this painting
     [[nodiscard]] const QImage& picture(std::uint64_t identity) const;
 
-    /// A painting is over: drops what it did not use, the longest unused first, beyond the capacity.
+    /// A painting is over: drops what was not used for long, and beyond the capacity what this one did not
+    /// use, the longest unused first.
     void paintingEnded();
 
 private:

@@ -42,3 +42,17 @@ TEST(LayerPicturesTest, KeepsAllThatAPaintingUsed) {
     for (const auto identity : {1U, 2U, 3U})
         EXPECT_FALSE(pictures.use(identity).picture.isNull());
 }
+
+TEST(LayerPicturesTest, DropsWhatWasNotUsedForLong) {
+    LayerPictures pictures;
+    pictures.use(1).picture = QImage(8, 8, QImage::Format_ARGB32_Premultiplied);
+    pictures.use(2).picture = QImage(8, 8, QImage::Format_ARGB32_Premultiplied);
+    for (auto painting = std::uint64_t{0}; painting <= LayerPictures::paintingsUnused; ++painting) {
+        EXPECT_FALSE(pictures.use(1).picture.isNull());
+        EXPECT_FALSE(pictures.picture(2).isNull());
+        pictures.paintingEnded();
+    }
+    pictures.paintingEnded();
+    EXPECT_FALSE(pictures.use(1).picture.isNull());
+    EXPECT_TRUE(pictures.use(2).picture.isNull());
+}
