@@ -1,4 +1,5 @@
 #include "PaneScenes.h"
+#include "ProcessorTime.h"
 
 #include <QGuiApplication>
 #include <QImage>
@@ -6,7 +7,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <ctime>
 #include <string>
 #include <vector>
 
@@ -20,10 +20,8 @@ namespace {
 
 using Milliseconds = std::vector<double>;
 
-double processorTime() {
-    timespec time{};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
-    return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
+double now() {
+    return processorTime().count();
 }
 
 /// The value that a part of all is not above. \pre there are some
@@ -37,9 +35,9 @@ double timeOfCopy(const QImage& picture) {
     QImage copy(picture.size(), picture.format());
     Milliseconds times;
     for (auto turn = 0; turn < turns; ++turn) {
-        const auto begin = processorTime();
+        const auto begin = now();
         std::memcpy(copy.bits(), picture.constBits(), static_cast<std::size_t>(picture.sizeInBytes()));
-        times.push_back(processorTime() - begin);
+        times.push_back(now() - begin);
     }
     return quantile(times, 0.5);
 }
@@ -71,12 +69,12 @@ private:
     void sceneBegins(std::string_view name) override {
         scenes_.push_back({std::string(name), {}, {}});
         isPlaying_ = true;
-        begin_ = processorTime();
+        begin_ = now();
     }
 
     void frame() override {
         compositor().render();
-        const auto end = processorTime();
+        const auto end = now();
         auto pixels = 0.0;
         for (const auto& rect : compositor().lastDamage())
             pixels += static_cast<double>(rect.width()) * rect.height();
@@ -84,7 +82,7 @@ private:
             scenes_.back().times.push_back(end - begin_);
             scenes_.back().pixels.push_back(pixels);
         }
-        begin_ = processorTime();
+        begin_ = now();
     }
 
     void sceneEnds() override { isPlaying_ = false; }
