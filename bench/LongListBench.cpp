@@ -2,6 +2,7 @@
 #include "LoadedBundles.h"
 #include "ObjectiveC/Class.h"
 #include "PSListControllerPeer.h"
+#include "ProcessorTime.h"
 #include "TestDevice.h"
 #include "UIKit/UINavigationController.h"
 #include "screen/Compositor.h"
@@ -26,7 +27,6 @@
 
 namespace {
 
-using SteadyClock = std::chrono::steady_clock;
 using Milliseconds = std::chrono::duration<double, std::milli>;
 
 constexpr auto bundlePath = "/var/jb/Library/PreferenceBundles/Lists.bundle";
@@ -105,9 +105,9 @@ private:
 
 template <class Work>
 Milliseconds timeOf(Work work) {
-    const auto begin = SteadyClock::now();
+    const auto begin = processorTime();
     work();
-    return SteadyClock::now() - begin;
+    return processorTime() - begin;
 }
 
 Milliseconds openingTime(Compositor& compositor, const std::string& list, std::size_t rows) {

@@ -1,10 +1,16 @@
 #include "GaussianBlur.h"
 
 #include "BoxBlur.h"
+#include "PixelRows.h"
 
+#include <QPainter>
+#include <QTransform>
 #include <algorithm>
+#include <array>
 #include <climits>
 #include <cmath>
+#include <cstdint>
+#include <cstring>
 #include <numbers>
 #include <span>
 
@@ -34,29 +40,34 @@ PixelComponents componentsOf(const QImage& image) {
     return pixels;
 }
 
+/// \pre the values are not negative
 void setRow(QImage& image, int y, std::span<const float> values) {
     std::ranges::transform(values, image.scanLine(y),
-                           [](float value) { return static_cast<uchar>(std::lround(value)); });
+                           [](float value) { return static_cast<uchar>(value + 0.5F); });
 }
 
-PixelComponents blurredComponents(const QImage& image, double horizontalSigma, double verticalSigma,
-                                  BlurEdges edges) {
+void blurComponents(PixelComponents& pixels, double horizontalSigma, double verticalSigma, BlurEdges edges) {
     const BoxBlur horizontal(horizontalSigma / std::numbers::sqrt3, edges);
     const BoxBlur vertical(verticalSigma / std::numbers::sqrt3, edges);
-    auto pixels = componentsOf(image);
     for (int pass = 0; pass < boxes; ++pass) {
         horizontal.blurRows(pixels);
         vertical.blurColumns(pixels);
     }
-    return pixels;
 }
 
 void blurAtFullSize(QImage& image, double sigma, BlurEdges edges) {
-    const auto pixels = blurredComponents(image, sigma, sigma, edges);
+    auto pixels = componentsOf(image);
+    blurComponents(pixels, sigma, sigma, edges);
     for (int y = 0; y < image.height(); ++y)
         setRow(image, y,
                std::span(pixels.values)
                    .subspan(static_cast<std::size_t>(y) * pixels.rowLength, pixels.rowLength));
+}
+
+/// How much smaller an image is blurred.
+double factorOf(double sigma) {
+    constexpr double largest = PixelRows::rowsAddedAtMost / 2.0;
+    return std::min(largest, 2 * sigma / finestSigma);
 }
 
 int fractionOf(int size, double factor) {
@@ -86,62 +97,166 @@ struct Between {
     }
 };
 
-std::vector<float> mixedRows(const PixelComponents& pixels, const Between& rows) {
-    const auto row = [&](std::size_t number) {
-        return std::span(pixels.values).subspan(number * pixels.rowLength, pixels.rowLength);
-    };
-    std::vector<float> mixed(pixels.rowLength);
-    std::ranges::transform(row(rows.first), row(rows.second), mixed.begin(),
-                           [&](float first, float second) { return first + (second - first) * rows.share; });
-    return mixed;
-}
+using FineRow = std::vector<PixelRows::Fine>;
 
-/// Fills an image with a smaller one, made larger.
-void setEnlarged(QImage& image, const PixelComponents& pixels) {
-    const auto width = static_cast<std::size_t>(image.width());
+/// The rows, each made longer.
+std::vector<FineRow> widened(const PixelComponents& pixels, std::size_t width) {
     std::vector<Between> columns;
     columns.reserve(width);
     for (std::size_t x = 0; x < width; ++x)
         columns.emplace_back(x, width, pixels.rowLength / pixels.channels);
-    std::vector<float> values(width * pixels.channels);
-    for (int y = 0; y < image.height(); ++y) {
-        const auto row =
-            mixedRows(pixels, Between(static_cast<std::size_t>(y), static_cast<std::size_t>(image.height()),
-                                      pixels.rowCount));
-        auto value = values.begin();
+    std::vector<FineRow> rows(pixels.rowCount, FineRow(width * pixels.channels));
+    for (std::size_t y = 0; y < pixels.rowCount; ++y) {
+        const auto* const row = &pixels.values[y * pixels.rowLength];
+        auto value = rows[y].begin();
         for (const auto& column : columns) {
             for (std::size_t channel = 0; channel < pixels.channels; ++channel) {
                 const float first = row[column.first * pixels.channels + channel];
                 const float second = row[column.second * pixels.channels + channel];
-                *value++ = first + (second - first) * column.share;
+                const float mixed = first + (second - first) * column.share;
+                *value++ = static_cast<PixelRows::Fine>(mixed * PixelRows::fineSteps + 0.5F);
             }
         }
-        setRow(image, y, values);
+    }
+    return rows;
+}
+
+/// Fills an image with a smaller one, made larger.
+void setEnlarged(QImage& image, const PixelComponents& pixels) {
+    const auto rows = widened(pixels, static_cast<std::size_t>(image.width()));
+    for (int y = 0; y < image.height(); ++y) {
+        const Between between(static_cast<std::size_t>(y), static_cast<std::size_t>(image.height()),
+                              pixels.rowCount);
+        const auto& first = rows[between.first];
+        PixelRows::mix(first, rows[between.second],
+                       static_cast<int>(std::lround(between.share * PixelRows::fullFineShare)),
+                       {image.scanLine(y), first.size()});
     }
 }
 
-void blurAtFraction(QImage& image, double sigma, BlurEdges edges) {
-    const double factor = 2 * sigma / finestSigma;
+/// From so many times its size on, an image's parts have edges at whole pixels.
+constexpr double wholePixelsFrom = 8;
+
+/// Where a part of a row or column begins.
+int edgeOf(int part, int parts, int size) {
+    return static_cast<int>(std::lround(static_cast<double>(part) * size / parts));
+}
+
+/// The means of an image's parts. \param sums of some of its rows, in columns
+void appendMeans(const std::vector<std::uint16_t>& sums, int rows, int width, int parts,
+                 PixelComponents& means) {
+    for (int part = 0; part < parts; ++part) {
+        const auto first = edgeOf(part, parts, width);
+        const auto last = edgeOf(part + 1, parts, width);
+        for (std::size_t channel = 0; channel < means.channels; ++channel) {
+            std::uint32_t sum = 0;
+            for (int x = first; x < last; ++x)
+                sum += sums[static_cast<std::size_t>(x) * means.channels + channel];
+            means.values.push_back(static_cast<float>(sum) / static_cast<float>((last - first) * rows));
+        }
+    }
+}
+
+PixelComponents reduced(const QImage& image, QSize size) {
+    const auto channels = static_cast<std::size_t>(image.depth() / CHAR_BIT);
+    PixelComponents means{.values = {},
+                          .rowCount = static_cast<std::size_t>(size.height()),
+                          .rowLength = static_cast<std::size_t>(size.width()) * channels,
+                          .channels = channels};
+    std::vector<std::uint16_t> sums(static_cast<std::size_t>(image.width()) * channels);
+    for (int part = 0; part < size.height(); ++part) {
+        const auto first = edgeOf(part, size.height(), image.height());
+        const auto last = edgeOf(part + 1, size.height(), image.height());
+        std::ranges::fill(sums, std::uint16_t{0});
+        for (int y = first; y < last; ++y)
+            PixelRows::add(row(image, y), sums);
+        appendMeans(sums, last - first, image.width(), size.width(), means);
+    }
+    return means;
+}
+
+/// What a wide blur makes of an image, at a fraction of its size.
+PixelComponents blurredAtFraction(const QImage& image, double sigma, BlurEdges edges) {
+    const double factor = factorOf(sigma);
     const QSize size(fractionOf(image.width(), factor), fractionOf(image.height(), factor));
-    const auto smaller = image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    setEnlarged(image, blurredComponents(smaller.convertToFormat(image.format()),
-                                         sigmaAt(sigma, image.width(), size.width()),
-                                         sigmaAt(sigma, image.height(), size.height()), edges));
+    auto smaller = factor < wholePixelsFrom
+                       ? componentsOf(image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                                          .convertToFormat(image.format()))
+                       : reduced(image, size);
+    blurComponents(smaller, sigmaAt(sigma, image.width(), size.width()),
+                   sigmaAt(sigma, image.height(), size.height()), edges);
+    return smaller;
 }
 
 /// The brightness of a colour, by the shares of its components in it.
-double brightness(QRgb color) {
-    return 0.2126 * qRed(color) + 0.7152 * qGreen(color) + 0.0722 * qBlue(color);
+double brightness(double red, double green, double blue) {
+    return 0.2126 * red + 0.7152 * green + 0.0722 * blue;
 }
 
 QRgb saturatedColor(QRgb premultiplied, double factor) {
-    const double gray = brightness(premultiplied);
+    const double gray = brightness(qRed(premultiplied), qGreen(premultiplied), qBlue(premultiplied));
     const double alpha = qAlpha(premultiplied);
     const auto moved = [&](int component) {
         return static_cast<int>(std::lround(std::clamp(gray + (component - gray) * factor, 0.0, alpha)));
     };
     return qRgba(moved(qRed(premultiplied)), moved(qGreen(premultiplied)), moved(qBlue(premultiplied)),
                  qAlpha(premultiplied));
+}
+
+/// \param pixels of the bytes of ARGB32, premultiplied
+void saturate(PixelComponents& pixels, double factor) {
+    constexpr auto alphaPlace = QSysInfo::ByteOrder == QSysInfo::LittleEndian ? 3U : 0U;
+    constexpr auto redPlace = QSysInfo::ByteOrder == QSysInfo::LittleEndian ? 2U : 1U;
+    constexpr auto bluePlace = QSysInfo::ByteOrder == QSysInfo::LittleEndian ? 0U : 3U;
+    constexpr auto greenPlace = 3U - redPlace;
+    for (std::size_t start = 0; start < pixels.values.size(); start += pixels.channels) {
+        const std::span pixel(&pixels.values[start], pixels.channels);
+        const auto gray =
+            static_cast<float>(brightness(pixel[redPlace], pixel[greenPlace], pixel[bluePlace]));
+        for (const auto place : {redPlace, greenPlace, bluePlace})
+            pixel[place] = std::clamp(gray + (pixel[place] - gray) * static_cast<float>(factor), 0.0F,
+                                      pixel[alphaPlace]);
+    }
+}
+
+QImage maskOf(const QPainterPath& shape, QSize size) {
+    QImage mask(size, QImage::Format_Alpha8);
+    mask.fill(0);
+    QPainter painter(&mask);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillPath(shape, Qt::black);
+    return mask;
+}
+
+/// Pixels of a colour, as opaque as those of a mask.
+PixelComponents inColor(const PixelComponents& mask, QRgb color) {
+    constexpr auto channels = 4U;
+    constexpr float full = 255;
+    const QRgb opaque = color | 0xff000000U;
+    std::array<uchar, channels> bytes{};
+    std::memcpy(bytes.data(), &opaque, channels);
+    PixelComponents pixels{.values = {},
+                           .rowCount = mask.rowCount,
+                           .rowLength = mask.rowLength * channels,
+                           .channels = channels};
+    pixels.values.reserve(mask.values.size() * channels);
+    for (const float alpha : mask.values) {
+        for (const auto byte : bytes)
+            pixels.values.push_back(alpha * static_cast<float>(byte) / full);
+    }
+    return pixels;
+}
+
+/// A mask that is painted at the fraction of its size that it is blurred at.
+PixelComponents blurredMaskAtFraction(const QPainterPath& shape, QSize size, double sigma) {
+    const double factor = factorOf(sigma);
+    const QSize smaller(fractionOf(size.width(), factor), fractionOf(size.height(), factor));
+    const auto toSmaller = QTransform::fromScale(static_cast<double>(smaller.width()) / size.width(),
+                                                 static_cast<double>(smaller.height()) / size.height());
+    auto mask = componentsOf(maskOf(toSmaller.map(shape), smaller));
+    blurComponents(mask, sigmaAt(sigma, size.width(), smaller.width()),
+                   sigmaAt(sigma, size.height(), smaller.height()), BlurEdges::Transparent);
+    return mask;
 }
 
 } // namespace
@@ -152,7 +267,7 @@ QImage blurred(const QImage& image, double sigma, BlurEdges edges) {
     if (result.isNull() || !(sigma > 0))
         return result;
     if (sigma > finestSigma)
-        blurAtFraction(result, sigma, edges);
+        setEnlarged(result, blurredAtFraction(result, sigma, edges));
     else
         blurAtFullSize(result, sigma, edges);
     result.setDevicePixelRatio(image.devicePixelRatio());
@@ -166,5 +281,30 @@ QImage saturated(const QImage& image, double factor) {
         std::ranges::transform(std::span(row, static_cast<std::size_t>(result.width())), row,
                                [&](QRgb color) { return saturatedColor(color, factor); });
     }
+    return result;
+}
+
+QImage blurredBackdrop(const QImage& image, double sigma, double saturation) {
+    if (sigma <= finestSigma)
+        return saturated(blurred(image, sigma, BlurEdges::Extended), saturation);
+    auto pixels = blurredAtFraction(image, sigma, BlurEdges::Extended);
+    saturate(pixels, saturation);
+    QImage result(image.size(), format);
+    setEnlarged(result, pixels);
+    return result;
+}
+
+QImage blurredShape(const QPainterPath& shape, QSize size, double sigma, QRgb color) {
+    QImage result(size, format);
+    if (sigma > finestSigma) {
+        setEnlarged(result, inColor(blurredMaskAtFraction(shape, size, sigma), color));
+        return result;
+    }
+    const auto mask = blurred(maskOf(shape, size), sigma, BlurEdges::Transparent);
+    result.fill(QColor(color));
+    QPainter painter(&result);
+    painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+    painter.drawImage(0, 0, mask);
+    painter.end();
     return result;
 }

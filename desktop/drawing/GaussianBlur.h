@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QImage>
+#include <QPainterPath>
+#include <QSize>
 
 /// What a blur takes to be beyond an image's edges.
 enum class BlurEdges {
@@ -18,3 +20,11 @@ enum class BlurEdges {
 /// \param image of any format
 /// \returns an image of the same size and pixel ratio, ARGB32 premultiplied
 [[nodiscard]] QImage saturated(const QImage& image, double factor);
+
+/// What is seen through a backdrop of what lies behind it: blurred, its edges extended, then saturated.
+/// \param image ARGB32 premultiplied \returns an image of the same kind and size
+[[nodiscard]] QImage blurredBackdrop(const QImage& image, double sigma, double saturation);
+
+/// A shape that is filled with an opaque colour, blurred; nothing is beyond the edges.
+/// \param shape in pixels of an image of that size \returns it, ARGB32 premultiplied
+[[nodiscard]] QImage blurredShape(const QPainterPath& shape, QSize size, double sigma, QRgb color);

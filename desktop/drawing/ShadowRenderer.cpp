@@ -47,23 +47,6 @@ QPainterPath limited(const QPainterPath& shape, const QPaintDevice& device, QPoi
     return shape.intersected(visible);
 }
 
-void fill(QImage& mask, const QPainterPath& shape, QPointF position) {
-    QPainter painter(&mask);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.translate(position);
-    painter.fillPath(shape, Qt::black);
-}
-
-QImage inColor(const QImage& mask, QRgb color) {
-    QImage image(mask.size(), QImage::Format_ARGB32_Premultiplied);
-    image.fill(QColor(color));
-    QPainter painter(&image);
-    painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
-    painter.drawImage(0, 0, mask);
-    painter.end();
-    return image;
-}
-
 } // namespace
 
 void ShadowRenderer::paint(QPainter& painter, const QPainterPath& shape, const Shadow& shadow) {
@@ -105,8 +88,6 @@ const ShadowRenderer::Made& ShadowRenderer::shadowFor(const Key& key) {
 ShadowRenderer::Made ShadowRenderer::make(const Key& key) {
     const double margin = std::ceil(reach * key.sigma) + 1;
     const auto area = key.shape.boundingRect().adjusted(-margin, -margin, margin, margin).toAlignedRect();
-    QImage mask(area.size(), QImage::Format_Alpha8);
-    mask.fill(0);
-    fill(mask, key.shape, key.place - area.topLeft());
-    return {key, inColor(blurred(mask, key.sigma, BlurEdges::Transparent), key.color), area.topLeft()};
+    const auto shape = key.shape.translated(key.place - area.topLeft());
+    return {key, blurredShape(shape, area.size(), key.sigma, key.color), area.topLeft()};
 }

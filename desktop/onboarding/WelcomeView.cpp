@@ -1,5 +1,6 @@
 #include "WelcomeView.h"
 
+#include "CALayerPeer.h"
 #include "DesktopColor.h"
 #include "ObjectiveC/Class.h"
 #include "scrolling/UIScrollViewPeer.h"
@@ -36,6 +37,8 @@ WelcomeView::WelcomeView()
       header_(make<OBHeaderView>()),
       list_(make<OBBulletedList>()) {
     setBackgroundColor(DesktopColor::system(SystemColor::Background));
+    for (const auto& view : {Ref<UIView>(header_), Ref<UIView>(list_)})
+        view->layer().peer().keepsPicture = true; // a sheet that comes may show them above a backdrop
     addSubview(scroll_);
     scroll_->addSubview(header_);
     scroll_->addSubview(list_);

@@ -91,6 +91,9 @@ public:
     bool continuousCorners = false;
     bool roundTop = true;    ///< whether the corner radius is for the upper corners
     bool roundBottom = true; ///< and for the lower ones
+    /// Whether it is painted by way of a picture of it with all within it, at whole pixels, which is kept
+    /// while nothing in it changes. For what is moved, and has no backdrop that shows what lies behind it.
+    bool keepsPicture = false;
     CGPoint anchorPoint{0.5, 0.5};
     std::optional<Backdrop> backdrop;
     std::optional<QPainterPath> shadowPath;

@@ -56,6 +56,7 @@ LayerLook LayerLook::of(const CALayerPeer& layer, const AffineTransform& toPixel
         return std::max(0.0, layer.shownValue(property)[0]);
     };
     const auto color = [&layer](LayerProperty property) { return colorOf(layer.shownValue(property)); };
+    const auto hasContents = layer.delegate != nullptr && layer.delegate->hasContents();
     const auto shadowOffset = layer.shownValue(ShadowOffset);
     return {.toPixels = toPixels,
             .bounds = withoutNegativeSize(layer.shownBounds()),
@@ -74,7 +75,7 @@ LayerLook LayerLook::of(const CALayerPeer& layer, const AffineTransform& toPixel
             .backdrop = layer.backdrop,
             .shadowPath = layer.shadowPath,
             .contentVersion = layer.contentVersion(),
-            .traits = layer.delegate != nullptr ? layer.delegate->layerTraits() : Traits()};
+            .traits = hasContents ? layer.delegate->layerTraits() : Traits()};
 }
 
 QTransform LayerLook::transform() const {
@@ -101,6 +102,11 @@ QPainterPath LayerLook::outline(double inset) const {
 QRectF LayerLook::pixelRect() const {
     const auto rect = toPixels(bounds);
     return {rect.origin.x, rect.origin.y, rect.size.width, rect.size.height};
+}
+
+QRect LayerLook::wholePixels() const {
+    const auto rect = pixelRect();
+    return {rect.topLeft().toPoint(), rect.bottomRight().toPoint() - QPoint(1, 1)};
 }
 
 bool LayerLook::fillsWholePixels() const {

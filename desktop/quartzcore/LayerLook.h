@@ -57,6 +57,9 @@ struct LayerLook {
     /// Whether the bounds are upright, square-cornered and exactly whole pixels.
     [[nodiscard]] bool fillsWholePixels() const;
 
+    /// Those pixels. \pre the bounds fill whole ones
+    [[nodiscard]] QRect wholePixels() const;
+
     /// The length of a corner's bend, in pixels.
     [[nodiscard]] double cornerPixels() const;
 

@@ -1,8 +1,34 @@
 #include "LayerPainter.h"
 
+#include "PaintDamage.h"
 #include "Painting.h"
 
 void LayerPainter::paint(const PaintList& list, const QRegion& damage, QImage& picture) {
-    scratch_.setSize(picture.size());
-    Painting(list, damage, picture, scratch_, shadows_).paintAll();
+    bringUpToDate(list);
+    scratch_.makeRoom(list.size());
+    Painting(list, damage, picture, {scratch_, shadows_, pictures_}).paintAll(Qt::black);
+    pictures_.paintingEnded();
+}
+
+void LayerPainter::bringUpToDate(const PaintList& list) {
+    for (const auto& item : list.items()) {
+        if (item.inner != nullptr && !item.extent.isEmpty())
+            bringUpToDate(item);
+    }
+}
+
+void LayerPainter::bringUpToDate(const PaintItem& item) {
+    bringUpToDate(*item.inner);
+    auto& kept = pictures_.use(item.identity);
+    QRegion damage = QRect({}, item.inner->size());
+    if (kept.shown != nullptr && kept.picture.size() == item.inner->size())
+        damage = damageBetween(*kept.shown, *item.inner);
+    else
+        kept.picture = QImage(item.inner->size(), QImage::Format_ARGB32_Premultiplied);
+    if (!damage.isEmpty()) {
+        scratch_.makeRoom(item.inner->size());
+        Painting(*item.inner, damage, kept.picture, {scratch_, shadows_, pictures_})
+            .paintAll(Qt::transparent);
+    }
+    kept.shown = item.inner;
 }

@@ -22,13 +22,27 @@ bool looksAlike(const PaintItem& before, const PaintItem& after) {
     return before.clip == after.clip && before.innerClip == after.innerClip && before.look == after.look;
 }
 
+/// The pixels that a change within a layer's own picture touches, which is where it was.
+QRegion damageOfInner(const PaintItem& before, const PaintItem& after) {
+    if (before.inner == nullptr || after.inner == nullptr)
+        return before.inner == after.inner ? QRegion() : QRegion(before.extent) | after.extent;
+    if (before.innerPlace != after.innerPlace || before.inner->size() != after.inner->size())
+        return QRegion(before.extent) | after.extent;
+    const auto damage = damageBetween(*before.inner, *after.inner);
+    if (damage.isEmpty())
+        return {};
+    if (after.isInnerScaled())
+        return {after.extent};
+    return damage.translated(after.cornerOfInner()) & after.extent;
+}
+
 /// The pixels that one layer's change touches.
 QRegion damageOf(const PaintItem& before, const PaintItem& after) {
     if (!isFadedAlike(before, after))
         return QRegion(before.wholeExtent) | after.wholeExtent;
     if (!looksAlike(before, after))
         return QRegion(before.extent) | after.extent;
-    return {};
+    return damageOfInner(before, after);
 }
 
 /// Finds the layers of one list in another one, as long as they come in the same order.

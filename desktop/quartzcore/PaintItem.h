@@ -5,8 +5,10 @@
 #include <QRect>
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 
 class LayerDelegate;
+class PaintList;
 
 /// One layer of a paint list: its look, its place among the others, and the pixels that it can reach.
 struct PaintItem {
@@ -15,15 +17,29 @@ struct PaintItem {
     std::uint64_t identity = 0;  ///< of the layer
     std::uint64_t enclosing = 0; ///< the nearest layer around it that it is faded or cut off with; 0 for none
     std::size_t end = 0;         ///< the index of the first item that is not within it
-    LayerDelegate* delegate = nullptr; ///< paints the contents; may be null
-    QRect clip;                        ///< what the layers around it leave of the picture
-    QRect innerClip;                   ///< what is left for what is within it
-    QRect body;                        ///< what the layer itself can reach
-    QRect extent;                      ///< the same with its shadow
-    QRect wholeExtent;                 ///< the same with all within it
+    LayerDelegate* delegate = nullptr;      ///< paints the contents; may be null
+    std::shared_ptr<const PaintList> inner; ///< what the layer's own picture shows; null when it keeps none
+    QPoint innerPlace; ///< of that picture's corner from the origin of the bounds, in its pixels
+    QRect clip;        ///< what the layers around it leave of the picture
+    QRect innerClip;   ///< what is left for what is within it
+    QRect body;        ///< what the layer itself can reach
+    QRect extent;      ///< the same with its shadow
+    QRect wholeExtent; ///< the same with all within it
+    QRect opaque;      ///< where nothing behind it is seen; may be empty
+
+    // Of a layer that keeps a picture.
+    /// Whether it is painted larger or smaller than it is kept.
+    [[nodiscard]] bool isInnerScaled() const;
+    /// Where it is, in pixels.
+    [[nodiscard]] QRectF placeOfInner() const;
+    /// Where its corner is. \pre it is not scaled
+    [[nodiscard]] QPoint cornerOfInner() const;
 
     /// Whether it is painted apart, and faded as a whole.
     [[nodiscard]] bool isGroup() const { return opacity < 1; }
+
+    /// Whether nothing around it fades it or cuts it off along other edges than those of pixels.
+    [[nodiscard]] bool isInFullView() const { return !isGroup() && enclosing == 0; }
 
     /// Whether it cuts off what is within it along edges that are not those of pixels.
     [[nodiscard]] bool hasSoftMask() const { return look.masksToBounds && !look.fillsWholePixels(); }

@@ -57,18 +57,153 @@ QRect shadowExtent(const LayerLook& look) {
 
 /// What a layer that masks leaves of the picture.
 QRect maskedClip(const LayerLook& look) {
+    return look.fillsWholePixels() ? look.wholePixels() : alignedOutwards(look.pixelRect(), 0);
+}
+
+/// Larger pictures than these are not kept; pixels.
+constexpr double largestPicture = 16e6;
+
+/// Within these a picture that is painted larger or smaller looks well.
+constexpr double leastScaling = 0.5;
+constexpr double greatestScaling = 2;
+
+/// How many pixels at the edge of what is opaque may be mixed with what is not, where a picture is scaled.
+constexpr int mixedEdge = 4;
+
+/// What a picture's layers are cut off at, which is farther than any that is kept.
+constexpr QRect everywhere(-16384, -16384, 32768, 32768);
+
+/// What is kept of a layer's look where its picture is painted: the place, and the edge of what masks.
+LayerLook lookOfPicture(const LayerLook& look) {
+    LayerLook kept;
+    kept.toPixels = look.toPixels;
+    kept.bounds = look.bounds;
+    kept.background.alpha = 0; // which is in the picture
+    kept.masksToBounds = look.masksToBounds;
+    if (!look.masksToBounds)
+        return kept;
+    kept.cornerRadius = look.cornerRadius;
+    kept.continuousCorners = look.continuousCorners;
+    kept.roundTop = look.roundTop;
+    kept.roundBottom = look.roundBottom;
+    return kept;
+}
+
+bool isWithin(double value, double least, double greatest) {
+    return value >= least && value <= greatest;
+}
+
+/// Whether a layer's look is one that a picture of it can be painted with.
+bool suitsPicture(const LayerLook& look, double scale) {
+    const auto& map = look.toPixels;
+    const auto hasRoundedBorder = look.masksToBounds && look.borderWidth > 0 && look.cornerRadius > 0;
+    return look.isUpright() && !hasRoundedBorder && isWithin(map.a / scale, leastScaling, greatestScaling) &&
+           isWithin(map.d / scale, leastScaling, greatestScaling);
+}
+
+/// Has a picture at whole pixels, so that nothing but that tells it from its place.
+void snap(LayerLook& look, double scale) {
+    auto& map = look.toPixels;
     const auto rect = look.pixelRect();
-    if (!look.fillsWholePixels())
-        return alignedOutwards(rect, 0);
-    return {rect.topLeft().toPoint(), rect.bottomRight().toPoint() - QPoint(1, 1)};
+    if (map.a != scale || map.d != scale) {
+        const auto whole = QRectF(rect.topLeft().toPoint(), rect.bottomRight().toPoint());
+        map.a *= whole.width() / rect.width();
+        map.d *= whole.height() / rect.height();
+        map.tx = whole.left() - map.a * look.bounds.origin.x;
+        map.ty = whole.top() - map.d * look.bounds.origin.y;
+        return;
+    }
+    map.tx += std::round(rect.left()) - rect.left();
+    map.ty += std::round(rect.top()) - rect.top();
+}
+
+QRect roundedInwards(const QRectF& rect) {
+    return {QPoint(static_cast<int>(std::ceil(rect.left())), static_cast<int>(std::ceil(rect.top()))),
+            QPoint(static_cast<int>(std::floor(rect.right())) - 1,
+                   static_cast<int>(std::floor(rect.bottom())) - 1)};
+}
+
+/// Where a layer whose bounds are filled lets nothing through; pixels.
+QRect filledRect(const LayerLook& look) {
+    if (!look.isUpright() || look.borderWidth > 0)
+        return {};
+    constexpr double softEdge = 1;
+    const auto corner = look.cornerPixels();
+    const auto rect =
+        look.fillsWholePixels()
+            ? look.wholePixels()
+            : roundedInwards(look.pixelRect().adjusted(0, corner + softEdge, 0, -corner - softEdge));
+    return rect.isValid() ? rect : QRect();
+}
+
+/// Where the picture of a layer lets nothing through.
+QRect opaqueOfPicture(const PaintItem& item) {
+    const auto inside = item.inner->opaque();
+    const auto unmasked = item.hasSoftMask() ? filledRect(item.look) & item.innerClip : item.innerClip;
+    if (inside.isEmpty())
+        return {};
+    if (!item.isInnerScaled())
+        return inside.translated(item.cornerOfInner()) & unmasked;
+    const auto place = item.placeOfInner();
+    const auto toPlace =
+        QTransform::fromTranslate(place.left(), place.top())
+            .scale(place.width() / item.inner->size().width(), place.height() / item.inner->size().height());
+    const auto seen = roundedInwards(toPlace.mapRect(QRectF(inside)));
+    return seen.adjusted(mixedEdge, mixedEdge, -mixedEdge, -mixedEdge) & unmasked;
 }
 
 } // namespace
 
 PaintList::PaintList(const std::vector<const CALayer*>& roots, CGSize size, double scale)
-    : size_(QSizeF(size.width * scale, size.height * scale).toSize()) {
+    : size_(QSizeF(size.width * scale, size.height * scale).toSize()),
+      scale_(scale) {
     for (const auto* const root : roots)
         add(*root, {.toPixels = AffineTransform::scale(scale), .clip = QRect({}, size_)});
+}
+
+PaintList::PaintList(const CALayer& layer, const LayerLook& look, double scale) : scale_(scale) {
+    auto alone = look;
+    alone.toPixels = AffineTransform::scale(scale).after(
+        AffineTransform::translation(-look.bounds.origin.x, -look.bounds.origin.y));
+    alone.cornerRadius =
+        look.masksToBounds ? 0 : look.cornerRadius; // the mask is where the picture is painted
+    addItem(layer, alone, 1, {.toPixels = {}, .clip = everywhere});
+    const auto extent = items_.front().wholeExtent;
+    moveBy(-extent.topLeft());
+    size_ = extent.size();
+}
+
+QRect PaintList::opaque() const {
+    QRect largest;
+    const auto area = [](const QRect& rect) { return rect.width() * rect.height(); };
+    for (const auto& item : items_) {
+        if (area(item.opaque) > area(largest))
+            largest = item.opaque;
+    }
+    return largest & QRect({}, size_);
+}
+
+bool PaintList::showsWhatIsBehind() const {
+    QRegion hidden; // by the picture itself, but for the little that is seen at round corners
+    for (const auto& item : items_) {
+        if (item.look.backdrop && !QRegion(item.body).subtracted(hidden).isEmpty())
+            return true;
+        const auto isFilled = item.look.background.alpha == 1 && item.inner == nullptr;
+        if (isFilled && item.isInFullView() && item.look.isUpright())
+            hidden |= alignedOutwards(item.look.pixelRect(), edgeMargin) & item.innerClip;
+        hidden |= item.opaque;
+    }
+    return false;
+}
+
+void PaintList::moveBy(QPoint distance) {
+    for (auto& item : items_) {
+        item.look.toPixels.tx += distance.x();
+        item.look.toPixels.ty += distance.y();
+        for (auto* const rect :
+             {&item.clip, &item.innerClip, &item.body, &item.extent, &item.wholeExtent, &item.opaque})
+            rect->translate(distance);
+    }
 }
 
 void PaintList::add(const CALayer& layer, const Surroundings& around) {
@@ -78,20 +213,59 @@ void PaintList::add(const CALayer& layer, const Surroundings& around) {
     const auto toPixels = around.toPixels.after(peer.shownToSuperlayer());
     if (peer.hidden || opacity <= 0 || pixelsPerPoint(toPixels) == 0)
         return;
+    const auto look = LayerLook::of(peer, toPixels);
+    if (!peer.keepsPicture || !addPicture(layer, look, opacity, around))
+        addItem(layer, look, opacity, around);
+}
+
+void PaintList::addItem(const CALayer& layer, const LayerLook& look, double opacity,
+                        const Surroundings& around) {
+    const auto& peer = layer.peer();
     const auto index = items_.size();
     auto& item = items_.emplace_back();
-    item.look = LayerLook::of(peer, toPixels);
+    item.look = look;
     item.opacity = opacity;
     item.identity = peer.identity();
     item.enclosing = around.enclosing;
-    item.delegate = peer.delegate;
+    item.delegate = peer.delegate != nullptr && peer.delegate->hasContents() ? peer.delegate : nullptr;
     item.clip = around.clip;
     item.innerClip = item.look.masksToBounds ? item.clip & maskedClip(item.look) : item.clip;
     item.body = bodyExtent(item.look, item.delegate) & item.clip;
     item.extent = item.body | (shadowExtent(item.look) & item.clip);
     item.wholeExtent = item.extent;
+    if (look.background.alpha == 1 && item.isInFullView())
+        item.opaque = filledRect(look) & item.innerClip;
     addSublayers(layer, index);
     items_[index].end = items_.size();
+}
+
+bool PaintList::addPicture(const CALayer& layer, const LayerLook& look, double opacity,
+                           const Surroundings& around) {
+    if (!suitsPicture(look, scale_))
+        return false;
+    std::shared_ptr<const PaintList> inner(new PaintList(layer, look, scale_));
+    const auto size = inner->size();
+    if (static_cast<double>(size.width()) * size.height() > largestPicture || inner->showsWhatIsBehind())
+        return false;
+    isAnimating_ = isAnimating_ || inner->isAnimating();
+    auto& item = items_.emplace_back();
+    item.look = lookOfPicture(look);
+    snap(item.look, scale_);
+    item.opacity = opacity;
+    item.identity = layer.peer().identity();
+    item.enclosing = around.enclosing;
+    item.end = items_.size();
+    item.inner = std::move(inner);
+    const auto& map = item.inner->items().front().look.toPixels;
+    const auto& origin = look.bounds.origin;
+    item.innerPlace = -QPointF(map.tx + map.a * origin.x, map.ty + map.d * origin.y).toPoint();
+    item.clip = around.clip;
+    item.innerClip = item.look.masksToBounds ? item.clip & maskedClip(item.look) : item.clip;
+    item.body = alignedOutwards(item.placeOfInner(), 0) & item.innerClip;
+    item.extent = item.wholeExtent = item.body;
+    if (item.isInFullView())
+        item.opaque = opaqueOfPicture(item);
+    return true;
 }
 
 PaintList::Surroundings PaintList::within(const PaintItem& item) {

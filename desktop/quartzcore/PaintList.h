@@ -22,6 +22,15 @@ public:
     /// Of the picture, in pixels.
     [[nodiscard]] QSize size() const { return size_; }
 
+    /// Of the picture, in pixels for a point.
+    [[nodiscard]] double scale() const { return scale_; }
+
+    /// A part of the picture that lets nothing through, the largest that one layer fills; may be empty.
+    [[nodiscard]] QRect opaque() const;
+
+    /// Whether a backdrop in it shows what lies behind the picture.
+    [[nodiscard]] bool showsWhatIsBehind() const;
+
     /// Whether the same layers look different a moment later.
     [[nodiscard]] bool isAnimating() const { return isAnimating_; }
 
@@ -33,11 +42,19 @@ private:
         std::uint64_t enclosing = 0;
     };
 
+    /// What the picture of a layer shows that keeps one.
+    PaintList(const CALayer& layer, const LayerLook& look, double scale);
+
     [[nodiscard]] static Surroundings within(const PaintItem& item);
     void add(const CALayer& layer, const Surroundings& around);
+    void addItem(const CALayer& layer, const LayerLook& look, double opacity, const Surroundings& around);
+    /// \returns whether the layer is painted by way of a picture of its own
+    bool addPicture(const CALayer& layer, const LayerLook& look, double opacity, const Surroundings& around);
     void addSublayers(const CALayer& layer, std::size_t index);
+    void moveBy(QPoint distance);
 
     std::vector<PaintItem> items_;
     QSize size_;
+    double scale_ = 1;
     bool isAnimating_ = false;
 };

@@ -2,8 +2,11 @@
 
 #include "GaussianBlur.h"
 #include "LayerDelegate.h"
+#include "PixelRects.h"
+#include "ScaledPicture.h"
 
 #include <cmath>
+#include <ranges>
 #include <utility>
 
 namespace {
@@ -37,24 +40,18 @@ QRegion softEdges(const PaintItem& item) {
     return QRegion(item.innerClip) - insideOf(corner, 0) - insideOf(0, corner);
 }
 
-/// Replaces the pixels of a region by those of another picture of the same size.
-void copy(const QImage& from, QImage& to, const QRegion& region) {
-    QPainter painter(&to);
-    painter.setCompositionMode(QPainter::CompositionMode_Source);
-    painter.setClipRegion(region);
-    painter.drawImage(0, 0, from);
+/// Has a painter paint the rectangles of a region one by one, which is faster than all at once.
+template <class Paint>
+void paintEach(QPainter& painter, const QRegion& region, Paint paint) {
+    for (const auto& rect : region) {
+        painter.setClipRect(rect);
+        paint(rect);
+    }
 }
 
-void clear(QImage& image, const QRegion& region) {
-    QPainter painter(&image);
-    painter.setCompositionMode(QPainter::CompositionMode_Clear);
-    painter.setClipRegion(region);
-    painter.fillRect(region.boundingRect(), Qt::transparent);
-}
-
+/// Paints the pixels of a region with those of another picture, which has them at the same place.
 void paintPart(QPainter& painter, const QImage& image, const QRegion& region) {
-    const auto rect = region.boundingRect();
-    painter.drawImage(rect.topLeft(), image, rect);
+    paintEach(painter, region, [&](const QRect& rect) { painter.drawImage(rect.topLeft(), image, rect); });
 }
 
 /// The layer's edge, or beyond it where a mask makes the edge.
@@ -69,6 +66,30 @@ QPainterPath shapeOf(const PaintItem& item, double inset) {
     return path;
 }
 
+/// The pixels between the corners of a background that are filled wholly, where they are worth the trouble.
+QRect insideOf(const LayerLook& look, double inset) {
+    constexpr auto leastSide = 64;
+    const auto edge = 1 + inset * pixelsPerPoint(look);
+    const auto rect =
+        look.pixelRect().adjusted(edge, edge + look.cornerPixels(), -edge, -edge - look.cornerPixels());
+    if (!look.isUpright() || rect.width() < leastSide || rect.height() < leastSide)
+        return {};
+    return rect.toAlignedRect();
+}
+
+/// Whether nothing of an item is painted but its background, so that a group needs no picture of its own.
+bool isBackgroundOnly(const PaintItem& item, std::size_t index) {
+    const auto& look = item.look;
+    return item.end == index + 1 && item.delegate == nullptr && item.inner == nullptr && !look.backdrop &&
+           !look.castsShadow() && !item.hasSoftMask() &&
+           (look.borderWidth == 0 || look.borderColor.alpha == 0);
+}
+
+/// Whether an item is a picture that is painted as it is kept, so that it can be painted faded.
+bool isPictureOnly(const PaintItem& item) {
+    return item.inner != nullptr && !item.hasSoftMask() && !item.isInnerScaled();
+}
+
 } // namespace
 
 Painting::Surface::Surface(QImage& picture, double groupOpacity)
@@ -79,26 +100,46 @@ Painting::Surface::Surface(QImage& picture, double groupOpacity)
                            QPainter::SmoothPixmapTransform);
 }
 
-Painting::Painting(const PaintList& list, const QRegion& damage, QImage& picture, ScratchImages& scratch,
-                   ShadowRenderer& shadows)
+Painting::Painting(const PaintList& list, const QRegion& damage, QImage& picture, const Tools& tools)
     : items_(list.items()),
       damage_(damage),
-      scratch_(scratch),
-      shadows_(shadows),
-      picture_(picture) {}
+      tools_(tools),
+      picture_(picture),
+      seen_(items_.size()),
+      isAnySeen_(items_.size()) {}
 
-void Painting::paintAll() {
+void Painting::paintAll(const QColor& color) {
+    findSeen();
+    isOpaque_ = color.alphaF() == 1;
+    PixelRects::fill(picture_, damage_, color);
     Surface surface(picture_, 1);
-    surface.painter.setClipRegion(damage_);
-    surface.painter.fillRect(damage_.boundingRect(), Qt::black);
     surfaces_.push_back(&surface);
     paintItems(0, items_.size(), surface);
     surfaces_.pop_back();
 }
 
+void Painting::findSeen() {
+    QRegion covered;
+    for (auto index = items_.size(); index-- > 0;) {
+        const auto& item = items_[index];
+        seen_[index] = (damage_ & item.extent) - covered;
+        if (seen_[index].isEmpty())
+            continue;
+        if (item.look.backdrop)
+            covered -= item.body;
+        covered |= item.opaque;
+    }
+    for (auto index = items_.size(); index-- > 0;) {
+        isAnySeen_[index] = !seen_[index].isEmpty();
+        for (auto within = index + 1; within < items_[index].end && !isAnySeen_[index];
+             within = items_[within].end)
+            isAnySeen_[index] = isAnySeen_[within];
+    }
+}
+
 void Painting::paintItems(std::size_t first, std::size_t end, Surface& surface) {
     for (auto index = first; index < end; index = items_[index].end) {
-        if (damage_.intersects(items_[index].wholeExtent))
+        if (isAnySeen_[index])
             paintItem(index, surface);
     }
 }
@@ -112,27 +153,37 @@ void Painting::paintItem(std::size_t index, Surface& surface) {
 
 void Painting::paintGroup(std::size_t index, Surface& surface) {
     const auto& item = items_[index];
+    if (isBackgroundOnly(item, index)) {
+        paintBackground(index, surface, item.opacity);
+        return;
+    }
+    auto& painter = surface.painter;
+    if (isPictureOnly(item)) {
+        painter.setOpacity(item.opacity);
+        paintPicture(index, surface);
+        painter.setOpacity(1);
+        return;
+    }
     const auto region = damage_ & item.wholeExtent;
-    auto& image = scratch_.take();
-    clear(image, region);
+    auto& image = tools_.scratch.take();
+    PixelRects::fill(image, region, Qt::transparent);
     {
         Surface group(image, item.opacity);
         surfaces_.push_back(&group);
         paintLayer(index, group);
         surfaces_.pop_back();
     }
-    auto& painter = surface.painter;
     painter.resetTransform();
-    painter.setClipRegion(region);
     painter.setOpacity(item.opacity);
     paintPart(painter, image, region);
     painter.setOpacity(1);
-    scratch_.release();
+    tools_.scratch.release();
 }
 
 void Painting::paintLayer(std::size_t index, Surface& surface) {
     const auto& item = items_[index];
-    paintShadow(item, surface);
+    if (!seen_[index].isEmpty())
+        paintShadow(item, surface);
     if (item.hasSoftMask())
         paintMasked(index, surface);
     else
@@ -141,9 +192,12 @@ void Painting::paintLayer(std::size_t index, Surface& surface) {
 
 void Painting::paintInside(std::size_t index, Surface& surface) {
     const auto& item = items_[index];
-    paintBackdrop(item, surface);
-    paintBackground(item, surface);
-    paintContents(item, surface);
+    if (!seen_[index].isEmpty()) {
+        paintBackdrop(index, surface);
+        paintBackground(index, surface);
+        paintContents(item, surface);
+        paintPicture(index, surface);
+    }
     paintItems(index + 1, item.end, surface);
     paintBorder(item, surface);
 }
@@ -155,37 +209,35 @@ void Painting::paintMasked(std::size_t index, Surface& surface) {
         paintInside(index, surface);
         return;
     }
-    auto& saved = scratch_.take();
-    copy(surface.image, saved, edges);
+    auto& saved = tools_.scratch.take();
+    PixelRects::copy(surface.image, saved, edges);
     paintInside(index, surface);
     blendEdges(item, edges, saved, surface);
-    scratch_.release();
+    tools_.scratch.release();
 }
 
 void Painting::blendEdges(const PaintItem& item, const QRegion& edges, QImage& saved, Surface& surface) {
-    auto& mask = scratch_.take();
-    clear(mask, edges);
+    auto& mask = tools_.scratch.take();
+    PixelRects::fill(mask, edges, Qt::transparent);
     {
         Surface shape(mask, 1);
-        shape.painter.setClipRegion(edges);
-        shape.painter.setTransform(item.look.transform());
-        shape.painter.fillPath(item.look.outline(), Qt::black);
+        const auto outline = item.look.transform().map(item.look.outline());
+        paintEach(shape.painter, edges,
+                  [&](const QRect& /*rect*/) { shape.painter.fillPath(outline, Qt::black); });
     }
     {
         QPainter outside(&saved);
-        outside.setClipRegion(edges);
         outside.setCompositionMode(QPainter::CompositionMode_DestinationOut);
         paintPart(outside, mask, edges);
     }
     auto& painter = surface.painter;
     painter.resetTransform();
-    painter.setClipRegion(edges);
     painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
     paintPart(painter, mask, edges);
     painter.setCompositionMode(QPainter::CompositionMode_Plus);
     paintPart(painter, saved, edges);
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
-    scratch_.release();
+    tools_.scratch.release();
 }
 
 void Painting::paintShadow(const PaintItem& item, Surface& surface) {
@@ -196,29 +248,33 @@ void Painting::paintShadow(const PaintItem& item, Surface& surface) {
                         .offset = {look.shadowOffset.width, look.shadowOffset.height},
                         .opacity = look.shadowOpacity,
                         .color = asColor(look.shadowColor)};
-    shadows_.paint(readied(surface, item, item.extent), look.shadowShape(), shadow);
+    tools_.shadows.paint(readied(surface, item, item.extent), look.shadowShape(), shadow);
 }
 
-void Painting::paintBackdrop(const PaintItem& item, Surface& surface) {
+void Painting::paintBackdrop(std::size_t index, Surface& surface) {
+    const auto& item = items_[index];
     const auto& look = item.look;
     if (!look.backdrop || !damage_.intersects(item.body))
         return;
-    const auto blur =
-        blurred(behind(item.body), look.backdrop->blurRadius * pixelsPerPoint(look), BlurEdges::Extended);
-    auto& painter = readied(surface, item, item.body & item.innerClip);
-    const auto shape = look.transform().map(shapeOf(item, 0));
+    const auto seen = blurredBackdrop(behind(item.body), look.backdrop->blurRadius * pixelsPerPoint(look),
+                                      look.backdrop->saturation);
+    const auto region = seen_[index] & item.body & item.innerClip;
+    const auto inside = isOpaque_ ? insideOf(look, 0) : QRect();
+    PixelRects::copy(seen, surface.image, region & inside, item.body.topLeft());
+    auto& painter = surface.painter;
     painter.resetTransform();
+    painter.setClipRegion(region - inside);
     painter.setBrushOrigin(item.body.topLeft());
-    painter.fillPath(shape, QBrush(saturated(blur, look.backdrop->saturation)));
+    painter.fillPath(look.transform().map(shapeOf(item, 0)), QBrush(seen));
     painter.setBrushOrigin(0, 0);
 }
 
 QImage Painting::behind(const QRect& rect) const {
     QImage image(rect.size(), QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
+    PixelRects::copy(picture_, image, QRect({}, rect.size()), -rect.topLeft());
     QPainter painter(&image);
     double opacity = 1;
-    for (const auto* const surface : surfaces_) {
+    for (const auto* const surface : surfaces_ | std::views::drop(1)) {
         opacity *= surface->opacity;
         painter.setOpacity(opacity);
         painter.drawImage(QPoint(), surface->image, rect);
@@ -226,13 +282,28 @@ QImage Painting::behind(const QRect& rect) const {
     return image;
 }
 
-void Painting::paintBackground(const PaintItem& item, Surface& surface) {
+void Painting::paintBackground(std::size_t index, Surface& surface, double opacity) {
+    const auto& item = items_[index];
     const auto& look = item.look;
-    if (look.background.alpha == 0)
+    auto color = look.background;
+    color.alpha *= opacity;
+    if (color.alpha == 0)
         return;
+    auto& painter = surface.painter;
+    if (look.fillsWholePixels()) {
+        const auto region = seen_[index] & item.innerClip & look.wholePixels();
+        PixelRects::paintOver(surface.image, region, asColor(color));
+        return;
+    }
     const auto isEdgeHidden = look.borderColor.alpha == 1; // then no background shines through its edge
-    const auto shape = shapeOf(item, isEdgeHidden ? look.borderWidth / 2 : 0);
-    readied(surface, item, item.body & item.innerClip).fillPath(shape, asColor(look.background));
+    const auto inset = isEdgeHidden ? look.borderWidth / 2 : 0;
+    const auto shape = look.transform().map(shapeOf(item, inset));
+    const auto region = seen_[index] & item.body & item.innerClip;
+    const auto inside = insideOf(look, inset);
+    painter.resetTransform();
+    PixelRects::paintOver(surface.image, region & inside, asColor(color));
+    painter.setClipRegion(region - inside);
+    painter.fillPath(shape, asColor(color));
 }
 
 void Painting::paintContents(const PaintItem& item, Surface& surface) {
@@ -243,6 +314,35 @@ void Painting::paintContents(const PaintItem& item, Surface& surface) {
     painter.save();
     item.delegate->drawLayer(painter, item.look.bounds, item.look.traits);
     painter.restore();
+}
+
+void Painting::paintPicture(std::size_t index, Surface& surface) {
+    const auto& item = items_[index];
+    if (item.inner == nullptr)
+        return;
+    const auto region = seen_[index] & item.body;
+    if (item.isInnerScaled()) {
+        paintScaledPicture(item, region, surface);
+        return;
+    }
+    const auto& image = tools_.pictures.picture(item.identity);
+    auto& painter = surface.painter;
+    painter.resetTransform();
+    const auto paint = [&](const QRect& /*rect*/) { painter.drawImage(item.cornerOfInner(), image); };
+    PixelRects::copy(image, surface.image, region & item.opaque, item.cornerOfInner());
+    paintEach(painter, region - item.opaque, paint);
+}
+
+void Painting::paintScaledPicture(const PaintItem& item, const QRegion& region, Surface& surface) const {
+    const ScaledPicture scaled(tools_.pictures.picture(item.identity), item.placeOfInner());
+    for (const auto& rect : region& item.opaque)
+        scaled.copyTo(surface.image, rect);
+    surface.painter.resetTransform();
+    paintEach(surface.painter, region - item.opaque, [&](const QRect& rect) {
+        QImage part(rect.size(), QImage::Format_ARGB32_Premultiplied);
+        scaled.copyTo(part, rect, rect.topLeft());
+        surface.painter.drawImage(rect.topLeft(), part);
+    });
 }
 
 void Painting::paintBorder(const PaintItem& item, Surface& surface) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "LayerPictures.h"
 #include "PaintList.h"
 #include "ScratchImages.h"
 #include "ShadowRenderer.h"
@@ -14,10 +15,17 @@
 /// whole's size, so that the same pixels come out whatever part is painted. Made by LayerPainter.
 class Painting {
 public:
-    Painting(const PaintList& list, const QRegion& damage, QImage& picture, ScratchImages& scratch,
-             ShadowRenderer& shadows);
+    /// What is kept from one painting to the next.
+    struct Tools {
+        ScratchImages& scratch; ///< with room for the picture
+        ShadowRenderer& shadows;
+        const LayerPictures& pictures; ///< up to date
+    };
 
-    void paintAll();
+    Painting(const PaintList& list, const QRegion& damage, QImage& picture, const Tools& tools);
+
+    /// \param color behind all layers
+    void paintAll(const QColor& color);
 
 private:
     /// A picture that layers are painted into: the whole's, or that of a group on its way into it.
@@ -29,6 +37,8 @@ private:
         Surface(QImage& picture, double groupOpacity);
     };
 
+    /// Where nothing that lies in front covers an item.
+    void findSeen();
     void paintItems(std::size_t first, std::size_t end, Surface& surface);
     void paintItem(std::size_t index, Surface& surface);
     void paintGroup(std::size_t index, Surface& surface);
@@ -38,17 +48,22 @@ private:
     /// Brings back what was there where a mask cuts off.
     void blendEdges(const PaintItem& item, const QRegion& edges, QImage& saved, Surface& surface);
     void paintShadow(const PaintItem& item, Surface& surface);
-    void paintBackdrop(const PaintItem& item, Surface& surface);
-    void paintBackground(const PaintItem& item, Surface& surface);
+    void paintBackdrop(std::size_t index, Surface& surface);
+    /// \param opacity of a group that has nothing else
+    void paintBackground(std::size_t index, Surface& surface, double opacity = 1);
     void paintContents(const PaintItem& item, Surface& surface);
+    void paintPicture(std::size_t index, Surface& surface);
+    void paintScaledPicture(const PaintItem& item, const QRegion& region, Surface& surface) const;
     void paintBorder(const PaintItem& item, Surface& surface);
     [[nodiscard]] QImage behind(const QRect& rect) const;
     [[nodiscard]] QPainter& readied(Surface& surface, const PaintItem& item, const QRegion& clip) const;
 
     const std::vector<PaintItem>& items_;
     const QRegion& damage_;
-    ScratchImages& scratch_;
-    ShadowRenderer& shadows_;
+    Tools tools_;
     QImage& picture_;
+    std::vector<QRegion> seen_;      ///< of the damage, where each item is seen, without what is within it
+    bool isOpaque_ = true;           ///< the picture, behind all layers
+    std::vector<bool> isAnySeen_;    ///< of each item with all within it
     std::vector<Surface*> surfaces_; ///< the whole's, then those of the groups that are being painted
 };

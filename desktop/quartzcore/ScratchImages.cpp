@@ -1,9 +1,10 @@
 #include "ScratchImages.h"
 
-void ScratchImages::setSize(QSize size) {
-    if (size_ == size)
+void ScratchImages::makeRoom(QSize size) {
+    const auto needed = size_.expandedTo(size);
+    if (size_ == needed)
         return;
-    size_ = size;
+    size_ = needed;
     images_.clear();
 }
 

@@ -7,8 +7,8 @@
 /// Pictures of one size that are needed for a while within a painting. Keeps them for the next one.
 class ScratchImages {
 public:
-    /// Drops the pictures of another size.
-    void setSize(QSize size);
+    /// From here on the pictures are that large, or larger. \pre none is taken
+    void makeRoom(QSize size);
 
     /// A picture with any content, for as long as `release` has not been called as often.
     [[nodiscard]] QImage& take();

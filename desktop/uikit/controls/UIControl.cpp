@@ -12,9 +12,16 @@ const Class classObject = Class::define<UIControl, UIView>("UIControl");
 const Class eventClass = Class::define<UIEvent>("UIEvent");
 const Class touchClass = Class::define<UITouch>("UITouch");
 
+/// Of a control that shows nothing but what its layer has.
+class PlainControlPeer final : public UIControlPeer {
+public:
+    // LayerDelegate:
+    [[nodiscard]] bool hasContents() const override { return false; }
+};
+
 } // namespace
 
-UIControl::UIControl() : UIView(std::make_unique<UIControlPeer>()) {}
+UIControl::UIControl() : UIView(std::make_unique<PlainControlPeer>()) {}
 
 UIControl::UIControl(std::unique_ptr<UIViewPeer> peer) : UIView(std::move(peer)) {}
 

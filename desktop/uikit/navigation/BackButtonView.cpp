@@ -32,6 +32,8 @@ BackButtonView::BackButtonView(const std::string& previousTitle)
         widths_.push_back(label_->peer().sizeThatFits({}).width);
     }
     showTitle(0);
+    for (const auto& view : {Ref<UIView>(chevron_), Ref<UIView>(label_)})
+        view->layer().peer().keepsPicture = true;
     content().addSubview(chevron_);
     content().addSubview(label_);
     peer().setAccessibility(

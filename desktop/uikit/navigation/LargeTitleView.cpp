@@ -1,5 +1,6 @@
 #include "navigation/LargeTitleView.h"
 
+#include "CALayerPeer.h"
 #include "DesktopFont.h"
 #include "ObjectiveC/Class.h"
 #include "navigation/NavigationBarLayout.h"
@@ -23,6 +24,7 @@ LargeTitleView::LargeTitleView() : label_(make<UILabel>()) {
     setClipsToBounds(true);
     label_->setFont(DesktopFont::font(titleSize, FontWeight::Bold));
     label_->layer().peer().anchorPoint = {0, 1};
+    label_->layer().peer().keepsPicture = true;
     addSubview(label_);
 }
 

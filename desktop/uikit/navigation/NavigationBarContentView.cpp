@@ -1,6 +1,7 @@
 #include "navigation/NavigationBarContentView.h"
 
 #include "AnimationGroup.h"
+#include "CALayerPeer.h"
 #include "DesktopFont.h"
 #include "ObjectiveC/Class.h"
 #include "controls/UIControlPeer.h"
@@ -28,6 +29,7 @@ NavigationBarContentView::NavigationBarContentView(const Ref<DesktopNavigationIt
       options_(std::move(options)),
       titleHolder_(make<UIView>()),
       smallTitleIsShown_(!options_.hasLargeTitle) {
+    titleHolder_->layer().peer().keepsPicture = true;
     item_->setObserver([content = Weak<NavigationBarContentView>(this)] {
         if (const auto living = content.strong())
             living->rebuild();
@@ -86,6 +88,7 @@ NavigationBarContentView::makeButtons(const std::vector<Ref<UIBarButtonItem>>& i
     for (const auto& item : items) {
         if (const auto known = dynamicCast<DesktopBarButtonItem>(item)) {
             buttons.push_back(make<BarButtonView>(known));
+            buttons.back()->layer().peer().keepsPicture = true;
             addSubview(buttons.back());
         }
     }

@@ -1,5 +1,6 @@
 #include "navigation/NavigationPageView.h"
 
+#include "CALayerPeer.h"
 #include "DesktopColor.h"
 #include "ObjectiveC/Class.h"
 #include "views/UIViewPeer.h"
@@ -47,6 +48,7 @@ NavigationPageView::NavigationPageView(const Ref<UIView>& page)
     dimming_->setBackgroundColor(UIColor::blackColor());
     dimming_->setAlpha(0);
     shadow_->setAlpha(0);
+    shadow_->layer().peer().keepsPicture = true;
     for (const auto& view : {shadow_, page_, dimming_})
         addSubview(view);
 }
@@ -59,14 +61,17 @@ void NavigationPageView::layoutSubviews() {
 }
 
 void NavigationPageView::placeAlone() {
+    page_->layer().peer().keepsPicture = false;
     place(0, 0, 0);
 }
 
 void NavigationPageView::placeAbove(double away) {
+    page_->layer().peer().keepsPicture = true;
     place(away, 1 - away, 0);
 }
 
 void NavigationPageView::placeBeneath(double covered) {
+    page_->layer().peer().keepsPicture = true;
     place(-parallax * covered, 0, greatestDim * covered);
 }
 
@@ -77,6 +82,7 @@ void NavigationPageView::place(double shift, double shadow, double dim) {
 }
 
 void NavigationPageView::releasePage() {
+    page_->layer().peer().keepsPicture = false;
     if (page_->peer().superview() == this)
         page_->peer().removeFromSuperview();
 }

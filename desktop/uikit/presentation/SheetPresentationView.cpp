@@ -36,6 +36,7 @@ SheetPresentationView::SheetPresentationView(UIViewController& controller)
     card_->setClipsToBounds(true);
     card_->layer().setCornerRadius(SheetGeometry::cornerRadius);
     card_->layer().peer().continuousCorners = true;
+    card_->layer().peer().keepsPicture = true;
     addSubview(dimming_);
     addSubview(card_);
     card_->addSubview(retain(&controller.view()));
@@ -62,6 +63,7 @@ void SheetPresentationView::didCover() {
     coveredClips_ = covered->layer().peer().masksToBounds;
     covered->setClipsToBounds(true);
     covered->layer().peer().continuousCorners = true;
+    covered->layer().peer().keepsPicture = true;
 }
 
 void SheetPresentationView::willUncover() {
@@ -73,6 +75,7 @@ void SheetPresentationView::willUncover() {
         covered->peer().setTransform({});
         covered->layer().setCornerRadius(coveredCorner_);
         covered->setClipsToBounds(coveredClips_);
+        covered->layer().peer().keepsPicture = false;
     });
 }
 

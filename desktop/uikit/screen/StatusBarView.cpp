@@ -1,5 +1,6 @@
 #include "screen/StatusBarView.h"
 
+#include "CALayerPeer.h"
 #include "DesktopColor.h"
 #include "DesktopFont.h"
 #include "Device.h"
@@ -74,6 +75,7 @@ StatusBarView::StatusBarView()
       charge_(makeLabel(padTextSize)),
       glyphs_(make<StatusGlyphsView>()) {
     setUserInteractionEnabled(false);
+    layer().peer().keepsPicture = true; // much is painted again beneath it
     time_->setTextAlignment(NSTextAlignment::Center);
     charge_->setText("100%");
     for (const auto& view : std::initializer_list<Ref<UIView>>{time_, date_, charge_, glyphs_})

@@ -1,5 +1,6 @@
 #include "tables/TableCaptionViews.h"
 
+#include "CALayerPeer.h"
 #include "DesktopColor.h"
 #include "TextLayout.h"
 #include "views/UILabelPeer.h"
@@ -56,6 +57,7 @@ void TableCaptionViews::add(std::size_t section, Edge edge, const TableCaption& 
     if (shown_.contains({section, edge}) || (!caption.view && caption.text.empty()))
         return;
     const auto added = shown(caption, edge);
+    added.view->layer().peer().keepsPicture = true;
     table.peer().insertSubview(added.view, 0);
     shown_.emplace(std::pair(section, edge), added);
 }

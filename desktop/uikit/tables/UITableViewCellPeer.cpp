@@ -1,6 +1,7 @@
 #include "tables/UITableViewCellPeer.h"
 
 #include "AnimationGroup.h"
+#include "CALayerPeer.h"
 #include "DesktopColor.h"
 #include "DesktopImage.h"
 #include "layout/LayoutProblem.h"
@@ -93,6 +94,7 @@ void UITableViewCellPeer::viewMade() {
     detailTextLabel_ = make<UILabel>();
     imageView_ = make<UIImageView>();
     separator_ = make<UIView>();
+    layer().peer().keepsPicture = true;
     addSubview(slice_);
     for (const auto& part : {background_, contentView_, separator_})
         slice_->addSubview(part);

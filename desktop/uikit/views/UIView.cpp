@@ -19,9 +19,16 @@ std::chrono::nanoseconds nanoseconds(double seconds) {
     return std::chrono::round<std::chrono::nanoseconds>(std::chrono::duration<double>(seconds));
 }
 
+/// Of a view that shows nothing but what its layer has.
+class PlainViewPeer final : public UIViewPeer {
+public:
+    // LayerDelegate:
+    [[nodiscard]] bool hasContents() const override { return false; }
+};
+
 } // namespace
 
-UIView::UIView() : UIView(std::make_unique<UIViewPeer>()) {}
+UIView::UIView() : UIView(std::make_unique<PlainViewPeer>()) {}
 
 UIView::UIView(std::unique_ptr<UIViewPeer> peer) : peer_(std::move(peer)) {
     peer_->view_ = this;

@@ -272,6 +272,86 @@ TEST_F(CompositorTest, ShowsAnimationsOnTheirWay) {
     EXPECT_FALSE(shown_.compositor.isAnimating());
 }
 
+TEST_F(CompositorTest, APictureOfALayerIsClearWhereTheLayerIs) {
+    const auto view = shown_.add(CGRectMake(10, 10, 20, 20), ColorComponents{.alpha = 0});
+    ShownScreen::put(*view, CGRectMake(5, 5, 5, 5), red);
+    view->layer().peer().keepsPicture = true;
+    EXPECT_EQ(shown_.pixel(17, 17), QColor(Qt::red));
+    EXPECT_EQ(shown_.pixel(12, 12), white);
+    EXPECT_EQ(shown_.pixel(25, 25), white);
+}
+
+TEST_F(CompositorTest, APictureOfALayerShowsWhatIsWithinItBeyondItsBounds) {
+    const auto view = shown_.add(CGRectMake(10, 10, 10, 10), red);
+    ShownScreen::put(*view, CGRectMake(-5, 5, 20, 2), green);
+    view->layer().peer().keepsPicture = true;
+    EXPECT_EQ(shown_.pixel(6, 15), QColor(Qt::green));
+    EXPECT_EQ(shown_.pixel(24, 15), QColor(Qt::green));
+    EXPECT_EQ(shown_.pixel(4, 15), white);
+    view->setClipsToBounds(true);
+    EXPECT_EQ(shown_.pixel(6, 15), white);
+    EXPECT_EQ(shown_.pixel(11, 15), QColor(Qt::green));
+}
+
+TEST_F(CompositorTest, APictureOfALayerIsAtWholePixels) {
+    const auto view = shown_.add(CGRectMake(10.4, 10, 10, 10), red);
+    view->layer().peer().keepsPicture = true;
+    EXPECT_EQ(shown_.pixel(10, 15), QColor(Qt::red));
+    EXPECT_EQ(shown_.pixel(20, 15), white);
+    view->setFrame(CGRectMake(10.6, 10, 10, 10));
+    EXPECT_EQ(shown_.pixel(10, 15), white);
+    EXPECT_EQ(shown_.pixel(20, 15), QColor(Qt::red));
+}
+
+TEST_F(CompositorTest, APictureOfALayerFollowsWhatIsWithinIt) {
+    const auto view = shown_.add(CGRectMake(0, 0, 20, 20), red);
+    const auto inner = ShownScreen::add(*view, CGRectMake(0, 0, 5, 5), green);
+    view->layer().peer().keepsPicture = true;
+    EXPECT_EQ(shown_.pixel(2, 2), QColor(Qt::green));
+    inner->setFrame(CGRectMake(10, 10, 5, 5));
+    EXPECT_EQ(shown_.pixel(2, 2), QColor(Qt::red));
+    EXPECT_EQ(shown_.pixel(12, 12), QColor(Qt::green));
+    EXPECT_FALSE(shown_.compositor.lastDamage().contains(QPoint(18, 18)));
+}
+
+TEST_F(CompositorTest, APictureOfALayerIsPaintedSmallerWithItsRoundCorners) {
+    const auto view = shown_.add(CGRectMake(0, 0, 40, 40), red);
+    ShownScreen::put(*view, CGRectMake(0, 20, 40, 20), blue);
+    view->layer().setCornerRadius(8);
+    view->setClipsToBounds(true);
+    view->layer().peer().keepsPicture = true;
+    view->peer().setTransform(AffineTransform::scale(0.75)); // from 5 to 35
+    EXPECT_EQ(shown_.pixel(4, 20), white);
+    EXPECT_EQ(shown_.pixel(5, 5), white);
+    EXPECT_EQ(shown_.pixel(20, 6), QColor(Qt::red));
+    EXPECT_EQ(shown_.pixel(20, 33), QColor(Qt::blue));
+    EXPECT_EQ(shown_.pixel(20, 36), white);
+}
+
+TEST_F(CompositorTest, ABackdropInALayerThatKeepsAPictureShowsWhatIsBehindTheLayer) {
+    shown_.put(CGRectMake(0, 0, 40, 40), ColorComponents{.red = 0, .green = 0, .blue = 1});
+    const auto card = shown_.add(CGRectMake(0, 0, 40, 40), ColorComponents{.alpha = 0});
+    const auto panel = make<UIView>();
+    panel->setFrame(CGRectMake(5, 5, 30, 30));
+    panel->layer().peer().backdrop = Backdrop{.blurRadius = 4, .saturation = 1};
+    card->addSubview(panel);
+    card->layer().peer().keepsPicture = true;
+    EXPECT_EQ(shown_.pixel(20, 20), QColor(Qt::blue));
+    card->setBackgroundColor(DesktopColor::fixed(red));
+    EXPECT_EQ(shown_.pixel(20, 20), QColor(Qt::red));
+}
+
+TEST_F(CompositorTest, WhatIsBeneathAnOpaqueLayersRoundCornersIsSeen) {
+    shown_.put(CGRectMake(0, 0, 40, 40), green);
+    const auto view = shown_.add(CGRectMake(0, 0, 40, 40), red);
+    view->layer().setCornerRadius(12);
+    EXPECT_EQ(shown_.pixel(0, 0), QColor(Qt::green));
+    EXPECT_EQ(shown_.pixel(39, 39), QColor(Qt::green));
+    view->layer().peer().keepsPicture = true;
+    EXPECT_EQ(shown_.pixel(0, 0), QColor(Qt::green));
+    EXPECT_EQ(shown_.pixel(20, 20), QColor(Qt::red));
+}
+
 TEST_F(CompositorTest, PaintsWindowsFromBackToFront) {
     const auto front = make<UIWindow>();
     shown_.screen.addWindow(front);

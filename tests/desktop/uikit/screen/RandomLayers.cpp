@@ -112,7 +112,7 @@ void RandomLayers::setText(UIView& view) {
 void RandomLayers::setLook(UIView& view) {
     auto& layer = view.layer().peer();
     const ColorComponents color{number(0, 1), number(0, 1), number(0, 1), chance(0.6) ? 1 : number(0, 1)};
-    switch (choice(11)) {
+    switch (choice(12)) {
     case 0:
         view.setBackgroundColor(chance(0.2) ? nullptr : DesktopColor::fixed(color));
         return;
@@ -145,6 +145,9 @@ void RandomLayers::setLook(UIView& view) {
         return;
     case 9:
         layer.backdrop = chance(0.5) ? std::nullopt : std::optional(Backdrop{number(0, 6), number(0.5, 2)});
+        return;
+    case 10:
+        layer.keepsPicture = &view != &root_ && chance(0.5);
         return;
     default:
         view.layer().setShadowPath(

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QColor>
+#include <QImage>
+#include <QPoint>
+#include <QRegion>
+
+/// Work on whole pixels of pictures, without a painter and on the thread that asks. The pictures are ARGB32
+/// premultiplied and have all of the pixels.
+namespace PixelRects {
+
+/// Gives the pixels of a region a colour in place of theirs.
+void fill(QImage& picture, const QRegion& region, const QColor& color);
+
+/// Paints a colour over them.
+void paintOver(QImage& picture, const QRegion& region, const QColor& color);
+
+/// Replaces them by those of another picture. \param corner of that one in the picture
+void copy(const QImage& from, QImage& picture, const QRegion& region, QPoint corner = {});
+
+} // namespace PixelRects

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+
+/// Work on rows of pixels, in loops that compilers turn into vector instructions.
+namespace PixelRows {
+
+/// A component of a pixel with a fraction: 4 are one step of 255. Mixed with 64 shares, they fit into 16
+/// bits.
+using Fine = std::uint16_t;
+inline constexpr int fineSteps = 4;
+inline constexpr int fullFineShare = 64;
+
+/// Of a mix's second part, all of it.
+inline constexpr int fullShare = 128;
+
+/// Bytes of a pixel in colour.
+inline constexpr std::size_t pixelSize = 4;
+
+/// Mixes two rows. \param share of the second, 0..fullFineShare \pre all are of one length
+void mix(std::span<const Fine> first, std::span<const Fine> second, int share, std::span<std::uint8_t> mixed);
+void mix(std::span<const std::uint8_t> first, std::span<const std::uint8_t> second, int share,
+         std::span<std::uint8_t> mixed);
+
+/// Mixes each pixel of a row with the one after it. \param shares of the latter, for each byte
+/// \pre the row is a pixel longer than the others
+void mixWithNext(std::span<const std::uint8_t> row, std::span<const std::uint8_t> shares,
+                 std::span<std::uint8_t> mixed);
+
+/// Paints a colour over a row. \param color premultiplied, for each byte; repeated \param rest what it leaves
+/// of the row, 0..255
+void paintOver(std::span<std::uint8_t> row, std::span<const std::uint8_t> color, std::uint8_t rest);
+
+/// So many rows can be added to sums.
+inline constexpr int rowsAddedAtMost = 257;
+
+/// Adds a row to sums, byte by byte. \pre both are of one length
+void add(std::span<const std::uint8_t> row, std::span<std::uint16_t> sums);
+
+} // namespace PixelRows

@@ -1,0 +1,64 @@
+#include "PixelRects.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+QImage blank(QSize size, const QColor& color) {
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(color);
+    return image;
+}
+
+} // namespace
+
+TEST(PixelRectsTest, FillsThePixelsOfARegionAndNoOthers) {
+    auto image = blank({8, 6}, Qt::white);
+    PixelRects::fill(image, QRegion(1, 1, 3, 2) | QRect(6, 4, 2, 2), QColor(10, 20, 30));
+    for (auto y = 0; y < 6; ++y) {
+        for (auto x = 0; x < 8; ++x) {
+            const auto inside = QRect(1, 1, 3, 2).contains(x, y) || QRect(6, 4, 2, 2).contains(x, y);
+            EXPECT_EQ(image.pixelColor(x, y), inside ? QColor(10, 20, 30) : QColor(Qt::white))
+                << x << ", " << y;
+        }
+    }
+}
+
+TEST(PixelRectsTest, AClearFillLeavesNothing) {
+    auto image = blank({2, 2}, Qt::red);
+    PixelRects::fill(image, QRect(0, 0, 1, 2), Qt::transparent);
+    EXPECT_EQ(image.pixel(0, 1), 0U);
+    EXPECT_EQ(image.pixelColor(1, 1), QColor(Qt::red));
+}
+
+TEST(PixelRectsTest, AColorThatIsNotOpaqueIsMixedWithWhatIsThere) {
+    auto image = blank({40, 2}, QColor(200, 100, 0));
+    PixelRects::paintOver(image, QRect(3, 0, 35, 2), QColor(0, 0, 255, 51)); // a fifth
+    EXPECT_EQ(image.pixelColor(2, 0), QColor(200, 100, 0));
+    EXPECT_EQ(image.pixelColor(38, 1), QColor(200, 100, 0));
+    for (const auto x : {3, 19, 37}) {
+        EXPECT_EQ(image.pixelColor(x, 1).red(), 160);
+        EXPECT_EQ(image.pixelColor(x, 1).green(), 80);
+        EXPECT_EQ(image.pixelColor(x, 1).blue(), 51);
+        EXPECT_EQ(image.pixelColor(x, 1).alpha(), 255);
+    }
+}
+
+TEST(PixelRectsTest, WhatIsPaintedOverAClearPixelIsTheColor) {
+    auto image = blank({20, 1}, Qt::transparent);
+    PixelRects::paintOver(image, QRect(0, 0, 20, 1), QColor(255, 0, 0, 128));
+    EXPECT_EQ(*reinterpret_cast<const QRgb*>(image.constScanLine(0)), qRgba(128, 0, 0, 128));
+    PixelRects::paintOver(image, QRect(0, 0, 20, 1), Qt::green);
+    EXPECT_EQ(image.pixelColor(19, 0), QColor(Qt::green));
+}
+
+TEST(PixelRectsTest, CopiesPixelsFromAnotherPlace) {
+    auto from = blank({4, 4}, Qt::red);
+    from.setPixelColor(1, 2, Qt::green);
+    auto image = blank({10, 10}, Qt::white);
+    PixelRects::copy(from, image, QRect(5, 6, 2, 2), {5, 5});
+    EXPECT_EQ(image.pixelColor(6, 7), QColor(Qt::green));
+    EXPECT_EQ(image.pixelColor(5, 6), QColor(Qt::red));
+    EXPECT_EQ(image.pixelColor(5, 5), QColor(Qt::white));
+    EXPECT_EQ(image.pixelColor(7, 7), QColor(Qt::white));
+}
