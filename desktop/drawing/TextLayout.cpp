@@ -89,14 +89,11 @@ Sides glyphSides(const QTextLine& line, int first, int last) {
     return sides.left < sides.right ? sides : Sides();
 }
 
-/// Those of the painter's device that it may paint of a rectangle.
+/// Those of the painter's device that a rectangle covers, whatever of them is to be painted: where a picture
+/// begins decides about the last digits of the places in it.
 QRect pixelsIn(const QPainter& painter, const QRectF& rect) {
-    const auto transform = painter.deviceTransform();
     const QRectF device(0, 0, painter.device()->width(), painter.device()->height());
-    auto painted = transform.mapRect(rect) & device;
-    if (painter.hasClipping())
-        painted &= transform.mapRect(painter.clipBoundingRect());
-    return painted.toAlignedRect();
+    return (painter.deviceTransform().mapRect(rect) & device).toAlignedRect();
 }
 
 QString withoutTrailingSpaces(QString text) {
@@ -300,7 +297,7 @@ void TextLayout::paintLines(QPainter& painter, QPointF origin, const QColor& col
 
 QRectF TextLayout::inkRect() const {
     const auto height = static_cast<double>(lines_.size()) * style_.lineHeight();
-    const auto beyond = style_.size; // letters with marks above or below, and slanted ones
+    const auto beyond = style_.size / 2; // letters with marks above or below, and slanted ones
     return QRectF(0, 0, boxWidth(), height).adjusted(-beyond, -beyond, beyond, beyond);
 }
 
