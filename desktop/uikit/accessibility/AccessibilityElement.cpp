@@ -133,6 +133,13 @@ std::vector<AccessibilityElement> AccessibilityElement::allIn(UIView& root) {
     return elements;
 }
 
+AccessibilityElement AccessibilityElement::of(UIView& view) {
+    std::string label;
+    for (const auto* around = &view; around != nullptr && label.empty(); around = around->peer().superview())
+        label = labelOf(around->peer(), around->peer().accessibility());
+    return elementFor(view, label, view.peer().accessibility(), view.respondsToSelector(switchSelector));
+}
+
 UIView* viewInFront() {
     auto& screen = Screen::current();
     if (auto* const presented = screen.presentations().top())

@@ -19,6 +19,9 @@ struct AccessibilityElement {
     /// Those that are a view or within it, as they are read: line by line from the top, and in a line from
     /// the left. What is not to be seen is left out.
     [[nodiscard]] static std::vector<AccessibilityElement> allIn(UIView& root);
+
+    /// What the view alone is. Without a name of its own it is called as what it is in.
+    [[nodiscard]] static AccessibilityElement of(UIView& view);
 };
 
 /// What the user deals with: what is presented topmost, or else the application's window in front. Null while
