@@ -80,6 +80,12 @@ private:
     void touch(TouchPhase phase, QPointF place);
     void moveFocus(bool forward);
     bool adjust(const QKeyEvent& event);
+    /// Through the rows of a menu or the buttons of an alert.
+    bool moveInChoices(const QKeyEvent& event);
+    /// Chooses what is preferred of what is presented.
+    bool choosePreferred(const QKeyEvent& event);
+    bool scroll(const QKeyEvent& event);
+    void tap(CGPoint place);
     bool type(const QKeyEvent& event);
     /// Null while nothing waits for files.
     [[nodiscard]] FilePicker* filePicker() const;

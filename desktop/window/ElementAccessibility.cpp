@@ -86,7 +86,7 @@ QAccessible::State ElementAccessibility::state() const {
         state.invalid = true;
         return state;
     }
-    state.focusable = true;
+    state.focusable = found->isStop();
     state.focused = parent_.deviceWindow().focusedView() == found->view;
     state.checkable = found->role == AccessibilityRole::Switch || found->role == AccessibilityRole::Choice;
     state.checked = state.checkable && found->value == "1";

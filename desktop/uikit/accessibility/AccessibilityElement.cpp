@@ -126,6 +126,10 @@ void collect(UIView& view, const std::string& labelAround, std::vector<Accessibi
 
 } // namespace
 
+bool AccessibilityElement::isStop() const {
+    return !isPlain(*this) && role != AccessibilityRole::Header;
+}
+
 std::vector<AccessibilityElement> AccessibilityElement::allIn(UIView& root) {
     std::vector<AccessibilityElement> elements;
     collect(root, "", elements);

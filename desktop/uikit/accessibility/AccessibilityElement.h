@@ -16,6 +16,9 @@ struct AccessibilityElement {
     AccessibilityRole role = AccessibilityRole::None;
     CGRect frame; ///< in points of the screen
 
+    /// Whether there is something to do with it; what is only read is no stop for the keyboard.
+    [[nodiscard]] bool isStop() const;
+
     /// Those that are a view or within it, as they are read: line by line from the top, and in a line from
     /// the left. What is not to be seen is left out.
     [[nodiscard]] static std::vector<AccessibilityElement> allIn(UIView& root);
