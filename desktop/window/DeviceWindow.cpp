@@ -133,9 +133,21 @@ void DeviceWindow::refresh() {
     QRegion changed;
     for (const auto& rect : compositor_.lastDamage())
         changed += placement_.toWindow(rect, picture_->size());
-    if (!changed.isEmpty())
+    if (!changed.isEmpty()) {
         update(changed);
+        tellAssistivePrograms();
+    }
     scheduleRefresh();
+}
+
+/// What nobody sees changing has not changed for them either.
+void DeviceWindow::tellAssistivePrograms() {
+    auto* const told =
+        QAccessible::isActive() ? dynamic_cast<WindowAccessibility*>(accessibleRoot()) : nullptr;
+    if (told == nullptr)
+        return;
+    for (const auto& news : toldElements_.update(KeyboardFocus::elements()))
+        told->tell(news);
 }
 
 void DeviceWindow::scheduleRefresh() {

@@ -3,6 +3,7 @@
 #include "InputMethod.h"
 #include "KeyboardFocus.h"
 #include "ScreenPlacement.h"
+#include "ToldElements.h"
 #include "screen/Compositor.h"
 #include "touches/TouchPhase.h"
 
@@ -94,6 +95,7 @@ private:
     void answer(QInputMethodQueryEvent& event) const;
     void escape();
     void focusChanged();
+    void tellAssistivePrograms();
     void paintFocus(QPainter& painter) const;
 
     Screen& screen_;
@@ -104,5 +106,6 @@ private:
     ScreenPlacement placement_;
     KeyboardFocus focus_;
     InputMethod inputMethod_;
+    ToldElements toldElements_;
     QTimer timer_;
 };

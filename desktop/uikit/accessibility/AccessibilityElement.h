@@ -19,6 +19,11 @@ struct AccessibilityElement {
     /// Whether there is something to do with it; what is only read is no stop for the keyboard.
     [[nodiscard]] bool isStop() const;
 
+    /// Whether its value is a yes or a no, "1" or "0".
+    [[nodiscard]] bool isCheckable() const {
+        return role == AccessibilityRole::Switch || role == AccessibilityRole::Choice;
+    }
+
     /// Those that are a view or within it, as they are read: line by line from the top, and in a line from
     /// the left. What is not to be seen is left out.
     [[nodiscard]] static std::vector<AccessibilityElement> allIn(UIView& root);
