@@ -1,5 +1,6 @@
 #include "DeviceWindow.h"
 
+#include "ContinuousCorners.h"
 #include "DesktopClipboard.h"
 #include "DesktopFileDialog.h"
 #include "Device.h"
@@ -18,6 +19,7 @@
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPainterPath>
 #include <QPalette>
 #include <QScreen>
 #include <QUrl>
@@ -173,7 +175,18 @@ void DeviceWindow::paintEvent(QPaintEvent* event) {
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     if (picture_ != nullptr)
         painter.drawImage(placement_.frame(), *picture_);
+    paintAroundGlass(painter);
     paintFocus(painter);
+}
+
+void DeviceWindow::paintAroundGlass(QPainter& painter) const {
+    const auto frame = placement_.frame();
+    const auto radius = screen_.cornerRadius() * frame.width() / screen_.bounds().size.width;
+    QPainterPath corners;
+    corners.addRect(frame);
+    corners.addPath(continuousCornersPath(frame, radius));
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillPath(corners, surroundings);
 }
 
 void DeviceWindow::paintFocus(QPainter& painter) const {

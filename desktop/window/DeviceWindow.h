@@ -96,6 +96,7 @@ private:
     void escape();
     void focusChanged();
     void tellAssistivePrograms();
+    void paintAroundGlass(QPainter& painter) const;
     void paintFocus(QPainter& painter) const;
 
     Screen& screen_;
