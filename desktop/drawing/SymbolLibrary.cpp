@@ -44,7 +44,6 @@ std::string iconNameOf(std::string_view name) {
 
 // In units of the symbols' font.
 constexpr double semiboldMargin = 17.5; ///< by which strokes grow on either side
-constexpr double badgeGap = 60;         ///< between a badge and what is left of the symbol behind it
 constexpr double signMargin = 40;       ///< by which a badge's sign is heavier, before it is made small
 
 constexpr double signShare = 0.5; ///< of a badge's diameter
@@ -55,13 +54,14 @@ struct Badge {
     std::string_view base;
     std::string_view sign; ///< cut out of the disc; empty for none
     double radius;
+    double gap;     ///< to what is left of the base, so that of no tooth only a sliver is
     QPointF center; ///< from the middle of the base
 };
 
 constexpr std::array badges{
-    Badge{"gear.badge", "gear", "", 190, {370, -370}},
-    Badge{"gear.badge.checkmark", "gear", "checkmark", 250, {360, 360}},
-    Badge{"gear.badge.xmark", "gear", "xmark", 250, {360, 360}},
+    Badge{"gear.badge", "gear", "", 190, 78, {370, -370}},
+    Badge{"gear.badge.checkmark", "gear", "checkmark", 250, 36, {360, 360}},
+    Badge{"gear.badge.xmark", "gear", "xmark", 250, 36, {360, 360}},
 };
 
 QPainterPath disc(QPointF center, double radius) {
@@ -89,7 +89,7 @@ QPainterPath composed(const Badge& badge, const SymbolFont& font, double weightM
     if (const auto sign = font.icon(badge.sign))
         mark = mark.subtracted(signIn(badge, center, grown(*sign, signMargin + weightMargin)));
     auto path = (weightMargin > 0 ? grown(base, weightMargin) : base)
-                    .subtracted(disc(center, badge.radius + badgeGap));
+                    .subtracted(disc(center, badge.radius + badge.gap));
     path.addPath(mark);
     return path;
 }

@@ -3,9 +3,11 @@
 #include "FontFaces.h"
 
 #include <QGlyphRun>
+#include <QImage>
 #include <QPainter>
 #include <QRawFont>
 #include <QTextBoundaryFinder>
+#include <QTransform>
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -85,6 +87,13 @@ Sides glyphSides(const QTextLine& line, int first, int last) {
         }
     }
     return sides.left < sides.right ? sides : Sides();
+}
+
+/// Those of the painter's device that a rectangle covers, whatever of them is to be painted: where a picture
+/// begins decides about the last digits of the places in it.
+QRect pixelsIn(const QPainter& painter, const QRectF& rect) {
+    const QRectF device(0, 0, painter.device()->width(), painter.device()->height());
+    return (painter.deviceTransform().mapRect(rect) & device).toAlignedRect();
 }
 
 QString withoutTrailingSpaces(QString text) {
@@ -256,9 +265,27 @@ std::size_t TextLayout::indexBefore(std::size_t index) const {
 }
 
 void TextLayout::paint(QPainter& painter, QPointF origin, const QColor& color) const {
+    const auto pixels = pixelsIn(painter, inkRect().translated(origin));
+    if (pixels.isEmpty())
+        return;
+    QImage image(pixels.size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    {
+        QPainter letters(&image);
+        letters.setTransform(painter.deviceTransform() * QTransform::fromTranslate(-pixels.x(), -pixels.y()));
+        paintLines(letters, origin, color);
+    }
     painter.save();
+    painter.resetTransform();
+    const auto pixel = 1 / painter.device()->devicePixelRatioF();
+    painter.scale(pixel, pixel);
+    painter.drawImage(pixels.topLeft(), image);
+    painter.restore();
+}
+
+void TextLayout::paintLines(QPainter& painter, QPointF origin, const QColor& color) const {
     painter.setPen(color);
-    painter.setRenderHint(QPainter::TextAntialiasing);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     painter.translate(origin);
     painter.scale(unit_, unit_);
     for (std::size_t number = 0; number < lines_.size(); ++number) {
@@ -266,7 +293,12 @@ void TextLayout::paint(QPainter& painter, QPointF origin, const QColor& color) c
         line.draw(&painter,
                   QPointF(left(lines_[number]), baseline(number)) / unit_ - QPointF(0, line.ascent()));
     }
-    painter.restore();
+}
+
+QRectF TextLayout::inkRect() const {
+    const auto height = static_cast<double>(lines_.size()) * style_.lineHeight();
+    const auto beyond = style_.size / 2; // letters with marks above or below, and slanted ones
+    return QRectF(0, 0, boxWidth(), height).adjusted(-beyond, -beyond, beyond, beyond);
 }
 
 double TextLayout::lineWidth(const Line& line) const {

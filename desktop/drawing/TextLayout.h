@@ -66,6 +66,8 @@ public:
     /// The index of the previous character, or 0.
     [[nodiscard]] std::size_t indexBefore(std::size_t index) const;
 
+    /// Covers as much of each pixel as the letters do, on every background: on an opaque one Qt would blend
+    /// letters as if for another gamma, thinner in black and heavier in white.
     /// \param origin where the layout's upper left corner is painted
     void paint(QPainter& painter, QPointF origin, const QColor& color) const;
 
@@ -91,6 +93,9 @@ private:
     [[nodiscard]] double boxWidth() const;
     [[nodiscard]] double left(const Line& line) const;
     [[nodiscard]] std::size_t lineOf(qsizetype position) const;
+    void paintLines(QPainter& painter, QPointF origin, const QColor& color) const;
+    /// What letters may reach.
+    [[nodiscard]] QRectF inkRect() const;
     [[nodiscard]] QRectF characterRect(qsizetype begin, qsizetype end) const;
 
     Utf16Text text_;

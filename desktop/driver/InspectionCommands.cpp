@@ -1,5 +1,6 @@
 #include "InspectionCommands.h"
 
+#include "ContinuousCorners.h"
 #include "DrivenApplication.h"
 #include "JsonValues.h"
 #include "ObjectiveC/Class.h"
@@ -13,6 +14,7 @@
 #include <QFile>
 #include <QImage>
 #include <QJsonObject>
+#include <QPainter>
 
 namespace {
 
@@ -39,8 +41,28 @@ QByteArray pngOf(const QImage& picture) {
     return bytes;
 }
 
-Answer snapshot(Compositor& compositor, const std::string& path) {
-    const auto& picture = compositor.render();
+/// Without what the device's glass has not.
+QImage rounded(const QImage& picture) {
+    const auto& screen = Screen::current();
+    QImage result(picture.size(), QImage::Format_ARGB32_Premultiplied);
+    result.fill(Qt::transparent);
+    QPainter painter(&result);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(picture.width() / screen.bounds().size.width,
+                  picture.height() / screen.bounds().size.height);
+    QBrush pixels(picture);
+    pixels.setTransform(painter.transform().inverted());
+    const QRectF glass(0, 0, screen.bounds().size.width, screen.bounds().size.height);
+    painter.fillPath(continuousCornersPath(glass, screen.cornerRadius()), pixels);
+    return result;
+}
+
+Answer snapshot(Compositor& compositor, const CommandTable::Arguments& arguments) {
+    const auto& path = arguments[0].text;
+    const auto isRounded = arguments.size() > 1;
+    if (isRounded && arguments[1].text != "rounded")
+        return std::unexpected("usage: snapshot FILE [rounded]");
+    const auto picture = isRounded ? rounded(compositor.render()) : compositor.render();
     if (path.empty())
         return std::unexpected("the picture cannot be written: it has no name");
     const auto bytes = pngOf(picture);
@@ -71,10 +93,9 @@ void addInspectionCommands(CommandTable& table, DrivenApplication& application, 
     table.add({.usage = "live CLASS", .fewest = 1, .most = 1, .run = [](const auto& arguments) {
                    return live(arguments[0].text);
                }});
-    table.add({.usage = "snapshot FILE",
+    table.add({.usage = "snapshot FILE [rounded]",
                .fewest = 1,
-               .most = 1,
-               .run = lookingAfterRefresh([&compositor](const auto& arguments) {
-                   return snapshot(compositor, arguments[0].text);
-               })});
+               .most = 2,
+               .run = lookingAfterRefresh(
+                   [&compositor](const auto& arguments) { return snapshot(compositor, arguments); })});
 }

@@ -7,6 +7,7 @@
 #include "accessibility/AccessibilityElement.h"
 #include "screen/Screen.h"
 #include "screen/TouchDispatcher.h"
+#include "scrolling/UIScrollViewPeer.h"
 #include "views/UIViewPeer.h"
 
 #include <QJsonObject>
@@ -90,6 +91,18 @@ bool isCard(const Presented& presented) {
     return details && (details->style == "pageSheet" || details->style == "formSheet");
 }
 
+/// A finger would scroll back first what is scrolled where it comes down.
+void scrollToTopAt(CGPoint place) {
+    for (auto* view = Screen::current().hitTest(place); view != nullptr; view = view->peer().superview()) {
+        auto* const scroll = dynamic_cast<UIScrollView*>(view);
+        if (scroll == nullptr)
+            continue;
+        auto& peer = peerOf<UIScrollViewPeer>(*scroll);
+        peer.setContentOffset({peer.contentOffset().x, peer.minimumOffset().y});
+    }
+    Screen::current().layoutIfNeeded();
+}
+
 /// Draws the sheet from its upper edge to the screen's lower one.
 Answer swipeDown(TouchDispatcher& touches) {
     constexpr double grip = 16; // points below the upper edge
@@ -102,6 +115,7 @@ Answer swipeDown(TouchDispatcher& touches) {
     const auto frame = card.peer().convertToScreen(card.bounds());
     const CGPoint from{CGRectGetMidX(frame), frame.origin.y + grip};
     const auto way = CGRectGetMaxY(Screen::current().bounds()) - from.y;
+    scrollToTopAt(from);
     touches.touch(TouchPhase::Began, from);
     for (auto step = 1; step <= steps; ++step)
         touches.touch(TouchPhase::Moved, {from.x, from.y + way * step / steps});

@@ -4,6 +4,7 @@
 #include "LayerReport.h"
 #include "ObjectProperties.h"
 #include "ObjectiveC/Class.h"
+#include "accessibility/AccessibilityElement.h"
 #include "screen/Screen.h"
 #include "screen/UIWindow.h"
 #include "views/UIViewPeer.h"
@@ -19,9 +20,12 @@ QJsonArray subviewReports(const UIViewPeer& peer) {
     return reports;
 }
 
-QJsonObject accessibilityReport(const Accessibility& accessibility) {
-    return {{"label", jsonOfText(accessibility.label)},
-            {"value", jsonOfText(accessibility.value)},
+/// An element is told of as assistive programs hear of it.
+QJsonObject accessibilityReport(UIView& view) {
+    const auto accessibility = view.peer().accessibility();
+    const auto element = AccessibilityElement::of(view);
+    return {{"label", jsonOfText(accessibility.isElement ? element.label : accessibility.label)},
+            {"value", jsonOfText(accessibility.isElement ? element.value : accessibility.value)},
             {"isElement", accessibility.isElement}};
 }
 
@@ -44,7 +48,7 @@ QJsonObject viewReport(UIView& view) {
         {"hidden", peer.isHidden()},
         {"layer", layerReport(peer.layer().peer())},
         {"properties", viewProperties(view)},
-        {"accessibility", accessibilityReport(peer.accessibility())},
+        {"accessibility", accessibilityReport(view)},
         {"subviews", subviewReports(peer)},
     };
 }

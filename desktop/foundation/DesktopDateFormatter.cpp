@@ -3,6 +3,7 @@
 #include "Device.h"
 #include "time/UnixTime.h"
 
+#include <unicode/dtptngen.h>
 #include <unicode/resbund.h>
 #include <unicode/smpdtfmt.h>
 #include <unicode/timezone.h>
@@ -43,6 +44,15 @@ std::unique_ptr<icu::DateFormat> formatOfStyles(NSDateFormatterStyle date, NSDat
 
 Ref<NSDateFormatter> NSDateFormatter::dateFormatter() {
     return make<DesktopDateFormatter>();
+}
+
+void DesktopDateFormatter::setDateFormatFromTemplate(const std::string& parts) {
+    UErrorCode status = U_ZERO_ERROR;
+    const std::unique_ptr<icu::DateTimePatternGenerator> generator(
+        icu::DateTimePatternGenerator::createInstance(deviceLocale(), status));
+    pattern_.clear();
+    if (U_SUCCESS(status) != 0)
+        generator->getBestPattern(icu::UnicodeString::fromUTF8(parts), status).toUTF8String(pattern_);
 }
 
 std::string DesktopDateFormatter::stringFromDate(NSDate date) const {

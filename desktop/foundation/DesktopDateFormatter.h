@@ -7,6 +7,9 @@
 /// A date formatter on ICU's patterns and locale data. Made by `NSDateFormatter::dateFormatter`.
 class DesktopDateFormatter final : public NSDateFormatter {
 public:
+    /// Shows those parts of a date, such as "EEEdMMM", in the order of the device's language.
+    void setDateFormatFromTemplate(const std::string& parts);
+
     // NSDateFormatter:
     void setDateFormat(std::string_view pattern) override { pattern_ = pattern; }
 

@@ -15,6 +15,11 @@ bool isGroup(const DesktopSpecifier& specifier) {
     return specifier.kind() == SpecifierKind::Group;
 }
 
+bool showsValue(const DesktopSpecifier& specifier) {
+    return specifier.kind() == SpecifierKind::TitleValue || !specifier.textForKey("key").empty() ||
+           !specifier.textForKey("get").empty();
+}
+
 template <class T>
 bool isPlaceIn(const std::vector<T>& elements, std::int64_t index) {
     return index >= 0 && std::cmp_less(index, elements.size());
@@ -152,7 +157,7 @@ ListRow PSListControllerPeer::rowAt(const Place& place) {
     row.enabled = specifier.isEnabled();
     if (isChoice(specifier))
         row.value = isChosen(specifier);
-    else if (!row.key.empty())
+    else if (showsValue(specifier))
         row.value = specifier.performGetter();
     if (isGroup(specifier)) {
         row.frame = table().rectForHeader(place.path.section);

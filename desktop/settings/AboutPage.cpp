@@ -6,6 +6,7 @@
 #include "ObjectiveC/Class.h"
 #include "controllers/UIViewControllerPeer.h"
 #include "screen/Screen.h"
+#include "texts/LanguageNames.h"
 
 #include <array>
 #include <string>
@@ -34,7 +35,7 @@ std::string screen() {
 }
 
 std::string language() {
-    return Device::current().locale();
+    return nameOfLocale(Device::current().locale());
 }
 
 std::string timeZone() {

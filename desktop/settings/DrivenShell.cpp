@@ -18,6 +18,8 @@ DrivenApplication::Outcome DrivenShell::goBack() {
     auto& pages = peerOf<UINavigationControllerPeer>(*shell_.settings()->pages());
     if (pages.stack().size() < 2)
         return std::unexpected("the navigation bar has no back button");
+    if (pages.followsFinger())
+        return std::unexpected("a finger is drawing the page away");
     pages.pop(true);
     return {};
 }

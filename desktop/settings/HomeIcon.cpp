@@ -47,6 +47,10 @@ HomeIcon::HomeIcon(const std::string& name, const std::string& iconPath, std::fu
     addSubview(label_);
 }
 
+void HomeIcon::setIconShown(bool shown) {
+    image_->peer().setHidden(!shown);
+}
+
 double HomeIcon::side() const {
     return peer().traits().idiom == Idiom::Phone ? phoneSide : padSide;
 }

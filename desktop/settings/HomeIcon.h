@@ -16,6 +16,11 @@ public:
     /// \param iconPath the device path of the picture, without a scale
     HomeIcon(const std::string& name, const std::string& iconPath, std::function<void()> open);
 
+    [[nodiscard]] Ref<UIImage> image() const { return image_->image(); }
+
+    /// Whether the icon is there, or only its name.
+    void setIconShown(bool shown);
+
     /// The icon's rectangle in this view; square and at the top.
     [[nodiscard]] CGRect iconFrame() const;
 

@@ -4,7 +4,7 @@
 
 #include <functional>
 
-/// The home screen: wallpaper, the applications in a grid, and the dock below. Made by the shell; owned by
+/// The home screen: wallpaper, the applications in a grid. Made by the shell; owned by
 /// its window.
 class HomeView final : public UIView {
 public:
@@ -14,6 +14,11 @@ public:
     /// Where the icon of Settings is, in this view.
     [[nodiscard]] CGRect settingsIconFrame() const;
 
+    [[nodiscard]] Ref<UIImage> settingsIcon() const { return settings_->image(); }
+
+    /// Whether the icon of Settings is in its place; its name always is.
+    void setSettingsIconShown(bool shown) { settings_->setIconShown(shown); }
+
     /// Shows the wallpaper of the present appearance.
     void updateWallpaper();
 
@@ -22,6 +27,5 @@ public:
 
 private:
     Ref<UIImageView> wallpaper_;
-    Ref<UIView> dock_;
     Ref<HomeIcon> settings_;
 };

@@ -20,12 +20,11 @@ namespace {
 
 constexpr double homeLevel = -1; ///< behind the application
 constexpr std::string_view settingsIdentifier = "com.apple.Preferences";
-constexpr double screenCorner = 47; ///< of a window on its way to the screen's edges or back, in points
+constexpr double iconLevel = 1; ///< above the application
 
 // A window that a finger draws up from the lower edge.
-constexpr double shrinking = 1.25;    ///< heights that it loses for each that the finger moves
-constexpr double leastScale = 0.3;    ///< that it shrinks to under the finger
-constexpr double cornersAppear = 0.1; ///< the part of the way on which its corners become round
+constexpr double shrinking = 1.25; ///< heights that it loses for each that the finger moves
+constexpr double leastScale = 0.3; ///< that it shrinks to under the finger
 
 using std::chrono::milliseconds;
 
@@ -36,15 +35,39 @@ AnimationGroup::Course zoom() {
             .fromCurrentState = true};
 }
 
-/// Short, so that the icon and the application are seldom seen through each other.
-AnimationGroup::Course fade(milliseconds delay) {
-    return {.duration = milliseconds(120),
-            .delay = delay,
-            .curve = AnimationCurve::linear(),
-            .fromCurrentState = true};
+AnimationGroup::Course fade(milliseconds delay, milliseconds duration) {
+    return {
+        .duration = duration, .delay = delay, .curve = AnimationCurve::linear(), .fromCurrentState = true};
 }
 
-constexpr milliseconds untilSmall{160}; ///< from when on a window on its way home fades
+/// On a course on which one is opaque as long as the other is not, so that nothing shines through both: the
+/// lower one has come before the upper one goes, and goes after that has come.
+struct Exchange {
+    AnimationGroup::Course window;
+    AnimationGroup::Course icon;
+};
+
+Exchange launching() {
+    return {.window = fade({}, milliseconds(30)), .icon = fade(milliseconds(30), milliseconds(130))};
+}
+
+Exchange leaving() {
+    return {.window = fade(milliseconds(200), milliseconds(30)),
+            .icon = fade(milliseconds(70), milliseconds(130))};
+}
+
+// When a window that zooms has come over the status bar, and when it has left it.
+AnimationGroup::Course barsComing() {
+    return fade(milliseconds(120), milliseconds(80));
+}
+
+AnimationGroup::Course barsGoing() {
+    return fade(milliseconds(40), milliseconds(60));
+}
+
+CGPoint middleOf(const CGRect& rect) {
+    return {CGRectGetMidX(rect), CGRectGetMidY(rect)};
+}
 
 } // namespace
 
@@ -53,10 +76,11 @@ Shell::Shell() : homeWindow_(make<UIWindow>()), home_(make<HomeView>([this] { la
     homeWindow_->setWindowLevel(homeLevel);
     homeWindow_->setFrame(screen.bounds());
     home_->setFrame(homeWindow_->bounds());
-    bars_.setBehind(SystemBars::Behind::Wallpaper, false);
+    bars_.setBehind(SystemBars::Behind::Wallpaper, {});
     home_->setAutoresizingMask(UIViewAutoresizing::FlexibleWidth | UIViewAutoresizing::FlexibleHeight);
     homeWindow_->addSubview(home_);
     screen.addWindow(homeWindow_);
+    makeIconWindow();
     DesktopApplication::shared().setSuspendHandler([this] { goHome(); });
     Device::current().terminations().setHandler([this](const auto& request) { end(request.identifier); });
 }
@@ -66,6 +90,7 @@ Shell::~Shell() {
     Device::current().terminations().setHandler({});
     endSettings();
     Screen::current().removeWindow(*homeWindow_);
+    Screen::current().removeWindow(*iconWindow_);
     // What still waits may be of the code that goes with the loader.
     Device::current().mainQueue().forgetAll();
 }
@@ -78,9 +103,9 @@ void Shell::launchSettings() {
         startSettings();
     settingsWindow_->peer().setHidden(false);
     settingsWindow_->setUserInteractionEnabled(true);
+    home_->setSettingsIconShown(false);
+    showSettings(true);
     springBack();
-    AnimationGroup::run(fade({}), [this] { settingsWindow_->setAlpha(1); }, {});
-    bars_.setBehind(SystemBars::Behind::Application, true);
 }
 
 std::expected<void, std::string> Shell::openEntry(std::string_view nameOrLabel) {
@@ -101,15 +126,19 @@ void Shell::goHome() {
     Screen::current().presentations().dismissTransient();
     TouchDispatcher::cancelTouchesIn(*settingsWindow_);
     settingsWindow_->setUserInteractionEnabled(false);
-    bars_.setBehind(SystemBars::Behind::Wallpaper, true);
+    bars_.setBehind(SystemBars::Behind::Wallpaper, barsGoing());
+    setCorners(Screen::current().cornerRadius());
     AnimationGroup::run(
         zoom(), [this] { shrinkToIcon(); },
-        [window = Weak<UIWindow>(settingsWindow_)](bool finished) {
+        [this, window = Weak<UIWindow>(settingsWindow_)](bool finished) {
             const auto shrunk = window.strong();
-            if (finished && shrunk)
-                shrunk->peer().setHidden(true);
+            if (!finished || !shrunk)
+                return;
+            shrunk->peer().setHidden(true);
+            iconWindow_->peer().setHidden(true);
+            home_->setSettingsIconShown(true);
         });
-    AnimationGroup::run(fade(untilSmall), [this] { settingsWindow_->setAlpha(0); }, {});
+    showSettings(false);
 }
 
 void Shell::goBack() {
@@ -129,7 +158,7 @@ void Shell::terminateSettings() {
     Device::current().mainQueue().forgetAll();
     Screen::current().applicationHasEnded();
     loader_.unloadBundles();
-    bars_.setBehind(SystemBars::Behind::Wallpaper, false);
+    bars_.setBehind(SystemBars::Behind::Wallpaper, {});
 }
 
 void Shell::relaunch() {
@@ -157,9 +186,38 @@ void Shell::startSettings() {
                                       .released = [this](bool goesHome) { fingerGone(goesHome); }}));
     screen.addWindow(settingsWindow_);
     AnimationGroup::runWithoutAnimation([this] {
+        setCorners(Screen::current().cornerRadius());
         shrinkToIcon();
         settingsWindow_->setAlpha(0);
+        iconWindow_->setAlpha(1);
     });
+}
+
+void Shell::makeIconWindow() {
+    auto& screen = Screen::current();
+    iconWindow_ = make<UIWindow>();
+    iconWindow_->setWindowLevel(iconLevel);
+    iconWindow_->setUserInteractionEnabled(false);
+    iconWindow_->setFrame(screen.bounds());
+    iconWindow_->setBackgroundColor(UIColor::grayColor()); // where the picture's own corners are round
+    iconWindow_->setClipsToBounds(true);
+    iconWindow_->layer().peer().continuousCorners = true;
+    iconWindow_->layer().setCornerRadius(screen.cornerRadius());
+    const auto picture = make<UIImageView>();
+    picture->setImage(home_->settingsIcon());
+    picture->setContentMode(UIViewContentMode::ScaleToFill);
+    picture->setFrame(iconWindow_->bounds());
+    picture->setAutoresizingMask(UIViewAutoresizing::FlexibleWidth | UIViewAutoresizing::FlexibleHeight);
+    iconWindow_->addSubview(picture);
+    iconWindow_->peer().setHidden(true);
+    screen.addWindow(iconWindow_);
+}
+
+void Shell::showSettings(bool shown) {
+    const auto courses = shown ? launching() : leaving();
+    iconWindow_->peer().setHidden(false);
+    AnimationGroup::run(courses.window, [this, shown] { settingsWindow_->setAlpha(shown ? 1 : 0); }, {});
+    AnimationGroup::run(courses.icon, [this, shown] { iconWindow_->setAlpha(shown ? 0 : 1); }, {});
 }
 
 void Shell::endSettings() {
@@ -169,29 +227,43 @@ void Shell::endSettings() {
     Screen::current().removeWindow(*settingsWindow_);
     settingsWindow_ = nullptr;
     settings_.reset();
+    iconWindow_->peer().setHidden(true);
+    home_->setSettingsIconShown(true);
 }
 
 void Shell::shrinkToIcon() {
     const auto icon = home_->settingsIconFrame();
     const auto screen = Screen::current().bounds();
-    const auto factor = icon.size.width / screen.size.width;
-    const auto middle = [](const CGRect& rect) {
-        return CGPoint{rect.origin.x + rect.size.width / 2, rect.origin.y + rect.size.height / 2};
-    };
-    const auto from = middle(icon);
-    const auto to = middle(screen);
-    settingsWindow_->peer().setTransform(
-        AffineTransform::translation(from.x - to.x, from.y - to.y).after(AffineTransform::scale(factor)));
-    settingsWindow_->layer().setCornerRadius(screenCorner);
+    const auto from = middleOf(icon);
+    const auto to = middleOf(screen);
+    placeSettings({.a = icon.size.width / screen.size.width,
+                   .d = icon.size.height / screen.size.height,
+                   .tx = from.x - to.x,
+                   .ty = from.y - to.y});
 }
 
 void Shell::fillScreen() {
-    settingsWindow_->peer().setTransform({});
-    settingsWindow_->layer().setCornerRadius(0);
+    placeSettings({});
 }
 
+void Shell::placeSettings(const AffineTransform& transform) {
+    settingsWindow_->peer().setTransform(transform);
+    iconWindow_->peer().setTransform(transform);
+}
+
+void Shell::setCorners(double radius) {
+    settingsWindow_->layer().setCornerRadius(radius);
+}
+
+/// The corners are those of the screen all the way; at its end they are the screen's own.
 void Shell::springBack() {
-    AnimationGroup::run(zoom(), [this] { fillScreen(); }, {});
+    bars_.setBehind(SystemBars::Behind::Application, barsComing());
+    AnimationGroup::run(
+        zoom(), [this] { fillScreen(); },
+        [this, window = Weak<UIWindow>(settingsWindow_)](bool finished) {
+            if (finished && window.strong())
+                setCorners(0);
+        });
 }
 
 void Shell::fingerGone(bool goesHome) {
@@ -206,8 +278,10 @@ void Shell::followFinger(CGPoint translation) {
     const auto way = std::max(0.0, -translation.y / height);
     const auto scale = std::max(leastScale, 1 - shrinking * way);
     const auto lowerEdge = height * (0.5 - way);
-    settingsWindow_->peer().setTransform(
-        AffineTransform::translation(translation.x, lowerEdge - height * scale / 2)
-            .after(AffineTransform::scale(scale)));
-    settingsWindow_->layer().setCornerRadius(screenCorner * std::min(1.0, way / cornersAppear));
+    placeSettings(AffineTransform::translation(translation.x, lowerEdge - height * scale / 2)
+                      .after(AffineTransform::scale(scale)));
+    setCorners(Screen::current().cornerRadius());
+    const auto top = height * (1 - way - scale);
+    const auto leavesBar = top > Screen::current().safeAreaInsets().top / 2;
+    bars_.setBehind(leavesBar ? SystemBars::Behind::Wallpaper : SystemBars::Behind::Application, {});
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "AffineTransform.h"
 #include "HomeView.h"
 #include "PaneLoader.h"
 #include "SettingsApplication.h"
@@ -53,10 +54,15 @@ private:
     void end(std::string_view identifier);
     void startSettings();
     void endSettings();
-    /// Between the size of its icon and that of the screen.
+    /// Between the place of its icon and the whole screen.
     void shrinkToIcon();
     void fillScreen();
     void springBack();
+    void makeIconWindow();
+    /// With the picture of its icon above it.
+    void placeSettings(const AffineTransform& transform);
+    void showSettings(bool shown);
+    void setCorners(double radius);
     /// The finger that draws Settings up has come so far.
     void followFinger(CGPoint translation);
     void fingerGone(bool goesHome);
@@ -66,6 +72,7 @@ private:
     Ref<UIWindow> homeWindow_;
     Ref<HomeView> home_;
     Ref<UIWindow> settingsWindow_;
+    Ref<UIWindow> iconWindow_; ///< what Settings grows from and shrinks to; as large as its window
     std::unique_ptr<SettingsApplication> settings_;
     bool isHome_ = true;
 };

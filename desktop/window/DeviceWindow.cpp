@@ -1,5 +1,6 @@
 #include "DeviceWindow.h"
 
+#include "ContinuousCorners.h"
 #include "DesktopClipboard.h"
 #include "DesktopFileDialog.h"
 #include "Device.h"
@@ -18,6 +19,7 @@
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPainterPath>
 #include <QPalette>
 #include <QScreen>
 #include <QUrl>
@@ -55,6 +57,10 @@ std::chrono::milliseconds untilNextMinute(const Clock& clock) {
     constexpr double minute = 60;
     const auto passed = std::fmod(unixTimeOf(clock.date()), minute);
     return std::chrono::ceil<std::chrono::milliseconds>(std::chrono::duration<double>(minute - passed));
+}
+
+bool isReturn(const QKeyEvent& event) {
+    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
 
 bool hasKeyboard(const UIView& view) {
@@ -129,9 +135,21 @@ void DeviceWindow::refresh() {
     QRegion changed;
     for (const auto& rect : compositor_.lastDamage())
         changed += placement_.toWindow(rect, picture_->size());
-    if (!changed.isEmpty())
+    if (!changed.isEmpty()) {
         update(changed);
+        tellAssistivePrograms();
+    }
     scheduleRefresh();
+}
+
+/// What nobody sees changing has not changed for them either.
+void DeviceWindow::tellAssistivePrograms() {
+    auto* const told =
+        QAccessible::isActive() ? dynamic_cast<WindowAccessibility*>(accessibleRoot()) : nullptr;
+    if (told == nullptr)
+        return;
+    for (const auto& news : toldElements_.update(KeyboardFocus::elements()))
+        told->tell(news);
 }
 
 void DeviceWindow::scheduleRefresh() {
@@ -157,7 +175,18 @@ void DeviceWindow::paintEvent(QPaintEvent* event) {
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     if (picture_ != nullptr)
         painter.drawImage(placement_.frame(), *picture_);
+    paintAroundGlass(painter);
     paintFocus(painter);
+}
+
+void DeviceWindow::paintAroundGlass(QPainter& painter) const {
+    const auto frame = placement_.frame();
+    const auto radius = screen_.cornerRadius() * frame.width() / screen_.bounds().size.width;
+    QPainterPath corners;
+    corners.addRect(frame);
+    corners.addPath(continuousCornersPath(frame, radius));
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillPath(corners, surroundings);
 }
 
 void DeviceWindow::paintFocus(QPainter& painter) const {
@@ -224,15 +253,15 @@ void DeviceWindow::wheelEvent(QWheelEvent* event) {
 
 void DeviceWindow::keyPressEvent(QKeyEvent* event) {
     const auto element = focus_.element();
-    const auto presses =
-        event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const auto presses = event->key() == Qt::Key_Space || isReturn(*event);
     if (event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab)
         moveFocus(event->key() == Qt::Key_Tab);
     else if (event->key() == Qt::Key_Escape)
         escape();
     else if (presses && element && !hasKeyboard(*element->view))
         press(*element);
-    else if (!adjust(*event) && !type(*event))
+    else if (!adjust(*event) && !moveInChoices(*event) && !type(*event) && !choosePreferred(*event) &&
+             !scroll(*event))
         event->ignore();
     wake();
 }
@@ -258,6 +287,47 @@ bool DeviceWindow::adjust(const AccessibilityElement& element, bool up) {
         return false;
     adjustable->adjust(up);
     wake();
+    return true;
+}
+
+bool DeviceWindow::moveInChoices(const QKeyEvent& event) {
+    const auto* const presented = screen_.presentations().top();
+    const auto back = event.key() == Qt::Key_Up || event.key() == Qt::Key_Left;
+    const auto forward = event.key() == Qt::Key_Down || event.key() == Qt::Key_Right;
+    const auto isChoice =
+        presented != nullptr && (presented->kind() == "menu" || presented->kind() == "alert");
+    if (!isChoice || back == forward)
+        return false;
+    moveFocus(forward);
+    return true;
+}
+
+bool DeviceWindow::choosePreferred(const QKeyEvent& event) {
+    const auto* const presented = screen_.presentations().top();
+    if (!isReturn(event) || presented == nullptr)
+        return false;
+    const auto actions = presented->actions();
+    const auto preferred = std::ranges::find_if(actions, &Presented::Action::isPreferred);
+    if (preferred == actions.end())
+        return false;
+    tap({CGRectGetMidX(preferred->frame), CGRectGetMidY(preferred->frame)});
+    return true;
+}
+
+/// What is only read is no stop, and yet to be brought into view.
+bool DeviceWindow::scroll(const QKeyEvent& event) {
+    const auto isLine = event.key() == Qt::Key_Up || event.key() == Qt::Key_Down;
+    const auto isPage = event.key() == Qt::Key_PageUp || event.key() == Qt::Key_PageDown;
+    const auto* const view = viewInFront();
+    if ((!isLine && !isPage) || view == nullptr)
+        return false;
+    const auto frame = view->peer().convertToScreen(view->bounds());
+    auto* const scroll = scrollViewAt(screen_, {CGRectGetMidX(frame), CGRectGetMidY(frame)});
+    if (scroll == nullptr)
+        return false;
+    const auto distance = isLine ? pointsPerWheelStep : scroll->bounds().size.height / 2;
+    const auto isUp = event.key() == Qt::Key_Up || event.key() == Qt::Key_PageUp;
+    peerOf<UIScrollViewPeer>(*scroll).scrollBy({0, isUp ? -distance : distance});
     return true;
 }
 
@@ -322,9 +392,12 @@ void DeviceWindow::answer(QInputMethodQueryEvent& event) const {
 void DeviceWindow::press(const AccessibilityElement& element) {
     scrollIntoView(*element.view);
     const auto frame = element.view->peer().convertToScreen(element.view->bounds());
-    const CGPoint middle{CGRectGetMidX(frame), CGRectGetMidY(frame)};
-    touches_.touch(TouchPhase::Began, middle);
-    touches_.touch(TouchPhase::Ended, middle);
+    tap({CGRectGetMidX(frame), CGRectGetMidY(frame)});
+}
+
+void DeviceWindow::tap(CGPoint place) {
+    touches_.touch(TouchPhase::Began, place);
+    touches_.touch(TouchPhase::Ended, place);
     wake();
 }
 

@@ -3,6 +3,7 @@
 #include "InputMethod.h"
 #include "KeyboardFocus.h"
 #include "ScreenPlacement.h"
+#include "ToldElements.h"
 #include "screen/Compositor.h"
 #include "touches/TouchPhase.h"
 
@@ -80,6 +81,12 @@ private:
     void touch(TouchPhase phase, QPointF place);
     void moveFocus(bool forward);
     bool adjust(const QKeyEvent& event);
+    /// Through the rows of a menu or the buttons of an alert.
+    bool moveInChoices(const QKeyEvent& event);
+    /// Chooses what is preferred of what is presented.
+    bool choosePreferred(const QKeyEvent& event);
+    bool scroll(const QKeyEvent& event);
+    void tap(CGPoint place);
     bool type(const QKeyEvent& event);
     /// Null while nothing waits for files.
     [[nodiscard]] FilePicker* filePicker() const;
@@ -88,6 +95,8 @@ private:
     void answer(QInputMethodQueryEvent& event) const;
     void escape();
     void focusChanged();
+    void tellAssistivePrograms();
+    void paintAroundGlass(QPainter& painter) const;
     void paintFocus(QPainter& painter) const;
 
     Screen& screen_;
@@ -98,5 +107,6 @@ private:
     ScreenPlacement placement_;
     KeyboardFocus focus_;
     InputMethod inputMethod_;
+    ToldElements toldElements_;
     QTimer timer_;
 };

@@ -60,7 +60,8 @@ QString ElementAccessibility::text(QAccessible::Text kind) const {
     const auto found = element();
     if (found && kind == QAccessible::Name)
         return QString::fromStdString(found->label);
-    if (found && kind == QAccessible::Value)
+    const auto isDescribed = found && kind == QAccessible::Description && !found->isCheckable();
+    if (isDescribed || (found && kind == QAccessible::Value))
         return QString::fromStdString(found->value);
     return {};
 }
@@ -86,9 +87,9 @@ QAccessible::State ElementAccessibility::state() const {
         state.invalid = true;
         return state;
     }
-    state.focusable = true;
+    state.focusable = found->isStop();
     state.focused = parent_.deviceWindow().focusedView() == found->view;
-    state.checkable = found->role == AccessibilityRole::Switch || found->role == AccessibilityRole::Choice;
+    state.checkable = found->isCheckable();
     state.checked = state.checkable && found->value == "1";
     state.editable = found->role == AccessibilityRole::TextField;
     state.disabled = isDisabled(*found->view);

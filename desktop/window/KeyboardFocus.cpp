@@ -1,6 +1,7 @@
 #include "KeyboardFocus.h"
 
 #include <algorithm>
+#include <functional>
 
 std::vector<AccessibilityElement> KeyboardFocus::elements() {
     auto* const view = viewInFront();
@@ -14,7 +15,8 @@ std::optional<AccessibilityElement> KeyboardFocus::element() const {
 }
 
 void KeyboardFocus::move(bool forward) {
-    const auto all = elements();
+    auto all = elements();
+    std::erase_if(all, std::not_fn(&AccessibilityElement::isStop));
     if (all.empty())
         return;
     const auto found = std::ranges::find(all, view_.strong(), &AccessibilityElement::view);

@@ -9,7 +9,8 @@
 /// application when nothing is. Made and owned by the window.
 class KeyboardFocus {
 public:
-    /// Goes to the next element, or to the one before, round and round; scrolls it into view.
+    /// Goes to the next element that something can be done with, or to the one before, round and round;
+    /// scrolls it into view.
     void move(bool forward);
 
     void set(const Ref<UIView>& view) { view_ = Weak<UIView>(view); }

@@ -14,6 +14,18 @@ QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* objec
     return window != nullptr ? new WindowAccessibility(*window) : nullptr;
 }
 
+QAccessible::Event eventFor(ToldElements::Change change) {
+    switch (change) {
+    case ToldElements::Change::Elements:
+        return QAccessible::ObjectReorder;
+    case ToldElements::Change::Name:
+        return QAccessible::NameChanged;
+    case ToldElements::Change::Value:
+        return QAccessible::DescriptionChanged;
+    }
+    return QAccessible::InvalidEvent;
+}
+
 } // namespace
 
 void WindowAccessibility::install() {
@@ -69,6 +81,21 @@ QAccessibleInterface* WindowAccessibility::childFor(const UIView& view) const {
     const auto found =
         std::ranges::find(elements, &view, [](const auto& element) { return element.view.get(); });
     return found != elements.end() ? interfaceFor(found->view) : nullptr;
+}
+
+void WindowAccessibility::tell(const ToldElements::News& news) {
+    auto* const told = news.view ? childFor(*news.view) : this;
+    if (told == nullptr)
+        return;
+    if (news.change == ToldElements::Change::Value && told->state().checkable) {
+        QAccessible::State changed;
+        changed.checked = true;
+        QAccessibleStateChangeEvent event(told, changed);
+        QAccessible::updateAccessibility(&event);
+        return;
+    }
+    QAccessibleEvent event(told, eventFor(news.change));
+    QAccessible::updateAccessibility(&event);
 }
 
 QAccessibleInterface* WindowAccessibility::interfaceFor(const Ref<UIView>& view) const {

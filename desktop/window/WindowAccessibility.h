@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ObjectiveC/Weak.h"
+#include "ToldElements.h"
 #include "UIKit/UIView.h"
 
 #include <QAccessibleObject>
@@ -24,6 +25,9 @@ public:
 
     /// The element for a view; null when it is none now.
     [[nodiscard]] QAccessibleInterface* childFor(const UIView& view) const;
+
+    /// Tells assistive programs of something that has changed.
+    void tell(const ToldElements::News& news);
 
     // QAccessibleInterface:
     [[nodiscard]] QWindow* window() const override;

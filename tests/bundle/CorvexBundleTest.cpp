@@ -1,6 +1,7 @@
 // What is installed for the pane: its entry and its code.
 
 #include "BundleFixture.h"
+#include "DesktopImage.h"
 #include "EntryList.h"
 #include "PreferenceBundle.h"
 #include "Version.h"
@@ -39,9 +40,20 @@ TEST_F(CorvexBundleTest, OneEntryLeadsToIt) {
     EXPECT_EQ(entries[0].row, (PropertyList::Dictionary{{"bundle", "corvexPrefs"},
                                                         {"cell", "PSLinkCell"},
                                                         {"detail", "cxRootListController"},
-                                                        {"icon", "icon.png"},
+                                                        {"icon", "rowIcon.png"},
                                                         {"isController", true},
                                                         {"label", "Corvex"}}));
+}
+
+TEST_F(CorvexBundleTest, ItsIconHasTheSizeInWhichItIsShown) {
+    const auto sizeOf = [](const std::string& name, double scale) {
+        const auto image = DesktopImage::withContentsOfFile(bundlePath + name, scale);
+        return image ? DesktopImage::sizeOf(*image) : CGSize();
+    };
+    for (const auto scale : {1.0, 2.0, 3.0}) {
+        EXPECT_EQ(sizeOf("/icon.png", scale), (CGSize{60, 60})) << scale;
+        EXPECT_EQ(sizeOf("/rowIcon.png", scale), (CGSize{29, 29})) << scale;
+    }
 }
 
 TEST_F(CorvexBundleTest, ItsInfoNamesWhatItIs) {

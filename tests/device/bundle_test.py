@@ -104,7 +104,7 @@ class BundleTest(unittest.TestCase):
         expected = ["Assets", "Info.plist", "corvexPrefs", "de.lproj", "en.lproj"]
         expected += [f"{name}.plist" for name in lists]
         expected += [f"{folder}.lproj/{name}.strings" for folder in ["de", "en"] for name in lists]
-        expected += [f"{name}{scale}.png" for name in ["icon", *[f"Assets/{icon}" for icon in icons]] for scale in SCALES]
+        expected += [f"{name}{scale}.png" for name in ["icon", "rowIcon", *[f"Assets/{icon}" for icon in icons]] for scale in SCALES]
         names = [str(path.relative_to(BUNDLE)) for path in BUNDLE.rglob("*")]
         self.assertEqual(sorted(names), sorted(expected))
 
@@ -124,9 +124,10 @@ class BundleTest(unittest.TestCase):
             self.assertEqual(others, ["@rpath/libarchive.13.dylib"])
 
     def test_its_pictures_are_in_three_scales(self):
-        for name, width in [("icon.png", 29), ("icon@2x.png", 58), ("icon@3x.png", 87)]:
-            content = (BUNDLE / name).read_bytes()
-            self.assertEqual(struct.unpack_from(">II", content, 16), (width, width))
+        for name, points in [("icon", 60), ("rowIcon", 29)]:
+            for scale, factor in zip(SCALES, [1, 2, 3], strict=True):
+                content = (BUNDLE / f"{name}{scale}.png").read_bytes()
+                self.assertEqual(struct.unpack_from(">II", content, 16), (factor * points, factor * points))
 
 
 if __name__ == "__main__":

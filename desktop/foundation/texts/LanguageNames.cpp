@@ -1,6 +1,7 @@
 #include "texts/LanguageNames.h"
 
 #include <unicode/locid.h>
+#include <unicode/unistr.h>
 
 #include <array>
 
@@ -53,4 +54,11 @@ std::vector<std::string> languageNames(const std::string& locale) {
         addForRegion(region);
     addForRegion("");
     return names;
+}
+
+std::string nameOfLocale(const std::string& locale) {
+    const icu::Locale named(locale.c_str());
+    icu::UnicodeString name;
+    std::string result;
+    return named.getDisplayName(named, name).toUTF8String(result);
 }

@@ -8,3 +8,6 @@
 /// "zh_CN". A name that would stand for another script is left out, such as "zh" for "zh_TW". Empty without a
 /// language.
 [[nodiscard]] std::vector<std::string> languageNames(const std::string& locale);
+
+/// What a locale is called in its own language: "Deutsch (Deutschland)".
+[[nodiscard]] std::string nameOfLocale(const std::string& locale);

@@ -126,11 +126,22 @@ void collect(UIView& view, const std::string& labelAround, std::vector<Accessibi
 
 } // namespace
 
+bool AccessibilityElement::isStop() const {
+    return !isPlain(*this) && role != AccessibilityRole::Header;
+}
+
 std::vector<AccessibilityElement> AccessibilityElement::allIn(UIView& root) {
     std::vector<AccessibilityElement> elements;
     collect(root, "", elements);
     std::ranges::sort(elements, {}, readingPlace);
     return elements;
+}
+
+AccessibilityElement AccessibilityElement::of(UIView& view) {
+    std::string label;
+    for (const auto* around = &view; around != nullptr && label.empty(); around = around->peer().superview())
+        label = labelOf(around->peer(), around->peer().accessibility());
+    return elementFor(view, label, view.peer().accessibility(), view.respondsToSelector(switchSelector));
 }
 
 UIView* viewInFront() {

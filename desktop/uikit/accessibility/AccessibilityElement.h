@@ -16,9 +16,20 @@ struct AccessibilityElement {
     AccessibilityRole role = AccessibilityRole::None;
     CGRect frame; ///< in points of the screen
 
+    /// Whether there is something to do with it; what is only read is no stop for the keyboard.
+    [[nodiscard]] bool isStop() const;
+
+    /// Whether its value is a yes or a no, "1" or "0".
+    [[nodiscard]] bool isCheckable() const {
+        return role == AccessibilityRole::Switch || role == AccessibilityRole::Choice;
+    }
+
     /// Those that are a view or within it, as they are read: line by line from the top, and in a line from
     /// the left. What is not to be seen is left out.
     [[nodiscard]] static std::vector<AccessibilityElement> allIn(UIView& root);
+
+    /// What the view alone is. Without a name of its own it is called as what it is in.
+    [[nodiscard]] static AccessibilityElement of(UIView& view);
 };
 
 /// What the user deals with: what is presented topmost, or else the application's window in front. Null while

@@ -77,16 +77,20 @@ std::string AlertPresentationView::title() const {
     return shown ? shown->peer().title() : "";
 }
 
+/// The one that is set off by its type, which cancels, or the only one.
 std::vector<Presented::Action> AlertPresentationView::actions() const {
     std::vector<Action> actions;
+    const auto isOnly = alert_->buttons().size() == 1;
     for (const auto& button : alert_->buttons()) {
         const auto& action = *button->action();
+        const auto cancels = action.style() == UIAlertActionStyle::Cancel;
         actions.push_back({.title = action.title(),
                            .symbol = {},
                            .destructive = action.style() == UIAlertActionStyle::Destructive,
                            .disabled = false,
                            .frame = button->peer().convertToScreen(button->bounds()),
-                           .cancels = action.style() == UIAlertActionStyle::Cancel});
+                           .cancels = cancels,
+                           .isPreferred = cancels || isOnly});
     }
     return actions;
 }

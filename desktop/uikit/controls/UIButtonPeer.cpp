@@ -159,6 +159,8 @@ Accessibility UIButtonPeer::accessibility() const {
     auto told = UIControlPeer::accessibility();
     if (told.label.empty())
         told.label = shownText().value_or("");
+    const auto isEmpty = told.label.empty() && !imageView_->image();
+    told.isElement = told.isElement && !isEmpty;
     return told;
 }
 

@@ -39,6 +39,9 @@ public:
     /// Whether one page is giving way to another.
     [[nodiscard]] bool isTransitioning() const { return isBusy_; }
 
+    /// Whether a finger is on the way back.
+    [[nodiscard]] bool followsFinger() const { return followsFinger_; }
+
     /// Whether there is a page to go back to and nothing else is going on.
     [[nodiscard]] bool canPopInteractively() const;
     /// The way back under a finger. Nothing happens when there is none now.

@@ -5,7 +5,7 @@
 namespace {
 
 constexpr double topGap = 10; ///< between the safe area and a card, and beside what has stepped back
-constexpr double pageWidth = 712;
+constexpr CGSize pageSize{712, 950};
 constexpr CGSize formSize{540, 620};
 constexpr double padGap = 20; ///< the least between the safe area and a card
 constexpr double enoughPart = 0.5;
@@ -15,6 +15,10 @@ CGRect centred(CGSize size, double width, double top, double height) {
     const auto room = std::max(0.0, height - top);
     return CGRectMake((width - size.width) / 2, top + std::max(0.0, (room - size.height) / 2), size.width,
                       size.height);
+}
+
+CGSize smaller(CGSize left, CGSize right) {
+    return {std::min(left.width, right.width), std::min(left.height, right.height)};
 }
 
 } // namespace
@@ -29,8 +33,8 @@ CGRect SheetGeometry::cardFrame(UIModalPresentationStyle style) const {
     const auto edge = std::max(safeArea.top, safeArea.bottom) + padGap;
     const CGSize greatest{size.width - 2 * padGap, size.height - 2 * edge};
     if (style != UIModalPresentationStyle::FormSheet)
-        return centred({std::min(pageWidth, greatest.width), greatest.height}, size.width, 0, size.height);
-    const CGSize form{std::min(formSize.width, greatest.width), std::min(formSize.height, greatest.height)};
+        return centred(smaller(pageSize, greatest), size.width, 0, size.height);
+    const auto form = smaller(formSize, greatest);
     const auto middle = centred(form, size.width, 0, size.height);
     const auto raised = centred(form, size.width, safeArea.top, size.height - keyboardHeight);
     return keyboardHeight > 0 && raised.origin.y < middle.origin.y ? raised : middle;

@@ -20,6 +20,7 @@ const Class classObject = Class::define<SheetPresentationView, PresentationView>
 /// How far cards that resist are drawn at the most, as a part of their way out.
 constexpr double modalGive = 0.25;
 constexpr double upwardGive = 0.015;
+constexpr double roundPart = 1.53; ///< radii from which on the edge beside a corner is straight
 constexpr std::chrono::milliseconds springBackTime{300};
 
 } // namespace
@@ -27,11 +28,14 @@ constexpr std::chrono::milliseconds springBackTime{300};
 SheetPresentationView::SheetPresentationView(UIViewController& controller)
     : PresentationView(controller),
       backing_(make<UIView>()),
+      sides_(make<UIView>()),
       dimming_(make<UIControl>()),
       card_(make<UIView>()),
       style_(controller.peer().modalPresentationStyle()) {
     backing_->setBackgroundColor(UIColor::blackColor());
     backing_->setAutoresizingMask(UIViewAutoresizing::FlexibleWidth | UIViewAutoresizing::FlexibleHeight);
+    sides_->setBackgroundColor(DesktopColor::system(SystemColor::GroupedBackground));
+    backing_->addSubview(sides_);
     dimming_->setBackgroundColor(DesktopColor::system(SystemColor::ModalDimming));
     card_->setClipsToBounds(true);
     card_->layer().setCornerRadius(SheetGeometry::cornerRadius);
@@ -79,8 +83,13 @@ void SheetPresentationView::willUncover() {
     });
 }
 
+/// From when on the upper edge of what steps back is seen below the middle of the bar.
 bool SheetPresentationView::blackensStatusBar() const {
-    return backing_->peer().superview() != nullptr;
+    const auto covered = beneath();
+    if (!covered || backing_->peer().superview() == nullptr)
+        return false;
+    const auto& layer = covered->layer().peer();
+    return layer.shownToSuperlayer()(layer.shownBounds()).origin.y > peer().safeAreaInsets().top / 2;
 }
 
 // Where everything is.
@@ -110,6 +119,10 @@ void SheetPresentationView::placeCard() {
     card_->setCenter({CGRectGetMidX(frame), CGRectGetMidY(frame)});
     for (const auto& view : card_->peer().subviews())
         view->setFrame(card_->bounds());
+    const auto belowCorners = UIEdgeInsets{.top = SheetGeometry::cornerRadius * roundPart};
+    const auto beneathCard = UIEdgeInsetsInsetRect(frame, belowCorners);
+    sides_->peer().setBounds({{}, beneathCard.size});
+    sides_->setCenter({CGRectGetMidX(beneathCard), CGRectGetMidY(beneathCard)});
 }
 
 void SheetPresentationView::setOpenness(double openness) {
@@ -124,7 +137,8 @@ void SheetPresentationView::place() {
     const auto away = 1 - openness_;
     const auto wayOut = places.wayOut(card_->layer().peer().untransformedFrame());
     dimming_->setAlpha(openness_);
-    card_->peer().setTransform(AffineTransform::translation(0, away * wayOut));
+    for (const auto& view : {card_, sides_})
+        view->peer().setTransform(AffineTransform::translation(0, away * wayOut));
     const auto covered = beneath();
     if (!covered || backing_->peer().superview() == nullptr)
         return;

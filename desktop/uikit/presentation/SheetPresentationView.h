@@ -73,6 +73,9 @@ private:
     void place();
 
     Ref<UIView> backing_; ///< behind everything, where what is covered has stepped back
+    /// Beneath the card, in what is behind everything: a card that blurs what it covers is not to take in the
+    /// black beside that.
+    Ref<UIView> sides_;
     Ref<UIControl> dimming_;
     Ref<UIView> card_;
     UIModalPresentationStyle style_;

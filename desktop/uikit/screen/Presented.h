@@ -22,6 +22,7 @@ public:
         bool disabled = false;
         CGRect frame; ///< in points of the screen
         bool cancels = false;
+        bool isPreferred = false; ///< what the return key chooses
     };
 
     /// One entry of a list that tells the user something.

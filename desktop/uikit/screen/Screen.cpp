@@ -95,6 +95,12 @@ void Screen::traitsChanged() {
         window->peer().traitsDidChange();
 }
 
+double Screen::cornerRadius() const {
+    constexpr double phone = 47.3;
+    constexpr double pad = 18;
+    return traits_.idiom == Idiom::Phone ? phone : pad;
+}
+
 UIEdgeInsets Screen::safeAreaInsets() const {
     if (traits_.idiom == Idiom::Phone)
         return {.top = 47, .left = 0, .bottom = 34, .right = 0};

@@ -48,6 +48,9 @@ public:
     /// What the device's own edges and the status bar cover.
     [[nodiscard]] UIEdgeInsets safeAreaInsets() const;
 
+    /// Of the device's glass, which is continuous; points.
+    [[nodiscard]] double cornerRadius() const;
+
     [[nodiscard]] const std::vector<Ref<UIWindow>>& windows() const { return windows_; }
 
     /// In front of the windows of its level.

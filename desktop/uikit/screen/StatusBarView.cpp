@@ -2,17 +2,20 @@
 
 #include "CALayerPeer.h"
 #include "DesktopColor.h"
+#include "DesktopDateFormatter.h"
 #include "DesktopFont.h"
 #include "Device.h"
-#include "Foundation/NSDateFormatter.h"
 #include "ObjectiveC/Class.h"
 #include "screen/StatusGlyphs.h"
+#include "time/UnixTime.h"
 #include "views/UILabelPeer.h"
 #include "views/UIViewPeer.h"
 
 #include <QPainter>
 #include <QRegularExpression>
 #include <QString>
+#include <cmath>
+#include <utility>
 
 namespace {
 
@@ -88,14 +91,16 @@ std::string StatusBarView::time() const {
 }
 
 void StatusBarView::refresh() {
-    const auto formatter = NSDateFormatter::dateFormatter();
     const auto now = Device::current().clock().date();
+    constexpr auto secondsOfMinute = 60;
+    const auto minute = std::floor(unixTimeOf(now) / secondsOfMinute);
+    if (std::exchange(minute_, minute) == minute)
+        return;
+    const auto formatter = make<DesktopDateFormatter>();
     formatter->setTimeStyle(NSDateFormatterStyle::Short);
     const auto time = withoutHalfOfDay(formatter->stringFromDate(now));
-    formatter->setDateFormat("EEE MMM d");
+    formatter->setDateFormatFromTemplate("EEEMMMd");
     const auto date = formatter->stringFromDate(now);
-    if (time == this->time() && date == peerOf<UILabelPeer>(*date_).text())
-        return;
     time_->setText(time);
     date_->setText(date);
     peer().setNeedsLayout();

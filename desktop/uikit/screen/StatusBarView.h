@@ -29,4 +29,5 @@ private:
     Ref<UILabel> date_;
     Ref<UILabel> charge_;
     Ref<UIView> glyphs_;
+    double minute_ = -1; ///< that is shown, since 1970
 };

@@ -1,18 +1,15 @@
 #include "screen/SystemBars.h"
 
-#include "AnimationGroup.h"
 #include "ObjectiveC/Weak.h"
 #include "screen/Screen.h"
 #include "views/UIViewPeer.h"
 
 #include <algorithm>
-#include <chrono>
 #include <utility>
 
 namespace {
 
 constexpr auto windowLevel = 1000.0;
-constexpr std::chrono::milliseconds fade{250};
 
 } // namespace
 
@@ -57,15 +54,11 @@ void SystemBars::BarsView::refresh() {
     whiteStatusBar_->refresh();
 }
 
-void SystemBars::BarsView::setBehind(Behind behind, bool animated) {
+void SystemBars::BarsView::setBehind(Behind behind, const AnimationGroup::Course& course) {
     behind_ = behind;
     const auto isApplication = behind == Behind::Application;
     // The white bar stays beneath the other one while that fades, so that neither is ever seen through.
     whiteStatusBar_->peer().setHidden(false);
-    const AnimationGroup::Course course{.duration = animated ? fade : std::chrono::milliseconds(),
-                                        .delay = {},
-                                        .curve = AnimationCurve::linear(),
-                                        .fromCurrentState = true};
     AnimationGroup::run(
         course, [this, isApplication] { showApplicationBars(isApplication); },
         [self = Weak<BarsView>(this)](bool /*finished*/) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "AnimationGroup.h"
 #include "screen/HomeIndicatorView.h"
 #include "screen/StatusBarView.h"
 #include "screen/UIWindow.h"
@@ -20,7 +21,7 @@ public:
     };
 
     /// Suits the bars to what is behind them from now on, at first an application.
-    void setBehind(Behind behind, bool animated) { bars_->setBehind(behind, animated); }
+    void setBehind(Behind behind, const AnimationGroup::Course& course) { bars_->setBehind(behind, course); }
 
     /// Shows the device's present time, in white where a sheet has left black behind it; for before each
     /// picture.
@@ -40,7 +41,7 @@ private:
     public:
         BarsView();
 
-        void setBehind(Behind behind, bool animated);
+        void setBehind(Behind behind, const AnimationGroup::Course& course);
         void refresh();
 
         [[nodiscard]] StatusBarView& statusBar() const { return *statusBar_; }

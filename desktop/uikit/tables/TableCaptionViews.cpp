@@ -26,6 +26,11 @@ Ref<UIView> labelOf(const TableCaption& caption, Edge edge) {
     peer.setNumberOfLines(0);
     peer.setTextColor(DesktopColor::system(SystemColor::SecondaryLabel));
     peer.setTextAlignment(caption.alignment);
+    peer.setAccessibility(
+        {.label = caption.text,
+         .value = {},
+         .role = edge == Edge::Header ? AccessibilityRole::Header : AccessibilityRole::StaticText,
+         .isElement = true});
     return label;
 }
 

@@ -274,8 +274,10 @@ void UITableViewCellPeer::layOutTexts(const CGRect& bounds) {
     const auto room = textRoom(bounds.size.width);
     if (const auto image = imageView_->image()) {
         const auto size = sizeOf(*image);
-        imageView_->setFrame(CGRectMake(margin_ + (imageWidth() - size.width) / 2,
-                                        (bounds.size.height - size.height) / 2, size.width, size.height));
+        const TableMetrics metrics(bounds.size.width, traits().displayScale);
+        imageView_->setFrame(CGRectMake(metrics.rounded(margin_ + (imageWidth() - size.width) / 2),
+                                        metrics.rounded((bounds.size.height - size.height) / 2), size.width,
+                                        size.height));
     }
     if (style_ == UITableViewCellStyle::Subtitle && hasText(*detailTextLabel_))
         layOutStacked(room, bounds.size.height);

@@ -219,7 +219,7 @@ Accessibility UILabelPeer::accessibility() const {
     auto accessibility = UIViewPeer::accessibility();
     if (accessibility.role == AccessibilityRole::None)
         accessibility.role = AccessibilityRole::StaticText;
-    accessibility.isElement = true;
+    accessibility.isElement = !accessibility.label.empty() || !text_.value_or("").empty();
     return accessibility;
 }
 

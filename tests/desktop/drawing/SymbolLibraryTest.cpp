@@ -60,6 +60,41 @@ QPointF badgeCenter(std::string_view name) {
     return pathOf(name).boundingRect().bottomRight() - QPointF(25, 25);
 }
 
+/// How much of a symbol of 100 points is in parts so thin that a disc of that radius does not fit into them.
+double areaOfThinParts(std::string_view name, double radius) {
+    constexpr double scale = 3;
+    const auto path = pathOf(name);
+    const auto whole = filled(path, {120, 120}, scale);
+    auto core = whole;
+    {
+        QPainter painter(&core);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setCompositionMode(QPainter::CompositionMode_Clear);
+        painter.strokePath(path, QPen(Qt::black, 2 * radius, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    }
+    const auto discs = painted({120, 120}, scale, [&](QPainter& painter) {
+        painter.setPen(QPen(Qt::black, 2 * radius, Qt::SolidLine, Qt::RoundCap));
+        for (int y = 0; y < core.height(); ++y) {
+            for (int x = 0; x < core.width(); ++x) {
+                if (qAlpha(core.pixel(x, y)) > 128)
+                    painter.drawPoint(QPointF(x + 0.5, y + 0.5) / scale);
+            }
+        }
+    });
+    auto thin = whole;
+    {
+        QPainter painter(&thin);
+        painter.setCompositionMode(QPainter::CompositionMode_DestinationOut);
+        painter.drawImage(QPointF(), discs);
+    }
+    double sum = 0;
+    for (int y = 0; y < thin.height(); ++y) {
+        for (int x = 0; x < thin.width(); ++x)
+            sum += qAlpha(thin.pixel(x, y)) > 200 ? 1 : 0; // and not what is left of smooth edges
+    }
+    return sum / (scale * scale);
+}
+
 } // namespace
 
 TEST(SymbolLibraryTest, DrawsEverySymbolWithinItsBox) {
@@ -174,4 +209,9 @@ TEST(SymbolLibraryTest, UnknownNamesAreNoSymbols) {
 
 TEST(SymbolLibraryTest, ASymbolAskedForAgainIsTheSame) {
     EXPECT_EQ(pathOf("gear"), pathOf("gear"));
+}
+
+TEST(SymbolLibraryTest, OfNoToothBesideABadgeIsOnlyASliver) {
+    for (const auto* const name : {"gear.badge", "gear.badge.checkmark", "gear.badge.xmark"})
+        EXPECT_LT(areaOfThinParts(name, 1.2), 9.6) << name;
 }

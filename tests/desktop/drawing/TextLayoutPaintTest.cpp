@@ -3,10 +3,32 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 namespace {
 
 QImage paintedText(const TextLayout& layout, QPointF origin, double scale, const QColor& color = Qt::black) {
     return painted({200, 60}, scale, [&](QPainter& painter) { layout.paint(painter, origin, color); });
+}
+
+/// The area of the letters themselves, in square points. Letters drawn large enough come from their outlines.
+double areaOf(const TextLayout& layout) {
+    constexpr double large = 12;
+    return alphaSum(paintedText(layout, {10, 8}, large)) / (large * large);
+}
+
+/// How far the pixels are from the background to the text's color, all together, in square points.
+double inkOn(const QColor& background, const QColor& color, const TextLayout& layout, double scale) {
+    const auto image = painted({200, 60}, scale, [&](QPainter& painter) {
+        painter.fillRect(QRect(0, 0, 200, 60), background);
+        layout.paint(painter, {10, 8}, color);
+    });
+    double sum = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            sum += std::abs(image.pixelColor(x, y).greenF() - background.greenF());
+    }
+    return sum / std::abs(color.greenF() - background.greenF()) / (scale * scale);
 }
 
 } // namespace
@@ -50,6 +72,39 @@ TEST(TextLayoutPaintTest, TheColorIsThatOfTheText) {
     EXPECT_NEAR(pixel.alpha(), 128, 1);
     EXPECT_EQ(pixel.red(), 255);
     EXPECT_EQ(pixel.green(), 0);
+}
+
+TEST(TextLayoutPaintTest, LettersAreAsHeavyAsTheirOutlinesOnEveryBackground) {
+    for (const double size : {11.0, 13.0, 17.0, 34.0}) {
+        const TextLayout layout("Ask Before", {.size = size});
+        const auto area = areaOf(layout);
+        for (const double scale : {1.0, 2.0, 3.0}) {
+            EXPECT_NEAR(inkOn(Qt::white, Qt::black, layout, scale) / area, 1, 0.02)
+                << size << " at " << scale;
+            EXPECT_NEAR(inkOn(Qt::black, Qt::white, layout, scale) / area, 1, 0.02)
+                << size << " at " << scale;
+            EXPECT_NEAR(inkOn(QColor(28, 28, 30), QColor(235, 235, 245), layout, scale) / area, 1, 0.02)
+                << size << " at " << scale;
+        }
+    }
+}
+
+TEST(TextLayoutPaintTest, APartIsPaintedAsInTheWhole) {
+    const TextLayout layout("Ask Before Resetting", {.size = 17});
+    const auto whole = paintedText(layout, {10.3, 8.7}, 2);
+    const QRect part(61, 20, 40, 25);
+    const auto image = painted({200, 60}, 2, [&](QPainter& painter) {
+        painter.setClipRect(QRectF(part.x() / 2.0, part.y() / 2.0, part.width() / 2.0, part.height() / 2.0));
+        layout.paint(painter, {10.3, 8.7}, Qt::black);
+    });
+    EXPECT_EQ(image.copy(part), whole.copy(part));
+    EXPECT_NEAR(alphaSum(image), alphaSum(whole.copy(part)), 1e-9);
+}
+
+TEST(TextLayoutPaintTest, ALetterThatReachesBeyondItsLineIsPaintedWhole) {
+    constexpr double left = 20;
+    const auto ink = inkOf(paintedText(TextLayout("j", {.size = 34}), {left, 15}, 3));
+    EXPECT_LT(ink.left(), 3 * left);
 }
 
 TEST(TextLayoutPaintTest, AnEllipsisIsPainted) {

@@ -70,6 +70,18 @@ TEST_F(DriverCommandsTest, SnapshotIsAPictureOfTheScreen) {
     EXPECT_EQ(picture.pixelColor(500, 1000), QColor(255, 0, 0));
 }
 
+TEST_F(DriverCommandsTest, SnapshotHasTheShapeOfTheGlassWhenAsked) {
+    const auto path = device.hostPath("/picture.png");
+    window->setBackgroundColor(UIColor::colorWithRed(1, 0, 0, 1));
+    EXPECT_TRUE(ask("snapshot \"" + path + "\" rounded").contains("size"));
+    const QImage picture(QString::fromStdString(path));
+    for (const QPoint corner : {QPoint(0, 0), QPoint(1169, 0), QPoint(0, 2531), QPoint(1169, 2531)})
+        EXPECT_EQ(picture.pixelColor(corner).alpha(), 0);
+    EXPECT_EQ(picture.pixelColor(0, 1200), QColor(255, 0, 0));
+    EXPECT_EQ(picture.pixelColor(60, 60), QColor(255, 0, 0));
+    EXPECT_EQ(refusalOf("snapshot \"" + path + "\" square"), "usage: snapshot FILE [rounded]");
+}
+
 TEST_F(DriverCommandsTest, SnapshotSaysWhenItCannotWrite) {
     EXPECT_TRUE(refusalOf("snapshot /proc/nowhere/a.png").starts_with("the picture cannot be written: "));
 }

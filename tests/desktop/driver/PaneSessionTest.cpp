@@ -144,14 +144,34 @@ TEST_F(PaneSessionTest, AFreshDeviceShowsWhatIsNewOnceAndNeverAgain) {
     EXPECT_EQ(logged(), QJsonArray());
 }
 
-TEST_F(PaneSessionTest, ASwipeDownScrollsAScrolledListBackBeforeItTakesTheSheetAway) {
+TEST_F(PaneSessionTest, ASwipeDownTakesASheetAwayWhoseListIsScrolled) {
     give({"open", "settle", "touch down 195 600", "touch move 195 560", "touch move 195 500", "advance 0.5",
           "touch up 195 500", "settle"});
     EXPECT_GT(sheetOffset(), 0);
-    EXPECT_EQ(program.done("swipe-down").value("dismissed"), false);
-    program.done("settle");
-    EXPECT_EQ(sheetOffset(), 0);
     EXPECT_EQ(program.done("swipe-down").value("dismissed"), true);
+    EXPECT_EQ(sheetOffset(), 0);
+    program.done("settle");
+    EXPECT_EQ(screen("presented"), QJsonArray());
+}
+
+TEST_F(PaneSessionTest, BackIsRefusedWhileAFingerDrawsThePageAway) {
+    program.openPane();
+    give({"touch down 2 400", "touch move 60 400", "touch move 100 400"});
+    EXPECT_EQ(program.ask("back").value("error"), "a finger is drawing the page away");
+    give({"touch move 20 400", "advance 1", "touch up 20 400", "settle"});
+    EXPECT_EQ(screen("page"), "cxRootListController") << "nothing was left to do for it";
+    EXPECT_EQ(program.done("back").value("title"), "Settings");
+}
+
+TEST_F(PaneSessionTest, TheMasterSwitchIsCalledAsThePageInItsBar) {
+    program.openPane();
+    const auto told = [this] {
+        return program.done("views GlintImageSwitch").value("views").toArray().at(0)["accessibility"];
+    };
+    EXPECT_EQ(told()["label"], "Corvex");
+    EXPECT_EQ(told()["value"], "0");
+    program.done("tap Corvex");
+    EXPECT_EQ(told()["value"], "1");
 }
 
 TEST_F(PaneSessionTest, BackWhileThePageComesInWaitsForIt) {

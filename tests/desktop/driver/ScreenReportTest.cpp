@@ -64,6 +64,32 @@ TEST_F(ScreenReportTest, ARowIsToldOfWithItsValue) {
     EXPECT_EQ(row.value("screenFrame").toArray().at(2), 390 - 2 * 16);
 }
 
+TEST_F(ScreenReportTest, ARowThatShowsAValueTellsOfIt) {
+    program.done("tap Settings");
+    program.done("settle");
+    program.done("tap About");
+    program.done("settle");
+    const auto rows = program.done("screen").value("rows").toArray();
+    EXPECT_EQ(rows.at(3)["label"], "Appearance");
+    EXPECT_EQ(rows.at(3)["value"], "Light");
+    EXPECT_TRUE(rows.at(0)["value"].isNull());
+}
+
+TEST_F(ScreenReportTest, ARowWithAGetterTellsOfWhatThatAnswers) {
+    writeList("<dict><key>cell</key><string>PSLinkCell</string><key>get</key>"
+              "<string>readPreferenceValue:</string><key>default</key><string>so</string></dict>");
+    EXPECT_EQ(rowOnPage(0).value("value"), "so");
+}
+
+TEST_F(ScreenReportTest, TheHeadOfAGroupIsTappedByItsLabelAndByWhatItShows) {
+    writeList("<dict><key>cell</key><string>PSGroupCell</string><key>label</key><string>Rows</string></dict>"
+              "<dict><key>cell</key><string>PSStaticTextCell</string><key>label</key><string>a</string>"
+              "</dict>");
+    EXPECT_EQ(rowOnPage(0).value("label"), "Rows");
+    EXPECT_EQ(program.done("tap Rows").value("class"), "UILabel");
+    EXPECT_EQ(program.done("tap ROWS").value("class"), "UILabel");
+}
+
 TEST_F(ScreenReportTest, ARowWithoutAKeyHasNoneAndNoValue) {
     writeList("<dict><key>cell</key><string>PSStaticTextCell</string><key>cellClass</key>"
               "<string>NoSuchCell</string></dict>");

@@ -34,6 +34,13 @@ std::string withStyles(const Place& place, Style dateStyle, Style timeStyle, NSD
     return formatter->stringFromDate(date);
 }
 
+std::string withParts(const std::string& locale, const std::string& parts) {
+    const TestDevice device({.locale = locale, .timeZone = "UTC"});
+    const auto formatter = make<DesktopDateFormatter>();
+    formatter->setDateFormatFromTemplate(parts);
+    return formatter->stringFromDate(morning);
+}
+
 std::string inShort(const std::string& locale) {
     return withStyles({locale, "UTC"}, Style::Short, Style::Short);
 }
@@ -179,4 +186,10 @@ TEST(DesktopDateFormatterTest, ShowsSomethingForEndlessDatesAndNothingForNone) {
     EXPECT_NE(inZone("UTC", std::numeric_limits<double>::infinity()), "");
     EXPECT_NE(inZone("UTC", -std::numeric_limits<double>::infinity()), "");
     EXPECT_EQ(inZone("UTC", std::numeric_limits<double>::quiet_NaN()), "");
+}
+
+TEST(DesktopDateFormatterTest, PartsAreInTheOrderOfTheLanguage) {
+    EXPECT_EQ(withParts("en_US", "EEEMMMd"), "Mon, Nov 16");
+    EXPECT_EQ(withParts("de_DE", "EEEMMMd"), "Mo., 16. Nov.");
+    EXPECT_EQ(withParts("ja_JP", "EEEMMMd"), "11月16日(月)");
 }

@@ -34,7 +34,7 @@ TEST(AboutPageTest, TellsOfAPhone) {
     EXPECT_EQ(page->peer().title(), "About");
     EXPECT_EQ(shownBy(*page), (Texts{{"Appearance", "Light"},
                                      {"Device", "Phone on a desktop"},
-                                     {"Language", "de_DE"},
+                                     {"Language", "Deutsch (Deutschland)"},
                                      {"Screen", "390 × 844 @3x"},
                                      {"Time Zone", "Europe/Berlin"}}));
 }
@@ -45,7 +45,7 @@ TEST(AboutPageTest, TellsOfATabletInTheDark) {
     const auto page = make<AboutPage>();
     EXPECT_EQ(shownBy(*page), (Texts{{"Appearance", "Dark"},
                                      {"Device", "Tablet on a desktop"},
-                                     {"Language", "en_US"},
+                                     {"Language", "English (United States)"},
                                      {"Screen", "820 × 1180 @2x"},
                                      {"Time Zone", "UTC"}}));
 }

@@ -56,6 +56,19 @@ TEST_F(ShellHomeSwipeTest, SettingsShrinksBesideTheFingerAndItsLowerEdgeStaysThe
     EXPECT_NEAR(frameOfSettings().size.height / 844, 0.3, 0.001) << "small, but still there";
 }
 
+TEST_F(ShellHomeSwipeTest, TheStatusBarIsWhiteOnceTheFingerHasDrawnSettingsFromBeneathIt) {
+    const auto& bar = shell->bars().statusBar();
+    shell->launchSettings();
+    settle();
+    drag({195, 839}, {195, 789});
+    EXPECT_EQ(bar.layer().peer().number(LayerProperty::Opacity), 1);
+    finger.touch(TouchPhase::Moved, {195, 640});
+    EXPECT_EQ(bar.layer().peer().number(LayerProperty::Opacity), 0);
+    finger.touch(TouchPhase::Cancelled, {});
+    settle();
+    EXPECT_EQ(bar.layer().peer().number(LayerProperty::Opacity), 1);
+}
+
 TEST_F(ShellHomeSwipeTest, AHesitantDragSpringsBack) {
     shell->launchSettings();
     settle();

@@ -31,6 +31,15 @@ protected:
     }
 };
 
+/// As it is shown.
+void expectAtIcon(const UIWindow& window) {
+    const auto frame = window.layer().peer().shownToSuperlayer()(window.bounds());
+    EXPECT_NEAR(frame.origin.x, 27, 0.5);
+    EXPECT_NEAR(frame.origin.y, 76, 0.5);
+    EXPECT_NEAR(frame.size.width, 60, 1);
+    EXPECT_NEAR(frame.size.height, 60, 1);
+}
+
 } // namespace
 
 TEST_F(ShellTest, StartsOnTheHomeScreenWithNothingRunning) {
@@ -207,6 +216,69 @@ TEST_F(ShellTest, TheBarsSuitWhatIsInFront) {
     shell->terminateSettings();
     settle();
     EXPECT_EQ(bars.homeIndicator().layer().peer().number(LayerProperty::Opacity), 0);
+}
+
+TEST_F(ShellTest, SettingsGrowsFromItsIconAndNothingShinesThroughBoth) {
+    const auto alpha = [](const UIWindow& window) {
+        return window.layer().peer().shownValue(LayerProperty::Opacity)[0];
+    };
+    shell->launchSettings();
+    const auto& settings = *screen->windows().at(1);
+    const auto& icon = *screen->windows().at(2);
+    expectAtIcon(settings);
+    for (auto time = 0; time < 500; time += 10) {
+        EXPECT_TRUE(alpha(settings) == 1 || alpha(icon) == 1) << time;
+        EXPECT_EQ(settings.layer().cornerRadius(), screen->cornerRadius()) << time;
+        advance(std::chrono::milliseconds(10));
+    }
+    settle();
+    EXPECT_EQ(alpha(icon), 0);
+    EXPECT_EQ(settings.layer().cornerRadius(), 0);
+    shell->goHome();
+    for (auto time = 0; time < 500; time += 10) {
+        EXPECT_TRUE(alpha(settings) == 1 || alpha(icon) == 1) << time;
+        EXPECT_EQ(settings.layer().cornerRadius(), screen->cornerRadius()) << time;
+        advance(std::chrono::milliseconds(10));
+    }
+    expectAtIcon(icon);
+    settle();
+    EXPECT_TRUE(settings.peer().isHidden());
+    EXPECT_TRUE(icon.peer().isHidden());
+}
+
+TEST_F(ShellTest, TheIconIsInItsPlaceOnlyWhileSettingsIsNotSeen) {
+    const auto isIconShown = [this] {
+        const auto* const home =
+            dynamic_cast<HomeView*>(screen->windows().at(0)->peer().subviews().front().get());
+        return !home->peer().subviews().back()->peer().subviews().front()->peer().isHidden();
+    };
+    EXPECT_TRUE(isIconShown());
+    shell->launchSettings();
+    EXPECT_FALSE(isIconShown());
+    settle();
+    shell->goHome();
+    EXPECT_FALSE(isIconShown());
+    settle();
+    EXPECT_TRUE(isIconShown());
+    shell->relaunch();
+    EXPECT_FALSE(isIconShown());
+    shell->terminateSettings();
+    EXPECT_TRUE(isIconShown());
+}
+
+TEST_F(ShellTest, TheStatusBarIsWhiteUntilSettingsHasComeBeneathIt) {
+    const auto shownAlpha = [this] {
+        return shell->bars().statusBar().layer().peer().shownValue(LayerProperty::Opacity)[0];
+    };
+    shell->launchSettings();
+    advance(std::chrono::milliseconds(100));
+    EXPECT_EQ(shownAlpha(), 0);
+    advance(std::chrono::milliseconds(120));
+    EXPECT_EQ(shownAlpha(), 1);
+    settle();
+    shell->goHome();
+    advance(std::chrono::milliseconds(110));
+    EXPECT_EQ(shownAlpha(), 0);
 }
 
 TEST_F(ShellTest, AMenuAboveSettingsDoesNotStayAboveTheHomeScreen) {

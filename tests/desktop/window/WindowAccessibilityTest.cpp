@@ -53,4 +53,13 @@ TEST_F(WindowAccessibilityTest, LosesAnElementThatIsGone) {
     EXPECT_EQ(told().child(0)->text(QAccessible::Name), "Second");
 }
 
+TEST_F(WindowAccessibilityTest, AValueThatIsNoYesOrNoDescribesTheElement) {
+    first_->peer().setAccessibility({.label = "First", .value = "low", .isElement = true});
+    EXPECT_EQ(told().child(0)->text(QAccessible::Description), "low");
+    first_->peer().setAccessibility(
+        {.label = "First", .value = "1", .role = AccessibilityRole::Choice, .isElement = true});
+    EXPECT_EQ(told().child(0)->text(QAccessible::Description), "");
+    EXPECT_TRUE(told().child(0)->state().checked);
+}
+
 } // namespace

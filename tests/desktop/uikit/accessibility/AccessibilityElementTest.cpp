@@ -1,5 +1,7 @@
 #include "accessibility/AccessibilityElement.h"
 
+#include "DesktopImage.h"
+#include "UIKit/UIButton.h"
 #include "controls/UIControlPeer.h"
 #include "controls/UISwitchPeer.h"
 #include "navigation/NavigationFixture.h"
@@ -66,6 +68,35 @@ TEST_F(AccessibilityElementTest, anElementIsOneThing) {
     auto& outer = addButton(a->view(), {{0, 100}, {100, 44}}, "outer");
     addButton(outer, {{0, 0}, {50, 44}}, "inner");
     EXPECT_EQ(labels(AccessibilityElement::allIn(a->view())), Labels{"outer"});
+}
+
+TEST_F(AccessibilityElementTest, aButtonThatShowsNothingIsNone) {
+    show({a});
+    const auto button = makeWith<UIButton>(&UIButton::initWithFrame, CGRectMake(0, 100, 80, 80));
+    a->view().addSubview(button);
+    EXPECT_EQ(labels(AccessibilityElement::allIn(a->view())), Labels());
+    button->setImage(DesktopImage::symbol("gear", 20), UIControlState::Normal);
+    EXPECT_EQ(labels(AccessibilityElement::allIn(a->view())), Labels{""});
+    button->setImage(nullptr, UIControlState::Normal);
+    button->setAccessibilityLabel("Named");
+    EXPECT_EQ(labels(AccessibilityElement::allIn(a->view())), Labels{"Named"});
+}
+
+TEST_F(AccessibilityElementTest, anEmptyLabelIsNone) {
+    show({a});
+    const auto label = makeWith<UILabel>(&UILabel::initWithFrame, CGRectMake(0, 100, 80, 20));
+    a->view().addSubview(label);
+    EXPECT_EQ(labels(AccessibilityElement::allIn(a->view())), Labels());
+    label->setText("Text");
+    EXPECT_EQ(labels(AccessibilityElement::allIn(a->view())), Labels{"Text"});
+}
+
+TEST_F(AccessibilityElementTest, whatIsOnlyReadIsNoStop) {
+    using enum AccessibilityRole;
+    for (const auto role : {StaticText, Image, Header})
+        EXPECT_FALSE(AccessibilityElement{.role = role}.isStop());
+    for (const auto role : {None, Button, Switch, Link, TextField, Slider, Choice})
+        EXPECT_TRUE(AccessibilityElement{.role = role}.isStop());
 }
 
 TEST_F(AccessibilityElementTest, aSwitchIsOneWhoeverMadeIt) {

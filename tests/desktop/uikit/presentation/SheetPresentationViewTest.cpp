@@ -5,6 +5,7 @@
 #include "UIKit/UITextField.h"
 #include "presentation/PresentationFixture.h"
 #include "presentation/SheetContent.h"
+#include "screen/Compositor.h"
 #include "scrolling/UIScrollViewPeer.h"
 #include "text/UITextFieldPeer.h"
 #include "typing/TextFieldContent.h"
@@ -144,12 +145,36 @@ TEST_F(SheetPresentationViewTest, dimsTheTintOfWhatItCovers) {
     EXPECT_EQ(tint(covered), own);
 }
 
-TEST_F(SheetPresentationViewTest, theStatusBarIsOnBlackAsLongAsItIsThere) {
+TEST_F(SheetPresentationViewTest, theStatusBarIsOnBlackOnceThePresenterHasLeftIt) {
     const auto sheet = page("B");
     present(sheet, true);
+    EXPECT_FALSE(top()->blackensStatusBar());
+    advance(milliseconds(50));
+    EXPECT_LT(root().origin.y, 47.0 / 2);
+    EXPECT_FALSE(top()->blackensStatusBar());
+    advance(milliseconds(100));
+    EXPECT_GT(root().origin.y, 47.0 / 2);
     EXPECT_TRUE(top()->blackensStatusBar());
+    settle();
+    drag({195, 70}, {195, 600});
+    EXPECT_FALSE(top()->blackensStatusBar());
+    finger.touch(TouchPhase::Cancelled, {});
     dismissBy(*sheet, true);
     EXPECT_EQ(top(), nullptr);
+}
+
+TEST_F(SheetPresentationViewTest, blursNothingOfTheBlackBesideThePresenter) {
+    navigation->view().setBackgroundColor(DesktopColor::system(SystemColor::GroupedBackground));
+    const auto sheet = page("B");
+    sheet->view().setBackgroundColor(UIColor::clearColor());
+    sheet->view().layer().peer().backdrop = Backdrop{.blurRadius = 30, .saturation = 1};
+    present(sheet);
+    Compositor compositor(screen);
+    const auto& picture = compositor.render();
+    const auto lightness = [&picture](int x) { return picture.pixelColor(x, 3 * 500).lightness(); };
+    for (const auto x : {0, 10, 30, 60, 1169})
+        EXPECT_NEAR(lightness(x), lightness(585), 1) << x;
+    EXPECT_EQ(picture.pixelColor(0, 3 * 57 + 3).lightness(), 0) << "beside the card's round corner";
 }
 
 // A finger.
@@ -276,7 +301,7 @@ TEST_F(SheetPresentationViewTest, aTapAboveTheCardOfAPhoneDoesNothing) {
 TEST_F(PadSheetTest, isACardInTheMiddleAndThePresenterStays) {
     const auto sheet = page("B");
     present(sheet);
-    EXPECT_EQ(screenFrame(sheet->view()), CGRectMake(54, 44, 712, 1092));
+    EXPECT_EQ(screenFrame(sheet->view()), CGRectMake(54, 115, 712, 950));
     EXPECT_EQ(root(), window->bounds());
     EXPECT_EQ(sheet->view().peer().safeAreaInsets(), UIEdgeInsets());
     EXPECT_FALSE(sheet->view().peer().traits().compactWidth);

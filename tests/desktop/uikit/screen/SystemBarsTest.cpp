@@ -24,6 +24,8 @@ std::string timeOn(const TestDevice::Settings& settings) {
     return bars.statusBar().time();
 }
 
+constexpr AnimationGroup::Course slow{.duration = std::chrono::milliseconds(250)};
+
 } // namespace
 
 TEST(SystemBarsTest, showTheDevicesTimeInItsZoneWithoutTheHalfOfTheDay) {
@@ -116,7 +118,7 @@ TEST(SystemBarsTest, areWhiteAndWithoutAnIndicatorAboveTheWallpaper) {
     const auto white = bars.whiteStatusBar().peer().traits().style;
     EXPECT_EQ(white, UserInterfaceStyle::Dark) << "whose texts are white";
     EXPECT_TRUE(bars.whiteStatusBar().peer().isHidden());
-    bars.setBehind(SystemBars::Behind::Wallpaper, false);
+    bars.setBehind(SystemBars::Behind::Wallpaper, {});
     EXPECT_FALSE(bars.whiteStatusBar().peer().isHidden());
     EXPECT_EQ(bars.statusBar().layer().peer().number(LayerProperty::Opacity), 0);
     EXPECT_EQ(bars.homeIndicator().layer().peer().number(LayerProperty::Opacity), 0);
@@ -126,8 +128,8 @@ TEST(SystemBarsTest, fadeOneIntoTheOtherWithTheWhiteBarBeneath) {
     TestDevice device;
     const Screen screen{Screen::Options{}};
     SystemBars bars;
-    bars.setBehind(SystemBars::Behind::Wallpaper, false);
-    bars.setBehind(SystemBars::Behind::Application, true);
+    bars.setBehind(SystemBars::Behind::Wallpaper, {});
+    bars.setBehind(SystemBars::Behind::Application, slow);
     const auto shownAlpha = [&bars] {
         return bars.statusBar().layer().peer().shownValue(LayerProperty::Opacity)[0];
     };
@@ -144,11 +146,11 @@ TEST(SystemBarsTest, endAsTheyWereLastToldWhenToldInMidFade) {
     TestDevice device;
     const Screen screen{Screen::Options{}};
     SystemBars bars;
-    bars.setBehind(SystemBars::Behind::Wallpaper, true);
+    bars.setBehind(SystemBars::Behind::Wallpaper, slow);
     device.advance(std::chrono::milliseconds(100));
-    bars.setBehind(SystemBars::Behind::Application, true);
+    bars.setBehind(SystemBars::Behind::Application, slow);
     device.advance(std::chrono::milliseconds(100));
-    bars.setBehind(SystemBars::Behind::Wallpaper, true);
+    bars.setBehind(SystemBars::Behind::Wallpaper, slow);
     device.settle();
     EXPECT_FALSE(bars.whiteStatusBar().peer().isHidden());
     EXPECT_EQ(bars.homeIndicator().layer().peer().number(LayerProperty::Opacity), 0);

@@ -144,7 +144,10 @@ TEST_F(UITableViewCellTest, TextAndSeparatorMakeRoomForTheImage) {
     peerOf<UITableViewCellPeer>(*cell).imageView().setImage(
         make<DesktopImage>(QImage(87, 87, QImage::Format_ARGB32_Premultiplied), 3));
     layOut(*cell);
-    EXPECT_EQ(peerOf<UITableViewCellPeer>(*cell).imageView().frame(), CGRectMake(16, 7.5, 29, 29));
+    const auto image = peerOf<UITableViewCellPeer>(*cell).imageView().frame();
+    EXPECT_EQ(image.origin.x, 16);
+    EXPECT_NEAR(image.origin.y, 23.0 / 3, 1e-9) << "and not within a pixel";
+    EXPECT_EQ(image.size, (CGSize{29, 29}));
     EXPECT_EQ(peerOf<UITableViewCellPeer>(*cell).textLabel().frame().origin.x, 61);
     const auto separator = cell->peer().subviews().front()->peer().subviews()[2]->frame();
     EXPECT_NEAR(separator.origin.x, 61, 0.01);
@@ -158,7 +161,7 @@ TEST_F(UITableViewCellTest, LargeImagesAreShownSmaller) {
     peerOf<UITableViewCellPeer>(*cell).imageView().setImage(
         make<DesktopImage>(QImage(120, 60, QImage::Format_ARGB32_Premultiplied), 1));
     layOut(*cell);
-    EXPECT_EQ(peerOf<UITableViewCellPeer>(*cell).imageView().frame(), CGRectMake(16, 14.75, 29, 14.5));
+    EXPECT_EQ(peerOf<UITableViewCellPeer>(*cell).imageView().frame(), CGRectMake(16, 15, 29, 14.5));
 }
 
 TEST_F(UITableViewCellTest, ImagesStandInTheMiddleOfTheirColumn) {
@@ -168,7 +171,8 @@ TEST_F(UITableViewCellTest, ImagesStandInTheMiddleOfTheirColumn) {
         make<DesktopImage>(QImage(20, 20, QImage::Format_ARGB32_Premultiplied), 1));
     peerOf<UITableViewCellPeer>(*cell).setImageColumn(29);
     layOut(*cell);
-    EXPECT_EQ(peerOf<UITableViewCellPeer>(*cell).imageView().frame(), CGRectMake(20.5, 12, 20, 20));
+    EXPECT_NEAR(peerOf<UITableViewCellPeer>(*cell).imageView().frame().origin.x, 62.0 / 3, 1e-9);
+    EXPECT_EQ(peerOf<UITableViewCellPeer>(*cell).imageView().frame().origin.y, 12);
     EXPECT_EQ(peerOf<UITableViewCellPeer>(*cell).textLabel().frame().origin.x, 61);
 }
 
