@@ -58,14 +58,7 @@ public:
         return std::ranges::none_of(scenes_, &Milliseconds::empty, &Scene::times);
     }
 
-private:
-    struct Scene {
-        std::string name;
-        Milliseconds times;
-        std::vector<double> pixels;
-    };
-
-    // PaneScenes:
+protected:
     void sceneBegins(std::string_view name) override {
         scenes_.push_back({std::string(name), {}, {}});
         isPlaying_ = true;
@@ -86,6 +79,13 @@ private:
     }
 
     void sceneEnds() override { isPlaying_ = false; }
+
+private:
+    struct Scene {
+        std::string name;
+        Milliseconds times;
+        std::vector<double> pixels;
+    };
 
     static void print(const Scene& scene, double copy) {
         if (scene.times.empty()) {

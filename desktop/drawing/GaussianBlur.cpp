@@ -16,6 +16,9 @@
 
 namespace {
 
+/// Rounds what is not negative, where the library's functions would take most of the time.
+constexpr float half = 0.5F;
+
 constexpr auto format = QImage::Format_ARGB32_Premultiplied;
 constexpr int boxes = 3; ///< in a row, each with a third of the variance
 
@@ -43,7 +46,7 @@ PixelComponents componentsOf(const QImage& image) {
 /// \pre the values are not negative
 void setRow(QImage& image, int y, std::span<const float> values) {
     std::ranges::transform(values, image.scanLine(y),
-                           [](float value) { return static_cast<uchar>(value + 0.5F); });
+                           [](float value) { return static_cast<uchar>(value + half); });
 }
 
 void blurComponents(PixelComponents& pixels, double horizontalSigma, double verticalSigma, BlurEdges edges) {
@@ -114,7 +117,7 @@ std::vector<FineRow> widened(const PixelComponents& pixels, std::size_t width) {
                 const float first = row[column.first * pixels.channels + channel];
                 const float second = row[column.second * pixels.channels + channel];
                 const float mixed = first + (second - first) * column.share;
-                *value++ = static_cast<PixelRows::Fine>(mixed * PixelRows::fineSteps + 0.5F);
+                *value++ = static_cast<PixelRows::Fine>(mixed * PixelRows::fineSteps + half);
             }
         }
     }

@@ -22,14 +22,15 @@ using Lines = std::vector<std::string>;
 
 namespace files = std::filesystem;
 
+id pageWithDocumentsIn(const std::string& folder) {
+    files::create_directories(folder);
+    setDocumentsFolder(folder.c_str());
+    return newByName("cxBackupRestoreController");
+}
+
 class BackupMethodsTest : public testing::Test {
 protected:
-    BackupMethodsTest() {
-        files::create_directories(folder);
-        setDocumentsFolder(folder.c_str());
-        page = newByName("cxBackupRestoreController");
-        takeJournal();
-    }
+    BackupMethodsTest() { takeJournal(); }
 
     ~BackupMethodsTest() override {
         runWaitingWork();
@@ -56,7 +57,7 @@ protected:
     }
 
     const std::string folder = files::temp_directory_path() / ("corvex-methods-" + std::to_string(getpid()));
-    id page = nullptr;
+    id page = pageWithDocumentsIn(folder);
 
 private:
     const AutoreleasePool pool_;

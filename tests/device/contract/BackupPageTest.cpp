@@ -30,15 +30,15 @@ const std::string importedTypes =
     R"(["public.data", "public.archive", "org.gnu.gnu-zip-tar", "public.tar-archive", )"
     R"("org.gnu.gnu-zip", "public.composite-content"])";
 
+id pageWithDocumentsIn(const std::string& folder) {
+    files::create_directories(folder);
+    setDocumentsFolder(folder.c_str());
+    return newByName("cxBackupRestoreController");
+}
+
 /// The page of backups, made and asked as the frameworks do it, with documents of its own.
 class BackupPageTest : public testing::Test {
 protected:
-    BackupPageTest() {
-        files::create_directories(folder);
-        setDocumentsFolder(folder.c_str());
-        page = newByName("cxBackupRestoreController");
-    }
-
     ~BackupPageTest() override {
         dismissPresented(page); // what is presented may keep the page alive
         objc_release(page);
@@ -78,7 +78,7 @@ protected:
 
     const std::string folder =
         files::temp_directory_path() / ("corvex-documents-" + std::to_string(getpid()));
-    id page = nullptr;
+    id page = pageWithDocumentsIn(folder);
 
 private:
     const AutoreleasePool pool_;

@@ -5,7 +5,7 @@
 namespace {
 
 uint32_t numberAt(const uint8_t* place) {
-    uint32_t number;
+    uint32_t number = 0;
     __builtin_memcpy(&number, place, sizeof number);
     return __builtin_bswap32(number);
 }

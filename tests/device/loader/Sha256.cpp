@@ -23,7 +23,7 @@ uint32_t turned(uint32_t word, unsigned count) {
 }
 
 uint32_t wordAt(const uint8_t* place) {
-    uint32_t word;
+    uint32_t word = 0;
     __builtin_memcpy(&word, place, sizeof word);
     return __builtin_bswap32(word);
 }

@@ -15,5 +15,5 @@ public:
 private:
     void add(const uint8_t* block);
 
-    uint32_t state_[8];
+    uint32_t state_[8] = {};
 };

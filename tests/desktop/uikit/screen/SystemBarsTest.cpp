@@ -24,7 +24,7 @@ std::string timeOn(const TestDevice::Settings& settings) {
     return bars.statusBar().time();
 }
 
-constexpr AnimationGroup::Course slow{.duration = std::chrono::milliseconds(250)};
+const AnimationGroup::Course slow{.duration = std::chrono::milliseconds(250)};
 
 } // namespace
 
