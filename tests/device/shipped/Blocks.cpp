@@ -8,8 +8,8 @@
 
 #include <array>
 #include <cstdint>
-#include <cstdlib>
 #include <cstring>
+#include <new>
 
 namespace {
 
@@ -54,7 +54,7 @@ std::uint64_t signedAt(const std::uint64_t& place, std::uint64_t pointer, Signin
 Block* copyToHeap(const Block& block) {
     static_cast<void>(
         CodePointers::authenticatedAt(block.isa, SigningKey::DA, diversityOfClass, "the class of a block"));
-    auto* const copy = static_cast<Block*>(std::malloc(block.descriptor->size));
+    auto* const copy = static_cast<Block*>(::operator new(block.descriptor->size));
     std::memcpy(copy, &block, block.descriptor->size);
     copy->isa = signedAt(copy->isa, reinterpret_cast<std::uint64_t>(&heapBlockClass), SigningKey::DA,
                          diversityOfClass);
@@ -70,7 +70,7 @@ Block* copyToHeap(const Block& block) {
 void endBlock(Block* block) {
     if ((block->flags & holdsObjects) != 0)
         functionAt<void(Block*)>(block->descriptor->end, "what ends a block")(block);
-    std::free(block);
+    ::operator delete(block);
 }
 
 } // namespace

@@ -23,9 +23,9 @@ class CodeTest final : public testing::Test {
 public:
     explicit CodeTest(const void* test) : test_(test) {}
 
+private:
     void TestBody() override { exported<void(const void*)>("_runTest")(test_); }
 
-private:
     const void* const test_;
 };
 

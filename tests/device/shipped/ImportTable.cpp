@@ -60,9 +60,9 @@ constexpr std::array taken{"NSFileTypeDirectory",
                            "uselocale"};
 
 const void* takenSymbol(std::string_view symbol) {
-    for (const std::string_view name : taken) {
+    for (const auto* const name : taken) {
         if (symbol.starts_with('_') && symbol.substr(1) == name)
-            return dlsym(RTLD_DEFAULT, name.data());
+            return dlsym(RTLD_DEFAULT, name);
     }
     return nullptr;
 }

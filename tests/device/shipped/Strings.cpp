@@ -14,7 +14,8 @@
 _LIBCPP_BEGIN_NAMESPACE_STD
 
 // What the headers leave to the library.
-[[noreturn]] void __libcpp_verbose_abort(const char* format, ...) noexcept { // NOLINT(*-reserved-identifier)
+// NOLINTNEXTLINE(*-reserved-identifier,*-variadic-functions,*-dcl50-cpp): as the headers declare it
+[[noreturn]] void __libcpp_verbose_abort(const char* format, ...) noexcept {
     fail("the C++ library gives up: ", format);
 }
 
@@ -22,8 +23,6 @@ _LIBCPP_END_NAMESPACE_STD
 
 // The headers leave these to the library too.
 template class std::basic_string<char>;
-
-#define STRING "NSt3__112basic_stringIcNS_11char_traitsIcEENS_9allocatorIcEEE"
 
 namespace {
 
@@ -64,11 +63,13 @@ std::string printed(Number number) {
 
 Imports stringImports() {
     static const std::array imports{
-        Import{"__Z" STRING "6appendEPKcm", code(append)},
-        Import{"__Z" STRING "6insertEmPKcm", code(insert)},
-        Import{"__Z" STRING "9push_backEc", code(pushBack)},
-        Import{"__Z" STRING "aSERKS5_", code(assign)},
-        Import{"__Z" STRING "C2ERKS5_mmRKS4_", code(makePart)},
+        Import{"__ZNSt3__112basic_stringIcNS_11char_traitsIcEENS_9allocatorIcEEE6appendEPKcm", code(append)},
+        Import{"__ZNSt3__112basic_stringIcNS_11char_traitsIcEENS_9allocatorIcEEE6insertEmPKcm", code(insert)},
+        Import{"__ZNSt3__112basic_stringIcNS_11char_traitsIcEENS_9allocatorIcEEE9push_backEc",
+               code(pushBack)},
+        Import{"__ZNSt3__112basic_stringIcNS_11char_traitsIcEENS_9allocatorIcEEEaSERKS5_", code(assign)},
+        Import{"__ZNSt3__112basic_stringIcNS_11char_traitsIcEENS_9allocatorIcEEEC2ERKS5_mmRKS4_",
+               code(makePart)},
         Import{"__ZNSt3__19to_stringEi", code(printed<int>)},
         Import{"__ZNSt3__19to_stringEm", code(printed<unsigned long>)},
         Import{"__ZNSt3__19to_stringEx", code(printed<long long>)},
