@@ -1,13 +1,11 @@
 // The methods of the page of backups that its own sheets do not lead through, called as Objective-C calls
 // them.
 
-#include "Framework.h"
+#include "BackupPageFixture.h"
 #include "Journal.h"
 #include "SystemStandIns.h"
 
 #include <gtest/gtest.h>
-
-#include <unistd.h>
 
 #include <algorithm>
 #include <filesystem>
@@ -22,45 +20,14 @@ using Lines = std::vector<std::string>;
 
 namespace files = std::filesystem;
 
-id pageWithDocumentsIn(const std::string& folder) {
-    files::create_directories(folder);
-    setDocumentsFolder(folder.c_str());
-    return newByName("cxBackupRestoreController");
-}
-
-class BackupMethodsTest : public testing::Test {
+class BackupMethodsTest : public BackupPageFixture {
 protected:
-    BackupMethodsTest() { takeJournal(); }
-
-    ~BackupMethodsTest() override {
-        runWaitingWork();
-        dismissPresented(page);
-        objc_release(page);
-        forgetSuites();
-        setDocumentsFolder(nullptr);
-        files::remove_all(folder);
-    }
-
-    [[nodiscard]] std::string backup(const char* name) const { return folder + "/CorvexBackups/" + name; }
-
-    void save(const char* name) const {
-        perform(page, "saveBackupWithName:", text(name));
-        perform(page, "dismissMessageController:", rightButtonOf(page));
-        takeJournal();
-    }
-
     /// The sheets' titles and texts that were made since.
     [[nodiscard]] static Lines sheets() {
         Lines lines = takeJournal();
         std::erase_if(lines, [](const std::string& line) { return !line.contains("symbolName:]"); });
         return lines;
     }
-
-    const std::string folder = files::temp_directory_path() / ("corvex-methods-" + std::to_string(getpid()));
-    id page = pageWithDocumentsIn(folder);
-
-private:
-    const AutoreleasePool pool_;
 };
 
 constexpr auto sheetMade = "-[OBWelcomeController initWithTitle:detailText:symbolName:] ";

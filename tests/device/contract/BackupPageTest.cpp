@@ -1,9 +1,7 @@
-#include "Framework.h"
+#include "BackupPageFixture.h"
 #include "Journal.h"
 
 #include <gtest/gtest.h>
-
-#include <unistd.h>
 
 #include <algorithm>
 #include <filesystem>
@@ -30,28 +28,8 @@ const std::string importedTypes =
     R"(["public.data", "public.archive", "org.gnu.gnu-zip-tar", "public.tar-archive", )"
     R"("org.gnu.gnu-zip", "public.composite-content"])";
 
-id pageWithDocumentsIn(const std::string& folder) {
-    files::create_directories(folder);
-    setDocumentsFolder(folder.c_str());
-    return newByName("cxBackupRestoreController");
-}
-
-/// The page of backups, made and asked as the frameworks do it, with documents of its own.
-class BackupPageTest : public testing::Test {
+class BackupPageTest : public BackupPageFixture {
 protected:
-    ~BackupPageTest() override {
-        dismissPresented(page); // what is presented may keep the page alive
-        objc_release(page);
-        forgetSuites();
-        setDocumentsFolder(nullptr);
-        files::remove_all(folder);
-        takeJournal();
-    }
-
-    [[nodiscard]] std::string backup(std::string_view name) const {
-        return folder + "/CorvexBackups/" + std::string(name);
-    }
-
     /// The lines of the journal that hold any of the texts.
     [[nodiscard]] static Lines journalOf(std::initializer_list<std::string_view> texts) {
         Lines lines = takeJournal();
@@ -59,12 +37,6 @@ protected:
             return std::ranges::none_of(texts, [&](std::string_view text) { return line.contains(text); });
         });
         return lines;
-    }
-
-    void save(const char* name) const {
-        perform(page, "saveBackupWithName:", text(name));
-        perform(page, "dismissMessageController:", rightButtonOf(page));
-        takeJournal();
     }
 
     /// What lies in the folder for temporary files.
@@ -75,13 +47,6 @@ protected:
             paths.insert(item.path());
         return paths;
     }
-
-    const std::string folder =
-        files::temp_directory_path() / ("corvex-documents-" + std::to_string(getpid()));
-    id page = pageWithDocumentsIn(folder);
-
-private:
-    const AutoreleasePool pool_;
 };
 
 } // namespace

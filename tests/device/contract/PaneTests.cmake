@@ -2,6 +2,7 @@
 # and over the bundle as it is installed.
 set(DEVICE_PANE_TESTS
     ${CMAKE_CURRENT_LIST_DIR}/BackupMethodsTest.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/BackupPageFixture.cpp
     ${CMAKE_CURRENT_LIST_DIR}/BackupPageTest.cpp
     ${CMAKE_CURRENT_LIST_DIR}/CellsTest.cpp
     ${CMAKE_CURRENT_LIST_DIR}/ImageSwitchTest.cpp
