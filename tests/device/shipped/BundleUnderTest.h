@@ -7,9 +7,10 @@
 /// The bundle that this process has been started to test.
 class BundleUnderTest {
 public:
-    /// What the program was called with: FILE ARCHITECTURE, faults to plant (`--disturb-key=0`, `--disturb-slot=17`,
-    /// `--unsigned-symbols`), and `--tell-place`, with which the address that the bundle is loaded at goes to the
-    /// standard error. Other arguments are left to others.
+    /// What the program was called with: FILE ARCHITECTURE, faults to plant (`--disturb-key=0`,
+    /// `--disturb-slot=17`,
+    /// `--unsigned-symbols`), and `--tell-place`, with which the address that the bundle is loaded at goes to
+    /// the standard error. Other arguments are left to others.
     struct Call {
         std::string path;
         Architecture architecture = Architecture::Arm64;
