@@ -7,6 +7,7 @@
 #include "ImportTable.h"
 
 #include <cstdio>
+#include <filesystem>
 #include <optional>
 #include <span>
 #include <string_view>
@@ -47,7 +48,7 @@ BundleUnderTest::Call BundleUnderTest::readArguments(int count, char** arguments
     const std::span all(arguments, static_cast<std::size_t>(count));
     if (all.size() < 3 || (all[2] != std::string_view("arm64") && all[2] != std::string_view("arm64e")))
         fail("called without a bundle and arm64 or arm64e");
-    Call call{.path = all[1],
+    Call call{.path = std::filesystem::absolute(all[1]),
               .architecture =
                   all[2] == std::string_view("arm64e") ? Architecture::Arm64e : Architecture::Arm64,
               .disturbance = {},
