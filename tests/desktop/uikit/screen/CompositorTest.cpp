@@ -364,9 +364,9 @@ TEST_F(CompositorTest, WhatIsCoveredIsSeenThroughABackdropBesideIt) {
 }
 
 TEST_F(CompositorTest, AScaledPictureLetsThroughWhatIsBehindItsEdges) {
-    const auto view = shown_.add(CGRectMake(0, 0, 40, 40), red);
+    const auto view = shown_.add(CGRectMake(10, 10, 20, 20), red);
     view->layer().peer().keepsPicture = true;
-    view->peer().setTransform(AffineTransform::scale(0.77));
+    view->peer().setTransform(AffineTransform::scale(1.6));
     const auto& picture = shown_.compositor.render();
     for (auto x = 0; x < 40; ++x) {
         EXPECT_EQ(picture.pixelColor(x, 20).alpha(), 255) << x;
