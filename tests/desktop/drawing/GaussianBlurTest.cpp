@@ -139,3 +139,47 @@ TEST(GaussianBlurTest, SaturationLeavesGraysAndStaysWithinTheAlpha) {
     EXPECT_EQ(qRed(pixel), 100);
     EXPECT_EQ(qGreen(pixel), 0);
 }
+
+TEST(GaussianBlurTest, ABackdropIsBlurredAndSaturatedWhateverItsWidth) {
+    QImage image(200, 120, QImage::Format_ARGB32_Premultiplied);
+    image.fill(QColor(120, 100, 90));
+    const auto expected = saturated(image, 1.8).pixelColor(0, 0);
+    for (const double sigma : {2.0, 6.0, 60.0}) {
+        const auto seen = blurredBackdrop(image, sigma, 1.8);
+        EXPECT_EQ(seen.size(), image.size());
+        for (const auto place : {QPoint(0, 0), QPoint(100, 60), QPoint(199, 119)}) {
+            EXPECT_NEAR(seen.pixelColor(place).red(), expected.red(), 1) << sigma;
+            EXPECT_NEAR(seen.pixelColor(place).blue(), expected.blue(), 1) << sigma;
+            EXPECT_EQ(seen.pixelColor(place).alpha(), 255) << sigma;
+        }
+    }
+}
+
+TEST(GaussianBlurTest, AWideBackdropHasItsMeanInTheMiddle) {
+    QImage image(400, 300, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
+    for (auto y = 0; y < image.height(); ++y) {
+        for (auto x = 0; x < 200; ++x)
+            image.setPixelColor(x, y, Qt::black);
+    }
+    const auto seen = blurredBackdrop(image, 20, 1);
+    EXPECT_NEAR(seen.pixelColor(200, 150).red(), 128, 5);
+    EXPECT_LT(seen.pixelColor(100, 150).red(), 3);
+    EXPECT_GT(seen.pixelColor(300, 150).red(), 252);
+    for (auto x = 101; x < 300; ++x)
+        EXPECT_GE(seen.pixelColor(x, 150).red(), seen.pixelColor(x - 1, 150).red());
+}
+
+TEST(GaussianBlurTest, AShapeHasItsColorWhereItIsWide) {
+    QPainterPath shape;
+    shape.addRect(60, 60, 180, 180);
+    for (const double sigma : {3.0, 15.0}) {
+        const auto image = blurredShape(shape, {300, 300}, sigma, qRgb(250, 100, 50));
+        EXPECT_NEAR(qRed(image.pixel(150, 150)), 250, 2) << sigma;
+        EXPECT_NEAR(qBlue(image.pixel(150, 150)), 50, 2) << sigma;
+        EXPECT_EQ(qAlpha(image.pixel(2, 150)), 0) << sigma;
+        for (auto x = 20; x < 140; ++x)
+            EXPECT_NEAR(alphaAt(image, x, 150) / 255.0, gaussianEdge(x + 0.5 - 60, sigma), 0.02)
+                << sigma << " at " << x;
+    }
+}

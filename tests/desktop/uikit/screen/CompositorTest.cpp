@@ -301,6 +301,10 @@ TEST_F(CompositorTest, APictureOfALayerIsAtWholePixels) {
     view->setFrame(CGRectMake(10.6, 10, 10, 10));
     EXPECT_EQ(shown_.pixel(10, 15), white);
     EXPECT_EQ(shown_.pixel(20, 15), QColor(Qt::red));
+    view->setClipsToBounds(true);
+    EXPECT_EQ(shown_.pixel(10, 15), white);
+    EXPECT_EQ(shown_.pixel(11, 15), QColor(Qt::red));
+    EXPECT_EQ(shown_.pixel(20, 15), QColor(Qt::red));
 }
 
 TEST_F(CompositorTest, APictureOfALayerFollowsWhatIsWithinIt) {
@@ -312,6 +316,9 @@ TEST_F(CompositorTest, APictureOfALayerFollowsWhatIsWithinIt) {
     EXPECT_EQ(shown_.pixel(2, 2), QColor(Qt::red));
     EXPECT_EQ(shown_.pixel(12, 12), QColor(Qt::green));
     EXPECT_FALSE(shown_.compositor.lastDamage().contains(QPoint(18, 18)));
+    inner->setFrame(CGRectMake(0, 15, 5, 5));
+    EXPECT_EQ(shown_.pixel(12, 12), QColor(Qt::red));
+    EXPECT_EQ(shown_.pixel(2, 17), QColor(Qt::green));
 }
 
 TEST_F(CompositorTest, APictureOfALayerIsPaintedSmallerWithItsRoundCorners) {
@@ -329,16 +336,43 @@ TEST_F(CompositorTest, APictureOfALayerIsPaintedSmallerWithItsRoundCorners) {
 }
 
 TEST_F(CompositorTest, ABackdropInALayerThatKeepsAPictureShowsWhatIsBehindTheLayer) {
-    shown_.put(CGRectMake(0, 0, 40, 40), ColorComponents{.red = 0, .green = 0, .blue = 1});
+    shown_.put(CGRectMake(0, 0, 20, 40), ColorComponents{.red = 0, .green = 0, .blue = 0});
     const auto card = shown_.add(CGRectMake(0, 0, 40, 40), ColorComponents{.alpha = 0});
     const auto panel = make<UIView>();
     panel->setFrame(CGRectMake(5, 5, 30, 30));
     panel->layer().peer().backdrop = Backdrop{.blurRadius = 4, .saturation = 1};
     card->addSubview(panel);
+    const auto blurred = shown_.pixel(18, 20).red();
+    EXPECT_GT(blurred, 20);
     card->layer().peer().keepsPicture = true;
-    EXPECT_EQ(shown_.pixel(20, 20), QColor(Qt::blue));
+    EXPECT_EQ(shown_.pixel(18, 20).red(), blurred);
     card->setBackgroundColor(DesktopColor::fixed(red));
-    EXPECT_EQ(shown_.pixel(20, 20), QColor(Qt::red));
+    EXPECT_EQ(shown_.pixel(18, 20), QColor(Qt::red));
+}
+
+TEST_F(CompositorTest, WhatIsCoveredIsSeenThroughABackdropBesideIt) {
+    shown_.put(CGRectMake(20, 0, 20, 40), ColorComponents{.red = 0, .green = 0, .blue = 0});
+    const auto panel = make<UIView>();
+    panel->setFrame(CGRectMake(0, 0, 40, 40));
+    panel->layer().peer().backdrop = Backdrop{.blurRadius = 4, .saturation = 1};
+    shown_.window->addSubview(panel);
+    const auto blurred = shown_.pixel(22, 20).red();
+    EXPECT_GT(blurred, 20);
+    shown_.put(CGRectMake(0, 0, 20, 40), green);
+    EXPECT_EQ(shown_.pixel(22, 20).red(), blurred);
+    EXPECT_EQ(shown_.pixel(10, 20), QColor(Qt::green));
+}
+
+TEST_F(CompositorTest, AScaledPictureLetsThroughWhatIsBehindItsEdges) {
+    const auto view = shown_.add(CGRectMake(10, 10, 20, 20), red);
+    view->layer().peer().keepsPicture = true;
+    view->peer().setTransform(AffineTransform::scale(1.6));
+    const auto& picture = shown_.compositor.render();
+    for (auto x = 0; x < 40; ++x) {
+        EXPECT_EQ(picture.pixelColor(x, 20).alpha(), 255) << x;
+        EXPECT_EQ(picture.pixelColor(x, 20).red(), 255) << x; // white, red or between them
+    }
+    EXPECT_EQ(picture.pixelColor(20, 20), QColor(Qt::red));
 }
 
 TEST_F(CompositorTest, WhatIsBeneathAnOpaqueLayersRoundCornersIsSeen) {
