@@ -7,6 +7,7 @@
 #include "controllers/DesktopNavigationItem.h"
 #include "controllers/UIViewControllerPeer.h"
 #include "screen/Screen.h"
+#include "texts/SystemTexts.h"
 #include "views/UIViewPeer.h"
 
 #include <memory>
@@ -54,7 +55,7 @@ void GcColorPickerControllerPeer::viewDidLoad() {
     };
     setTitle("Colors");
     navigationItem().setRightBarButtonItem(
-        make<DesktopBarButtonItem>(DesktopBarButtonItem::Content{.title = "Done",
+        make<DesktopBarButtonItem>(DesktopBarButtonItem::Content{.title = systemText("Done"),
                                                                  .image = {},
                                                                  .menu = {},
                                                                  .action = done,

@@ -15,6 +15,7 @@
 #include "tables/TableContent.h"
 #include "tables/UITableViewCellPeer.h"
 #include "tables/UITableViewPeer.h"
+#include "texts/SystemTexts.h"
 
 #include <memory>
 #include <utility>
@@ -101,13 +102,14 @@ Ref<UIView> DocumentFolderPagePeer::makeView() {
 }
 
 void DocumentFolderPagePeer::viewDidLoad() {
-    const auto cancel = make<DesktopBarButtonItem>(DesktopBarButtonItem::Content{.title = "Cancel",
-                                                                                 .image = {},
-                                                                                 .menu = {},
-                                                                                 .action = rules_.cancelled,
-                                                                                 .target = {},
-                                                                                 .selector = {},
-                                                                                 .emphasised = false});
+    const auto cancel =
+        make<DesktopBarButtonItem>(DesktopBarButtonItem::Content{.title = systemText("Cancel"),
+                                                                 .image = {},
+                                                                 .menu = {},
+                                                                 .action = rules_.cancelled,
+                                                                 .target = {},
+                                                                 .selector = {},
+                                                                 .emphasised = false});
     // On the pages of further folders the way back stands at the left.
     const auto isFirst =
         controller().navigationController() == nullptr ||
@@ -125,7 +127,7 @@ void DocumentFolderPagePeer::viewDidAppear(bool /*animated*/) {
 TableCaption DocumentFolderPagePeer::footer(std::size_t /*section*/) {
     TableCaption caption;
     if (entries_.empty())
-        caption.text = "This folder is empty.";
+        caption.text = systemText("This folder is empty.");
     caption.alignment = NSTextAlignment::Center;
     return caption;
 }

@@ -1,14 +1,17 @@
 #include "documents/DocumentInbox.h"
 
 #include "Device.h"
+#include "Foundation/Format.h"
 #include "Foundation/NSFileManager.h"
 #include "Foundation/NSString.h"
 #include "Foundation/NSUUID.h"
 #include "files/AtomicFile.h"
 #include "files/RegularFile.h"
+#include "texts/SystemTexts.h"
 
 #include <fcntl.h>
 
+#include <array>
 #include <cstring>
 
 namespace {
@@ -20,7 +23,8 @@ std::string nameIn(const std::string& path) {
 }
 
 std::string problem(const std::string& path, int error) {
-    return "“" + nameIn(path) + "” could not be opened: " + std::strerror(error) + ".";
+    return replacePlaceholders(systemText("“%@” could not be opened: %@."),
+                               std::array{nameIn(path), std::string(std::strerror(error))});
 }
 
 std::expected<void, int> copyInto(const std::string& folder, const std::string& name, RegularFile& file) {

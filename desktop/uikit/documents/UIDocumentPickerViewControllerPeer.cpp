@@ -2,6 +2,7 @@
 
 #include "DesktopImage.h"
 #include "Device.h"
+#include "Foundation/Format.h"
 #include "alerts/Complaint.h"
 #include "documents/DocumentFolderPage.h"
 #include "documents/DocumentInbox.h"
@@ -9,8 +10,10 @@
 #include "documents/DocumentTypes.h"
 #include "navigation/UINavigationControllerPeer.h"
 #include "screen/Screen.h"
+#include "texts/SystemTexts.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 namespace {
@@ -95,15 +98,15 @@ void UIDocumentPickerViewControllerPeer::cancelPicking() {
 std::expected<std::string, std::string>
 UIDocumentPickerViewControllerPeer::copyOf(const std::string& hostPath) const {
     if (!isOfOneOf(types_, hostPath))
-        return std::unexpected("“" + hostPath.substr(hostPath.rfind('/') + 1) +
-                               "” is not of a kind that can be chosen.");
+        return std::unexpected(replacePlaceholders(systemText("“%@” is not of a kind that can be chosen."),
+                                                   std::array{hostPath.substr(hostPath.rfind('/') + 1)}));
     return DocumentInbox::takeHostFile(hostPath);
 }
 
 UIDocumentPickerViewControllerPeer::Copies
 UIDocumentPickerViewControllerPeer::copiesOf(const std::vector<std::string>& hostPaths) const {
     if (hostPaths.size() != 1 && !allowsMultipleSelection_)
-        return std::unexpected("One file is wanted.");
+        return std::unexpected(systemText("One file is wanted."));
     std::vector<std::string> copies;
     for (const auto& path : hostPaths) {
         auto copy = copyOf(path);
@@ -118,7 +121,7 @@ UIDocumentPickerViewControllerPeer::copiesOf(const std::vector<std::string>& hos
 
 std::expected<void, std::string> UIDocumentPickerViewControllerPeer::handOver(const Copies& copies) {
     if (!copies) {
-        complain(controller(), "The File Cannot Be Opened", copies.error());
+        complain(controller(), systemText("The File Cannot Be Opened"), copies.error());
         return std::unexpected(copies.error());
     }
     std::vector<Ref<NSObject>> urls;

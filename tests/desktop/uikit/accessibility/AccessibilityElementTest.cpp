@@ -93,10 +93,15 @@ TEST_F(AccessibilityElementTest, anEmptyLabelIsNone) {
 
 TEST_F(AccessibilityElementTest, whatIsOnlyReadIsNoStop) {
     using enum AccessibilityRole;
-    for (const auto role : {StaticText, Image, Header})
-        EXPECT_FALSE(AccessibilityElement{.role = role}.isStop());
-    for (const auto role : {None, Button, Switch, Link, TextField, Slider, Choice})
-        EXPECT_TRUE(AccessibilityElement{.role = role}.isStop());
+    AccessibilityElement element;
+    for (const auto role : {StaticText, Image, Header}) {
+        element.role = role;
+        EXPECT_FALSE(element.isStop());
+    }
+    for (const auto role : {None, Button, Switch, Link, TextField, Slider, Choice}) {
+        element.role = role;
+        EXPECT_TRUE(element.isStop());
+    }
 }
 
 TEST_F(AccessibilityElementTest, aSwitchIsOneWhoeverMadeIt) {
