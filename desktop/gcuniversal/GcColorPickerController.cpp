@@ -3,11 +3,11 @@
 #include "ColorPickerView.h"
 #include "HexColor.h"
 #include "ObjectiveC/Class.h"
+#include "SystemTexts.h"
 #include "controllers/DesktopBarButtonItem.h"
 #include "controllers/DesktopNavigationItem.h"
 #include "controllers/UIViewControllerPeer.h"
 #include "screen/Screen.h"
-#include "texts/SystemTexts.h"
 #include "views/UIViewPeer.h"
 
 #include <memory>

@@ -3,6 +3,7 @@
 #include "DesktopColor.h"
 #include "ObjectiveC/Class.h"
 #include "RowImage.h"
+#include "SystemTexts.h"
 #include "UIKit/UIButton.h"
 #include "alerts/Complaint.h"
 #include "controllers/DesktopBarButtonItem.h"
@@ -12,7 +13,6 @@
 #include "screen/FilePicker.h"
 #include "screen/Screen.h"
 #include "text/UITextFieldPeer.h"
-#include "texts/SystemTexts.h"
 #include "views/UILabelPeer.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #include "RowConfirmation.h"
 
+#include "SystemTexts.h"
 #include "UIKit/UIAlertController.h"
-#include "texts/SystemTexts.h"
 
 #include <string>
 #include <utility>

@@ -3,7 +3,7 @@
 #include "AnimationGroup.h"
 #include "DesktopColor.h"
 #include "DesktopImage.h"
-#include "texts/SystemTexts.h"
+#include "SystemTexts.h"
 #include "views/UIImageViewPeer.h"
 #include "views/UILabelPeer.h"
 

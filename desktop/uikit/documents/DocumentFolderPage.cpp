@@ -5,6 +5,7 @@
 #include "Foundation/NSDateFormatter.h"
 #include "Foundation/NSString.h"
 #include "ObjectiveC/Class.h"
+#include "SystemTexts.h"
 #include "UIKit/UINavigationController.h"
 #include "UIKit/UITableView.h"
 #include "controllers/DesktopBarButtonItem.h"
@@ -15,7 +16,6 @@
 #include "tables/TableContent.h"
 #include "tables/UITableViewCellPeer.h"
 #include "tables/UITableViewPeer.h"
-#include "texts/SystemTexts.h"
 
 #include <memory>
 #include <utility>

@@ -5,9 +5,9 @@
 #include "Foundation/NSFileManager.h"
 #include "Foundation/NSString.h"
 #include "Foundation/NSUUID.h"
+#include "SystemTexts.h"
 #include "files/AtomicFile.h"
 #include "files/RegularFile.h"
-#include "texts/SystemTexts.h"
 
 #include <fcntl.h>
 

@@ -2,9 +2,9 @@
 
 #include "DesktopColor.h"
 #include "ObjectiveC/Class.h"
+#include "SystemTexts.h"
 #include "controls/UIButtonPeer.h"
 #include "screen/HostFileDialog.h"
-#include "texts/SystemTexts.h"
 
 #include <utility>
 

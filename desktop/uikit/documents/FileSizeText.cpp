@@ -2,7 +2,7 @@
 
 #include "Device.h"
 #include "Foundation/Format.h"
-#include "texts/SystemTexts.h"
+#include "SystemTexts.h"
 
 #include <QLocale>
 #include <array>

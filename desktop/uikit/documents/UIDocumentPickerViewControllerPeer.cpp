@@ -3,6 +3,7 @@
 #include "DesktopImage.h"
 #include "Device.h"
 #include "Foundation/Format.h"
+#include "SystemTexts.h"
 #include "alerts/Complaint.h"
 #include "documents/DocumentFolderPage.h"
 #include "documents/DocumentInbox.h"
@@ -10,7 +11,6 @@
 #include "documents/DocumentTypes.h"
 #include "navigation/UINavigationControllerPeer.h"
 #include "screen/Screen.h"
-#include "texts/SystemTexts.h"
 
 #include <algorithm>
 #include <array>

@@ -4,7 +4,7 @@
 #include "DesktopFont.h"
 #include "DesktopImage.h"
 #include "ObjectiveC/Class.h"
-#include "texts/SystemTexts.h"
+#include "SystemTexts.h"
 #include "views/UIImageViewPeer.h"
 #include "views/UILabelPeer.h"
 

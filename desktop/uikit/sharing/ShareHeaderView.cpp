@@ -4,8 +4,8 @@
 #include "DesktopFont.h"
 #include "DesktopImage.h"
 #include "ObjectiveC/Class.h"
+#include "SystemTexts.h"
 #include "controls/UIControlPeer.h"
-#include "texts/SystemTexts.h"
 
 #include <utility>
 

@@ -4,11 +4,11 @@
 #include "Device.h"
 #include "Foundation/Format.h"
 #include "Foundation/NSLog.h"
+#include "SystemTexts.h"
 #include "alerts/Complaint.h"
 #include "documents/FileSizeText.h"
 #include "presentation/PopoverPresentationView.h"
 #include "screen/Screen.h"
-#include "texts/SystemTexts.h"
 
 #include <array>
 #include <utility>
@@ -82,8 +82,11 @@ std::vector<Presented::Item> UIActivityViewControllerPeer::sheetItems() const {
     std::vector<Presented::Item> items;
     items.reserve(looks.size());
     for (const auto& look : looks)
-        items.push_back(
-            {.title = look.title, .description = {}, .symbol = look.symbol, .tint = {}, .tappable = true});
+        items.push_back({.title = systemText(look.title),
+                         .description = {},
+                         .symbol = look.symbol,
+                         .tint = {},
+                         .tappable = true});
     return items;
 }
 

@@ -1,4 +1,4 @@
-#include "texts/SystemTexts.h"
+#include "SystemTexts.h"
 
 #include "Device.h"
 #include "texts/LanguageNames.h"

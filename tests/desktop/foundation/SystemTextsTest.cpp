@@ -1,4 +1,4 @@
-#include "texts/SystemTexts.h"
+#include "SystemTexts.h"
 
 #include "TestDevice.h"
 
