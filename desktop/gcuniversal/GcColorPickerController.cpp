@@ -3,6 +3,7 @@
 #include "ColorPickerView.h"
 #include "HexColor.h"
 #include "ObjectiveC/Class.h"
+#include "SystemTexts.h"
 #include "controllers/DesktopBarButtonItem.h"
 #include "controllers/DesktopNavigationItem.h"
 #include "controllers/UIViewControllerPeer.h"
@@ -54,7 +55,7 @@ void GcColorPickerControllerPeer::viewDidLoad() {
     };
     setTitle("Colors");
     navigationItem().setRightBarButtonItem(
-        make<DesktopBarButtonItem>(DesktopBarButtonItem::Content{.title = "Done",
+        make<DesktopBarButtonItem>(DesktopBarButtonItem::Content{.title = systemText("Done"),
                                                                  .image = {},
                                                                  .menu = {},
                                                                  .action = done,

@@ -3,6 +3,7 @@
 #include "DesktopColor.h"
 #include "ObjectiveC/Class.h"
 #include "RowImage.h"
+#include "SystemTexts.h"
 #include "UIKit/UIButton.h"
 #include "alerts/Complaint.h"
 #include "controllers/DesktopBarButtonItem.h"
@@ -54,7 +55,7 @@ ImagePickerView::ImagePickerView() {
     path.setTextInputTraits({.capitals = TextInputTraits::Capitals::None});
     path.setEndsOnReturn(true);
     auto& browse = peerOf<UIButtonPeer>(*browser);
-    browse.setTitle(HostFileDialog::buttonTitle);
+    browse.setTitle(systemText(HostFileDialog::buttonTitle));
     browse.setFontStyle({.size = 17});
     browse.setHidden(Screen::current().fileDialog() == nullptr);
     auto& button = peerOf<UIButtonPeer>(*remover);
@@ -131,7 +132,7 @@ void GcImagePickerControllerPeer::viewDidLoad() {
             cancelPicking();
     };
     navigationItem().setLeftBarButtonItem(
-        make<DesktopBarButtonItem>(DesktopBarButtonItem::Content{.title = "Cancel",
+        make<DesktopBarButtonItem>(DesktopBarButtonItem::Content{.title = systemText("Cancel"),
                                                                  .image = {},
                                                                  .menu = {},
                                                                  .action = cancel,

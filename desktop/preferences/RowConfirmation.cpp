@@ -1,5 +1,6 @@
 #include "RowConfirmation.h"
 
+#include "SystemTexts.h"
 #include "UIKit/UIAlertController.h"
 
 #include <string>
@@ -36,9 +37,9 @@ void askForConfirmation(UIViewController& page, const DesktopSpecifier& row, std
         textIn(texts, "title"), textIn(texts, "prompt"), UIAlertControllerStyle::Alert);
     const auto style = row.boolForKey("isDestructive", false) ? UIAlertActionStyle::Destructive
                                                               : UIAlertActionStyle::Default;
-    alert->addAction(UIAlertAction::actionWithTitle(textIn(texts, "cancelTitle").value_or("Cancel"),
-                                                    UIAlertActionStyle::Cancel,
-                                                    handler(std::move(cancelled))));
+    alert->addAction(
+        UIAlertAction::actionWithTitle(textIn(texts, "cancelTitle").value_or(systemText("Cancel")),
+                                       UIAlertActionStyle::Cancel, handler(std::move(cancelled))));
     alert->addAction(UIAlertAction::actionWithTitle(textIn(texts, "okTitle").value_or("OK"), style,
                                                     handler(std::move(confirmed))));
     page.presentViewController(alert, true, {});

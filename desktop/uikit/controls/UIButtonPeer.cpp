@@ -3,6 +3,7 @@
 #include "AnimationGroup.h"
 #include "DesktopColor.h"
 #include "DesktopImage.h"
+#include "SystemTexts.h"
 #include "views/UIImageViewPeer.h"
 #include "views/UILabelPeer.h"
 
@@ -37,8 +38,10 @@ void UIButtonPeer::becomeOfType(UIButtonType type) {
     if (type != UIButtonType::InfoDark)
         return;
     setImage(DesktopImage::symbol("info.circle", infoSymbolSize));
-    setAccessibility(
-        {.label = "More Info", .value = {}, .role = AccessibilityRole::Button, .isElement = true});
+    setAccessibility({.label = systemText("More Info"),
+                      .value = {},
+                      .role = AccessibilityRole::Button,
+                      .isElement = true});
 }
 
 void UIButtonPeer::setTitle(const std::optional<std::string>& title) {

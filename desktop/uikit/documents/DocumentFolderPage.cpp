@@ -5,6 +5,7 @@
 #include "Foundation/NSDateFormatter.h"
 #include "Foundation/NSString.h"
 #include "ObjectiveC/Class.h"
+#include "SystemTexts.h"
 #include "UIKit/UINavigationController.h"
 #include "UIKit/UITableView.h"
 #include "controllers/DesktopBarButtonItem.h"
@@ -96,13 +97,14 @@ Ref<UIView> DocumentFolderPagePeer::makeView() {
 }
 
 void DocumentFolderPagePeer::viewDidLoad() {
-    const auto cancel = make<DesktopBarButtonItem>(DesktopBarButtonItem::Content{.title = "Cancel",
-                                                                                 .image = {},
-                                                                                 .menu = {},
-                                                                                 .action = rules_.cancelled,
-                                                                                 .target = {},
-                                                                                 .selector = {},
-                                                                                 .emphasised = false});
+    const auto cancel =
+        make<DesktopBarButtonItem>(DesktopBarButtonItem::Content{.title = systemText("Cancel"),
+                                                                 .image = {},
+                                                                 .menu = {},
+                                                                 .action = rules_.cancelled,
+                                                                 .target = {},
+                                                                 .selector = {},
+                                                                 .emphasised = false});
     // On the pages of further folders the way back stands at the left.
     const auto isFirst =
         controller().navigationController() == nullptr ||
@@ -120,7 +122,7 @@ void DocumentFolderPagePeer::viewDidAppear(bool /*animated*/) {
 TableCaption DocumentFolderPagePeer::footer(std::size_t /*section*/) {
     TableCaption caption;
     if (entries_.empty())
-        caption.text = "This folder is empty.";
+        caption.text = systemText("This folder is empty.");
     caption.alignment = NSTextAlignment::Center;
     return caption;
 }

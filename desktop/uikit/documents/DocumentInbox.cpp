@@ -1,14 +1,17 @@
 #include "documents/DocumentInbox.h"
 
 #include "Device.h"
+#include "Foundation/Format.h"
 #include "Foundation/NSFileManager.h"
 #include "Foundation/NSString.h"
 #include "Foundation/NSUUID.h"
+#include "SystemTexts.h"
 #include "files/AtomicFile.h"
 #include "files/RegularFile.h"
 
 #include <fcntl.h>
 
+#include <array>
 #include <cstring>
 
 namespace {
@@ -16,7 +19,8 @@ namespace {
 constexpr auto inboxName = "com.apple.Preferences-Inbox";
 
 std::string problem(const std::string& path, int error) {
-    return "“" + lastPathComponent(path) + "” could not be opened: " + std::strerror(error) + ".";
+    return replacePlaceholders(systemText("“%@” could not be opened: %@."),
+                               std::array{lastPathComponent(path), std::string(std::strerror(error))});
 }
 
 std::expected<void, int> copyInto(const std::string& folder, const std::string& name, RegularFile& file) {

@@ -2,6 +2,7 @@
 
 #include "DesktopColor.h"
 #include "ObjectiveC/Class.h"
+#include "SystemTexts.h"
 #include "controls/UIButtonPeer.h"
 #include "screen/HostFileDialog.h"
 
@@ -24,7 +25,7 @@ DocumentPickerView::DocumentPickerView(const Ref<UIView>& pages, std::function<v
         return;
     button_ = make<UIButton>();
     auto& button = peerOf<UIButtonPeer>(*button_);
-    button.setTitle(HostFileDialog::buttonTitle);
+    button.setTitle(systemText(HostFileDialog::buttonTitle));
     button.setFontStyle({.size = 17});
     button.addHandler(UIControlEvents::TouchUpInside, std::move(browse));
     addSubview(line_);

@@ -2,7 +2,9 @@
 
 #include "DesktopImage.h"
 #include "Device.h"
+#include "Foundation/Format.h"
 #include "Foundation/NSString.h"
+#include "SystemTexts.h"
 #include "alerts/Complaint.h"
 #include "documents/DocumentFolderPage.h"
 #include "documents/DocumentInbox.h"
@@ -12,6 +14,7 @@
 #include "screen/Screen.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 namespace {
@@ -96,14 +99,15 @@ void UIDocumentPickerViewControllerPeer::cancelPicking() {
 std::expected<std::string, std::string>
 UIDocumentPickerViewControllerPeer::copyOf(const std::string& hostPath) const {
     if (!isOfOneOf(types_, hostPath))
-        return std::unexpected("“" + lastPathComponent(hostPath) + "” is not of a kind that can be chosen.");
+        return std::unexpected(replacePlaceholders(systemText("“%@” is not of a kind that can be chosen."),
+                                                   std::array{lastPathComponent(hostPath)}));
     return DocumentInbox::takeHostFile(hostPath);
 }
 
 UIDocumentPickerViewControllerPeer::Copies
 UIDocumentPickerViewControllerPeer::copiesOf(const std::vector<std::string>& hostPaths) const {
     if (hostPaths.size() != 1 && !allowsMultipleSelection_)
-        return std::unexpected("One file is wanted.");
+        return std::unexpected(systemText("One file is wanted."));
     std::vector<std::string> copies;
     for (const auto& path : hostPaths) {
         auto copy = copyOf(path);
@@ -118,7 +122,7 @@ UIDocumentPickerViewControllerPeer::copiesOf(const std::vector<std::string>& hos
 
 std::expected<void, std::string> UIDocumentPickerViewControllerPeer::handOver(const Copies& copies) {
     if (!copies) {
-        complain(controller(), "The File Cannot Be Opened", copies.error());
+        complain(controller(), systemText("The File Cannot Be Opened"), copies.error());
         return std::unexpected(copies.error());
     }
     std::vector<Ref<NSObject>> urls;

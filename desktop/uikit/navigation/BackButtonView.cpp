@@ -4,6 +4,7 @@
 #include "DesktopFont.h"
 #include "DesktopImage.h"
 #include "ObjectiveC/Class.h"
+#include "SystemTexts.h"
 #include "views/UIImageViewPeer.h"
 #include "views/UILabelPeer.h"
 
@@ -13,7 +14,6 @@ const Class classObject = Class::define<BackButtonView, BarControl>("BackButtonV
 
 constexpr auto titleSize = 17.0;
 constexpr auto chevronSize = 22.0; ///< the symbol's point size: it is 21 points high
-constexpr auto shortTitle = "Back";
 
 } // namespace
 
@@ -22,8 +22,8 @@ BackButtonView::BackButtonView(const std::string& previousTitle)
       label_(make<UILabel>()) {
     if (!previousTitle.empty())
         titles_.push_back(previousTitle);
-    if (previousTitle != shortTitle)
-        titles_.emplace_back(shortTitle);
+    if (const auto shortTitle = systemText("Back"); previousTitle != shortTitle)
+        titles_.push_back(shortTitle);
     chevron_->setImage(DesktopImage::symbol("chevron.left", chevronSize, SymbolWeight::Semibold));
     chevron_->setContentMode(UIViewContentMode::Center);
     label_->setFont(DesktopFont::font(titleSize));

@@ -4,6 +4,7 @@
 #include "DesktopFont.h"
 #include "DesktopImage.h"
 #include "ObjectiveC/Class.h"
+#include "SystemTexts.h"
 #include "controls/UIControlPeer.h"
 
 #include <utility>
@@ -46,7 +47,7 @@ void ShareHeaderView::addCloseButton(std::function<void()> close) {
     close_->layer().setCornerRadius(closeSize / 2);
     auto& button = peerOf<UIControlPeer>(*close_);
     button.setAccessibility(
-        {.label = "Close", .value = {}, .role = AccessibilityRole::Button, .isElement = true});
+        {.label = systemText("Close"), .value = {}, .role = AccessibilityRole::Button, .isElement = true});
     button.addHandler(UIControlEvents::TouchUpInside, std::move(close));
     const auto cross = make<UIImageView>();
     cross->setFrame(CGRectMake(0, 0, closeSize, closeSize));

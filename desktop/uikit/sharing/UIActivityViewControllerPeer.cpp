@@ -2,7 +2,9 @@
 
 #include "DesktopURL.h"
 #include "Device.h"
+#include "Foundation/Format.h"
 #include "Foundation/NSLog.h"
+#include "SystemTexts.h"
 #include "alerts/Complaint.h"
 #include "documents/FileSizeText.h"
 #include "presentation/PopoverPresentationView.h"
@@ -64,7 +66,9 @@ std::optional<double> UIActivityViewControllerPeer::sheetHeight() const {
 }
 
 std::string UIActivityViewControllerPeer::sheetTitle() const {
-    return files_.size() == 1 ? files_.front().name() : std::to_string(files_.size()) + " Documents";
+    return files_.size() == 1
+               ? files_.front().name()
+               : replacePlaceholders(systemText("%@ Documents"), std::array{std::to_string(files_.size())});
 }
 
 std::string UIActivityViewControllerPeer::sheetDetail() const {
@@ -78,8 +82,11 @@ std::vector<Presented::Item> UIActivityViewControllerPeer::sheetItems() const {
     std::vector<Presented::Item> items;
     items.reserve(looks.size());
     for (const auto& look : looks)
-        items.push_back(
-            {.title = look.title, .description = {}, .symbol = look.symbol, .tint = {}, .tappable = true});
+        items.push_back({.title = systemText(look.title),
+                         .description = {},
+                         .symbol = look.symbol,
+                         .tint = {},
+                         .tappable = true});
     return items;
 }
 
@@ -88,11 +95,13 @@ std::vector<std::string> UIActivityViewControllerPeer::sheetUrls() const {
 }
 
 std::vector<ShareView::Activity> UIActivityViewControllerPeer::activities() {
-    return {{.title = copyLook.title,
+    return {{.title = systemText(copyLook.title),
              .symbol = copyLook.symbol,
              .perform = [this] { static_cast<void>(finish(copy())); }},
-            {.title = saveLook.title, .symbol = saveLook.symbol, .perform = [this] { chooseFolder(); }},
-            {.title = openLook.title, .symbol = openLook.symbol, .perform = [this] {
+            {.title = systemText(saveLook.title),
+             .symbol = saveLook.symbol,
+             .perform = [this] { chooseFolder(); }},
+            {.title = systemText(openLook.title), .symbol = openLook.symbol, .perform = [this] {
                  static_cast<void>(finish(openWithHost()));
              }}};
 }
@@ -124,7 +133,7 @@ UIActivityViewControllerPeer::Outcome UIActivityViewControllerPeer::openWithHost
         return std::unexpected(urls.error());
     for (const auto& url : *urls) {
         if (!Device::current().urls().open(url))
-            return std::unexpected("No application opened it.");
+            return std::unexpected(systemText("No application opened it."));
     }
     return {};
 }
@@ -145,7 +154,7 @@ void UIActivityViewControllerPeer::chooseFolder() {
 UIActivityViewControllerPeer::Outcome
 UIActivityViewControllerPeer::save(const std::vector<std::string>& hostFolders) {
     if (hostFolders.size() != 1)
-        return std::unexpected("One folder is wanted.");
+        return std::unexpected(systemText("One folder is wanted."));
     for (const auto& file : files_) {
         if (auto copied = file.copyTo(hostFolders.front()); !copied)
             return copied;
@@ -166,6 +175,6 @@ UIActivityViewControllerPeer::Outcome UIActivityViewControllerPeer::finish(const
     if (outcome)
         controller().dismissViewControllerAnimated(true, {});
     else
-        complain(controller(), "The File Could Not Be Shared", outcome.error());
+        complain(controller(), systemText("The File Could Not Be Shared"), outcome.error());
     return outcome;
 }

@@ -21,4 +21,5 @@ TEST(FileSizeTextTest, IsInTheLargestUnitThatFits) {
 TEST(FileSizeTextTest, IsInTheDevicesLocale) {
     const TestDevice device({.locale = "de_DE"});
     EXPECT_EQ(fileSizeText(1'234'567), "1,2 MB");
+    EXPECT_EQ(fileSizeText(7), "7 Byte");
 }

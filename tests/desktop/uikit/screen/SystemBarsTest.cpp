@@ -24,7 +24,12 @@ std::string timeOn(const TestDevice::Settings& settings) {
     return bars.statusBar().time();
 }
 
-const AnimationGroup::Course slow{.duration = std::chrono::milliseconds(250)};
+AnimationGroup::Course slow() {
+    return {.duration = std::chrono::milliseconds(250),
+            .delay = {},
+            .curve = AnimationCurve::linear(),
+            .fromCurrentState = true};
+}
 
 } // namespace
 
@@ -129,7 +134,7 @@ TEST(SystemBarsTest, fadeOneIntoTheOtherWithTheWhiteBarBeneath) {
     const Screen screen{Screen::Options{}};
     SystemBars bars;
     bars.setBehind(SystemBars::Behind::Wallpaper, {});
-    bars.setBehind(SystemBars::Behind::Application, slow);
+    bars.setBehind(SystemBars::Behind::Application, slow());
     const auto shownAlpha = [&bars] {
         return bars.statusBar().layer().peer().shownValue(LayerProperty::Opacity)[0];
     };
@@ -146,11 +151,11 @@ TEST(SystemBarsTest, endAsTheyWereLastToldWhenToldInMidFade) {
     TestDevice device;
     const Screen screen{Screen::Options{}};
     SystemBars bars;
-    bars.setBehind(SystemBars::Behind::Wallpaper, slow);
+    bars.setBehind(SystemBars::Behind::Wallpaper, slow());
     device.advance(std::chrono::milliseconds(100));
-    bars.setBehind(SystemBars::Behind::Application, slow);
+    bars.setBehind(SystemBars::Behind::Application, slow());
     device.advance(std::chrono::milliseconds(100));
-    bars.setBehind(SystemBars::Behind::Wallpaper, slow);
+    bars.setBehind(SystemBars::Behind::Wallpaper, slow());
     device.settle();
     EXPECT_FALSE(bars.whiteStatusBar().peer().isHidden());
     EXPECT_EQ(bars.homeIndicator().layer().peer().number(LayerProperty::Opacity), 0);

@@ -2,6 +2,7 @@
 
 #include "ObjectiveC/Weak.h"
 #include "documents/DocumentsFixture.h"
+#include "sharing/UIActivityViewControllerPeer.h"
 #include "views/UIViewPeer.h"
 
 #include <sys/stat.h>
@@ -270,4 +271,17 @@ TEST_F(UIActivityViewControllerPadTest, ThePopoverStaysWhenItsSourceGoes) {
 
 TEST_F(UIActivityViewControllerPadTest, OtherControllersHaveNoPopover) {
     EXPECT_FALSE(page->popoverPresentationController());
+}
+
+TEST(UIActivityViewControllerTextsTest, AreInTheDevicesLanguage) {
+    const TestDevice device({.locale = "de_DE"});
+    const Screen screen{Screen::Options{}};
+    const auto sheet = UIActivityViewController::initWithActivityItems(
+        {NSURL::fileURLWithPath("/a"), NSURL::fileURLWithPath("/b")});
+    const auto& peer = peerOf<UIActivityViewControllerPeer>(*sheet);
+    EXPECT_EQ(peer.sheetTitle(), "2 Dokumente");
+    Texts titles;
+    for (const auto& item : peer.sheetItems())
+        titles.push_back(item.title);
+    EXPECT_EQ(titles, (Texts{"Kopieren", "In Ordner sichern …", "Öffnen mit …"}));
 }
