@@ -21,8 +21,7 @@ public:
     /// frame.
     std::map<std::string, int> compared;
 
-private:
-    // PaneScenes:
+protected:
     void sceneBegins(std::string_view name) override {
         scene_ = name;
         compared[scene_] = 0;
@@ -40,6 +39,7 @@ private:
 
     void sceneEnds() override {}
 
+private:
     void expectSame(const QImage& picture, const QImage& whole) const {
         ASSERT_EQ(picture.size(), whole.size());
         for (auto y = 0; y < picture.height(); ++y) {
