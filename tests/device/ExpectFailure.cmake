@@ -1,4 +1,5 @@
-# cmake -D MESSAGE=regex -P ExpectFailure.cmake -- COMMAND...: succeeds when the command fails and says so.
+# cmake -D MESSAGE=regex [-D RUNS=1] -P ExpectFailure.cmake -- COMMAND...: succeeds when the command fails and says so, in
+# one of so many runs.
 set(command)
 math(EXPR last "${CMAKE_ARGC} - 1")
 foreach(i RANGE ${last})
@@ -9,10 +10,16 @@ foreach(i RANGE ${last})
     endif()
 endforeach()
 
-execute_process(COMMAND ${command} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
+if(NOT DEFINED RUNS)
+    set(RUNS 1)
+endif()
+foreach(run RANGE 1 ${RUNS})
+    execute_process(COMMAND ${command} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
+    if(NOT result EQUAL 0 AND output MATCHES "${MESSAGE}")
+        return()
+    endif()
+endforeach()
 if(result EQUAL 0)
     message(FATAL_ERROR "succeeded, which it should not:\n${output}")
 endif()
-if(NOT output MATCHES "${MESSAGE}")
-    message(FATAL_ERROR "failed (${result}), but does not say \"${MESSAGE}\":\n${output}")
-endif()
+message(FATAL_ERROR "failed (${result}), but does not say \"${MESSAGE}\":\n${output}")
