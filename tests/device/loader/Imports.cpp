@@ -1,6 +1,7 @@
 #include "Imports.h"
 
 #include "Failure.h"
+#include "Import.h"
 #include "Kernel.h"
 #include "Texts.h"
 
@@ -32,16 +33,6 @@ void reportFailure(const char* check) {
 
 [[noreturn]] void unexpectedCall() {
     fail("the bundle called what there is no code for");
-}
-
-struct Import {
-    const char* symbol;
-    const void* address;
-};
-
-template <class Function>
-const void* code(Function* function) {
-    return reinterpret_cast<const void*>(function);
 }
 
 const Import imports[] = {

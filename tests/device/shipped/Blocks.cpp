@@ -3,7 +3,7 @@
 
 #include "BlockCalls.h"
 #include "CodePointers.h"
-#include "Import.h"
+#include "ImportLists.h"
 #include "Runtime.h"
 
 #include <array>

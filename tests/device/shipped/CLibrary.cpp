@@ -2,7 +2,7 @@
 
 #include "CodePointers.h"
 #include "Failure.h"
-#include "Import.h"
+#include "ImportLists.h"
 #include "RuneTable.h"
 #include "VariadicCalls.h"
 

@@ -1,6 +1,6 @@
 #include "ImportTable.h"
 
-#include "Import.h"
+#include "ImportLists.h"
 #include "Runtime.h"
 
 #include <dlfcn.h>

@@ -1,7 +1,7 @@
 // The C++ library's locks, in the memory that the bundle's code has for the device's. Those are larger than
 // the ones here. What their constructors answer is the lock, as on the device.
 
-#include "Import.h"
+#include "ImportLists.h"
 
 #include <pthread.h>
 

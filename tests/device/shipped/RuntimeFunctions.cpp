@@ -2,7 +2,7 @@
 // GNU's.
 
 #include "CodePointers.h"
-#include "Import.h"
+#include "ImportLists.h"
 #include "MessageSending.h"
 #include "RecordedClasses.h"
 #include "Runtime.h"

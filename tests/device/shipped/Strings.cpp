@@ -4,7 +4,7 @@
 #define _LIBCPP_ABI_ALTERNATE_STRING_LAYOUT
 
 #include "Failure.h"
-#include "Import.h"
+#include "ImportLists.h"
 
 #include <array>
 #include <charconv>

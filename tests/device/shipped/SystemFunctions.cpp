@@ -3,7 +3,7 @@
 
 #include "BundleUnderTest.h"
 #include "CodePointers.h"
-#include "Import.h"
+#include "ImportLists.h"
 #include "Runtime.h"
 #include "SystemStandIns.h"
 #include "VariadicCalls.h"

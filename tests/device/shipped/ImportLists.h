@@ -1,19 +1,8 @@
 #pragma once
 
-#include <cstring>
+#include "Import.h"
+
 #include <span>
-
-/// What a symbol that the bundle imports is bound to.
-struct Import {
-    const char* symbol;
-    const void* address;
-};
-
-/// The address of a function, as the linker fills it in.
-template <class Function>
-const void* code(Function* function) {
-    return reinterpret_cast<const void*>(function);
-}
 
 /// The imports of a list, none of which stands in another.
 using Imports = std::span<const Import>;
