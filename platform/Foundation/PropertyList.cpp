@@ -6,6 +6,7 @@
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
+#include <limits>
 #include <type_traits>
 
 namespace {
@@ -120,6 +121,47 @@ Answer ifNumber(const PropertyList& value, Answer otherwise, Visitor forNumber) 
 }
 
 } // namespace
+
+PropertyList::PropertyList(bool value) : value_(value) {}
+
+PropertyList::PropertyList(double value) : value_(value) {}
+
+PropertyList::PropertyList(std::string value) : value_(std::move(value)) {}
+
+PropertyList::PropertyList(std::string_view value) : value_(std::string(value)) {}
+
+PropertyList::PropertyList(const char* value) : value_(std::string(value)) {}
+
+PropertyList::PropertyList(NSData value) : value_(std::move(value)) {}
+
+PropertyList::PropertyList(NSDate value) : value_(value) {}
+
+PropertyList::PropertyList(Array value) : value_(std::move(value)) {}
+
+PropertyList::PropertyList(Dictionary value) : value_(std::move(value)) {}
+
+PropertyList::PropertyList(Integer value) {
+    const auto isBeyondSigned =
+        !value.isNegative && std::cmp_greater(value.bits, std::numeric_limits<std::int64_t>::max());
+    if (isBeyondSigned)
+        value_ = value.bits;
+    else
+        value_ = static_cast<std::int64_t>(value.bits);
+}
+
+PropertyList::PropertyList(const PropertyList& other) = default;
+
+PropertyList::PropertyList(PropertyList&& other) noexcept = default;
+
+PropertyList& PropertyList::operator=(const PropertyList& other) = default;
+
+PropertyList& PropertyList::operator=(PropertyList&& other) noexcept = default;
+
+PropertyList::~PropertyList() = default;
+
+bool operator==(const PropertyList& one, const PropertyList& other) {
+    return one.value_ == other.value_;
+}
 
 bool PropertyList::isNumber() const {
     return ifNumber(*this, false, [](auto) { return true; });

@@ -6,7 +6,6 @@
 #include <concepts>
 #include <cstdint>
 #include <functional>
-#include <limits>
 #include <map>
 #include <string>
 #include <string_view>
@@ -24,33 +23,29 @@ public:
     using Array = std::vector<PropertyList>;
     using Dictionary = std::map<std::string, PropertyList, std::less<>>;
 
-    PropertyList(bool value) : value_(value) {}
+    PropertyList(bool value);
 
     /// An integer of any type; those above the signed 64-bit range keep their value too.
     template <std::integral T>
         requires(!std::same_as<T, bool>)
-    PropertyList(T value) {
-        if (std::cmp_less_equal(value, std::numeric_limits<std::int64_t>::max()))
-            value_ = static_cast<std::int64_t>(value);
-        else
-            value_ = static_cast<std::uint64_t>(value);
-    }
+    PropertyList(T value)
+        : PropertyList(Integer{static_cast<std::uint64_t>(value), std::cmp_less(value, 0)}) {}
 
-    PropertyList(double value) : value_(value) {}
+    PropertyList(double value);
+    PropertyList(std::string value);
+    PropertyList(std::string_view value);
+    PropertyList(const char* value);
+    PropertyList(NSData value);
+    PropertyList(NSDate value);
+    PropertyList(Array value);
+    PropertyList(Dictionary value);
 
-    PropertyList(std::string value) : value_(std::move(value)) {}
-
-    PropertyList(std::string_view value) : value_(std::string(value)) {}
-
-    PropertyList(const char* value) : value_(std::string(value)) {}
-
-    PropertyList(NSData value) : value_(std::move(value)) {}
-
-    PropertyList(NSDate value) : value_(value) {}
-
-    PropertyList(Array value) : value_(std::move(value)) {}
-
-    PropertyList(Dictionary value) : value_(std::move(value)) {}
+    // Not left to each source that comes by a value, most of which do no more than that.
+    PropertyList(const PropertyList& other);
+    PropertyList(PropertyList&& other) noexcept;
+    PropertyList& operator=(const PropertyList& other);
+    PropertyList& operator=(PropertyList&& other) noexcept;
+    ~PropertyList();
 
     /// The value when it is of that kind, else null: `bool`, `std::int64_t`, `std::uint64_t` (only integers
     /// above the signed range), `double`, `std::string`, `NSData`, `NSDate`, `Array` or `Dictionary`.
@@ -86,9 +81,17 @@ public:
         return std::visit(std::forward<Visitor>(visitor), value_);
     }
 
-    friend bool operator==(const PropertyList&, const PropertyList&) = default;
+    friend bool operator==(const PropertyList& one, const PropertyList& other);
 
 private:
+    /// An integer's lower 64 bits, and whether those are of a negative one.
+    struct Integer {
+        std::uint64_t bits;
+        bool isNegative;
+    };
+
+    explicit PropertyList(Integer value);
+
     std::variant<bool, std::int64_t, std::uint64_t, double, std::string, NSData, NSDate, Array, Dictionary>
         value_;
 };

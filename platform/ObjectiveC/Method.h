@@ -61,12 +61,9 @@ template <>
 struct MessageTraits<bool> {
     static constexpr auto type = MessageType::Boolean;
 
-    static bool unpack(const MessageValue& value) {
-        const auto* list = std::get_if<PropertyList>(&value);
-        return list != nullptr && list->boolValue();
-    }
+    static bool unpack(const MessageValue& value);
 
-    static MessageValue pack(bool value) { return PropertyList(value); }
+    static MessageValue pack(bool value);
 };
 
 template <std::signed_integral T>
@@ -85,41 +82,27 @@ template <>
 struct MessageTraits<double> {
     static constexpr auto type = MessageType::Real;
 
-    static double unpack(const MessageValue& value) {
-        const auto* list = std::get_if<PropertyList>(&value);
-        return list != nullptr ? list->doubleValue() : 0.0;
-    }
+    static double unpack(const MessageValue& value);
 
-    static MessageValue pack(double value) { return PropertyList(value); }
+    static MessageValue pack(double value);
 };
 
 template <>
 struct MessageTraits<std::optional<std::string>> {
     static constexpr auto type = MessageType::Text;
 
-    static std::optional<std::string> unpack(const MessageValue& value) {
-        const auto* list = std::get_if<PropertyList>(&value);
-        const auto* text = list != nullptr ? list->getIf<std::string>() : nullptr;
-        return text != nullptr ? std::optional(*text) : std::nullopt;
-    }
+    static std::optional<std::string> unpack(const MessageValue& value);
 
-    static MessageValue pack(const std::optional<std::string>& value) {
-        return value ? MessageValue(PropertyList(*value)) : MessageValue();
-    }
+    static MessageValue pack(const std::optional<std::string>& value);
 };
 
 template <>
 struct MessageTraits<std::optional<PropertyList>> {
     static constexpr auto type = MessageType::Value;
 
-    static std::optional<PropertyList> unpack(const MessageValue& value) {
-        const auto* list = std::get_if<PropertyList>(&value);
-        return list != nullptr ? std::optional(*list) : std::nullopt;
-    }
+    static std::optional<PropertyList> unpack(const MessageValue& value);
 
-    static MessageValue pack(const std::optional<PropertyList>& value) {
-        return value ? MessageValue(*value) : MessageValue();
-    }
+    static MessageValue pack(const std::optional<PropertyList>& value);
 };
 
 template <std::derived_from<NSObject> T>
@@ -162,38 +145,18 @@ struct MessageTraits<std::optional<std::vector<std::string>>> {
     static constexpr auto type = MessageType::Value;
 
     /// What is no text is left out.
-    static std::optional<std::vector<std::string>> unpack(const MessageValue& value) {
-        const auto* list = std::get_if<PropertyList>(&value);
-        const auto* array = list != nullptr ? list->getIf<PropertyList::Array>() : nullptr;
-        if (array == nullptr)
-            return std::nullopt;
-        std::vector<std::string> texts;
-        for (const auto& element : *array) {
-            if (const auto* text = element.getIf<std::string>())
-                texts.push_back(*text);
-        }
-        return texts;
-    }
+    static std::optional<std::vector<std::string>> unpack(const MessageValue& value);
 
-    static MessageValue pack(const std::optional<std::vector<std::string>>& value) {
-        return value ? MessageValue(PropertyList(PropertyList::Array(value->begin(), value->end())))
-                     : MessageValue();
-    }
+    static MessageValue pack(const std::optional<std::vector<std::string>>& value);
 };
 
 template <>
 struct MessageTraits<std::function<void()>> {
     static constexpr auto type = MessageType::Block;
 
-    static std::function<void()> unpack(const MessageValue& value) {
-        const auto* block = std::get_if<MessageBlock>(&value);
-        return block != nullptr ? **block : std::function<void()>();
-    }
+    static std::function<void()> unpack(const MessageValue& value);
 
-    static MessageValue pack(std::function<void()> value) {
-        return value ? MessageValue(std::make_shared<const std::function<void()>>(std::move(value)))
-                     : MessageValue();
-    }
+    static MessageValue pack(std::function<void()> value);
 };
 
 /// How `method` calls one member function of `T`; use `method` instead.
@@ -228,7 +191,8 @@ private:
     template <class Parameter>
     static auto argumentAt(std::span<const MessageValue> arguments, std::size_t index) {
         using Carrier = MessageTraits<std::remove_cvref_t<Parameter>>;
-        return Carrier::unpack(index < arguments.size() ? arguments[index] : MessageValue());
+        return index < arguments.size() ? Carrier::unpack(arguments[index])
+                                        : std::remove_cvref_t<Parameter>();
     }
 };
 
