@@ -11,6 +11,15 @@ set(PRECOMPILED_PICTURES <QGuiApplication> <QImage> <QJsonArray> <QJsonObject> <
 set(PRECOMPILED_PROGRAM_TRAITS corvex_portable corvex_unoptimised GTest::gtest Qt6::Core Qt6::Gui Qt6::Widgets)
 set(PRECOMPILED_LIBRARY_TRAITS corvex_portable Qt6::Gui Qt6::Widgets)
 
+# With clang the tree's own headers too that most come to include. To g++, which compiles what one works on, they are no
+# gain.
+if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+    file(GLOB PRECOMPILED_CONTRACT CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/platform/*/*.h)
+    set(PRECOMPILED_VIEWS ${PROJECT_SOURCE_DIR}/tests/support/Phone.h)
+    list(APPEND PRECOMPILED_PROGRAM_TRAITS contract phone_support)
+    list(APPEND PRECOMPILED_LIBRARY_TRAITS contract)
+endif()
+
 # corvex_linked_libraries(RESULT TARGET): the names of all that a target is compiled with, directly or through others.
 function(corvex_linked_libraries result target)
     set(found)
@@ -63,6 +72,12 @@ function(corvex_precompiled_headers result target)
     endif()
     if("Qt6::Widgets" IN_LIST traits)
         find_package(Qt6 REQUIRED COMPONENTS Widgets)
+    endif()
+    if("contract" IN_LIST traits)
+        list(APPEND headers ${PRECOMPILED_CONTRACT})
+    endif()
+    if("phone_support" IN_LIST traits)
+        list(APPEND headers ${PRECOMPILED_VIEWS})
     endif()
     set(source ${CMAKE_BINARY_DIR}/precompiled/${kind}.cpp)
     file(CONFIGURE OUTPUT ${source} CONTENT "int main() {}\n" @ONLY)
