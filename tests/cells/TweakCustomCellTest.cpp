@@ -78,7 +78,7 @@ protected:
 };
 
 constexpr ColorComponents clear{.red = 0, .green = 0, .blue = 0, .alpha = 0};
-constexpr ColorComponents red{.red = 1, .green = 0, .blue = 0, .alpha = 1};
+constexpr ColorComponents opaqueRed{.red = 1, .green = 0, .blue = 0, .alpha = 1};
 
 } // namespace
 
@@ -174,7 +174,7 @@ TEST_F(TweakCustomCellTest, EveryButtonHasItsIconItsPageAndTheSameLooks) {
     EXPECT_EQ(buttons[2]->imageView().image(), cell->rightIconImage());
     for (const auto& button : buttons) {
         EXPECT_TRUE(button->imageView().image());
-        EXPECT_EQ(resolved(button->tintColor()), red);
+        EXPECT_EQ(resolved(button->tintColor()), opaqueRed);
         EXPECT_EQ(button->imageView().peer().contentMode(), UIViewContentMode::ScaleAspectFit);
         EXPECT_EQ(button->imageView().frame(), CGRectMake(12, 12, 56, 56));
         const auto& layer = button->layer().peer();
@@ -266,8 +266,8 @@ TEST_F(TweakCustomCellTest, AnAbsentNameIsFormattedAsThePlatformDoes) {
 
 TEST_F(TweakCustomCellTest, ColoursAreTextsOfHexadecimalDigits) {
     const auto cell = dynamicCast<TweakCustomCell>(cellFor({}));
-    EXPECT_EQ(resolved(cell->colorFromHexString("FF0000")), red);
-    EXPECT_EQ(resolved(cell->colorFromHexString("F00")), red);
+    EXPECT_EQ(resolved(cell->colorFromHexString("FF0000")), opaqueRed);
+    EXPECT_EQ(resolved(cell->colorFromHexString("F00")), opaqueRed);
     EXPECT_EQ(resolved(cell->colorFromHexString("FF000080")), (ColorComponents{1, 0, 0, 128 / 255.0}));
     EXPECT_EQ(resolved(cell->colorFromHexString("#FF0000")), clear);
     EXPECT_EQ(resolved(cell->colorFromHexString("default")), clear);
@@ -279,7 +279,7 @@ TEST_F(TweakCustomCellTest, TheDefaultFontColourFollowsTheAppearance) {
     EXPECT_EQ(resolved(color), systemColor(SystemColor::Label, Appearance::Light));
     EXPECT_EQ(DesktopColor::resolve(color, {.style = UserInterfaceStyle::Dark}),
               systemColor(SystemColor::Label, Appearance::Dark));
-    EXPECT_EQ(resolved(cell->getFontColor("F00")), red);
+    EXPECT_EQ(resolved(cell->getFontColor("F00")), opaqueRed);
     EXPECT_EQ(resolved(cell->getFontColor("Default")), clear);
     EXPECT_EQ(resolved(cell->getFontColor(std::nullopt)), clear);
 }

@@ -156,7 +156,9 @@ void LayoutProblem::wrapTexts() {
 std::optional<LinearExpression> LayoutProblem::originInHost(const UIView& view, bool horizontal) const {
     LinearExpression origin;
     for (const auto* at = &view; at != &host_; at = at->peer().superview()) {
-        const auto found = at != nullptr ? unknowns_.find(at) : unknowns_.end();
+        if (at == nullptr)
+            return std::nullopt;
+        const auto found = unknowns_.find(at);
         if (found == unknowns_.end())
             return std::nullopt;
         origin += horizontal ? found->second.left : found->second.top;
