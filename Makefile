@@ -33,8 +33,7 @@ smoke:
 	@tools/setup build smoke
 	@cmake --preset desktop >/dev/null
 	@cmake --build --preset desktop -j 2 --target corvex-settings
-	@tools/window-smoke build/desktop/bin/corvex-settings
-	@dbus-run-session -- tools/assistive-smoke build/desktop/bin/corvex-settings
+	@tools/smoke build/desktop/bin/corvex-settings
 
 device:
 	@tools/setup build device
