@@ -68,6 +68,6 @@ void HomeView::layoutSubviews() {
     const auto side = peer().traits().idiom == Idiom::Phone ? HomeIcon::phoneSide : HomeIcon::padSide;
     constexpr double nameHeight = 20;
     wallpaper_->setFrame(bounds());
-    settings_->setFrame(CGRectMake(measures.sideMargin, peer().safeAreaInsets().top + measures.topMargin,
-                                   side, side + nameHeight));
+    peer().place(*settings_, CGRectMake(measures.sideMargin, peer().safeAreaInsets().top + measures.topMargin,
+                                        side, side + nameHeight));
 }

@@ -82,7 +82,7 @@ void AlertView::layoutSubviews() {
     texts_->setFrame(CGRectMake(0, 0, AlertLayout::width, top));
     texts_->setUserInteractionEnabled(texts_->fullHeight(AlertLayout::width) > top);
     for (std::size_t place = 0; place < buttons_.size(); ++place)
-        buttons_[place]->setFrame(layout.frame(place, top));
+        peer().place(*buttons_[place], layout.frame(place, top));
 }
 
 AlertButtonView* AlertView::buttonAt(CGPoint place) const {
