@@ -319,7 +319,13 @@ bool DeviceWindow::choosePreferred(const QKeyEvent& event) {
     const auto preferred = std::ranges::find_if(actions, &Presented::Action::isPreferred);
     if (preferred == actions.end())
         return false;
-    tap({CGRectGetMidX(preferred->frame), CGRectGetMidY(preferred->frame)});
+    const auto elements = KeyboardFocus::elements();
+    const auto isButton = [&preferred](const AccessibilityElement& element) {
+        return element.isStop() && element.label == preferred->title;
+    };
+    const auto button = std::ranges::find_if(elements, isButton);
+    if (button != elements.end())
+        press(*button);
     return true;
 }
 
