@@ -3,6 +3,7 @@
 #include "Device.h"
 #include "Foundation/NSString.h"
 #include "ObjectiveC/Class.h"
+#include "SystemTexts.h"
 #include "views/UIViewPeer.h"
 
 #include <memory>
@@ -44,7 +45,7 @@ public:
 HomeView::HomeView(std::function<void()> openSettings)
     : UIView(std::make_unique<HomeViewPeer>()),
       wallpaper_(make<UIImageView>()),
-      settings_(make<HomeIcon>("Settings", resource("AppIcon.png"), std::move(openSettings))) {
+      settings_(make<HomeIcon>(systemText("Settings"), resource("AppIcon.png"), std::move(openSettings))) {
     wallpaper_->setContentMode(UIViewContentMode::ScaleAspectFill);
     wallpaper_->setClipsToBounds(true);
     addSubview(wallpaper_);
