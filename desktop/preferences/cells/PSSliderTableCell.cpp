@@ -27,7 +27,7 @@ std::string textOfNumber(double value) {
     locale.setNumberOptions(QLocale::OmitGroupSeparator);
     auto text = locale.toString(value, 'f', shownDecimals);
     const auto point = locale.decimalPoint();
-    while (text.contains(point) && text.endsWith('0'))
+    while (text.contains(point) && text.endsWith(locale.zeroDigit()))
         text.chop(1);
     if (text.endsWith(point))
         text.chop(point.size());

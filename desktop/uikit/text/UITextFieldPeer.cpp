@@ -179,7 +179,8 @@ HorizontalAlignment UITextFieldPeer::alignment() const {
 double UITextFieldPeer::textLeft() const {
     const auto room = textRect();
     const auto isEdited = std::isinf(laidWidth());
-    const auto free = isEdited && isRightToLeft() ? room.size.width - layout().size().width() : 0;
+    const auto needed = layout().size().width() + caretWidth;
+    const auto free = isEdited && isRightToLeft() ? room.size.width - needed : 0;
     return room.origin.x + std::max(0.0, free) - scrolled_;
 }
 
