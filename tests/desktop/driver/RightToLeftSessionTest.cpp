@@ -5,6 +5,9 @@
 #include <gtest/gtest.h>
 
 #include <QJsonArray>
+#include <initializer_list>
+#include <string>
+#include <utility>
 
 namespace {
 
@@ -47,7 +50,7 @@ TEST(RightToLeftSessionTest, GermanIsReadFromLeftToRight) {
     RightToLeftSession german({}, "de_DE");
     german.give({"tap Einstellungen"});
     EXPECT_EQ(german.program.done("screen").value("title"), "Einstellungen");
-    german.give({"tap Corvex"});
+    german.give({"tap Corvex", "swipe-down"});
     EXPECT_EQ(german.sidesOf("BackButtonView").first, 0);
 }
 

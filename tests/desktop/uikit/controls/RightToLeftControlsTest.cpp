@@ -16,6 +16,9 @@
 #include <QImage>
 #include <QPainter>
 #include <algorithm>
+#include <optional>
+#include <string>
+#include <utility>
 
 namespace {
 

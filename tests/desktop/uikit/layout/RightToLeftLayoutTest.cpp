@@ -4,6 +4,9 @@
 #include "layout/LayoutFixture.h"
 #include "layout/UIStackViewPeer.h"
 
+#include <optional>
+#include <vector>
+
 namespace {
 
 using enum LayoutAttribute;

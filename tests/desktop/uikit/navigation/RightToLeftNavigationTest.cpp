@@ -11,6 +11,10 @@
 
 #include <gmock/gmock.h>
 
+#include <chrono>
+#include <string>
+#include <vector>
+
 namespace {
 
 using std::chrono::milliseconds;
