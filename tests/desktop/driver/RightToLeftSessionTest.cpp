@@ -68,8 +68,40 @@ TEST(RightToLeftSessionTest, ThePanesPagesAreMirrored) {
     session.give({"tap Banner"});
     EXPECT_EQ(session.sidesOf("UISwitch").first, 32);
     EXPECT_EQ(session.sidesOf("UISlider").second, 358);
+    const auto slider = session.program.done("views UISlider").value("views").toArray()[0].toObject();
+    EXPECT_EQ(slider.value("accessibility").toObject().value("value"), "١٢٠");
+    session.give({"set kCustomTitleEnable true"});
+    EXPECT_EQ(session.sidesOf("UITextField").first, 32);
+    EXPECT_LT(session.sidesOf("UITextField").second, 330) << "where its title begins";
     session.give({"back"});
     EXPECT_EQ(session.page(), "cxRootListController");
+}
+
+TEST(RightToLeftSessionTest, TheHomeScreenAndWhatIsNewBeginAtTheRight) {
+    RightToLeftSession session;
+    const auto icon = session.program.done("tap الإعدادات").value("screenFrame").toArray();
+    EXPECT_EQ(icon[0].toDouble() + icon[2].toDouble(), 390 - 27);
+    session.program.done("settle");
+    session.give({"tap Corvex"});
+    const auto items = session.program.done("views OBBulletedListItem").value("views").toArray();
+    ASSERT_FALSE(items.isEmpty());
+    const auto item = items[0].toObject();
+    const auto parts = item.value("subviews").toArray();
+    const auto frame = [&parts](int index) { return parts[index].toObject().value("frame").toArray(); };
+    EXPECT_EQ(frame(0)[0].toDouble() + frame(0)[2].toDouble(), item.value("frame").toArray()[2].toDouble());
+    EXPECT_EQ(frame(1)[0].toDouble(), 0);
+}
+
+TEST(RightToLeftSessionTest, TheFilesHeadAndItsButtonAreMirrored) {
+    RightToLeftSession session;
+    session.program.openPane();
+    session.give({"tap Backups", "tap \"Create Backup\"", "tap \"Create Backup\" #2", "type Mine",
+                  "tap Create", "tap OK", "tap \"Show Backups\"", "tap Mine.tar", "tap Share"});
+    const auto close = session.program.done("views ShareHeaderView").value("views").toArray()[0].toObject();
+    const auto parts = close.value("subviews").toArray();
+    EXPECT_EQ(parts.last().toObject().value("frame").toArray()[0], 16);
+    const auto symbol = parts.first().toObject().value("frame").toArray();
+    EXPECT_EQ(symbol[0].toDouble() + symbol[2].toDouble(), 390 - 16);
 }
 
 TEST(RightToLeftSessionTest, AFingerFromTheRightEdgeGoesBack) {

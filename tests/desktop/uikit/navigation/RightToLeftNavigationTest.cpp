@@ -71,6 +71,18 @@ TEST_F(RightToLeftNavigationTest, APushedPageComesFromTheLeft) {
     EXPECT_EQ(screenFrame(b->view()), screen.bounds());
 }
 
+TEST_F(RightToLeftNavigationTest, ThePageThatComesCastsItsShadowToItsRightAndItsTitleComesAlong) {
+    show({a});
+    navigation->pushViewController(b, true);
+    layOut();
+    const auto& place = *b->view().peer().superview();
+    EXPECT_EQ(place.peer().subviews().front()->frame().origin.x, 390);
+    advance(milliseconds(100));
+    EXPECT_LT(shownX(content().titleView()), (390 - content().titleView().bounds().size.width) / 2 - 20);
+    settle();
+    EXPECT_NEAR(shownX(content().titleView()), (390 - content().titleView().bounds().size.width) / 2, 1);
+}
+
 TEST_F(RightToLeftNavigationTest, ASwipeFromTheRightEdgeGoesBack) {
     show({a, b});
     drag({5, 400}, {275, 400}, 60);
