@@ -294,6 +294,7 @@ TEST_F(UIAlertControllerTest, veryManyButtonsScrollBelowTheTextsOnceTheyHaveNoRo
     settle();
     EXPECT_THAT(takeLog(), ElementsAre("presented Reset Settings"))
         << "a finger that scrolls chooses nothing";
+    ASSERT_NE(top(), nullptr);
     for (auto times = 0; times < 8; ++times) {
         drag({195, 700}, {195, 300});
         up({195, 300});

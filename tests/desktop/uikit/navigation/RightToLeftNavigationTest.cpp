@@ -91,6 +91,9 @@ TEST_F(RightToLeftNavigationTest, ASwipeFromTheRightEdgeGoesBack) {
     EXPECT_THAT(titles(), ElementsAre("A", "B")) << "the left edge is not the leading one";
     drag({385, 400}, {115, 400}, 60);
     EXPECT_NEAR(shownX(b->view()), -260, 1e-6);
+    const auto& backgrounds = peer().bar().subviews();
+    EXPECT_NEAR(backgrounds[0]->frame().origin.x, 0, 1e-6) << "of the page that leaves to the left";
+    EXPECT_NEAR(backgrounds[1]->frame().origin.x, 130, 1e-6);
     advance(milliseconds(200));
     up({115, 400});
     settle();
