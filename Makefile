@@ -5,7 +5,7 @@ help:
 	@echo "make run       build the program and open its window (without a display: a walk with pictures in out/)"
 	@echo "make test      build, and run all tests: the desktop's, then the device's"
 	@echo "make test-sanitized  the desktop's tests under the address and undefined-behaviour sanitizers"
-	@echo "make smoke     handle the window from outside, on a virtual display, as a person does and as assistive programs do"
+	@echo "make smoke     handle the window from outside, on a virtual display, as a person does, by keyboard alone, and as assistive programs do"
 	@echo "make device    build the bundle for the device, in build/device/corvexPrefs.bundle"
 	@echo "make package   build the package that installs it, build/device/corvexprefs_VERSION_iphoneos-arm64.deb"
 	@echo "make device-test  the device's tests alone: other programs read both; its half, and the bundle itself, run over another runtime"
@@ -33,8 +33,7 @@ smoke:
 	@tools/setup build smoke
 	@cmake --preset desktop >/dev/null
 	@cmake --build --preset desktop -j 2 --target corvex-settings
-	@tools/window-smoke build/desktop/bin/corvex-settings
-	@dbus-run-session -- tools/assistive-smoke build/desktop/bin/corvex-settings
+	@tools/smoke build/desktop/bin/corvex-settings
 
 device:
 	@tools/setup build device

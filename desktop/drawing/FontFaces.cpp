@@ -10,6 +10,7 @@ namespace {
 
 constexpr auto textFamily = "Inter";
 constexpr auto displayFamily = "Inter Display";
+constexpr auto otherScripts = "DejaVu Sans"; ///< for Arabic and Hebrew, which those lack
 constexpr auto package = "fonts-inter";
 
 // With these the stand-ins' capitals are as high as the platform's.
@@ -61,7 +62,7 @@ std::expected<void, std::string> FontFaces::check(const QStringList& families) {
 }
 
 QFont FontFaces::font(const FontStyle& style) {
-    QFont font(QLatin1String(isDisplay(style) ? displayFamily : textFamily));
+    QFont font({QLatin1String(isDisplay(style) ? displayFamily : textFamily), QLatin1String(otherScripts)});
     font.setPixelSize(pixelSize);
     font.setWeight(static_cast<QFont::Weight>(style.weight));
     font.setLetterSpacing(QFont::AbsoluteSpacing, trackingOf(style) / unit(style));

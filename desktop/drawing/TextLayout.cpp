@@ -96,6 +96,14 @@ QRect pixelsIn(const QPainter& painter, const QRectF& rect) {
     return (painter.deviceTransform().mapRect(rect) & device).toAlignedRect();
 }
 
+/// As Arabic has.
+bool hasJoinedLetters(const QString& text) {
+    return std::ranges::any_of(text, [](QChar character) {
+        const auto type = character.joiningType();
+        return type == QChar::Joining_Dual || type == QChar::Joining_Right;
+    });
+}
+
 QString withoutTrailingSpaces(QString text) {
     while (!text.isEmpty() && text.back().isSpace())
         text.chop(1);
@@ -165,7 +173,10 @@ QString TextLayout::beginningWithRoomForEllipsis(const QString& text) const {
 }
 
 std::shared_ptr<QTextLayout> TextLayout::layoutOf(const QString& text) const {
-    return std::make_shared<QTextLayout>(text, FontFaces::font(style_));
+    auto font = FontFaces::font(style_);
+    if (hasJoinedLetters(text))
+        font.setLetterSpacing(QFont::AbsoluteSpacing, 0); // which would part them
+    return std::make_shared<QTextLayout>(text, font);
 }
 
 QSizeF TextLayout::size() const {

@@ -104,8 +104,8 @@ void ColorPickerView::layoutSubviews() {
     UIScrollView::layoutSubviews();
     const auto width = bounds().size.width - 2 * margin;
     auto y = margin;
-    swatch_->setFrame(CGRectMake(margin, y, swatchWidth, rowHeight));
-    field_->setFrame(CGRectMake(margin + swatchWidth + gap, y, width - swatchWidth - gap, rowHeight));
+    peer().place(*swatch_, CGRectMake(margin, y, swatchWidth, rowHeight));
+    peer().place(*field_, CGRectMake(margin + swatchWidth + gap, y, width - swatchWidth - gap, rowHeight));
     y += rowHeight + margin;
     grid_->setFrame(CGRectMake(margin, y, width, cellHeight * ColorGridPeer::lines));
     y += cellHeight * ColorGridPeer::lines + margin;
@@ -117,8 +117,8 @@ void ColorPickerView::layoutSubviews() {
 }
 
 void ColorPickerView::layOutPart(const Part& part, double y) {
-    const auto left = margin + labelWidth;
-    part.label->setFrame(CGRectMake(margin, y, labelWidth, rowHeight));
-    part.slider->setFrame(CGRectMake(left, y + (rowHeight - UISliderPeer::height) / 2,
-                                     bounds().size.width - left - margin, UISliderPeer::height));
+    const auto start = margin + labelWidth;
+    peer().place(*part.label, CGRectMake(margin, y, labelWidth, rowHeight));
+    peer().place(*part.slider, CGRectMake(start, y + (rowHeight - UISliderPeer::height) / 2,
+                                          bounds().size.width - start - margin, UISliderPeer::height));
 }

@@ -17,7 +17,7 @@ constexpr double imageWidth = 40;
 constexpr double imageHeight = 32;
 constexpr double gapAfterImage = 16;
 constexpr double gapBelowTitle = 2;
-constexpr double textLeft = imageWidth + gapAfterImage;
+constexpr double textStart = imageWidth + gapAfterImage;
 constexpr FontStyle titleStyle{.size = 17, .weight = FontWeight::Semibold};
 constexpr FontStyle descriptionStyle{.size = 15};
 
@@ -62,8 +62,8 @@ bool OBBulletedListItem::isTappable() const {
 }
 
 double OBBulletedListItem::textHeight(double width) const {
-    const auto title = heightOf(*title_, width - textLeft);
-    return description_ ? title + gapBelowTitle + heightOf(*description_, width - textLeft) : title;
+    const auto title = heightOf(*title_, width - textStart);
+    return description_ ? title + gapBelowTitle + heightOf(*description_, width - textStart) : title;
 }
 
 double OBBulletedListItem::heightForWidth(double width) const {
@@ -73,11 +73,12 @@ double OBBulletedListItem::heightForWidth(double width) const {
 void OBBulletedListItem::layoutSubviews() {
     UIView::layoutSubviews();
     const auto& size = bounds().size;
-    image_->setFrame(CGRectMake(0, (size.height - imageHeight) / 2, imageWidth, imageHeight));
-    const auto titleHeight = heightOf(*title_, size.width - textLeft);
+    peer().place(*image_, CGRectMake(0, (size.height - imageHeight) / 2, imageWidth, imageHeight));
+    const auto titleHeight = heightOf(*title_, size.width - textStart);
     const auto top = std::max(0.0, (size.height - textHeight(size.width)) / 2);
-    title_->setFrame(CGRectMake(textLeft, top, size.width - textLeft, titleHeight));
+    peer().place(*title_, CGRectMake(textStart, top, size.width - textStart, titleHeight));
     if (description_)
-        description_->setFrame(CGRectMake(textLeft, top + titleHeight + gapBelowTitle, size.width - textLeft,
-                                          heightOf(*description_, size.width - textLeft)));
+        peer().place(*description_,
+                     CGRectMake(textStart, top + titleHeight + gapBelowTitle, size.width - textStart,
+                                heightOf(*description_, size.width - textStart)));
 }

@@ -4,6 +4,7 @@
 #include "Device.h"
 #include "Foundation/Format.h"
 #include "ObjectiveC/Class.h"
+#include "SystemTexts.h"
 #include "controllers/UIViewControllerPeer.h"
 #include "screen/Screen.h"
 #include "texts/LanguageNames.h"
@@ -21,11 +22,12 @@ std::string numberText(double number) {
 }
 
 std::string kind() {
-    return Screen::current().traits().idiom == Idiom::Phone ? "Phone on a desktop" : "Tablet on a desktop";
+    return systemText(Screen::current().traits().idiom == Idiom::Phone ? "Phone on a desktop"
+                                                                       : "Tablet on a desktop");
 }
 
 std::string appearance() {
-    return Screen::current().traits().style == UserInterfaceStyle::Light ? "Light" : "Dark";
+    return systemText(Screen::current().traits().style == UserInterfaceStyle::Light ? "Light" : "Dark");
 }
 
 std::string screen() {
@@ -43,7 +45,7 @@ std::string timeZone() {
 }
 
 struct Row {
-    const char* label; ///< "" opens a group
+    const char* label; ///< in English; "" opens a group
     std::string (*value)();
 };
 
@@ -54,7 +56,7 @@ constexpr std::array rows{
 } // namespace
 
 AboutPage::AboutPage() {
-    peer().setTitle("About");
+    peer().setTitle(systemText("About"));
 }
 
 PSListController::Specifiers AboutPage::specifiers() {
@@ -62,7 +64,7 @@ PSListController::Specifiers AboutPage::specifiers() {
         return cachedSpecifiers();
     Specifiers specifiers;
     for (const auto& row : rows) {
-        const std::string label = row.label;
+        const auto label = systemText(row.label);
         specifiers.emplace_back(make<DesktopSpecifier>(
             label.empty() ? PropertyList::Dictionary{{"cell", "PSGroupCell"}}
                           : PropertyList::Dictionary{{"cell", "PSTitleValueCell"}, {"label", label}},
@@ -75,7 +77,7 @@ PSListController::Specifiers AboutPage::specifiers() {
 std::optional<PropertyList> AboutPage::readPreferenceValue(PSSpecifier& specifier) {
     const auto label = specifier.propertyForKey("label");
     for (const auto& row : rows) {
-        if (row.value != nullptr && label == PropertyList(row.label))
+        if (row.value != nullptr && label == PropertyList(systemText(row.label)))
             return row.value();
     }
     return std::nullopt;

@@ -3,6 +3,7 @@
 #include "Device.h"
 #include "Foundation/NSString.h"
 #include "ObjectiveC/Class.h"
+#include "SystemTexts.h"
 #include "views/UIViewPeer.h"
 
 #include <memory>
@@ -44,7 +45,7 @@ public:
 HomeView::HomeView(std::function<void()> openSettings)
     : UIView(std::make_unique<HomeViewPeer>()),
       wallpaper_(make<UIImageView>()),
-      settings_(make<HomeIcon>("Settings", resource("AppIcon.png"), std::move(openSettings))) {
+      settings_(make<HomeIcon>(systemText("Settings"), resource("AppIcon.png"), std::move(openSettings))) {
     wallpaper_->setContentMode(UIViewContentMode::ScaleAspectFill);
     wallpaper_->setClipsToBounds(true);
     addSubview(wallpaper_);
@@ -68,6 +69,6 @@ void HomeView::layoutSubviews() {
     const auto side = peer().traits().idiom == Idiom::Phone ? HomeIcon::phoneSide : HomeIcon::padSide;
     constexpr double nameHeight = 20;
     wallpaper_->setFrame(bounds());
-    settings_->setFrame(CGRectMake(measures.sideMargin, peer().safeAreaInsets().top + measures.topMargin,
-                                   side, side + nameHeight));
+    peer().place(*settings_, CGRectMake(measures.sideMargin, peer().safeAreaInsets().top + measures.topMargin,
+                                        side, side + nameHeight));
 }

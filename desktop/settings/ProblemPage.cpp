@@ -1,9 +1,12 @@
 #include "ProblemPage.h"
 
+#include "Foundation/Format.h"
 #include "ObjectiveC/Class.h"
 #include "ProblemView.h"
+#include "SystemTexts.h"
 #include "controllers/UIViewControllerPeer.h"
 
+#include <array>
 #include <memory>
 #include <utility>
 
@@ -28,6 +31,7 @@ private:
 } // namespace
 
 ProblemPage::ProblemPage(const std::string& label, const std::string& reason)
-    : UIViewController(std::make_unique<ProblemPagePeer>("Cannot Open “" + label + "”", reason)) {
+    : UIViewController(std::make_unique<ProblemPagePeer>(
+          replacePlaceholders(systemText("Cannot Open “%@”"), std::array{label}), reason)) {
     peer().setTitle(label);
 }

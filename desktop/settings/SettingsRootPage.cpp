@@ -5,6 +5,7 @@
 #include "Foundation/NSString.h"
 #include "ObjectiveC/Class.h"
 #include "PSListControllerPeer.h"
+#include "SystemTexts.h"
 #include "screen/Screen.h"
 
 #include <algorithm>
@@ -13,7 +14,6 @@
 
 namespace {
 
-constexpr auto title = "Settings";
 constexpr double iconScale = 3; ///< the pixels per point that icons are picked for
 
 const Class classObject = Class::define<SettingsRootPage, PSListController>(
@@ -32,13 +32,13 @@ Ref<DesktopSpecifier> makeGroup() {
 } // namespace
 
 SettingsRootPage::SettingsRootPage() {
-    peer().setTitle(title);
+    peer().setTitle(systemText("Settings"));
 }
 
 PSListController::Specifiers SettingsRootPage::specifiers() {
     if (!cachedSpecifiers().empty())
         return cachedSpecifiers();
-    const auto about = makeRow({{"label", "About"}, {"id", aboutId}, {"action", "openAbout"}},
+    const auto about = makeRow({{"label", systemText("About")}, {"id", aboutId}, {"action", "openAbout"}},
                                iconIn(Device::current().mainBundle()->path(), "About.png"));
     Specifiers specifiers{makeGroup(), about};
     entries_ = EntryList::read();

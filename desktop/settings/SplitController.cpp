@@ -31,10 +31,10 @@ public:
         UIView::layoutSubviews();
         const auto& size = bounds().size;
         const auto line = 1 / peer().traits().displayScale;
-        const auto secondaryLeft = SplitController::primaryWidth + line;
-        primary_->setFrame(CGRectMake(0, 0, SplitController::primaryWidth, size.height));
-        divider_->setFrame(CGRectMake(SplitController::primaryWidth, 0, line, size.height));
-        secondary_->setFrame(CGRectMake(secondaryLeft, 0, size.width - secondaryLeft, size.height));
+        const auto secondaryStart = SplitController::primaryWidth + line;
+        peer().place(*primary_, CGRectMake(0, 0, SplitController::primaryWidth, size.height));
+        peer().place(*divider_, CGRectMake(SplitController::primaryWidth, 0, line, size.height));
+        peer().place(*secondary_, CGRectMake(secondaryStart, 0, size.width - secondaryStart, size.height));
     }
 
 private:

@@ -63,6 +63,15 @@ bool isReturn(const QKeyEvent& event) {
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
 
+/// Along a line, as it is read.
+bool leadsOn(const QKeyEvent& event) {
+    return event.key() == (Screen::current().traits().rightToLeft ? Qt::Key_Left : Qt::Key_Right);
+}
+
+bool leadsBack(const QKeyEvent& event) {
+    return event.key() == (Screen::current().traits().rightToLeft ? Qt::Key_Right : Qt::Key_Left);
+}
+
 bool hasKeyboard(const UIView& view) {
     const auto* const field = peerIf<TextFieldContent>(view);
     return field != nullptr && field->fieldIsFirstResponder();
@@ -275,8 +284,8 @@ void DeviceWindow::moveFocus(bool forward) {
 }
 
 bool DeviceWindow::adjust(const QKeyEvent& event) {
-    const auto up = event.key() == Qt::Key_Right || event.key() == Qt::Key_Up;
-    const auto down = event.key() == Qt::Key_Left || event.key() == Qt::Key_Down;
+    const auto up = leadsOn(event) || event.key() == Qt::Key_Up;
+    const auto down = leadsBack(event) || event.key() == Qt::Key_Down;
     const auto element = focus_.element();
     return element && up != down && adjust(*element, up);
 }
@@ -292,8 +301,8 @@ bool DeviceWindow::adjust(const AccessibilityElement& element, bool up) {
 
 bool DeviceWindow::moveInChoices(const QKeyEvent& event) {
     const auto* const presented = screen_.presentations().top();
-    const auto back = event.key() == Qt::Key_Up || event.key() == Qt::Key_Left;
-    const auto forward = event.key() == Qt::Key_Down || event.key() == Qt::Key_Right;
+    const auto back = event.key() == Qt::Key_Up || leadsBack(event);
+    const auto forward = event.key() == Qt::Key_Down || leadsOn(event);
     const auto isChoice =
         presented != nullptr && (presented->kind() == "menu" || presented->kind() == "alert");
     if (!isChoice || back == forward)
@@ -310,7 +319,13 @@ bool DeviceWindow::choosePreferred(const QKeyEvent& event) {
     const auto preferred = std::ranges::find_if(actions, &Presented::Action::isPreferred);
     if (preferred == actions.end())
         return false;
-    tap({CGRectGetMidX(preferred->frame), CGRectGetMidY(preferred->frame)});
+    const auto elements = KeyboardFocus::elements();
+    const auto isButton = [&preferred](const AccessibilityElement& element) {
+        return element.isStop() && element.label == preferred->title;
+    };
+    const auto button = std::ranges::find_if(elements, isButton);
+    if (button != elements.end())
+        press(*button);
     return true;
 }
 

@@ -2,7 +2,9 @@
 
 #include "views/UIViewPeer.h"
 
-Phone::Phone(const Screen::Options& options) : screen(options) {
+Phone::Phone(const Screen::Options& options, const TestDevice::Settings& settings)
+    : device(settings),
+      screen(options) {
     screen.addWindow(window);
 }
 

@@ -13,7 +13,7 @@
 /// another. What the tests of all that is shown and touched begin with.
 class Phone : public testing::Test {
 protected:
-    explicit Phone(const Screen::Options& options = {});
+    explicit Phone(const Screen::Options& options = {}, const TestDevice::Settings& settings = {});
 
     /// The finger and the window end while the test still has what they tell of it to.
     void TearDown() override;

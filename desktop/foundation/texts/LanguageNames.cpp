@@ -56,6 +56,10 @@ std::vector<std::string> languageNames(const std::string& locale) {
     return names;
 }
 
+bool isReadFromRightToLeft(const std::string& locale) {
+    return icu::Locale(locale.c_str()).isRightToLeft() != 0;
+}
+
 std::string nameOfLocale(const std::string& locale) {
     const icu::Locale named(locale.c_str());
     icu::UnicodeString name;

@@ -9,5 +9,8 @@
 /// language.
 [[nodiscard]] std::vector<std::string> languageNames(const std::string& locale);
 
+/// Whether a locale's language is read from right to left, as Arabic is.
+[[nodiscard]] bool isReadFromRightToLeft(const std::string& locale);
+
 /// What a locale is called in its own language: "Deutsch (Deutschland)".
 [[nodiscard]] std::string nameOfLocale(const std::string& locale);

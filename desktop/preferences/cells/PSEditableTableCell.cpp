@@ -109,15 +109,16 @@ void PSEditableTableCellPeer::write() {
 
 void PSEditableTableCellPeer::layoutSubviews() {
     PSControlTableCellPeer::layoutSubviews();
-    const auto room = textLabel().frame();
+    const auto& content = contentView().peer();
+    const auto room = content.fromLeading(textLabel().frame());
     constexpr auto unlimited = std::numeric_limits<double>::max();
     const auto wanted = textLabel().peer().sizeThatFits({unlimited, room.size.height}).width;
     const auto most = std::max(0.0, room.size.width - titleGap - leastField);
     const auto title = std::min(wanted, most);
     const auto before = title > 0 ? title + titleGap : 0;
-    textLabel().setFrame(CGRectMake(room.origin.x, room.origin.y, title, room.size.height));
-    field_->setFrame(
-        CGRectMake(room.origin.x + before, 0, std::max(0.0, room.size.width - before), room.size.height));
+    content.place(textLabel(), CGRectMake(room.origin.x, room.origin.y, title, room.size.height));
+    content.place(*field_, CGRectMake(room.origin.x + before, 0, std::max(0.0, room.size.width - before),
+                                      room.size.height));
 }
 
 UIView* PSEditableTableCellPeer::hitTest(CGPoint point) {

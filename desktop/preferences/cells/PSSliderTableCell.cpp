@@ -27,7 +27,7 @@ std::string textOfNumber(double value) {
     locale.setNumberOptions(QLocale::OmitGroupSeparator);
     auto text = locale.toString(value, 'f', shownDecimals);
     const auto point = locale.decimalPoint();
-    while (text.contains(point) && text.endsWith('0'))
+    while (text.contains(point) && text.endsWith(locale.zeroDigit()))
         text.chop(1);
     if (text.endsWith(point))
         text.chop(point.size());
@@ -69,7 +69,6 @@ void PSSliderTableCellPeer::viewMade() {
     slider_ = make<UISlider>();
     valueLabel_ = make<UILabel>();
     valueLabel_->setTextColor(DesktopColor::system(SystemColor::SecondaryLabel));
-    valueLabel_->setTextAlignment(NSTextAlignment::Right);
     contentView().addSubview(slider_);
     contentView().addSubview(valueLabel_);
     sliderPeer().addHandler(UIControlEvents::ValueChanged, [this] { write(); });
@@ -132,14 +131,16 @@ double PSSliderTableCellPeer::valueWidth() const {
 
 void PSSliderTableCellPeer::layoutSubviews() {
     PSControlTableCellPeer::layoutSubviews();
-    auto room = textLabel().frame();
+    const auto& content = contentView().peer();
+    auto room = content.fromLeading(textLabel().frame());
     const auto number = valueWidth();
     if (number > 0) {
-        valueLabel_->setFrame(CGRectMake(CGRectGetMaxX(room) - number, 0, number, room.size.height));
+        valueLabel_->setTextAlignment(isRightToLeft() ? NSTextAlignment::Left : NSTextAlignment::Right);
+        content.place(*valueLabel_, CGRectMake(CGRectGetMaxX(room) - number, 0, number, room.size.height));
         room.size.width = std::max(0.0, room.size.width - number - valueGap);
     }
-    slider_->setFrame(CGRectMake(room.origin.x, CGRectGetMidY(room) - UISliderPeer::height / 2,
-                                 room.size.width, UISliderPeer::height));
+    content.place(*slider_, CGRectMake(room.origin.x, CGRectGetMidY(room) - UISliderPeer::height / 2,
+                                       room.size.width, UISliderPeer::height));
 }
 
 } // namespace

@@ -42,8 +42,9 @@ AccessibilityElement elementFor(UIView& view, const std::string& label, const Ac
 /// line.
 std::tuple<long, double, double> readingPlace(const AccessibilityElement& element) {
     constexpr double lineHeight = 20; // points
-    return {std::lround(CGRectGetMidY(element.frame) / lineHeight), element.frame.origin.x,
-            element.frame.origin.y};
+    const auto isRightToLeft = Screen::current().traits().rightToLeft;
+    return {std::lround(CGRectGetMidY(element.frame) / lineHeight),
+            isRightToLeft ? -CGRectGetMaxX(element.frame) : element.frame.origin.x, element.frame.origin.y};
 }
 
 bool isPlain(const AccessibilityElement& element) {

@@ -73,7 +73,7 @@ void AlertButtonView::layoutSubviews() {
     const auto inside = CGRectMake(0, line, size.width, size.height - line);
     highlight_->setFrame(inside);
     lineAbove_->setFrame(CGRectMake(0, 0, size.width, line));
-    lineBeside_->setFrame(CGRectMake(0, line, line, size.height - line));
+    peer().place(*lineBeside_, CGRectMake(0, line, line, size.height - line));
     label_->setFrame(CGRectMake(AlertLayout::buttonMargin, line, size.width - 2 * AlertLayout::buttonMargin,
                                 size.height - line));
 }

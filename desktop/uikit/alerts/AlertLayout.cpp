@@ -25,9 +25,9 @@ double AlertLayout::height() const {
     return rowHeight_ * static_cast<double>(isBeside_ ? 1 : count_);
 }
 
-CGRect AlertLayout::frame(std::size_t place, double top) const {
+CGRect AlertLayout::frame(std::size_t place) const {
     const auto number = static_cast<double>(place);
     if (isBeside_)
-        return CGRectMake(number * width / 2, top, width / 2, rowHeight_);
-    return CGRectMake(0, top + number * rowHeight_, width, rowHeight_);
+        return CGRectMake(number * width / 2, 0, width / 2, rowHeight_);
+    return CGRectMake(0, number * rowHeight_, width, rowHeight_);
 }

@@ -27,8 +27,8 @@ public:
     /// Of all buttons, each with the line above it.
     [[nodiscard]] double height() const;
 
-    /// Of the button shown at that place, with the line above it. \param top of all buttons
-    [[nodiscard]] CGRect frame(std::size_t place, double top) const;
+    /// Of the button shown at that place, with the line above it, from the upper leading corner of all.
+    [[nodiscard]] CGRect frame(std::size_t place) const;
 
 private:
     std::size_t count_;

@@ -3,7 +3,7 @@
 #include "CALayerPeer.h"
 #include "DesktopColor.h"
 #include "ObjectiveC/Class.h"
-#include "views/UIViewPeer.h"
+#include "scrolling/UIScrollViewPeer.h"
 
 #include <algorithm>
 #include <utility>
@@ -17,10 +17,11 @@ constexpr Backdrop material{.blurRadius = 20, .saturation = 1.8};
 } // namespace
 
 AlertView::AlertView(const std::string& title, const std::optional<std::string>& message, Chosen chosen)
-    : chosen_(std::move(chosen)),
-      blur_(make<UIView>()),
+    : blur_(make<UIView>()),
       tint_(make<UIView>()),
-      texts_(make<AlertTextView>(title, message)) {
+      texts_(make<AlertTextView>(title, message)),
+      scroll_(make<UIScrollView>()),
+      choices_(make<AlertChoicesView>(std::move(chosen))) {
     peer().setAccessibility({}); // its buttons are elements, it is none itself
     setClipsToBounds(true);
     layer().setCornerRadius(cornerRadius);
@@ -32,88 +33,70 @@ AlertView::AlertView(const std::string& title, const std::optional<std::string>&
         addSubview(view);
     }
     addSubview(texts_);
+    addSubview(scroll_);
+    scroll_->addSubview(choices_);
 }
 
 void AlertView::setActions(const std::vector<Ref<DesktopAlertAction>>& actions) {
-    for (const auto& button : std::exchange(added_, {}))
-        button->peer().removeFromSuperview();
-    for (const auto& action : actions) {
-        added_.push_back(make<AlertButtonView>(action));
-        addSubview(added_.back());
-    }
-    sortButtons();
-}
-
-AlertLayout AlertView::buttonLayout() const {
-    std::vector<double> widths;
-    widths.reserve(added_.size());
-    for (const auto& button : added_)
-        widths.push_back(button->titleWidth());
-    return {widths, 1 / peer().traits().displayScale};
-}
-
-void AlertView::sortButtons() {
-    std::vector<UIAlertActionStyle> styles;
-    styles.reserve(added_.size());
-    for (const auto& button : added_)
-        styles.push_back(button->action()->style());
-    const auto layout = buttonLayout();
-    const auto hasTexts = texts_->fullHeight(AlertLayout::width) > 0;
-    buttons_.clear();
-    for (const auto index : layout.order(styles)) {
-        const auto isFirst = buttons_.empty();
-        const auto& button = added_[index];
-        button->setHasLines(hasTexts || (!layout.isBeside() && !isFirst), layout.isBeside() && !isFirst);
-        buttons_.push_back(button);
-    }
+    choices_->setActions(actions);
+    peer().setNeedsLayout();
 }
 
 double AlertView::fullHeight() const {
-    return texts_->fullHeight(AlertLayout::width) + buttonLayout().height();
+    return texts_->fullHeight(AlertLayout::width) + choices_->fullHeight();
+}
+
+double AlertView::choicesHeight(double height) const {
+    const auto left = height - texts_->fullHeight(AlertLayout::width);
+    return std::min(choices_->fullHeight(), std::max(left, height / 2));
 }
 
 void AlertView::layoutSubviews() {
     UIControl::layoutSubviews();
-    sortButtons(); // the widths of titles are whole pixels, whose size may have changed
-    const auto layout = buttonLayout();
-    const auto top = std::max(0.0, bounds().size.height - layout.height());
+    const auto height = bounds().size.height;
+    const auto choices = choicesHeight(height);
+    const auto texts = texts_->fullHeight(AlertLayout::width);
     blur_->setFrame(bounds());
     tint_->setFrame(bounds());
-    texts_->setFrame(CGRectMake(0, 0, AlertLayout::width, top));
-    texts_->setUserInteractionEnabled(texts_->fullHeight(AlertLayout::width) > top);
-    for (std::size_t place = 0; place < buttons_.size(); ++place)
-        buttons_[place]->setFrame(layout.frame(place, top));
+    texts_->setFrame(CGRectMake(0, 0, AlertLayout::width, height - choices));
+    texts_->setUserInteractionEnabled(texts > height - choices);
+    scroll_->setFrame(CGRectMake(0, height - choices, AlertLayout::width, choices));
+    scroll_->setUserInteractionEnabled(choices_->fullHeight() > choices);
+    choices_->setBelowTexts(texts > 0);
+    choices_->setFrame(CGRectMake(0, 0, AlertLayout::width, choices_->fullHeight()));
+    peerOf<UIScrollViewPeer>(*scroll_).setContentSize(choices_->bounds().size);
 }
 
-AlertButtonView* AlertView::buttonAt(CGPoint place) const {
-    const auto found = std::ranges::find_if(
-        buttons_, [place](const auto& button) { return CGRectContainsPoint(button->frame(), place); });
-    return found != buttons_.end() ? found->get() : nullptr;
+std::optional<CGPoint> AlertView::placeAmongChoices(const UITouch& touch) const {
+    if (!CGRectContainsPoint(scroll_->frame(), touch.locationInView(*this)))
+        return std::nullopt;
+    return touch.locationInView(*choices_);
 }
 
-void AlertView::highlight(const AlertButtonView* touched) {
-    for (const auto& button : buttons_)
-        button->setHighlighted(&*button == touched);
+void AlertView::follow(const UITouch& touch) {
+    if (const auto place = placeAmongChoices(touch))
+        choices_->fingerMoved(*place);
+    else
+        choices_->fingerGone();
 }
 
 bool AlertView::beginTrackingWithTouch(UITouch& touch, UIEvent* event) {
-    highlight(buttonAt(touch.locationInView(*this)));
+    follow(touch);
     return UIControl::beginTrackingWithTouch(touch, event);
 }
 
 bool AlertView::continueTrackingWithTouch(UITouch& touch, UIEvent* event) {
-    highlight(buttonAt(touch.locationInView(*this)));
+    follow(touch);
     return UIControl::continueTrackingWithTouch(touch, event);
 }
 
 void AlertView::endTrackingWithTouch(UITouch& touch, UIEvent* event) {
     UIControl::endTrackingWithTouch(touch, event);
-    const auto* const touched = buttonAt(touch.locationInView(*this));
-    if (touched != nullptr)
-        chosen_(touched->action());
+    if (const auto place = placeAmongChoices(touch))
+        choices_->fingerLifted(*place);
 }
 
 void AlertView::cancelTrackingWithEvent(UIEvent* event) {
     UIControl::cancelTrackingWithEvent(event);
-    highlight(nullptr);
+    choices_->fingerGone();
 }

@@ -1,20 +1,19 @@
 #pragma once
 
 #include "UIKit/UIControl.h"
-#include "alerts/AlertButtonView.h"
-#include "alerts/AlertLayout.h"
+#include "UIKit/UIScrollView.h"
+#include "alerts/AlertChoicesView.h"
 #include "alerts/AlertTextView.h"
 
-#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
 
-/// The panel of an alert: its texts, its buttons, and the finger that moves over them, wherever it came down.
-/// The view of an alert controller, made by it.
+/// The panel of an alert: its texts, and its buttons, which a finger chooses from wherever it came down.
+/// Where there is no room for all, both scroll. The view of an alert controller, made by it.
 class AlertView final : public UIControl {
 public:
-    using Chosen = std::function<void(const Ref<DesktopAlertAction>& action)>;
+    using Chosen = AlertChoicesView::Chosen;
 
     static constexpr double cornerRadius = 14;
 
@@ -25,9 +24,9 @@ public:
     void setActions(const std::vector<Ref<DesktopAlertAction>>& actions);
 
     /// As they are shown.
-    [[nodiscard]] const std::vector<Ref<AlertButtonView>>& buttons() const { return buttons_; }
+    [[nodiscard]] const std::vector<Ref<AlertButtonView>>& buttons() const { return choices_->buttons(); }
 
-    /// The height with all of the texts.
+    /// The height with all of the texts and buttons.
     [[nodiscard]] double fullHeight() const;
 
     // UIControl:
@@ -40,16 +39,15 @@ public:
     void layoutSubviews() override;
 
 private:
-    [[nodiscard]] AlertLayout buttonLayout() const;
-    void sortButtons();
-    /// Null when there is none.
-    [[nodiscard]] AlertButtonView* buttonAt(CGPoint place) const;
-    void highlight(const AlertButtonView* touched);
+    /// Of the buttons, in an alert of that height: all that is left, and half of it where that is less.
+    [[nodiscard]] double choicesHeight(double height) const;
+    /// In the buttons' points; nothing where none of them is seen.
+    [[nodiscard]] std::optional<CGPoint> placeAmongChoices(const UITouch& touch) const;
+    void follow(const UITouch& touch);
 
-    Chosen chosen_;
     Ref<UIView> blur_;
     Ref<UIView> tint_;
     Ref<AlertTextView> texts_;
-    std::vector<Ref<AlertButtonView>> added_; ///< in that order
-    std::vector<Ref<AlertButtonView>> buttons_;
+    Ref<UIScrollView> scroll_; ///< of the buttons
+    Ref<AlertChoicesView> choices_;
 };

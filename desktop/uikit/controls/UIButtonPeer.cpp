@@ -148,9 +148,11 @@ void UIButtonPeer::layoutSubviews() {
     auto title = titleSize();
     title.width = std::clamp(title.width, 0.0, std::max(0.0, room.size.width - image.width));
     const auto left = room.origin.x + (room.size.width - image.width - title.width) / 2;
-    imageView_->setFrame(imageFrame(room, left));
+    const auto imageLeft = isRightToLeft() ? left + title.width : left;
+    const auto titleLeft = isRightToLeft() ? left : left + image.width;
+    imageView_->setFrame(imageFrame(room, imageLeft));
     titleLabel_->setFrame(
-        CGRectMake(left + image.width, CGRectGetMidY(room) - title.height / 2, title.width, title.height));
+        CGRectMake(titleLeft, CGRectGetMidY(room) - title.height / 2, title.width, title.height));
 }
 
 void UIButtonPeer::tintColorDidChange() {

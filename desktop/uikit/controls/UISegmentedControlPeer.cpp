@@ -123,7 +123,7 @@ CGRect UISegmentedControlPeer::segmentFrame(std::size_t index) const {
 }
 
 std::size_t UISegmentedControlPeer::segmentAt(const DesktopTouch& touch) const {
-    const auto part = touch.locationInView(view()).x / std::max(1.0, view().bounds().size.width);
+    const auto part = fromLeading(touch.locationInView(view())).x / std::max(1.0, view().bounds().size.width);
     const auto count = static_cast<double>(labels_.size());
     return static_cast<std::size_t>(std::clamp(part * count, 0.0, std::max(0.0, count - 1)));
 }
@@ -134,13 +134,14 @@ void UISegmentedControlPeer::place() {
         auto frame = segmentFrame(index);
         frame.origin.x += textMargin;
         frame.size.width = std::max(0.0, frame.size.width - 2 * textMargin);
-        labels_[index]->setFrame(frame);
+        UIViewPeer::place(*labels_[index], frame);
     }
     for (std::size_t index = 0; index < dividers_.size(); ++index) {
         const auto frame = segmentFrame(index);
         const auto isBesideThumb = selected_ == index || selected_ == index + 1;
-        dividers_[index]->setFrame(CGRectMake(CGRectGetMaxX(frame), dividerInset, std::max(1.0, hairline),
-                                              std::max(0.0, frame.size.height - 2 * dividerInset)));
+        UIViewPeer::place(*dividers_[index],
+                          CGRectMake(CGRectGetMaxX(frame), dividerInset, std::max(1.0, hairline),
+                                     std::max(0.0, frame.size.height - 2 * dividerInset)));
         dividers_[index]->setAlpha(isBesideThumb ? 0 : 1);
     }
     placeThumb();
@@ -154,7 +155,7 @@ void UISegmentedControlPeer::placeThumb() {
     thumb_->peer().setBounds({{},
                               {std::max(0.0, frame.size.width - 2 * thumbInset),
                                std::max(0.0, frame.size.height - 2 * thumbInset)}});
-    thumb_->setCenter({CGRectGetMidX(frame), CGRectGetMidY(frame)});
+    thumb_->setCenter(fromLeading(CGPoint{CGRectGetMidX(frame), CGRectGetMidY(frame)}));
     const auto scale = press_ && press_->carries ? pressedScale : 1;
     thumb_->peer().setTransform(AffineTransform::scale(scale));
 }

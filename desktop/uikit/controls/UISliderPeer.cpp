@@ -127,17 +127,17 @@ void UISliderPeer::place() {
     const auto thumb = thumbFrame();
     auto filled = track;
     filled.size.width = std::clamp(CGRectGetMidX(thumb) - track.origin.x, 0.0, track.size.width);
-    track_->setFrame(track);
-    filled_->setFrame(filled);
-    shade_->setFrame(thumb);
-    thumb_->setFrame(thumb);
+    UIViewPeer::place(*track_, track);
+    UIViewPeer::place(*filled_, filled);
+    UIViewPeer::place(*shade_, thumb);
+    UIViewPeer::place(*thumb_, thumb);
 }
 
 void UISliderPeer::placeImages() {
     const auto bounds = view().bounds();
     const auto top = CGRectGetMidY(bounds) - imageSize / 2;
-    leftImage_->setFrame(CGRectMake(0, top, imageSize, imageSize));
-    rightImage_->setFrame(CGRectMake(bounds.size.width - imageSize, top, imageSize, imageSize));
+    UIViewPeer::place(*leftImage_, CGRectMake(0, top, imageSize, imageSize));
+    UIViewPeer::place(*rightImage_, CGRectMake(bounds.size.width - imageSize, top, imageSize, imageSize));
 }
 
 void UISliderPeer::layoutSubviews() {
@@ -166,7 +166,7 @@ std::optional<double> UISliderPeer::intrinsicHeight() const {
 // The finger.
 
 void UISliderPeer::touchBegan(DesktopTouch& touch, UIEvent& event) {
-    const auto place = touch.locationInView(view());
+    const auto place = fromLeading(touch.locationInView(view()));
     const auto thumb = thumbFrame();
     constexpr auto around = (gripSize - thumbSize) / 2;
     const auto grip = CGRectMake(thumb.origin.x - around, thumb.origin.y - around, gripSize, gripSize);
@@ -187,7 +187,7 @@ void UISliderPeer::follow(const DesktopTouch& touch) {
     const auto way = track.size.width - thumbSize;
     if (!grip_ || way <= 0)
         return;
-    const auto middle = touch.locationInView(view()).x - grip_->offset;
+    const auto middle = fromLeading(touch.locationInView(view())).x - grip_->offset;
     const auto part = std::clamp((middle - thumbSize / 2 - track.origin.x) / way, 0.0, 1.0);
     const auto before = value_;
     setValue(nearestStop(least_ + part * (greatest_ - least_)));

@@ -35,7 +35,7 @@ public:
     /// What stands before and after the track; empty for none.
     void setImages(const Ref<UIImage>& left, const Ref<UIImage>& right);
 
-    /// Where the thumb is, in the slider's bounds.
+    /// Where the thumb is, from the slider's leading edge.
     [[nodiscard]] CGRect thumbFrame() const;
 
     // UIControlPeer:
@@ -64,7 +64,7 @@ private:
         double start;  ///< the value that there was
     };
 
-    /// What is left between the images.
+    /// What is left between the images, likewise.
     [[nodiscard]] CGRect trackFrame() const;
     [[nodiscard]] double part() const;
     [[nodiscard]] double nearestStop(double value) const;

@@ -72,7 +72,7 @@ CGRect UISwitchPeer::thumbFrame() const {
 void UISwitchPeer::show() {
     track_->setBackgroundColor(DesktopColor::system(on_ ? SystemColor::Green : SystemColor::SecondaryFill));
     for (const auto& part : {shade_, thumb_})
-        part->setFrame(thumbFrame());
+        place(*part, thumbFrame());
 }
 
 void UISwitchPeer::showAnimated() {
@@ -83,7 +83,7 @@ void UISwitchPeer::touchBegan(DesktopTouch& touch, UIEvent& event) {
     UIControlPeer::touchBegan(touch, event);
     if (!isTracking() || tracking_)
         return;
-    tracking_ = {.start = touch.locationInView(view()).x, .onAtStart = on_};
+    tracking_ = {.start = fromLeading(touch.locationInView(view())).x, .onAtStart = on_};
     showAnimated();
 }
 
@@ -106,7 +106,7 @@ void UISwitchPeer::touchCancelled(DesktopTouch& touch, UIEvent& event) {
 void UISwitchPeer::follow(const DesktopTouch& touch) {
     if (!tracking_)
         return;
-    const auto place = touch.locationInView(view()).x;
+    const auto place = fromLeading(touch.locationInView(view())).x;
     tracking_->moved = tracking_->moved || std::abs(place - tracking_->start) >= tapSlop;
     if (tracking_->moved)
         setOn(place >= size.width / 2, true);
@@ -135,6 +135,12 @@ void UISwitchPeer::stateDidChange() {
     view().setAlpha(isEnabled() ? 1 : disabledAlpha);
     if (!isEnabled())
         giveUp();
+}
+
+void UISwitchPeer::traitsDidChange() {
+    UIControlPeer::traitsDidChange();
+    if (thumb_)
+        show();
 }
 
 void UISwitchPeer::layoutSubviews() {

@@ -23,6 +23,7 @@ public:
 
     // UIViewPeer:
     void layoutSubviews() override;
+    void traitsDidChange() override;
     void touchBegan(DesktopTouch& touch, UIEvent& event) override;
     void touchMoved(DesktopTouch& touch, UIEvent& event) override;
     void touchEnded(DesktopTouch& touch, UIEvent& event) override;

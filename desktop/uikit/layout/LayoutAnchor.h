@@ -6,7 +6,7 @@
 #include <utility>
 
 /// An edge, a middle or a length of a view.
-enum class LayoutAttribute { Left, Right, Top, Bottom, CenterX, CenterY, Width, Height };
+enum class LayoutAttribute { Leading, Trailing, Top, Bottom, CenterX, CenterY, Width, Height };
 
 /// The rectangle of a view that an attribute is of.
 enum class LayoutGuide {

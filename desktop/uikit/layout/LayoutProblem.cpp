@@ -15,7 +15,7 @@ constexpr double fittingPriority = 50;
 
 bool isHorizontal(LayoutAttribute attribute) {
     using enum LayoutAttribute;
-    return attribute == Left || attribute == Right || attribute == CenterX || attribute == Width;
+    return attribute == Leading || attribute == Trailing || attribute == CenterX || attribute == Width;
 }
 
 UIEdgeInsets insetsOf(const UIView& view, LayoutGuide guide) {
@@ -184,16 +184,17 @@ std::optional<LinearExpression> LayoutProblem::expression(const LayoutAnchor& an
     const auto found = view ? extent(*view, anchor.guide, isHorizontal(anchor.attribute)) : std::nullopt;
     if (!found)
         return std::nullopt;
+    const auto mirrored = isHorizontal(anchor.attribute) && host_.peer().isRightToLeft();
     switch (anchor.attribute) {
-    case LayoutAttribute::Left:
+    case LayoutAttribute::Leading:
     case LayoutAttribute::Top:
-        return found->begin;
-    case LayoutAttribute::Right:
+        return mirrored ? (found->begin + found->length) * -1.0 : found->begin;
+    case LayoutAttribute::Trailing:
     case LayoutAttribute::Bottom:
-        return found->begin + found->length;
+        return mirrored ? found->begin * -1.0 : found->begin + found->length;
     case LayoutAttribute::CenterX:
     case LayoutAttribute::CenterY:
-        return found->begin + found->length * 0.5;
+        return (found->begin + found->length * 0.5) * (mirrored ? -1.0 : 1.0);
     case LayoutAttribute::Width:
     case LayoutAttribute::Height:
         break;

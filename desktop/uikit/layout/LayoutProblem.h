@@ -29,8 +29,8 @@ public:
     /// The host's size.
     [[nodiscard]] CGSize hostSize() const;
 
-    /// For views that ask something of those within them. An anchor in the host's coordinates; nothing when
-    /// its view is gone or outside the host.
+    /// For views that ask something of those within them. An anchor in the host's coordinates, which across
+    /// grow from the leading side to the trailing one; nothing when its view is gone or outside the host.
     [[nodiscard]] std::optional<LinearExpression> expression(const LayoutAnchor& anchor) const;
     void add(const LinearConstraint& constraint);
 

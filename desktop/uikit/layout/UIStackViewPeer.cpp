@@ -61,8 +61,8 @@ UIStackViewPeer::Place UIStackViewPeer::placeOf(LayoutProblem& problem, UIView& 
     };
     using enum LayoutAttribute;
     if (axis_ == UILayoutConstraintAxis::Horizontal)
-        return {at(Left), at(Right), at(Top), at(Bottom)};
-    return {at(Top), at(Bottom), at(Left), at(Right)};
+        return {at(Leading), at(Trailing), at(Top), at(Bottom)};
+    return {at(Top), at(Bottom), at(Leading), at(Trailing)};
 }
 
 std::vector<UIStackViewPeer::Place> UIStackViewPeer::shownPlaces(LayoutProblem& problem) const {

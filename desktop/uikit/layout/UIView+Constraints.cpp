@@ -20,11 +20,11 @@ void UIView::setTranslatesAutoresizingMaskIntoConstraints(bool translates) {
 }
 
 Ref<NSLayoutXAxisAnchor> UIView::leadingAnchor() const {
-    return anchorOf<NSLayoutXAxisAnchor>(*this, LayoutAttribute::Left);
+    return anchorOf<NSLayoutXAxisAnchor>(*this, LayoutAttribute::Leading);
 }
 
 Ref<NSLayoutXAxisAnchor> UIView::trailingAnchor() const {
-    return anchorOf<NSLayoutXAxisAnchor>(*this, LayoutAttribute::Right);
+    return anchorOf<NSLayoutXAxisAnchor>(*this, LayoutAttribute::Trailing);
 }
 
 Ref<NSLayoutXAxisAnchor> UIView::centerXAnchor() const {

@@ -59,7 +59,7 @@ void MenuRowView::layoutSubviews() {
     highlight_->setFrame(bounds());
     separator_->setFrame(CGRectMake(0, 0, size.width, 1 / peer().traits().displayScale));
     const auto imageWidth = image_->image() ? imageSize : 0;
-    image_->setFrame(CGRectMake(size.width - margin - imageSize, 0, imageSize, size.height));
+    peer().place(*image_, CGRectMake(size.width - margin - imageSize, 0, imageSize, size.height));
     const auto labelWidth = size.width - 2 * margin - (imageWidth > 0 ? imageWidth + gap : 0);
-    label_->setFrame(CGRectMake(margin, 0, labelWidth, size.height));
+    peer().place(*label_, CGRectMake(margin, 0, labelWidth, size.height));
 }

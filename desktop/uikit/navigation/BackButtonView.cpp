@@ -5,6 +5,7 @@
 #include "DesktopImage.h"
 #include "ObjectiveC/Class.h"
 #include "SystemTexts.h"
+#include "screen/Screen.h"
 #include "views/UIImageViewPeer.h"
 #include "views/UILabelPeer.h"
 
@@ -24,7 +25,9 @@ BackButtonView::BackButtonView(const std::string& previousTitle)
         titles_.push_back(previousTitle);
     if (const auto shortTitle = systemText("Back"); previousTitle != shortTitle)
         titles_.push_back(shortTitle);
-    chevron_->setImage(DesktopImage::symbol("chevron.left", chevronSize, SymbolWeight::Semibold));
+    const auto isRightToLeft = Screen::current().traits().rightToLeft;
+    chevron_->setImage(DesktopImage::symbol(isRightToLeft ? "chevron.right" : "chevron.left", chevronSize,
+                                            SymbolWeight::Semibold));
     chevron_->setContentMode(UIViewContentMode::Center);
     label_->setFont(DesktopFont::font(titleSize));
     for (const auto& title : titles_) {
@@ -58,8 +61,8 @@ void BackButtonView::layoutSubviews() {
     BarControl::layoutSubviews();
     label_->setTextColor(peer().tintColor());
     const auto height = bounds().size.height;
-    chevron_->setFrame(CGRectMake(chevronLeft, 0, chevronRight - chevronLeft, height));
+    peer().place(*chevron_, CGRectMake(chevronStart, 0, chevronEnd - chevronStart, height));
     const auto size = label_->peer().sizeThatFits({});
     label_->peer().setBounds({{}, size});
-    label_->setCenter({titleLeft + size.width / 2, height / 2});
+    label_->setCenter(peer().fromLeading(CGPoint{titleStart + size.width / 2, height / 2}));
 }

@@ -13,10 +13,10 @@
 /// there is room, a title. Made by the bar's content.
 class BackButtonView final : public BarControl {
 public:
-    // Points from the bar's edge.
-    static constexpr double chevronLeft = 8;
-    static constexpr double chevronRight = 21;
-    static constexpr double titleLeft = 27;
+    // Points from the bar's leading edge.
+    static constexpr double chevronStart = 8;
+    static constexpr double chevronEnd = 21;
+    static constexpr double titleStart = 27;
     static constexpr double leastWidth = 50;
 
     /// \param previousTitle of the page before; may be empty

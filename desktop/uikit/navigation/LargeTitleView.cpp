@@ -23,7 +23,6 @@ LargeTitleView::LargeTitleView() : label_(make<UILabel>()) {
     setUserInteractionEnabled(false);
     setClipsToBounds(true);
     label_->setFont(DesktopFont::font(titleSize, FontWeight::Bold));
-    label_->layer().peer().anchorPoint = {0, 1};
     label_->layer().peer().keepsPicture = true;
     addSubview(label_);
 }
@@ -45,7 +44,8 @@ void LargeTitleView::layoutSubviews() {
     const auto room = std::max(0.0, bounds().size.width - 2 * margin);
     const auto size = label_->peer().sizeThatFits({room, height});
     label_->peer().setBounds(CGRectMake(0, 0, std::min(size.width, room), size.height));
-    label_->setCenter({margin, height - gapBelow - overlap_});
+    label_->layer().peer().anchorPoint = {peer().isRightToLeft() ? 1.0 : 0.0, 1};
+    label_->setCenter(peer().fromLeading(CGPoint{margin, height - gapBelow - overlap_}));
     const auto pulled = std::clamp(-overlap_ / pullToLargest, 0.0, 1.0);
     const auto fitting = size.width > 0 ? std::max(1.0, room / size.width) : 1;
     label_->peer().setTransform(AffineTransform::scale(std::min(1 + (largestScale - 1) * pulled, fitting)));

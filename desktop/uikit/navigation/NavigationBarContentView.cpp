@@ -158,17 +158,17 @@ void NavigationBarContentView::layoutSubviews() {
     const auto phase = phase_;
     setPhase(0);
     const auto places = placesFor(parts());
-    titleHolder_->setFrame(places.title);
+    peer().place(*titleHolder_, places.title);
     title_->setFrame({{}, places.title.size});
     if (back_) {
         back_->showTitle(places.backTitle);
-        back_->setFrame(places.back);
+        peer().place(*back_, places.back);
         back_->peer().layoutIfNeeded();
     }
     for (std::size_t index = 0; index < left_.size(); ++index)
-        left_[index]->setFrame(places.left[index]);
+        peer().place(*left_[index], places.left[index]);
     for (std::size_t index = 0; index < right_.size(); ++index)
-        right_[index]->setFrame(places.right[index]);
+        peer().place(*right_[index], places.right[index]);
     if (largeTitle_) {
         largeTitle_->setFrame(
             CGRectMake(0, rowHeight_, bounds().size.width, std::max(0.0, LargeTitleView::height - overlap_)));
@@ -180,15 +180,16 @@ void NavigationBarContentView::setPhase(double phase) {
     phase_ = phase;
     const auto alpha = 1 - std::abs(phase);
     const auto width = bounds().size.width;
-    const auto title = titleHolder_->layer().peer().untransformedFrame();
-    const auto titleAway = phase > 0 ? width / 2 : title.origin.x - BackButtonView::titleLeft;
-    titleHolder_->peer().setTransform(AffineTransform::translation(phase * titleAway, 0));
+    const auto title = peer().fromLeading(titleHolder_->layer().peer().untransformedFrame());
+    const auto toTrailing = phase * peer().rightward();
+    const auto titleAway = phase > 0 ? width / 2 : title.origin.x - BackButtonView::titleStart;
+    titleHolder_->peer().setTransform(AffineTransform::translation(toTrailing * titleAway, 0));
     updateTitleAlpha();
     if (back_) {
         // It comes from where the same words were the title of the page before.
         const auto middle = (width - back_->titleWidth()) / 2;
-        const auto backAway = phase > 0 ? middle - BackButtonView::titleLeft : width / 3;
-        back_->placeTitle(phase * backAway, alpha);
+        const auto backAway = phase > 0 ? middle - BackButtonView::titleStart : width / 3;
+        back_->placeTitle(toTrailing * backAway, alpha);
         back_->setChevronAlpha(keepsChevron_ ? 1 : alpha);
     }
     for (const auto* const buttons : {&left_, &right_}) {
@@ -197,7 +198,7 @@ void NavigationBarContentView::setPhase(double phase) {
     }
     if (largeTitle_) {
         const auto part = phase > 0 ? 1 : NavigationPageView::parallax; // as its page moves
-        largeTitle_->peer().setTransform(AffineTransform::translation(phase * part * width, 0));
+        largeTitle_->peer().setTransform(AffineTransform::translation(toTrailing * part * width, 0));
         largeTitle_->setAlpha(alpha);
     }
 }

@@ -55,7 +55,7 @@ Room roomBetween(const NavigationBarParts& parts, double leftEnd, double rightEn
 double backEnd(const NavigationBarParts& parts, std::optional<std::size_t> title) {
     if (!parts.hasBackButton)
         return 0;
-    return title ? BackButtonView::titleLeft + parts.backTitles[*title] : BackButtonView::chevronRight;
+    return title ? BackButtonView::titleStart + parts.backTitles[*title] : BackButtonView::chevronEnd;
 }
 
 CGRect titleIn(const Room& room, const NavigationBarParts& parts) {

@@ -20,9 +20,9 @@ constexpr auto shadowOpacity = 0.3;
 class EdgeShadowPeer final : public UIViewPeer {
 public:
     // UIViewPeer:
-    void drawLayer(QPainter& painter, const CGRect& bounds, const Traits& /*traits*/) override {
+    void drawLayer(QPainter& painter, const CGRect& bounds, const Traits& traits) override {
         const auto& size = bounds.size;
-        QLinearGradient shade(0, 0, size.width, 0);
+        QLinearGradient shade(traits.rightToLeft ? size.width : 0, 0, traits.rightToLeft ? 0 : size.width, 0);
         constexpr auto steps = 4;
         for (auto step = 0; step <= steps; ++step) { // rises with the square, as the edge of a blur does
             const auto part = static_cast<double>(step) / steps;
@@ -57,7 +57,7 @@ void NavigationPageView::layoutSubviews() {
     UIView::layoutSubviews();
     page_->setFrame(bounds());
     dimming_->setFrame(bounds());
-    shadow_->setFrame(CGRectMake(-shadowWidth, 0, shadowWidth, bounds().size.height));
+    peer().place(*shadow_, CGRectMake(-shadowWidth, 0, shadowWidth, bounds().size.height));
 }
 
 void NavigationPageView::placeAlone() {
@@ -76,7 +76,7 @@ void NavigationPageView::placeBeneath(double covered) {
 }
 
 void NavigationPageView::place(double shift, double shadow, double dim) {
-    peer().setTransform(AffineTransform::translation(shift * bounds().size.width, 0));
+    peer().setTransform(AffineTransform::translation(shift * peer().rightward() * bounds().size.width, 0));
     shadow_->setAlpha(shadow);
     dimming_->setAlpha(dim);
 }

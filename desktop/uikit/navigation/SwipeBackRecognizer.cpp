@@ -43,11 +43,11 @@ void SwipeBackRecognizer::follow() {
 }
 
 double SwipeBackRecognizer::progress() const {
-    return translation().x / view()->bounds().size.width;
+    return translation().x * view()->peer().rightward() / view()->bounds().size.width;
 }
 
 bool SwipeBackRecognizer::isEnough() const {
-    const auto speed = velocity().x / view()->bounds().size.width;
+    const auto speed = velocity().x * view()->peer().rightward() / view()->bounds().size.width;
     if (speed < -flickSpeed)
         return false;
     return speed > flickSpeed || progress() > enoughProgress;

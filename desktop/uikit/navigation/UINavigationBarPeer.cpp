@@ -89,9 +89,9 @@ void UINavigationBarPeer::update() {
 void UINavigationBarPeer::placeBackgrounds(double height) {
     const auto shown = leaving_ ? progress_ * width_ : width_;
     const auto hidden = width_ - shown;
-    background_->setFrame(CGRectMake(isPush_ ? hidden : 0, -top_, shown, height));
+    UIViewPeer::place(*background_, CGRectMake(isPush_ ? hidden : 0, -top_, shown, height));
     background_->setAlpha(content_->backgroundAlpha());
-    leavingBackground_->setFrame(CGRectMake(isPush_ ? 0 : shown, -top_, hidden, height));
+    UIViewPeer::place(*leavingBackground_, CGRectMake(isPush_ ? 0 : shown, -top_, hidden, height));
     leavingBackground_->setAlpha(leaving_ ? leaving_->backgroundAlpha() : 0);
 }
 

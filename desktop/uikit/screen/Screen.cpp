@@ -1,8 +1,10 @@
 #include "screen/Screen.h"
 
+#include "Device.h"
 #include "Dispatch/MainQueue.h"
 #include "screen/TouchDispatcher.h"
 #include "screen/UIWindow.h"
+#include "texts/LanguageNames.h"
 #include "views/UIViewPeer.h"
 
 #include <algorithm>
@@ -20,6 +22,7 @@ Traits traitsFor(const Screen::Options& options) {
             .idiom = options.idiom,
             .elevated = false,
             .compactWidth = options.idiom == Idiom::Phone,
+            .rightToLeft = isReadFromRightToLeft(Device::current().locale()),
             .displayScale = options.scale};
 }
 

@@ -37,17 +37,19 @@ public:
     // UIViewPeer:
     void drawLayer(QPainter& painter, const CGRect& bounds, const Traits& traits) override {
         auto color = DesktopColor::resolve(DesktopColor::system(SystemColor::Label), traits).toQColor();
-        const auto fill = [&painter, &color](double x, const QPainterPath& shape) {
+        const auto fill = [&](double start, double width, const QPainterPath& shape) {
+            const auto x = traits.rightToLeft ? bounds.size.width - start - width : start;
             painter.fillPath(shape.translated(x, 0), color);
         };
-        auto x = bounds.size.width - StatusGlyphs::batteryWidth;
-        fill(x, StatusGlyphs::batteryCharge());
-        const auto wireless = x - StatusGlyphs::spacing - StatusGlyphs::wirelessWidth;
-        fill(traits.idiom == Idiom::Phone ? wireless : 0, StatusGlyphs::wireless());
+        using Glyphs = StatusGlyphs;
+        const auto battery = bounds.size.width - Glyphs::batteryWidth;
+        fill(battery, Glyphs::batteryWidth, Glyphs::batteryCharge());
+        const auto wireless = battery - Glyphs::spacing - Glyphs::wirelessWidth;
+        fill(traits.idiom == Idiom::Phone ? wireless : 0, Glyphs::wirelessWidth, Glyphs::wireless());
         if (traits.idiom == Idiom::Phone)
-            fill(wireless - StatusGlyphs::spacing - StatusGlyphs::signalWidth, StatusGlyphs::signal());
+            fill(wireless - Glyphs::spacing - Glyphs::signalWidth, Glyphs::signalWidth, Glyphs::signal());
         color.setAlphaF(static_cast<float>(outlineOpacity));
-        fill(x, StatusGlyphs::batteryOutline());
+        fill(battery, Glyphs::batteryWidth, Glyphs::batteryOutline());
     }
 };
 
@@ -120,19 +122,19 @@ void StatusBarView::layoutSubviews() {
 
 void StatusBarView::layoutPhone() {
     const auto height = time_->peer().sizeThatFits({}).height;
-    time_->setFrame(
-        CGRectMake(phoneTimeCenter - longestTime / 2, phoneMiddle - height / 2, longestTime, height));
+    peer().place(
+        *time_, CGRectMake(phoneTimeCenter - longestTime / 2, phoneMiddle - height / 2, longestTime, height));
     constexpr auto width = StatusGlyphs::signalWidth + StatusGlyphs::wirelessWidth +
                            StatusGlyphs::batteryWidth + 2 * StatusGlyphs::spacing;
-    glyphs_->setFrame(CGRectMake(bounds().size.width - phoneTrailing - width,
-                                 phoneMiddle - StatusGlyphs::height / 2, width, StatusGlyphs::height));
+    peer().place(*glyphs_, CGRectMake(bounds().size.width - phoneTrailing - width,
+                                      phoneMiddle - StatusGlyphs::height / 2, width, StatusGlyphs::height));
 }
 
 void StatusBarView::layoutPad() {
     const auto middle = bounds().size.height / 2;
-    const auto place = [middle](UILabel& label, double x) {
+    const auto place = [this, middle](UILabel& label, double x) {
         const auto size = label.peer().sizeThatFits({});
-        label.setFrame(CGRectMake(x, middle - size.height / 2, size.width, size.height));
+        peer().place(label, CGRectMake(x, middle - size.height / 2, size.width, size.height));
         return x + size.width;
     };
     place(*date_, place(*time_, padMargin) + padSpacing);
@@ -141,6 +143,6 @@ void StatusBarView::layoutPad() {
     const auto chargeLeft = batteryLeft - StatusGlyphs::spacing - chargeWidth;
     place(*charge_, chargeLeft);
     const auto glyphsLeft = chargeLeft - padSpacing - StatusGlyphs::wirelessWidth;
-    glyphs_->setFrame(CGRectMake(glyphsLeft, middle - StatusGlyphs::height / 2,
-                                 bounds().size.width - padMargin - glyphsLeft, StatusGlyphs::height));
+    peer().place(*glyphs_, CGRectMake(glyphsLeft, middle - StatusGlyphs::height / 2,
+                                      bounds().size.width - padMargin - glyphsLeft, StatusGlyphs::height));
 }

@@ -66,8 +66,9 @@ void ScrollIndicators::place() {
         const auto extent =
             extentOf({.begin = room.origin.y + margin, .length = room.size.height - 2 * margin},
                      room.size.height, content.height, bounds.origin.y, least.y, greatest.y);
-        vertical_->setFrame(CGRectMake(CGRectGetMaxX(room) - margin - thickness, extent.begin, thickness,
-                                       std::max(0.0, extent.length)));
+        const auto x =
+            scroll_.isRightToLeft() ? room.origin.x + margin : CGRectGetMaxX(room) - margin - thickness;
+        vertical_->setFrame(CGRectMake(x, extent.begin, thickness, std::max(0.0, extent.length)));
     }
     if (greatest.x > least.x) {
         const auto extent =

@@ -64,12 +64,12 @@ void ShareHeaderView::layoutSubviews() {
     const auto width = bounds().size.width;
     const auto right = width - margin - (close_ ? closeSize + margin : 0);
     const auto left = 2 * margin + symbolWidth;
-    symbol_->setFrame(CGRectMake(margin, 0, symbolWidth, height));
-    title_->setFrame(CGRectMake(left, height / 2 - lineHeight, right - left, lineHeight));
-    detail_->setFrame(CGRectMake(left, height / 2, right - left, lineHeight));
+    peer().place(*symbol_, CGRectMake(margin, 0, symbolWidth, height));
+    peer().place(*title_, CGRectMake(left, height / 2 - lineHeight, right - left, lineHeight));
+    peer().place(*detail_, CGRectMake(left, height / 2, right - left, lineHeight));
     const auto line = 1 / peer().traits().displayScale;
     line_->setFrame(CGRectMake(0, height - line, width, line));
     if (close_)
-        close_->setFrame(
-            CGRectMake(width - margin - closeSize, (height - closeSize) / 2, closeSize, closeSize));
+        peer().place(*close_,
+                     CGRectMake(width - margin - closeSize, (height - closeSize) / 2, closeSize, closeSize));
 }

@@ -70,10 +70,11 @@ Ref<UIColor> colorOfRow(double pressed, const Traits& traits) {
                                 .alpha = std::lerp(from.alpha, to.alpha, pressed)});
 }
 
-Ref<UIImage> indicatorImage(UITableViewCellAccessoryType type) {
+Ref<UIImage> indicatorImage(UITableViewCellAccessoryType type, bool rightToLeft) {
     if (type == UITableViewCellAccessoryType::Checkmark)
         return DesktopImage::symbol("checkmark", checkmarkSize, SymbolWeight::Semibold);
-    return DesktopImage::symbol("chevron.right", chevronSize, SymbolWeight::Semibold);
+    return DesktopImage::symbol(rightToLeft ? "chevron.left" : "chevron.right", chevronSize,
+                                SymbolWeight::Semibold);
 }
 
 } // namespace
@@ -139,7 +140,7 @@ void UITableViewCellPeer::showAccessory() {
         slice_->addSubview(accessoryView_);
     } else if (accessoryType_ != UITableViewCellAccessoryType::None) {
         indicator_ = make<UIImageView>();
-        indicator_->setImage(indicatorImage(accessoryType_));
+        indicator_->setImage(indicatorImage(accessoryType_, isRightToLeft()));
         if (accessoryType_ == UITableViewCellAccessoryType::DisclosureIndicator)
             indicator_->peer().setTintColor(DesktopColor::system(SystemColor::TertiaryLabel));
         slice_->addSubview(indicator_);
@@ -257,17 +258,23 @@ double UITableViewCellPeer::contentWidth(double width) const {
     return accessory() != nullptr ? accessoryFrame(CGRectMake(0, 0, width, 0)).origin.x : width;
 }
 
+void UITableViewCellPeer::traitsDidChange() {
+    UIViewPeer::traitsDidChange();
+    if (indicator_)
+        indicator_->setImage(indicatorImage(accessoryType_, isRightToLeft()));
+}
+
 void UITableViewCellPeer::layoutSubviews() {
     const auto bounds = view().bounds();
     const auto hairline = 1 / traits().displayScale;
     slice_->setFrame(bounds);
     background_->setFrame(bounds);
     if (accessory() != nullptr)
-        (accessoryView_ ? accessoryView_ : Ref<UIView>(indicator_))->setFrame(accessoryFrame(bounds));
-    contentView_->setFrame(CGRectMake(0, 0, contentWidth(bounds.size.width), bounds.size.height));
+        place(accessoryView_ ? *accessoryView_ : *indicator_, accessoryFrame(bounds));
+    place(*contentView_, CGRectMake(0, 0, contentWidth(bounds.size.width), bounds.size.height));
     layOutTexts(bounds);
     const auto left = textRoom(bounds.size.width).left;
-    separator_->setFrame(CGRectMake(left, bounds.size.height - hairline, bounds.size.width - left, hairline));
+    place(*separator_, CGRectMake(left, bounds.size.height - hairline, bounds.size.width - left, hairline));
 }
 
 void UITableViewCellPeer::layOutTexts(const CGRect& bounds) {
@@ -275,9 +282,10 @@ void UITableViewCellPeer::layOutTexts(const CGRect& bounds) {
     if (const auto image = imageView_->image()) {
         const auto size = sizeOf(*image);
         const TableMetrics metrics(bounds.size.width, traits().displayScale);
-        imageView_->setFrame(CGRectMake(metrics.rounded(margin_ + (imageWidth() - size.width) / 2),
-                                        metrics.rounded((bounds.size.height - size.height) / 2), size.width,
-                                        size.height));
+        contentView_->peer().place(*imageView_,
+                                   CGRectMake(metrics.rounded(margin_ + (imageWidth() - size.width) / 2),
+                                              metrics.rounded((bounds.size.height - size.height) / 2),
+                                              size.width, size.height));
     }
     if (style_ == UITableViewCellStyle::Subtitle && hasText(*detailTextLabel_))
         layOutStacked(room, bounds.size.height);
@@ -295,17 +303,17 @@ void UITableViewCellPeer::layOutSideBySide(const TextRoom& room, double height) 
             title = std::min(title, std::max(0.0, both - detail));
         else
             detail = widthOfDetail(detail, both - title);
-        detailTextLabel_->setFrame(CGRectMake(room.right - detail, 0, detail, height));
+        contentView_->peer().place(*detailTextLabel_, CGRectMake(room.right - detail, 0, detail, height));
     }
-    textLabel_->setFrame(CGRectMake(room.left, 0, title, height));
+    contentView_->peer().place(*textLabel_, CGRectMake(room.left, 0, title, height));
 }
 
 void UITableViewCellPeer::layOutStacked(const TextRoom& room, double height) {
     const auto title = heightOf(*textLabel_, room.width());
     const auto detail = heightOf(*detailTextLabel_, room.width());
     const auto top = (height - title - detail) / 2;
-    textLabel_->setFrame(CGRectMake(room.left, top, room.width(), title));
-    detailTextLabel_->setFrame(CGRectMake(room.left, top + title, room.width(), detail));
+    contentView_->peer().place(*textLabel_, CGRectMake(room.left, top, room.width(), title));
+    contentView_->peer().place(*detailTextLabel_, CGRectMake(room.left, top + title, room.width(), detail));
 }
 
 UITableViewPeer* UITableViewCellPeer::table() const {

@@ -79,6 +79,7 @@ public:
 
     // UIViewPeer:
     void layoutSubviews() override;
+    void traitsDidChange() override;
     /// As high as `heightFor` says, and as the constraints in the content view ask for.
     [[nodiscard]] CGSize sizeThatFits(CGSize room) const override;
     void touchBegan(DesktopTouch& touch, UIEvent& event) override;

@@ -157,15 +157,31 @@ CGRect UITextFieldPeer::textRect() const {
     return UIEdgeInsetsInsetRect(view().bounds(), TextFieldBorder::textInsets(borderStyle_));
 }
 
+double UITextFieldPeer::laidWidth() const {
+    return isFirstResponder_ ? std::numeric_limits<double>::infinity() : std::max(0.0, textRect().size.width);
+}
+
 const TextLayout& UITextFieldPeer::layout() const {
     const auto scale = traits().displayScale;
-    const auto width =
-        isFirstResponder_ ? std::numeric_limits<double>::infinity() : std::max(0.0, textRect().size.width);
+    const auto width = laidWidth();
     if (!laid_ || !std::equal_to()(laid_->scale, scale) || !std::equal_to()(laid_->width, width)) {
-        const TextLayoutOptions options{.maximumWidth = width, .maximumLines = 1, .pixelScale = scale};
+        const TextLayoutOptions options{
+            .maximumWidth = width, .maximumLines = 1, .alignment = alignment(), .pixelScale = scale};
         laid_.emplace(Laid{scale, width, TextLayout(readableText().toStdString(), fontStyle_, options)});
     }
     return laid_->layout;
+}
+
+HorizontalAlignment UITextFieldPeer::alignment() const {
+    return isRightToLeft() ? HorizontalAlignment::Right : HorizontalAlignment::Left;
+}
+
+double UITextFieldPeer::textLeft() const {
+    const auto room = textRect();
+    const auto isEdited = std::isinf(laidWidth());
+    const auto needed = layout().size().width() + caretWidth;
+    const auto free = isEdited && isRightToLeft() ? room.size.width - needed : 0;
+    return room.origin.x + std::max(0.0, free) - scrolled_;
 }
 
 std::size_t UITextFieldPeer::byteIndex(qsizetype position) const {
@@ -175,9 +191,9 @@ std::size_t UITextFieldPeer::byteIndex(qsizetype position) const {
 CGRect UITextFieldPeer::caretRect(qsizetype position) const {
     const auto room = textRect();
     const auto caret = layout().caretRect(byteIndex(position));
-    const auto left = std::clamp(caret.x() - scrolled_, 0.0, std::max(0.0, room.size.width - caretWidth));
-    return CGRectMake(room.origin.x + left, CGRectGetMidY(room) - caret.height() / 2, caretWidth,
-                      caret.height());
+    const auto last = std::max(room.origin.x, CGRectGetMaxX(room) - caretWidth);
+    return CGRectMake(std::clamp(textLeft() + caret.x(), room.origin.x, last),
+                      CGRectGetMidY(room) - caret.height() / 2, caretWidth, caret.height());
 }
 
 CGRect UITextFieldPeer::caretOnScreen() const {
@@ -185,7 +201,7 @@ CGRect UITextFieldPeer::caretOnScreen() const {
 }
 
 qsizetype UITextFieldPeer::positionAt(const DesktopTouch& touch) const {
-    const auto x = touch.locationInView(view()).x - textRect().origin.x + scrolled_;
+    const auto x = touch.locationInView(view()).x - textLeft();
     const auto index = layout().indexAt({x, 0});
     return QString::fromUtf8(readableText().toStdString().substr(0, index)).size();
 }
@@ -194,7 +210,7 @@ std::vector<QRectF> UITextFieldPeer::rectsOf(EditedText::Range range) const {
     const auto room = textRect();
     auto rects = layout().rangeRects(byteIndex(range.begin), byteIndex(range.end));
     for (auto& rect : rects)
-        rect.translate(room.origin.x - scrolled_, CGRectGetMidY(room) - rect.height() / 2);
+        rect.translate(textLeft(), CGRectGetMidY(room) - rect.height() / 2);
     return rects;
 }
 
@@ -298,8 +314,7 @@ void UITextFieldPeer::drawText(QPainter& painter, const Traits& traits) const {
             painter.fillRect(rect, withOpacity(tint, selectionOpacity));
     }
     const auto color = DesktopColor::resolve(DesktopColor::system(SystemColor::Label), traits).toQColor();
-    layout().paint(painter, {room.origin.x - scrolled_, top},
-                   isEnabled() ? color : withOpacity(color, disabledOpacity));
+    layout().paint(painter, {textLeft(), top}, isEnabled() ? color : withOpacity(color, disabledOpacity));
     for (const auto& rect : rectsOf(text_.composed())) {
         const auto y = top + layout().baseline(0) + underlineDistance;
         painter.fillRect(QRectF(rect.x(), y, rect.width(), underlineWidth), color);
@@ -311,6 +326,7 @@ void UITextFieldPeer::drawPlaceholder(QPainter& painter, const Traits& traits) c
     const TextLayout placeholder(placeholder_, fontStyle_,
                                  {.maximumWidth = std::max(0.0, room.size.width),
                                   .maximumLines = 1,
+                                  .alignment = alignment(),
                                   .pixelScale = traits.displayScale});
     const auto color = DesktopColor::resolve(DesktopColor::system(SystemColor::PlaceholderText), traits);
     placeholder.paint(painter, {room.origin.x, CGRectGetMidY(room) - placeholder.lineRect(0).height() / 2},

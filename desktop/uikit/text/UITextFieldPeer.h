@@ -128,6 +128,11 @@ private:
     void countTap(const DesktopTouch& touch);
     void tapped(const DesktopTouch& touch);
     [[nodiscard]] const TextLayout& layout() const;
+    /// What the text is laid out in: all that it needs while it is edited.
+    [[nodiscard]] double laidWidth() const;
+    [[nodiscard]] HorizontalAlignment alignment() const;
+    /// Where the layout stands, as far as it is scrolled.
+    [[nodiscard]] double textLeft() const;
     [[nodiscard]] std::vector<QRectF> rectsOf(EditedText::Range range) const;
     [[nodiscard]] std::size_t byteIndex(qsizetype position) const;
     [[nodiscard]] qsizetype positionAt(const DesktopTouch& touch) const;

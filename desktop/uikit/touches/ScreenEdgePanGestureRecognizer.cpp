@@ -13,7 +13,7 @@ const Class classObject =
 } // namespace
 
 bool ScreenEdgePanGestureRecognizer::receives(const DesktopTouch& touch) const {
-    const auto place = touch.locationInView(*view());
+    const auto place = view()->peer().fromLeading(touch.locationInView(*view()));
     const auto bounds = view()->bounds();
     const auto depth = edge_ == Edge::Leading ? place.x - bounds.origin.x : CGRectGetMaxY(bounds) - place.y;
     return depth >= 0 && depth < edgeWidth;
@@ -21,7 +21,8 @@ bool ScreenEdgePanGestureRecognizer::receives(const DesktopTouch& touch) const {
 
 bool ScreenEdgePanGestureRecognizer::shouldBegin() {
     const auto moved = movement();
-    return edge_ == Edge::Leading ? moved.x > std::abs(moved.y) : -moved.y > std::abs(moved.x);
+    return edge_ == Edge::Leading ? moved.x * view()->peer().rightward() > std::abs(moved.y)
+                                  : -moved.y > std::abs(moved.x);
 }
 
 bool ScreenEdgePanGestureRecognizer::goesBefore(const GestureRecognizer& other) const {

@@ -13,15 +13,16 @@ constexpr double noLimit = std::numeric_limits<double>::infinity();
 /// What a height may fall short of a line's and still show it, in points: heights are rounded to pixels.
 constexpr double lineTolerance = 0.5;
 
-HorizontalAlignment horizontal(NSTextAlignment alignment) {
+HorizontalAlignment horizontal(NSTextAlignment alignment, bool rightToLeft) {
     switch (alignment) {
     case NSTextAlignment::Center:
         return HorizontalAlignment::Center;
     case NSTextAlignment::Right:
         return HorizontalAlignment::Right;
     case NSTextAlignment::Left:
-    case NSTextAlignment::Natural:
         break;
+    case NSTextAlignment::Natural:
+        return rightToLeft ? HorizontalAlignment::Right : HorizontalAlignment::Left;
     }
     return HorizontalAlignment::Left;
 }
@@ -107,7 +108,6 @@ void UILabelPeer::changed() {
     laid_.reset();
     setNeedsDisplay();
     setNeedsConstraintLayout();
-    setNeedsConstraintLayout();
 }
 
 /// Nothing without text.
@@ -156,7 +156,7 @@ std::size_t UILabelPeer::lineLimit(const FontStyle& style, double height) const 
 TextLayoutOptions UILabelPeer::optionsFor(const FontStyle& style, CGSize size, double scale) const {
     return {.maximumWidth = size.width,
             .maximumLines = lineLimit(style, size.height),
-            .alignment = horizontal(textAlignment_),
+            .alignment = horizontal(textAlignment_, isRightToLeft()),
             .endsWithEllipsis = lineBreakMode_ == NSLineBreakMode::ByTruncatingTail,
             .pixelScale = scale};
 }
@@ -213,6 +213,11 @@ double UILabelPeer::firstBaseline() const {
 
 bool UILabelPeer::isTruncated() const {
     return layoutFor(view().bounds().size, traits().displayScale).isTruncated();
+}
+
+void UILabelPeer::traitsDidChange() {
+    laid_.reset();
+    UIViewPeer::traitsDidChange();
 }
 
 Accessibility UILabelPeer::accessibility() const {

@@ -73,6 +73,7 @@ public:
     [[nodiscard]] std::optional<double> intrinsicWidth() const override;
     [[nodiscard]] std::optional<double> intrinsicHeight() const override;
     bool takeLayoutWidth(double width) override;
+    void traitsDidChange() override;
     [[nodiscard]] Accessibility accessibility() const override;
     [[nodiscard]] std::optional<std::string> shownText() const override;
     [[nodiscard]] PropertyList::Dictionary inspectedProperties() const override;

@@ -311,6 +311,23 @@ void UIViewPeer::noteSafeArea() {
     safeAreaInsetsDidChange();
 }
 
+CGRect UIViewPeer::fromLeading(const CGRect& rect) const {
+    const auto end =
+        fromLeading(CGPoint{isRightToLeft() ? CGRectGetMaxX(rect) : rect.origin.x, rect.origin.y});
+    return {end, rect.size};
+}
+
+CGPoint UIViewPeer::fromLeading(CGPoint point) const {
+    if (!isRightToLeft())
+        return point;
+    const auto bounds = layerPeer().bounds();
+    return {bounds.origin.x + CGRectGetMaxX(bounds) - point.x, point.y};
+}
+
+void UIViewPeer::place(UIView& subview, const CGRect& frame) const {
+    subview.setFrame(fromLeading(frame));
+}
+
 Traits UIViewPeer::traits() const {
     auto traits = superview_ != nullptr ? superview_->peer().traits() : Traits();
     if (traitOverride_)

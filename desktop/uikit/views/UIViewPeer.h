@@ -117,6 +117,18 @@ public:
     /// Called when they are set, and before a layout that finds them changed by a move.
     virtual void safeAreaInsetsDidChange() {}
 
+    // The direction of reading.
+    [[nodiscard]] bool isRightToLeft() const { return traits().rightToLeft; }
+
+    /// Of a movement to the right along the way from the leading edge to the trailing one: 1, or -1.
+    [[nodiscard]] double rightward() const { return isRightToLeft() ? -1 : 1; }
+
+    /// What is given from the view's leading edge, from its left one; and back, which is the same.
+    [[nodiscard]] CGRect fromLeading(const CGRect& rect) const;
+    [[nodiscard]] CGPoint fromLeading(CGPoint point) const;
+    /// Gives a view within this one its frame. \param frame from the leading edge
+    void place(UIView& subview, const CGRect& frame) const;
+
     // Looks.
     [[nodiscard]] Traits traits() const;
     /// What this view and those within it see differently.

@@ -6,8 +6,10 @@
 
 #include <QFontInfo>
 #include <QFontMetricsF>
+#include <QGlyphRun>
 #include <QPainterPath>
 #include <QRawFont>
+#include <QTextLayout>
 
 namespace {
 
@@ -63,6 +65,18 @@ TEST(FontFacesTest, CapitalsAreAsHighAsThePlatforms) {
 TEST(FontFacesTest, TextsAreNotHinted) {
     EXPECT_EQ(FontFaces::font({}).hintingPreference(), QFont::PreferNoHinting);
     EXPECT_EQ(QFontInfo(FontFaces::font({})).family(), "Inter");
+}
+
+TEST(FontFacesTest, WhatTheyLackIsInTheSameFaceOnEverySystem) {
+    EXPECT_EQ(FontFaces::font({.size = 34}).families(), (QStringList{"Inter Display", "DejaVu Sans"}));
+    for (const auto* const text : {"ש", "ش"}) {
+        QTextLayout layout(QString::fromUtf8(text), FontFaces::font({}));
+        layout.beginLayout();
+        static_cast<void>(layout.createLine());
+        layout.endLayout();
+        ASSERT_EQ(layout.glyphRuns().size(), 1) << text;
+        EXPECT_EQ(layout.glyphRuns().first().rawFont().familyName(), "DejaVu Sans") << text;
+    }
 }
 
 TEST(FontFacesTest, AnAdvanceGrowsWithTheSizeSmoothly) {

@@ -216,3 +216,13 @@ TEST(TextLayoutTest, AVeryLongTextIsCutWithoutLayingAllOfItOutInLines) {
     EXPECT_EQ(layout.lineCount(), 3U);
     EXPECT_TRUE(layout.isTruncated());
 }
+
+TEST(TextLayoutTest, LettersThatAreJoinedAreNotSpacedOut) {
+    constexpr FontStyle large{.size = 34, .weight = FontWeight::Bold};
+    constexpr FontStyle small{.size = 20, .weight = FontWeight::Bold};
+    const auto spacing = [&](std::string_view text) {
+        return widthOf(text, large) / large.size - widthOf(text, small) / small.size;
+    };
+    EXPECT_NEAR(spacing("ببب"), 0, 1e-3);
+    EXPECT_GT(spacing("nnn"), 0.05);
+}

@@ -56,7 +56,8 @@ WholeProgram::Running::Running(TestDevice& device, const Screen::Options& option
                               .log = device.log()});
 }
 
-WholeProgram::WholeProgram(const Screen::Options& screen) {
+WholeProgram::WholeProgram(const Screen::Options& screen, const TestDevice::Settings& settings)
+    : device_(settings) {
     const auto installed = DeviceInstaller(DEVICE_TREE).install(Device::current().root());
     EXPECT_TRUE(installed) << installed.error();
     running_ = std::make_unique<Running>(device_, screen);

@@ -16,7 +16,7 @@
 /// was built is installed. It can be ended at any moment and started anew.
 class WholeProgram {
 public:
-    explicit WholeProgram(const Screen::Options& screen = {});
+    explicit WholeProgram(const Screen::Options& screen = {}, const TestDevice::Settings& settings = {});
     ~WholeProgram();
     WholeProgram(const WholeProgram&) = delete;
     WholeProgram& operator=(const WholeProgram&) = delete;

@@ -27,16 +27,16 @@ Texts shownBy(AboutPage& page) {
 
 } // namespace
 
-TEST(AboutPageTest, TellsOfAPhone) {
+TEST(AboutPageTest, TellsOfAPhoneInTheDevicesLanguage) {
     const TestDevice device({.locale = "de_DE", .timeZone = "Europe/Berlin"});
     const Screen screen({});
     const auto page = make<AboutPage>();
-    EXPECT_EQ(page->peer().title(), "About");
-    EXPECT_EQ(shownBy(*page), (Texts{{"Appearance", "Light"},
-                                     {"Device", "Phone on a desktop"},
-                                     {"Language", "Deutsch (Deutschland)"},
-                                     {"Screen", "390 × 844 @3x"},
-                                     {"Time Zone", "Europe/Berlin"}}));
+    EXPECT_EQ(page->peer().title(), "Info");
+    EXPECT_EQ(shownBy(*page), (Texts{{"Bildschirm", "390 × 844 @3x"},
+                                     {"Erscheinungsbild", "Hell"},
+                                     {"Gerät", "Telefon auf einem Desktop"},
+                                     {"Sprache", "Deutsch (Deutschland)"},
+                                     {"Zeitzone", "Europe/Berlin"}}));
 }
 
 TEST(AboutPageTest, TellsOfATabletInTheDark) {

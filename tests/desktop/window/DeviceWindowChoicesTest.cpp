@@ -6,6 +6,7 @@
 #include "UIKit/UIMenu.h"
 #include "WindowFixture.h"
 #include "accessibility/AccessibilityElement.h"
+#include "controls/UISliderPeer.h"
 #include "navigation/UINavigationControllerPeer.h"
 #include "scrolling/UIScrollViewPeer.h"
 
@@ -15,7 +16,7 @@ using Texts = std::vector<std::string>;
 
 class DeviceWindowChoicesTest : public WindowFixture {
 protected:
-    DeviceWindowChoicesTest() {
+    explicit DeviceWindowChoicesTest(const TestDevice::Settings& settings = {}) : WindowFixture(settings) {
         page->navigationItem().setRightBarButtonItems({UIBarButtonItem::initWithImage(
             UIImage::systemImageNamed("gear"),
             UIMenu::menuWithTitle("", {menuAction("Apply"), menuAction("Reset")}))});
@@ -41,6 +42,15 @@ protected:
         run();
     }
 
+    /// Titled by their numbers from 1 on, and one that cancels.
+    void askWithButtons(int count) {
+        std::vector<std::pair<std::string, UIAlertActionStyle>> buttons;
+        for (auto number = 1; number <= count; ++number)
+            buttons.emplace_back(std::to_string(number), UIAlertActionStyle::Default);
+        buttons.emplace_back("Cancel", UIAlertActionStyle::Cancel);
+        ask(buttons);
+    }
+
     void openMenu() {
         for (auto steps = 0; steps < 5 && focused() != "gear"; ++steps)
             press(Qt::Key_Tab);
@@ -64,7 +74,58 @@ protected:
     const Ref<UIViewController> page = make<UIViewController>();
 };
 
+class RightToLeftWindowTest : public DeviceWindowChoicesTest {
+protected:
+    RightToLeftWindowTest() : DeviceWindowChoicesTest({.locale = "ar_EG"}) {}
+};
+
 } // namespace
+
+TEST_F(DeviceWindowChoicesTest, TabBringsTheButtonsOfALongAlertIntoSight) {
+    askWithButtons(40);
+    for (auto steps = 0; steps < 35; ++steps)
+        press(Qt::Key_Tab);
+    EXPECT_EQ(focused(), "35");
+    const auto panel = screenFrame(screen.presentations().top()->shownView());
+    const auto frame = screen.presentations().top()->actions()[34].frame;
+    EXPECT_GT(frame.origin.y, panel.origin.y);
+    EXPECT_LE(CGRectGetMaxY(frame), CGRectGetMaxY(panel));
+    key(Qt::Key_Space);
+    EXPECT_EQ(chosen, Texts{"35"});
+}
+
+TEST_F(DeviceWindowChoicesTest, ReturnChoosesThePreferredButtonWhereverItIsScrolled) {
+    askWithButtons(40);
+    key(Qt::Key_Return);
+    EXPECT_EQ(chosen, Texts{"Cancel"});
+}
+
+TEST_F(RightToLeftWindowTest, TheLeftArrowLeadsOn) {
+    ask({{"Reset", UIAlertActionStyle::Destructive}, {"Cancel", UIAlertActionStyle::Cancel}});
+    press(Qt::Key_Left);
+    EXPECT_EQ(focused(), "Cancel");
+    press(Qt::Key_Left);
+    EXPECT_EQ(focused(), "Reset");
+    press(Qt::Key_Right);
+    EXPECT_EQ(focused(), "Cancel");
+}
+
+TEST_F(RightToLeftWindowTest, TheLeftArrowMakesASlidersValueGreater) {
+    const auto slider = make<UISlider>();
+    slider->setFrame(CGRectMake(20, 400, 300, 34));
+    auto& peer = peerOf<UISliderPeer>(*slider);
+    peer.setAccessibility(
+        {.label = "Slider", .value = {}, .role = AccessibilityRole::Slider, .isElement = true});
+    page->view().addSubview(slider);
+    settle();
+    for (auto steps = 0; steps < 5 && focused() != "Slider"; ++steps)
+        press(Qt::Key_Tab);
+    press(Qt::Key_Left);
+    press(Qt::Key_Left);
+    press(Qt::Key_Right);
+    press(Qt::Key_Up);
+    EXPECT_DOUBLE_EQ(peer.value(), 0.2);
+}
 
 TEST_F(DeviceWindowChoicesTest, TheArrowsGoThroughTheRowsOfAMenu) {
     openMenu();

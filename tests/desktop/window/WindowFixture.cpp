@@ -5,8 +5,9 @@
 
 #include <QGuiApplication>
 
-WindowFixture::WindowFixture()
-    : shown(screen, finger,
+WindowFixture::WindowFixture(const TestDevice::Settings& settings)
+    : Phone({}, settings),
+      shown(screen, finger,
             {.scale = std::nullopt,
              .followsAppearance = true,
              .goBack = [this] { ++timesBack_; },

@@ -11,7 +11,7 @@
 /// A phone with two buttons and a label on its screen, in a window of half its size.
 class WindowFixture : public Phone {
 protected:
-    WindowFixture();
+    explicit WindowFixture(const TestDevice::Settings& settings = {});
 
     void click(QPointF place);
     void press(Qt::Key key);

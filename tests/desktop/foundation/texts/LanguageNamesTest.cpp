@@ -35,3 +35,10 @@ TEST(LanguageNamesTest, WithoutALanguageThereAreNone) {
     EXPECT_EQ(languageNames(""), Names{});
     EXPECT_EQ(languageNames("_US"), Names{});
 }
+
+TEST(LanguageNamesTest, TellWhatIsReadFromRightToLeft) {
+    for (const auto* locale : {"ar_EG", "he_IL", "fa_IR", "ur_PK", "az_Arab_IR"})
+        EXPECT_TRUE(isReadFromRightToLeft(locale)) << locale;
+    for (const auto* locale : {"en_US", "de_DE", "ja_JP", "az_AZ", ""})
+        EXPECT_FALSE(isReadFromRightToLeft(locale)) << locale;
+}

@@ -50,9 +50,9 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(AlertLayoutFrames, fillTheWidthBesideAndBelowEachOther) {
     const AlertLayout beside({30, 30}, 0.5);
-    EXPECT_EQ(beside.frame(0, 100), CGRectMake(0, 100, 135, 44.5));
-    EXPECT_EQ(beside.frame(1, 100), CGRectMake(135, 100, 135, 44.5));
+    EXPECT_EQ(beside.frame(0), CGRectMake(0, 0, 135, 44.5));
+    EXPECT_EQ(beside.frame(1), CGRectMake(135, 0, 135, 44.5));
     const AlertLayout stacked({30, 30, 30}, 0.5);
-    EXPECT_EQ(stacked.frame(0, 100), CGRectMake(0, 100, 270, 44.5));
-    EXPECT_EQ(stacked.frame(2, 100), CGRectMake(0, 189, 270, 44.5));
+    EXPECT_EQ(stacked.frame(0), CGRectMake(0, 0, 270, 44.5));
+    EXPECT_EQ(stacked.frame(2), CGRectMake(0, 89, 270, 44.5));
 }

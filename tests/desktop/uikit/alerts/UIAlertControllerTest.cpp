@@ -36,6 +36,15 @@ protected:
 
     Ref<UIAlertController> usual() { return alert({action("Reset", Destructive), action("Cancel", Cancel)}); }
 
+    /// Titled by their numbers from 1 on, and one that cancels.
+    Ref<UIAlertController> alertOfButtons(int count) {
+        std::vector<Ref<UIAlertAction>> actions;
+        for (auto number = 1; number <= count; ++number)
+            actions.push_back(action(std::to_string(number)));
+        actions.push_back(action("Cancel", Cancel));
+        return alert(actions);
+    }
+
     static CGPoint middle(const CGRect& rect) { return {CGRectGetMidX(rect), CGRectGetMidY(rect)}; }
 
     CGPoint button(std::size_t index) { return middle(top()->actions().at(index).frame); }
@@ -270,6 +279,56 @@ TEST_F(UIAlertControllerTest, longTextsScrollWithinTheScreen) {
     settle();
     EXPECT_GT(peerOf<UIScrollViewPeer>(texts).contentOffset().y, 100);
     EXPECT_NE(top(), nullptr);
+}
+
+TEST_F(UIAlertControllerTest, veryManyButtonsScrollBelowTheTextsOnceTheyHaveNoRoom) {
+    present(alertOfButtons(40));
+    const auto frame = screenFrame(top()->shownView());
+    EXPECT_GE(frame.origin.y, 47 + 20);
+    EXPECT_LE(CGRectGetMaxY(frame), 844 - 34 - 20);
+    EXPECT_GT(top()->actions().back().frame.origin.y, CGRectGetMaxY(frame));
+    const auto firstTop = top()->actions()[0].frame.origin.y;
+    drag({195, 600}, {195, 300});
+    EXPECT_LT(top()->actions()[0].frame.origin.y, firstTop - 200);
+    up({195, 300});
+    settle();
+    EXPECT_THAT(takeLog(), ElementsAre("presented Reset Settings"))
+        << "a finger that scrolls chooses nothing";
+    ASSERT_NE(top(), nullptr);
+    for (auto times = 0; times < 8; ++times) {
+        drag({195, 700}, {195, 300});
+        up({195, 300});
+        settle();
+    }
+    EXPECT_NEAR(CGRectGetMaxY(top()->actions().back().frame), CGRectGetMaxY(frame), 1e-6);
+    tap(middle(top()->actions()[38].frame));
+    settle();
+    EXPECT_THAT(log, testing::Contains("chose 39"));
+}
+
+TEST_F(UIAlertControllerTest, buttonsThatAreScrolledAwayAreNotBehindTheTexts) {
+    present(alertOfButtons(40));
+    drag({195, 600}, {195, 400});
+    up({195, 400});
+    settle();
+    static_cast<void>(takeLog());
+    const auto frame = screenFrame(top()->shownView());
+    tap(CGPoint{195, frame.origin.y + 20});
+    settle();
+    EXPECT_THAT(log, IsEmpty());
+    EXPECT_NE(top(), nullptr);
+}
+
+TEST_F(UIAlertControllerTest, longTextsAndVeryManyButtonsShareTheRoom) {
+    std::string message;
+    for (auto line = 0; line < 90; ++line)
+        message += "A message that goes on and on.\n";
+    std::vector<Ref<UIAlertAction>> actions;
+    for (auto number = 1; number <= 40; ++number)
+        actions.push_back(action(std::to_string(number)));
+    present(alert(actions, "Long", message));
+    const auto frame = screenFrame(top()->shownView());
+    EXPECT_NEAR(top()->actions()[0].frame.origin.y, CGRectGetMidY(frame), 1e-6);
 }
 
 TEST_F(UIAlertControllerTest, staysAboveTheKeyboard) {

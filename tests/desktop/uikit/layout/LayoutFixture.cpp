@@ -63,8 +63,8 @@ NSLayoutConstraintPeer& LayoutFixture::equal(const LayoutAnchor& first, double c
 
 void LayoutFixture::fill(UIView& view, double inset) {
     using enum LayoutAttribute;
-    equal({view, Left}, {*host, Left}, inset);
+    equal({view, Leading}, {*host, Leading}, inset);
     equal({view, Top}, {*host, Top}, inset);
-    equal({view, Right}, {*host, Right}, -inset);
+    equal({view, Trailing}, {*host, Trailing}, -inset);
     equal({view, Bottom}, {*host, Bottom}, -inset);
 }

@@ -37,7 +37,7 @@ TEST_F(NSLayoutConstraintTest, CentreAndSizePlaceAView) {
 
 TEST_F(NSLayoutConstraintTest, TheIntrinsicSizeFillsWhatIsNotSaid) {
     const auto view = add(40, 30);
-    equal({*view, Right}, {*host, Right}, -4);
+    equal({*view, Trailing}, {*host, Trailing}, -4);
     equal({*view, CenterY}, {*host, CenterY});
     layOut();
     EXPECT_EQ(view->frame(), CGRectMake(256, 85, 40, 30));
@@ -49,9 +49,9 @@ TEST_F(NSLayoutConstraintTest, TheIntrinsicSizeFillsWhatIsNotSaid) {
 TEST_F(NSLayoutConstraintTest, OfTwoInTooMuchRoomTheOneThatHugsLessGrows) {
     const auto first = add(40, 20);
     const auto second = add(40, 20);
-    equal({*first, Left}, {*host, Left});
-    equal({*second, Left}, {*first, Right});
-    equal({*second, Right}, {*host, Right});
+    equal({*first, Leading}, {*host, Leading});
+    equal({*second, Leading}, {*first, Trailing});
+    equal({*second, Trailing}, {*host, Trailing});
     first->peer().layoutRules().horizontal.hugging = 251;
     layOut();
     EXPECT_EQ(first->frame().size.width, 40);
@@ -65,9 +65,9 @@ TEST_F(NSLayoutConstraintTest, OfTwoInTooMuchRoomTheOneThatHugsLessGrows) {
 TEST_F(NSLayoutConstraintTest, OfTwoInTooLittleRoomTheOneThatResistsLessShrinks) {
     const auto first = add(200, 20);
     const auto second = add(200, 20);
-    equal({*first, Left}, {*host, Left});
-    equal({*second, Left}, {*first, Right});
-    equal({*second, Right}, {*host, Right});
+    equal({*first, Leading}, {*host, Leading});
+    equal({*second, Leading}, {*first, Trailing});
+    equal({*second, Trailing}, {*host, Trailing});
     first->peer().layoutRules().horizontal.compression = 749;
     layOut();
     EXPECT_EQ(first->frame().size.width, 100);
@@ -76,7 +76,7 @@ TEST_F(NSLayoutConstraintTest, OfTwoInTooLittleRoomTheOneThatResistsLessShrinks)
 
 TEST_F(NSLayoutConstraintTest, AWeakerConstraintGivesWay) {
     const auto view = add();
-    equal({*view, Left}, {*host, Left});
+    equal({*view, Leading}, {*host, Leading});
     constrain({.first = {*view, Width}, .relation = LinearRelation::LessOrEqual, .constant = 80});
     constrain({.first = {*view, Width}, .constant = 500, .priority = 750});
     constrain({.first = {*view, Width}, .constant = 10, .priority = 749});
@@ -88,7 +88,7 @@ TEST_F(NSLayoutConstraintTest, PlacesGoThroughTheViewsBetween) {
     const auto outer = add();
     fill(*outer, 20);
     const auto inner = addTo(*outer);
-    equal({*inner, Left}, {*host, Left}, 50);
+    equal({*inner, Leading}, {*host, Leading}, 50);
     equal({*inner, Top}, {*outer, Top}, 5);
     equal({*inner, Width}, 10);
     equal({*inner, Height}, 10);
@@ -100,7 +100,7 @@ TEST_F(NSLayoutConstraintTest, AViewWithAFrameOfItsOwnIsAnAnchorThatDoesNotMove)
     const auto given = makeWith<UIView>(&UIView::initWithFrame, CGRectMake(30, 40, 50, 60));
     host->addSubview(given);
     const auto view = add(10, 10);
-    equal({*view, Left}, {*given, Right}, 8);
+    equal({*view, Leading}, {*given, Trailing}, 8);
     equal({*view, CenterY}, {*given, CenterY});
     layOut();
     EXPECT_EQ(view->frame(), CGRectMake(88, 65, 10, 10));
@@ -113,15 +113,15 @@ TEST_F(NSLayoutConstraintTest, TheSafeAreaAndTheMarginsAreAnchorsToo) {
     const auto view = add();
     equal({*view, Top}, {*host, Top, LayoutGuide::SafeArea});
     equal({*view, Bottom}, {*host, Bottom, LayoutGuide::SafeArea});
-    equal({*view, Left}, {*host, Left, LayoutGuide::Margins});
-    equal({*view, Right}, {*host, Right, LayoutGuide::Margins});
+    equal({*view, Leading}, {*host, Leading, LayoutGuide::Margins});
+    equal({*view, Trailing}, {*host, Trailing, LayoutGuide::Margins});
     layOut();
     EXPECT_EQ(view->frame(), CGRectMake(16, 44, 264, 126));
 }
 
 TEST_F(NSLayoutConstraintTest, FramesLieOnPixels) {
     const auto view = add();
-    equal({*view, Left}, {*host, Left}, 1.3);
+    equal({*view, Leading}, {*host, Leading}, 1.3);
     equal({*view, Width}, 10.1);
     layOut();
     EXPECT_EQ(view->frame().origin.x, 1.5);
@@ -156,8 +156,8 @@ TEST_F(NSLayoutConstraintTest, AContradictionIsLoggedOnceUntilItIsGone) {
 
 TEST_F(NSLayoutConstraintTest, ALengthIsNeverNegative) {
     const auto view = add();
-    equal({*view, Left}, {*host, Left}, 50);
-    equal({*view, Right}, {*host, Left}, 20);
+    equal({*view, Leading}, {*host, Leading}, 50);
+    equal({*view, Trailing}, {*host, Leading}, 20);
     layOut();
     EXPECT_EQ(view->frame().origin.x, 50);
     EXPECT_EQ(view->frame().size.width, 0);
@@ -165,14 +165,14 @@ TEST_F(NSLayoutConstraintTest, ALengthIsNeverNegative) {
 
 TEST_F(NSLayoutConstraintTest, ViewsOfDifferentTreesCannotBeTied) {
     const auto stranger = make<SizedView>();
-    const auto& refused = constrain({.first = {*stranger, Left}, .second = LayoutAnchor(*host, Left)});
+    const auto& refused = constrain({.first = {*stranger, Leading}, .second = LayoutAnchor(*host, Leading)});
     EXPECT_FALSE(refused.isActive());
     EXPECT_EQ(device.log().take().size(), 1U);
 }
 
 TEST_F(NSLayoutConstraintTest, AChangedConstantMovesTheView) {
     const auto view = add(10, 10);
-    auto& left = equal({*view, Left}, {*host, Left}, 5);
+    auto& left = equal({*view, Leading}, {*host, Leading}, 5);
     layOut();
     left.setConstant(15);
     layOut();
@@ -181,7 +181,7 @@ TEST_F(NSLayoutConstraintTest, AChangedConstantMovesTheView) {
 
 TEST_F(NSLayoutConstraintTest, ADeactivatedConstraintNoLongerHolds) {
     const auto view = add(10, 10);
-    auto& left = equal({*view, Left}, {*host, Left}, 5);
+    auto& left = equal({*view, Leading}, {*host, Leading}, 5);
     const auto right = view->trailingAnchor()->constraintEqualToAnchor(host->trailingAnchor());
     layOut();
     left.deactivate();
@@ -195,8 +195,8 @@ TEST_F(NSLayoutConstraintTest, AConstraintOnAViewThatIsGoneIsLeftOut) {
     const auto view = add(10, 10);
     {
         const auto gone = add(30, 30);
-        equal({*view, Left}, {*gone, Right});
-        equal({*view, Left}, {*host, Left}, 3);
+        equal({*view, Leading}, {*gone, Trailing});
+        equal({*view, Leading}, {*host, Leading}, 3);
         gone->peer().removeFromSuperview();
     }
     layOut();
@@ -210,8 +210,8 @@ TEST_F(NSLayoutConstraintTest, ALabelOfSeveralLinesIsAsHighAsItsWidthMakesIt) {
     label->setText("Rows whose controlling switch is off are hidden and come back when it is turned on.");
     label->peer().setFrameGiven(false);
     host->addSubview(label);
-    equal({*label, Left}, {*host, Left});
-    equal({*label, Right}, {*host, Right});
+    equal({*label, Leading}, {*host, Leading});
+    equal({*label, Trailing}, {*host, Trailing});
     equal({*label, Top}, {*host, Top});
     layOut();
     const auto wide = label->frame().size;
