@@ -6,7 +6,7 @@
 void LayerPainter::paint(const PaintList& list, const QRegion& damage, QImage& picture) {
     bringUpToDate(list);
     scratch_.makeRoom(list.size());
-    Painting(list, damage, picture, {scratch_, shadows_, pictures_}).paintAll(Qt::black);
+    Painting(list, damage, picture, Qt::black, {scratch_, shadows_, pictures_}).paintAll();
     pictures_.paintingEnded();
 }
 
@@ -27,8 +27,9 @@ void LayerPainter::bringUpToDate(const PaintItem& item) {
         kept.picture = QImage(item.inner->size(), QImage::Format_ARGB32_Premultiplied);
     if (!damage.isEmpty()) {
         scratch_.makeRoom(item.inner->size());
-        Painting(*item.inner, damage, kept.picture, {scratch_, shadows_, pictures_})
-            .paintAll(Qt::transparent);
+        Painting(*item.inner, damage, kept.picture, Qt::transparent, {scratch_, shadows_, pictures_})
+            .paintAll();
+        kept.smaller.clear();
     }
     kept.shown = item.inner;
 }

@@ -4,6 +4,7 @@
 
 #include <QImage>
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <unordered_map>
 
@@ -19,6 +20,7 @@ public:
     struct Kept {
         std::shared_ptr<const PaintList> shown; ///< null until it is painted
         QImage picture;                         ///< ARGB32 premultiplied
+        std::map<int, QImage> smaller;          ///< the same so many times smaller
         std::uint64_t lastUse = 0;
     };
 
@@ -27,6 +29,9 @@ public:
 
     /// The same when it is up to date. \pre `use` was called for it in this painting
     [[nodiscard]] const QImage& picture(std::uint64_t identity) const;
+
+    /// That so many times smaller, of the means of its pixels. \param factor 1, 2, 4 and so on
+    [[nodiscard]] const QImage& picture(std::uint64_t identity, int factor);
 
     /// A painting is over: drops what was not used for long, and beyond the capacity what this one did not
     /// use, the longest unused first.

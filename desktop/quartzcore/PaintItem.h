@@ -25,6 +25,8 @@ struct PaintItem {
     QRect body;        ///< what the layer itself can reach
     QRect extent;      ///< the same with its shadow
     QRect wholeExtent; ///< the same with all within it
+    QRect fullView;    ///< where nothing fades what is within it, or cuts it off in a part of a pixel
+    QRect filled;      ///< whole pixels in full view that its shape covers; may be empty
     QRect opaque;      ///< where nothing behind it is seen; may be empty
 
     // Of a layer that keeps a picture.

@@ -2,7 +2,9 @@
 
 #include "PaintItem.h"
 
+#include <QRect>
 #include <QSize>
+#include <cstddef>
 #include <vector>
 
 class CALayer;
@@ -28,6 +30,9 @@ public:
     /// A part of the picture that lets nothing through, the largest that one layer fills; may be empty.
     [[nodiscard]] QRect opaque() const;
 
+    /// What lies behind an item in a part of the picture, smaller. \param size that the part comes out at
+    [[nodiscard]] PaintList behind(std::size_t index, const QRect& part, QSize size) const;
+
     /// Whether a backdrop in it shows what lies behind the picture.
     [[nodiscard]] bool showsWhatIsBehind() const;
 
@@ -39,6 +44,7 @@ private:
     struct Surroundings {
         AffineTransform toPixels; ///< from the superlayer's bounds
         QRect clip;
+        QRect fullView;
         std::uint64_t enclosing = 0;
     };
 
@@ -46,6 +52,8 @@ private:
     PaintList(const CALayer& layer, const LayerLook& look, double scale);
 
     [[nodiscard]] static Surroundings within(const PaintItem& item);
+    /// Tells an item with a look where it is, without what is within it.
+    static void place(PaintItem& item, const Surroundings& around);
     void add(const CALayer& layer, const Surroundings& around);
     void addItem(const CALayer& layer, const LayerLook& look, double opacity, const Surroundings& around);
     /// \returns whether the layer is painted by way of a picture of its own

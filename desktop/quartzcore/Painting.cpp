@@ -1,12 +1,12 @@
 #include "Painting.h"
 
-#include "GaussianBlur.h"
 #include "LayerDelegate.h"
 #include "PixelRects.h"
 #include "ScaledPicture.h"
 
+#include <algorithm>
+#include <bit>
 #include <cmath>
-#include <ranges>
 #include <utility>
 
 namespace {
@@ -20,6 +20,18 @@ QColor asColor(const ColorComponents& color) {
 
 double pixelsPerPoint(const LayerLook& look) {
     return std::sqrt(std::abs(look.transform().determinant()));
+}
+
+/// How many times smaller what is blurred may be painted.
+int timesSmaller(double sigma) {
+    constexpr double leastSigma = 6; ///< of the smaller picture; what is finer could be told
+    return static_cast<int>(std::bit_floor(static_cast<unsigned>(std::max(1.0, sigma / leastSigma))));
+}
+
+/// How many times smaller a picture is taken to be painted at a place.
+int timesSmaller(const PaintItem& item) {
+    const auto times = item.inner->size().height() / std::max(1.0, item.placeOfInner().height());
+    return 1 << static_cast<int>(std::lround(std::log2(std::max(1.0, times))));
 }
 
 /// Where a soft mask may leave less than the whole of a pixel.
@@ -92,42 +104,36 @@ bool isPictureOnly(const PaintItem& item) {
 
 } // namespace
 
-Painting::Surface::Surface(QImage& picture, double groupOpacity)
-    : image(picture),
-      painter(&picture),
-      opacity(groupOpacity) {
+Painting::Surface::Surface(QImage& picture) : image(picture), painter(&picture) {
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
                            QPainter::SmoothPixmapTransform);
 }
 
-Painting::Painting(const PaintList& list, const QRegion& damage, QImage& picture, const Tools& tools)
-    : items_(list.items()),
+Painting::Painting(const PaintList& list, const QRegion& damage, QImage& picture, const QColor& color,
+                   const Tools& tools)
+    : list_(list),
+      items_(list.items()),
       damage_(damage),
-      tools_(tools),
       picture_(picture),
+      color_(color),
+      tools_(tools),
       seen_(items_.size()),
       isAnySeen_(items_.size()) {}
 
-void Painting::paintAll(const QColor& color) {
+void Painting::paintAll() {
     findSeen();
-    isOpaque_ = color.alphaF() == 1;
-    PixelRects::fill(picture_, damage_, color);
-    Surface surface(picture_, 1);
-    surfaces_.push_back(&surface);
+    PixelRects::fill(picture_, damage_ - covered_, color_);
+    Surface surface(picture_);
     paintItems(0, items_.size(), surface);
-    surfaces_.pop_back();
 }
 
 void Painting::findSeen() {
-    QRegion covered;
+    const auto isOpaque = color_.alphaF() == 1;
     for (auto index = items_.size(); index-- > 0;) {
         const auto& item = items_[index];
-        seen_[index] = (damage_ & item.extent) - covered;
-        if (seen_[index].isEmpty())
-            continue;
-        if (item.look.backdrop)
-            covered -= item.body;
-        covered |= item.opaque;
+        seen_[index] = (damage_ & item.extent) - covered_;
+        if (!seen_[index].isEmpty())
+            covered_ |= item.look.backdrop && isOpaque ? item.filled : item.opaque;
     }
     for (auto index = items_.size(); index-- > 0;) {
         isAnySeen_[index] = !seen_[index].isEmpty();
@@ -168,10 +174,8 @@ void Painting::paintGroup(std::size_t index, Surface& surface) {
     auto& image = tools_.scratch.take();
     PixelRects::fill(image, region, Qt::transparent);
     {
-        Surface group(image, item.opacity);
-        surfaces_.push_back(&group);
+        Surface group(image);
         paintLayer(index, group);
-        surfaces_.pop_back();
     }
     painter.resetTransform();
     painter.setOpacity(item.opacity);
@@ -220,7 +224,7 @@ void Painting::blendEdges(const PaintItem& item, const QRegion& edges, QImage& s
     auto& mask = tools_.scratch.take();
     PixelRects::fill(mask, edges, Qt::transparent);
     {
-        Surface shape(mask, 1);
+        Surface shape(mask);
         const auto outline = item.look.transform().map(item.look.outline());
         paintEach(shape.painter, edges,
                   [&](const QRect& /*rect*/) { shape.painter.fillPath(outline, Qt::black); });
@@ -253,33 +257,39 @@ void Painting::paintShadow(const PaintItem& item, Surface& surface) {
 
 void Painting::paintBackdrop(std::size_t index, Surface& surface) {
     const auto& item = items_[index];
-    const auto& look = item.look;
-    if (!look.backdrop || !damage_.intersects(item.body))
+    if (!item.look.backdrop || !damage_.intersects(item.body))
         return;
-    const auto seen = blurredBackdrop(behind(item.body), look.backdrop->blurRadius * pixelsPerPoint(look),
-                                      look.backdrop->saturation);
+    const auto seen = backdropOf(index);
     const auto region = seen_[index] & item.body & item.innerClip;
-    const auto inside = isOpaque_ ? insideOf(look, 0) : QRect();
-    PixelRects::copy(seen, surface.image, region & inside, item.body.topLeft());
-    auto& painter = surface.painter;
-    painter.resetTransform();
-    painter.setClipRegion(region - inside);
-    painter.setBrushOrigin(item.body.topLeft());
-    painter.fillPath(look.transform().map(shapeOf(item, 0)), QBrush(seen));
-    painter.setBrushOrigin(0, 0);
+    const auto inside = seen.isOpaque() ? item.filled : QRect();
+    for (const auto& rect : region& inside)
+        seen.copyTo(surface.image, rect.translated(-item.body.topLeft()), item.body.topLeft());
+    const auto shape = item.look.transform().map(shapeOf(item, 0));
+    surface.painter.resetTransform();
+    paintEach(surface.painter, region - inside, [&](const QRect& rect) {
+        QImage part(rect.size(), QImage::Format_ARGB32_Premultiplied);
+        const auto corner = item.body.topLeft() - rect.topLeft();
+        seen.copyTo(part, part.rect().translated(-corner), corner);
+        surface.painter.setBrushOrigin(rect.topLeft());
+        surface.painter.fillPath(shape, QBrush(part));
+    });
+    surface.painter.setBrushOrigin(0, 0);
 }
 
-QImage Painting::behind(const QRect& rect) const {
-    QImage image(rect.size(), QImage::Format_ARGB32_Premultiplied);
-    PixelRects::copy(picture_, image, QRect({}, rect.size()), -rect.topLeft());
-    QPainter painter(&image);
-    double opacity = 1;
-    for (const auto* const surface : surfaces_ | std::views::drop(1)) {
-        opacity *= surface->opacity;
-        painter.setOpacity(opacity);
-        painter.drawImage(QPoint(), surface->image, rect);
-    }
-    return image;
+/// What lies behind is painted smaller, as finely as is needed for its blur.
+BlurredBackdrop Painting::backdropOf(std::size_t index) const {
+    const auto& item = items_[index];
+    const auto sigma = item.look.backdrop->blurRadius * pixelsPerPoint(item.look);
+    const auto& full = item.body.size();
+    const auto factor = timesSmaller(sigma);
+    const QSize size(std::max(1, full.width() / factor), std::max(1, full.height() / factor));
+    const auto list = list_.behind(index, item.body, size);
+    QImage behind(size, QImage::Format_ARGB32_Premultiplied);
+    const QRegion all(behind.rect());
+    Painting(list, all, behind, color_, tools_).paintAll();
+    const auto smaller = std::sqrt(static_cast<double>(size.width()) * size.height() /
+                                   (static_cast<double>(full.width()) * full.height()));
+    return {behind, sigma * smaller, item.look.backdrop->saturation, full};
 }
 
 void Painting::paintBackground(std::size_t index, Surface& surface, double opacity) {
@@ -334,7 +344,8 @@ void Painting::paintPicture(std::size_t index, Surface& surface) {
 }
 
 void Painting::paintScaledPicture(const PaintItem& item, const QRegion& region, Surface& surface) const {
-    const ScaledPicture scaled(tools_.pictures.picture(item.identity), item.placeOfInner());
+    const ScaledPicture scaled(tools_.pictures.picture(item.identity, timesSmaller(item)),
+                               item.placeOfInner());
     for (const auto& rect : region& item.opaque)
         scaled.copyTo(surface.image, rect);
     surface.painter.resetTransform();

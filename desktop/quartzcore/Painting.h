@@ -1,10 +1,12 @@
 #pragma once
 
+#include "BlurredBackdrop.h"
 #include "LayerPictures.h"
 #include "PaintList.h"
 #include "ScratchImages.h"
 #include "ShadowRenderer.h"
 
+#include <QColor>
 #include <QImage>
 #include <QPainter>
 #include <QRegion>
@@ -19,26 +21,27 @@ public:
     struct Tools {
         ScratchImages& scratch; ///< with room for the picture
         ShadowRenderer& shadows;
-        const LayerPictures& pictures; ///< up to date
+        LayerPictures& pictures; ///< up to date
     };
 
-    Painting(const PaintList& list, const QRegion& damage, QImage& picture, const Tools& tools);
-
     /// \param color behind all layers
-    void paintAll(const QColor& color);
+    Painting(const PaintList& list, const QRegion& damage, QImage& picture, const QColor& color,
+             const Tools& tools);
+
+    void paintAll();
 
 private:
     /// A picture that layers are painted into: the whole's, or that of a group on its way into it.
     struct Surface {
         QImage& image;
         QPainter painter;
-        double opacity; ///< that the group is going to be painted with
 
-        Surface(QImage& picture, double groupOpacity);
+        explicit Surface(QImage& picture);
     };
 
     /// Where nothing that lies in front covers an item.
     void findSeen();
+    [[nodiscard]] BlurredBackdrop backdropOf(std::size_t index) const;
     void paintItems(std::size_t first, std::size_t end, Surface& surface);
     void paintItem(std::size_t index, Surface& surface);
     void paintGroup(std::size_t index, Surface& surface);
@@ -55,15 +58,15 @@ private:
     void paintPicture(std::size_t index, Surface& surface);
     void paintScaledPicture(const PaintItem& item, const QRegion& region, Surface& surface) const;
     void paintBorder(const PaintItem& item, Surface& surface);
-    [[nodiscard]] QImage behind(const QRect& rect) const;
     [[nodiscard]] QPainter& readied(Surface& surface, const PaintItem& item, const QRegion& clip) const;
 
+    const PaintList& list_;
     const std::vector<PaintItem>& items_;
     const QRegion& damage_;
-    Tools tools_;
     QImage& picture_;
-    std::vector<QRegion> seen_;      ///< of the damage, where each item is seen, without what is within it
-    bool isOpaque_ = true;           ///< the picture, behind all layers
-    std::vector<bool> isAnySeen_;    ///< of each item with all within it
-    std::vector<Surface*> surfaces_; ///< the whole's, then those of the groups that are being painted
+    QColor color_; ///< behind all layers
+    Tools tools_;
+    std::vector<QRegion> seen_;   ///< of the damage, where each item is seen, without what is within it
+    QRegion covered_;             ///< by layers, where what is behind all of them is not seen
+    std::vector<bool> isAnySeen_; ///< of each item with all within it
 };
