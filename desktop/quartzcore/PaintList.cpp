@@ -127,12 +127,8 @@ QRect roundedInwards(const QRectF& rect) {
 QRect filledRect(const LayerLook& look) {
     if (!look.isUpright() || look.borderWidth > 0)
         return {};
-    constexpr double softEdge = 1;
-    const auto corner = look.cornerPixels();
-    const auto rect =
-        look.fillsWholePixels()
-            ? look.wholePixels()
-            : roundedInwards(look.pixelRect().adjusted(0, corner + softEdge, 0, -corner - softEdge));
+    const auto bend = look.cornerPixels();
+    const auto rect = look.wholePixelsWithin(0, bend > 0 ? bend + 1 : 0);
     return rect.isValid() ? rect : QRect();
 }
 

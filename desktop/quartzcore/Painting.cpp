@@ -38,32 +38,23 @@ int timesSmaller(const PaintItem& item) {
 QRegion softEdges(const PaintItem& item) {
     if (!item.look.isUpright())
         return {item.innerClip};
-    const auto rect = item.look.pixelRect();
-    const auto corner = item.look.cornerPixels() + 1;
-    const auto insideOf = [&rect](double x, double y) {
-        const auto inside = rect.adjusted(x, y, -x, -y);
-        if (!inside.isValid())
-            return QRect();
-        return QRect(
-            QPoint(static_cast<int>(std::ceil(inside.left())), static_cast<int>(std::ceil(inside.top()))),
-            QPoint(static_cast<int>(std::floor(inside.right())) - 1,
-                   static_cast<int>(std::floor(inside.bottom())) - 1));
-    };
-    return QRegion(item.innerClip) - insideOf(corner, 0) - insideOf(0, corner);
+    const auto bend = item.look.cornerPixels();
+    const auto corner = bend > 0 ? bend + 1 : 0;
+    return QRegion(item.innerClip) - item.look.wholePixelsWithin(corner, 0) -
+           item.look.wholePixelsWithin(0, corner);
 }
 
 /// Has a painter paint the rectangles of a region one by one, which is faster than all at once.
 template <class Paint>
 void paintEach(QPainter& painter, const QRegion& region, Paint paint) {
+    constexpr auto rowsAtOnce = 64; // more are shared out to threads, which costs more than it saves
     for (const auto& rect : region) {
-        painter.setClipRect(rect);
-        paint(rect);
+        for (auto top = rect.top(); top <= rect.bottom(); top += rowsAtOnce) {
+            const auto part = QRect(rect.left(), top, rect.width(), rowsAtOnce) & rect;
+            painter.setClipRect(part);
+            paint(part);
+        }
     }
-}
-
-/// Paints the pixels of a region with those of another picture, which has them at the same place.
-void paintPart(QPainter& painter, const QImage& image, const QRegion& region) {
-    paintEach(painter, region, [&](const QRect& rect) { painter.drawImage(rect.topLeft(), image, rect); });
 }
 
 /// The layer's edge, or beyond it where a mask makes the edge.
@@ -78,15 +69,12 @@ QPainterPath shapeOf(const PaintItem& item, double inset) {
     return path;
 }
 
-/// The pixels between the corners of a background that are filled wholly, where they are worth the trouble.
+/// The pixels between the corners of a background that are filled wholly.
 QRect insideOf(const LayerLook& look, double inset) {
-    constexpr auto leastSide = 64;
-    const auto edge = 1 + inset * pixelsPerPoint(look);
-    const auto rect =
-        look.pixelRect().adjusted(edge, edge + look.cornerPixels(), -edge, -edge - look.cornerPixels());
-    if (!look.isUpright() || rect.width() < leastSide || rect.height() < leastSide)
+    if (!look.isUpright())
         return {};
-    return rect.toAlignedRect();
+    const auto edge = inset * pixelsPerPoint(look);
+    return look.wholePixelsWithin(edge, edge + look.cornerPixels());
 }
 
 /// Whether nothing of an item is painted but its background, so that a group needs no picture of its own.
@@ -118,11 +106,12 @@ Painting::Painting(const PaintList& list, const QRegion& damage, QImage& picture
       color_(color),
       tools_(tools),
       seen_(items_.size()),
+      covered_(items_.size() + 1),
       isAnySeen_(items_.size()) {}
 
 void Painting::paintAll() {
     findSeen();
-    PixelRects::fill(picture_, damage_ - covered_, color_);
+    PixelRects::fill(picture_, damage_ - covered_.front(), color_);
     Surface surface(picture_);
     paintItems(0, items_.size(), surface);
 }
@@ -131,9 +120,10 @@ void Painting::findSeen() {
     const auto isOpaque = color_.alphaF() == 1;
     for (auto index = items_.size(); index-- > 0;) {
         const auto& item = items_[index];
-        seen_[index] = (damage_ & item.extent) - covered_;
+        covered_[index] = covered_[index + 1];
+        seen_[index] = (damage_ & item.extent) - covered_[index];
         if (!seen_[index].isEmpty())
-            covered_ |= item.look.backdrop && isOpaque ? item.filled : item.opaque;
+            covered_[index] |= item.look.backdrop && isOpaque ? item.filled : item.opaque;
     }
     for (auto index = items_.size(); index-- > 0;) {
         isAnySeen_[index] = !seen_[index].isEmpty();
@@ -141,6 +131,10 @@ void Painting::findSeen() {
              within = items_[within].end)
             isAnySeen_[index] = isAnySeen_[within];
     }
+}
+
+QRegion Painting::seenWithin(const PaintItem& item, const QRegion& part) const {
+    return (damage_ & part) - covered_[item.end];
 }
 
 void Painting::paintItems(std::size_t first, std::size_t end, Surface& surface) {
@@ -163,24 +157,18 @@ void Painting::paintGroup(std::size_t index, Surface& surface) {
         paintBackground(index, surface, item.opacity);
         return;
     }
-    auto& painter = surface.painter;
     if (isPictureOnly(item)) {
-        painter.setOpacity(item.opacity);
-        paintPicture(index, surface);
-        painter.setOpacity(1);
+        paintPicture(index, surface, item.opacity);
         return;
     }
-    const auto region = damage_ & item.wholeExtent;
+    const auto region = seenWithin(item, item.wholeExtent);
     auto& image = tools_.scratch.take();
     PixelRects::fill(image, region, Qt::transparent);
     {
         Surface group(image);
         paintLayer(index, group);
     }
-    painter.resetTransform();
-    painter.setOpacity(item.opacity);
-    paintPart(painter, image, region);
-    painter.setOpacity(1);
+    PixelRects::paintOver(surface.image, region, image, {}, item.opacity);
     tools_.scratch.release();
 }
 
@@ -208,7 +196,7 @@ void Painting::paintInside(std::size_t index, Surface& surface) {
 
 void Painting::paintMasked(std::size_t index, Surface& surface) {
     const auto& item = items_[index];
-    const auto edges = softEdges(item) & damage_;
+    const auto edges = seenWithin(item, softEdges(item));
     if (edges.isEmpty()) {
         paintInside(index, surface);
         return;
@@ -220,7 +208,8 @@ void Painting::paintMasked(std::size_t index, Surface& surface) {
     tools_.scratch.release();
 }
 
-void Painting::blendEdges(const PaintItem& item, const QRegion& edges, QImage& saved, Surface& surface) {
+void Painting::blendEdges(const PaintItem& item, const QRegion& edges, const QImage& saved,
+                          Surface& surface) {
     auto& mask = tools_.scratch.take();
     PixelRects::fill(mask, edges, Qt::transparent);
     {
@@ -229,18 +218,7 @@ void Painting::blendEdges(const PaintItem& item, const QRegion& edges, QImage& s
         paintEach(shape.painter, edges,
                   [&](const QRect& /*rect*/) { shape.painter.fillPath(outline, Qt::black); });
     }
-    {
-        QPainter outside(&saved);
-        outside.setCompositionMode(QPainter::CompositionMode_DestinationOut);
-        paintPart(outside, mask, edges);
-    }
-    auto& painter = surface.painter;
-    painter.resetTransform();
-    painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
-    paintPart(painter, mask, edges);
-    painter.setCompositionMode(QPainter::CompositionMode_Plus);
-    paintPart(painter, saved, edges);
-    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    PixelRects::bringBack(surface.image, edges, saved, mask);
     tools_.scratch.release();
 }
 
@@ -312,8 +290,8 @@ void Painting::paintBackground(std::size_t index, Surface& surface, double opaci
     const auto inside = insideOf(look, inset);
     painter.resetTransform();
     PixelRects::paintOver(surface.image, region & inside, asColor(color));
-    painter.setClipRegion(region - inside);
-    painter.fillPath(shape, asColor(color));
+    paintEach(painter, region - inside,
+              [&](const QRect& /*rect*/) { painter.fillPath(shape, asColor(color)); });
 }
 
 void Painting::paintContents(const PaintItem& item, Surface& surface) {
@@ -326,7 +304,7 @@ void Painting::paintContents(const PaintItem& item, Surface& surface) {
     painter.restore();
 }
 
-void Painting::paintPicture(std::size_t index, Surface& surface) {
+void Painting::paintPicture(std::size_t index, Surface& surface, double opacity) {
     const auto& item = items_[index];
     if (item.inner == nullptr)
         return;
@@ -336,11 +314,8 @@ void Painting::paintPicture(std::size_t index, Surface& surface) {
         return;
     }
     const auto& image = tools_.pictures.picture(item.identity);
-    auto& painter = surface.painter;
-    painter.resetTransform();
-    const auto paint = [&](const QRect& /*rect*/) { painter.drawImage(item.cornerOfInner(), image); };
     PixelRects::copy(image, surface.image, region & item.opaque, item.cornerOfInner());
-    paintEach(painter, region - item.opaque, paint);
+    PixelRects::paintOver(surface.image, region - item.opaque, image, item.cornerOfInner(), opacity);
 }
 
 void Painting::paintScaledPicture(const PaintItem& item, const QRegion& region, Surface& surface) const {
@@ -348,12 +323,11 @@ void Painting::paintScaledPicture(const PaintItem& item, const QRegion& region, 
                                item.placeOfInner());
     for (const auto& rect : region& item.opaque)
         scaled.copyTo(surface.image, rect);
-    surface.painter.resetTransform();
-    paintEach(surface.painter, region - item.opaque, [&](const QRect& rect) {
+    for (const auto& rect : region - item.opaque) {
         QImage part(rect.size(), QImage::Format_ARGB32_Premultiplied);
         scaled.copyTo(part, rect, rect.topLeft());
-        surface.painter.drawImage(rect.topLeft(), part);
-    });
+        PixelRects::paintOver(surface.image, rect, part, rect.topLeft(), 1);
+    }
 }
 
 void Painting::paintBorder(const PaintItem& item, Surface& surface) {

@@ -41,6 +41,8 @@ private:
 
     /// Where nothing that lies in front covers an item.
     void findSeen();
+    /// The same for a part of an item with all within it.
+    [[nodiscard]] QRegion seenWithin(const PaintItem& item, const QRegion& part) const;
     [[nodiscard]] BlurredBackdrop backdropOf(std::size_t index) const;
     void paintItems(std::size_t first, std::size_t end, Surface& surface);
     void paintItem(std::size_t index, Surface& surface);
@@ -49,13 +51,13 @@ private:
     void paintInside(std::size_t index, Surface& surface);
     void paintMasked(std::size_t index, Surface& surface);
     /// Brings back what was there where a mask cuts off.
-    void blendEdges(const PaintItem& item, const QRegion& edges, QImage& saved, Surface& surface);
+    void blendEdges(const PaintItem& item, const QRegion& edges, const QImage& saved, Surface& surface);
     void paintShadow(const PaintItem& item, Surface& surface);
     void paintBackdrop(std::size_t index, Surface& surface);
     /// \param opacity of a group that has nothing else
     void paintBackground(std::size_t index, Surface& surface, double opacity = 1);
     void paintContents(const PaintItem& item, Surface& surface);
-    void paintPicture(std::size_t index, Surface& surface);
+    void paintPicture(std::size_t index, Surface& surface, double opacity = 1);
     void paintScaledPicture(const PaintItem& item, const QRegion& region, Surface& surface) const;
     void paintBorder(const PaintItem& item, Surface& surface);
     [[nodiscard]] QPainter& readied(Surface& surface, const PaintItem& item, const QRegion& clip) const;
@@ -66,7 +68,7 @@ private:
     QImage& picture_;
     QColor color_; ///< behind all layers
     Tools tools_;
-    std::vector<QRegion> seen_;   ///< of the damage, where each item is seen, without what is within it
-    QRegion covered_;             ///< by layers, where what is behind all of them is not seen
-    std::vector<bool> isAnySeen_; ///< of each item with all within it
+    std::vector<QRegion> seen_;    ///< of the damage, where each item is seen, without what is within it
+    std::vector<QRegion> covered_; ///< by each item and those in front of it; then by none
+    std::vector<bool> isAnySeen_;  ///< of each item with all within it
 };
