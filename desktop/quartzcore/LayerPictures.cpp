@@ -1,7 +1,5 @@
 #include "LayerPictures.h"
 
-#include "PixelComponents.h"
-
 #include <algorithm>
 
 LayerPictures::Kept& LayerPictures::use(std::uint64_t identity) {
@@ -12,19 +10,6 @@ LayerPictures::Kept& LayerPictures::use(std::uint64_t identity) {
 
 const QImage& LayerPictures::picture(std::uint64_t identity) const {
     return kept_.at(identity).picture;
-}
-
-const QImage& LayerPictures::picture(std::uint64_t identity, int factor) {
-    auto& kept = kept_.at(identity);
-    if (factor == 1)
-        return kept.picture;
-    auto& smaller = kept.smaller[factor];
-    if (smaller.isNull()) {
-        const auto part = [factor](int size) { return std::max(1, (size + factor / 2) / factor); };
-        const QSize size(part(kept.picture.width()), part(kept.picture.height()));
-        smaller = PixelComponents::reduced(kept.picture, size).toImage();
-    }
-    return smaller;
 }
 
 void LayerPictures::paintingEnded() {

@@ -181,7 +181,11 @@ QRect PaintList::opaque() const {
     return largest & QRect({}, size_);
 }
 
-PaintList PaintList::behind(std::size_t index, const QRect& part, QSize size) const {
+bool PaintList::hasPictures() const {
+    return std::ranges::any_of(items_, [](const auto& item) { return item.inner != nullptr; });
+}
+
+PaintList PaintList::reduced(std::size_t count, const QRect& part, QSize size) const {
     PaintList list;
     list.size_ = size;
     list.scale_ = scale_ * size.width() / part.width();
@@ -195,7 +199,7 @@ PaintList PaintList::behind(std::size_t index, const QRect& part, QSize size) co
         for (; !around.empty() && ends.back() <= place; around.pop_back(), ends.pop_back())
             list.items_[around.back()].end = list.items_.size();
     };
-    for (std::size_t place = 0; place < index; ++place) {
+    for (std::size_t place = 0; place < count; ++place) {
         leave(place);
         const auto& original = items_[place];
         if (!original.wholeExtent.intersects(part)) {
@@ -206,14 +210,14 @@ PaintList PaintList::behind(std::size_t index, const QRect& part, QSize size) co
                                       ? Surroundings{.toPixels = {}, .clip = whole, .fullView = whole}
                                       : within(list.items_[around.back()]);
         around.push_back(list.items_.size());
-        ends.push_back(std::min(original.end, index));
+        ends.push_back(std::min(original.end, count));
         auto& item = list.items_.emplace_back(original);
         item.look.toPixels = toPart.after(item.look.toPixels);
         PaintList::place(item, surroundings);
         for (const auto outer : around)
             list.items_[outer].wholeExtent |= item.extent;
     }
-    leave(index);
+    leave(count);
     return list;
 }
 

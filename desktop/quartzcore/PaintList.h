@@ -30,8 +30,12 @@ public:
     /// A part of the picture that lets nothing through, the largest that one layer fills; may be empty.
     [[nodiscard]] QRect opaque() const;
 
-    /// What lies behind an item in a part of the picture, smaller. \param size that the part comes out at
-    [[nodiscard]] PaintList behind(std::size_t index, const QRect& part, QSize size) const;
+    /// What the first items show in a part of the picture, larger or smaller. \param size that it comes out
+    /// at
+    [[nodiscard]] PaintList reduced(std::size_t count, const QRect& part, QSize size) const;
+
+    /// Whether there are layers in it that keep pictures.
+    [[nodiscard]] bool hasPictures() const;
 
     /// Whether a backdrop in it shows what lies behind the picture.
     [[nodiscard]] bool showsWhatIsBehind() const;

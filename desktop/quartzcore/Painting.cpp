@@ -1,6 +1,7 @@
 #include "Painting.h"
 
 #include "LayerDelegate.h"
+#include "LayerPainter.h"
 #include "PixelRects.h"
 #include "ScaledPicture.h"
 
@@ -32,6 +33,19 @@ int timesSmaller(double sigma) {
 int timesSmaller(const PaintItem& item) {
     const auto times = item.inner->size().height() / std::max(1.0, item.placeOfInner().height());
     return 1 << static_cast<int>(std::lround(std::log2(std::max(1.0, times))));
+}
+
+/// Those of a layer's picture that a region is painted of where it is painted larger or smaller.
+QRegion pixelsOfPicture(const PaintItem& item, const QRegion& region) {
+    constexpr auto mixed = 2; // neighbours, and what rounding adds
+    const auto place = item.placeOfInner();
+    const auto& size = item.inner->size();
+    const auto toPicture = QTransform::fromScale(size.width() / place.width(), size.height() / place.height())
+                               .translate(-place.left(), -place.top());
+    QRegion pixels;
+    for (const auto& rect : region)
+        pixels |= toPicture.mapRect(QRectF(rect)).toAlignedRect().adjusted(-mixed, -mixed, mixed, mixed);
+    return pixels & QRect({}, size);
 }
 
 /// Where a soft mask may leave less than the whole of a pixel.
@@ -98,13 +112,13 @@ Painting::Surface::Surface(QImage& picture) : image(picture), painter(&picture) 
 }
 
 Painting::Painting(const PaintList& list, const QRegion& damage, QImage& picture, const QColor& color,
-                   const Tools& tools)
+                   LayerPainter& painter)
     : list_(list),
       items_(list.items()),
       damage_(damage),
       picture_(picture),
       color_(color),
-      tools_(tools),
+      painter_(painter),
       seen_(items_.size()),
       covered_(items_.size() + 1),
       isAnySeen_(items_.size()) {}
@@ -162,14 +176,14 @@ void Painting::paintGroup(std::size_t index, Surface& surface) {
         return;
     }
     const auto region = seenWithin(item, item.wholeExtent);
-    auto& image = tools_.scratch.take();
+    auto& image = painter_.scratch().take(picture_.size());
     PixelRects::fill(image, region, Qt::transparent);
     {
         Surface group(image);
         paintLayer(index, group);
     }
     PixelRects::paintOver(surface.image, region, image, {}, item.opacity);
-    tools_.scratch.release();
+    painter_.scratch().release();
 }
 
 void Painting::paintLayer(std::size_t index, Surface& surface) {
@@ -201,16 +215,16 @@ void Painting::paintMasked(std::size_t index, Surface& surface) {
         paintInside(index, surface);
         return;
     }
-    auto& saved = tools_.scratch.take();
+    auto& saved = painter_.scratch().take(picture_.size());
     PixelRects::copy(surface.image, saved, edges);
     paintInside(index, surface);
     blendEdges(item, edges, saved, surface);
-    tools_.scratch.release();
+    painter_.scratch().release();
 }
 
 void Painting::blendEdges(const PaintItem& item, const QRegion& edges, const QImage& saved,
                           Surface& surface) {
-    auto& mask = tools_.scratch.take();
+    auto& mask = painter_.scratch().take(picture_.size());
     PixelRects::fill(mask, edges, Qt::transparent);
     {
         Surface shape(mask);
@@ -219,7 +233,7 @@ void Painting::blendEdges(const PaintItem& item, const QRegion& edges, const QIm
                   [&](const QRect& /*rect*/) { shape.painter.fillPath(outline, Qt::black); });
     }
     PixelRects::bringBack(surface.image, edges, saved, mask);
-    tools_.scratch.release();
+    painter_.scratch().release();
 }
 
 void Painting::paintShadow(const PaintItem& item, Surface& surface) {
@@ -230,7 +244,7 @@ void Painting::paintShadow(const PaintItem& item, Surface& surface) {
                         .offset = {look.shadowOffset.width, look.shadowOffset.height},
                         .opacity = look.shadowOpacity,
                         .color = asColor(look.shadowColor)};
-    tools_.shadows.paint(readied(surface, item, item.extent), look.shadowShape(), shadow);
+    painter_.shadows().paint(readied(surface, item, item.extent), look.shadowShape(), shadow);
 }
 
 void Painting::paintBackdrop(std::size_t index, Surface& surface) {
@@ -261,10 +275,10 @@ BlurredBackdrop Painting::backdropOf(std::size_t index) const {
     const auto& full = item.body.size();
     const auto factor = timesSmaller(sigma);
     const QSize size(std::max(1, full.width() / factor), std::max(1, full.height() / factor));
-    const auto list = list_.behind(index, item.body, size);
+    const auto list = list_.reduced(index, item.body, size);
     QImage behind(size, QImage::Format_ARGB32_Premultiplied);
     const QRegion all(behind.rect());
-    Painting(list, all, behind, color_, tools_).paintAll();
+    Painting(list, all, behind, color_, painter_).paintAll();
     const auto smaller = std::sqrt(static_cast<double>(size.width()) * size.height() /
                                    (static_cast<double>(full.width()) * full.height()));
     return {behind, sigma * smaller, item.look.backdrop->saturation, full};
@@ -306,21 +320,24 @@ void Painting::paintContents(const PaintItem& item, Surface& surface) {
 
 void Painting::paintPicture(std::size_t index, Surface& surface, double opacity) {
     const auto& item = items_[index];
-    if (item.inner == nullptr)
-        return;
     const auto region = seen_[index] & item.body;
+    if (item.inner == nullptr || region.isEmpty())
+        return;
     if (item.isInnerScaled()) {
         paintScaledPicture(item, region, surface);
         return;
     }
-    const auto& image = tools_.pictures.picture(item.identity);
-    PixelRects::copy(image, surface.image, region & item.opaque, item.cornerOfInner());
-    PixelRects::paintOver(surface.image, region - item.opaque, image, item.cornerOfInner(), opacity);
+    const auto corner = item.cornerOfInner();
+    const auto& image = painter_.pictureOf(item, region.translated(-corner));
+    PixelRects::copy(image, surface.image, region & item.opaque, corner);
+    PixelRects::paintOver(surface.image, region - item.opaque, image, corner, opacity);
 }
 
 void Painting::paintScaledPicture(const PaintItem& item, const QRegion& region, Surface& surface) const {
-    const ScaledPicture scaled(tools_.pictures.picture(item.identity, timesSmaller(item)),
-                               item.placeOfInner());
+    const auto times = timesSmaller(item);
+    const auto& image = times > 1 ? painter_.smallerPictureOf(item, times)
+                                  : painter_.pictureOf(item, pixelsOfPicture(item, region));
+    const ScaledPicture scaled(image, item.placeOfInner());
     for (const auto& rect : region& item.opaque)
         scaled.copyTo(surface.image, rect);
     for (const auto& rect : region - item.opaque) {

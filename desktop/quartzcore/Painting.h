@@ -1,10 +1,7 @@
 #pragma once
 
 #include "BlurredBackdrop.h"
-#include "LayerPictures.h"
 #include "PaintList.h"
-#include "ScratchImages.h"
-#include "ShadowRenderer.h"
 
 #include <QColor>
 #include <QImage>
@@ -13,20 +10,15 @@
 #include <cstddef>
 #include <vector>
 
+class LayerPainter;
+
 /// The painting of one picture, or of a part of it. Everything is painted at its place in pictures of the
 /// whole's size, so that the same pixels come out whatever part is painted. Made by LayerPainter.
 class Painting {
 public:
-    /// What is kept from one painting to the next.
-    struct Tools {
-        ScratchImages& scratch; ///< with room for the picture
-        ShadowRenderer& shadows;
-        LayerPictures& pictures; ///< up to date
-    };
-
     /// \param color behind all layers
     Painting(const PaintList& list, const QRegion& damage, QImage& picture, const QColor& color,
-             const Tools& tools);
+             LayerPainter& painter);
 
     void paintAll();
 
@@ -67,7 +59,7 @@ private:
     const QRegion& damage_;
     QImage& picture_;
     QColor color_; ///< behind all layers
-    Tools tools_;
+    LayerPainter& painter_;
     std::vector<QRegion> seen_;    ///< of the damage, where each item is seen, without what is within it
     std::vector<QRegion> covered_; ///< by each item and those in front of it; then by none
     std::vector<bool> isAnySeen_;  ///< of each item with all within it
