@@ -73,11 +73,12 @@ void PixelRects::paintOver(QImage& picture, const QRegion& region, const QImage&
     }
 }
 
-void PixelRects::bringBack(QImage& picture, const QRegion& region, const QImage& before, const QImage& mask) {
+void PixelRects::bringBack(QImage& picture, const QRegion& region, const QImage& before, const QImage& mask,
+                           QPoint corner) {
     for (const auto& rect : region) {
         for (int y = rect.top(); y <= rect.bottom(); ++y)
             PixelRows::bringBack({picture.scanLine(y) + bytesOf(rect.left()), bytesOf(rect.width())},
                                  pixelsOf(before, rect.left(), y, rect.width()),
-                                 pixelsOf(mask, rect.left(), y, rect.width()));
+                                 pixelsOf(mask, rect.left() - corner.x(), y - corner.y(), rect.width()));
     }
 }

@@ -71,6 +71,29 @@ void paintEach(QPainter& painter, const QRegion& region, Paint paint) {
     }
 }
 
+/// Paints a shape in parts that depend on nothing but where all of it is, since where a picture begins
+/// decides about the last digits of its pixels. \param region that is wanted of all
+template <class Use>
+void paintShape(const QPainterPath& shape, const QColor& color, const QRegion& all, const QRegion& region,
+                Use use) {
+    constexpr auto rowsAtOnce = 64; // more are shared out to threads, which costs more than it saves
+    for (const auto& rect : all) {
+        for (auto top = rect.top(); top <= rect.bottom(); top += rowsAtOnce) {
+            const auto place = QRect(rect.left(), top, rect.width(), rowsAtOnce) & rect;
+            if (!region.intersects(place))
+                continue;
+            QImage image(place.size(), QImage::Format_ARGB32_Premultiplied);
+            image.fill(Qt::transparent);
+            QPainter painter(&image);
+            painter.setRenderHint(QPainter::Antialiasing);
+            painter.translate(-place.topLeft());
+            painter.fillPath(shape, color);
+            painter.end();
+            use(image, place);
+        }
+    }
+}
+
 /// The layer's edge, or beyond it where a mask makes the edge.
 QPainterPath shapeOf(const PaintItem& item, double inset) {
     if (!item.hasSoftMask())
@@ -224,16 +247,10 @@ void Painting::paintMasked(std::size_t index, Surface& surface) {
 
 void Painting::blendEdges(const PaintItem& item, const QRegion& edges, const QImage& saved,
                           Surface& surface) {
-    auto& mask = painter_.scratch().take(picture_.size());
-    PixelRects::fill(mask, edges, Qt::transparent);
-    {
-        Surface shape(mask);
-        const auto outline = item.look.transform().map(item.look.outline());
-        paintEach(shape.painter, edges,
-                  [&](const QRect& /*rect*/) { shape.painter.fillPath(outline, Qt::black); });
-    }
-    PixelRects::bringBack(surface.image, edges, saved, mask);
-    painter_.scratch().release();
+    const auto outline = item.look.transform().map(item.look.outline());
+    paintShape(outline, Qt::black, softEdges(item), edges, [&](const QImage& mask, const QRect& place) {
+        PixelRects::bringBack(surface.image, edges & place, saved, mask, place.topLeft());
+    });
 }
 
 void Painting::paintShadow(const PaintItem& item, Surface& surface) {
@@ -291,7 +308,6 @@ void Painting::paintBackground(std::size_t index, Surface& surface, double opaci
     color.alpha *= opacity;
     if (color.alpha == 0)
         return;
-    auto& painter = surface.painter;
     if (look.fillsWholePixels()) {
         const auto region = seen_[index] & item.innerClip & look.wholePixels();
         PixelRects::paintOver(surface.image, region, asColor(color));
@@ -300,12 +316,13 @@ void Painting::paintBackground(std::size_t index, Surface& surface, double opaci
     const auto isEdgeHidden = look.borderColor.alpha == 1; // then no background shines through its edge
     const auto inset = isEdgeHidden ? look.borderWidth / 2 : 0;
     const auto shape = look.transform().map(shapeOf(item, inset));
-    const auto region = seen_[index] & item.body & item.innerClip;
+    const auto all = QRegion(item.body & item.innerClip);
+    const auto region = seen_[index] & all;
     const auto inside = insideOf(look, inset);
-    painter.resetTransform();
     PixelRects::paintOver(surface.image, region & inside, asColor(color));
-    paintEach(painter, region - inside,
-              [&](const QRect& /*rect*/) { painter.fillPath(shape, asColor(color)); });
+    paintShape(shape, asColor(color), all - inside, region, [&](const QImage& image, const QRect& place) {
+        PixelRects::paintOver(surface.image, region & place, image, place.topLeft(), 1);
+    });
 }
 
 void Painting::paintContents(const PaintItem& item, Surface& surface) {
