@@ -101,6 +101,10 @@ bool suitsPicture(const LayerLook& look, double scale) {
            isWithin(map.d / scale, leastScaling, greatestScaling);
 }
 
+bool isMoreThanBackground(const CALayerPeer& layer) {
+    return !layer.sublayers().empty() || (layer.delegate != nullptr && layer.delegate->hasContents());
+}
+
 /// Has a picture at whole pixels, so that nothing but that tells it from its place.
 void snap(LayerLook& look, double scale) {
     auto& map = look.toPixels;
@@ -165,7 +169,7 @@ PaintList::PaintList(const CALayer& layer, const LayerLook& look, double scale) 
         AffineTransform::translation(-look.bounds.origin.x, -look.bounds.origin.y));
     alone.cornerRadius =
         look.masksToBounds ? 0 : look.cornerRadius; // the mask is where the picture is painted
-    addItem(layer, alone, 1, {.toPixels = {}, .clip = everywhere, .fullView = everywhere});
+    addItem(layer, alone, 1, {.toPixels = {}, .clip = everywhere, .fullView = everywhere}, false);
     const auto extent = items_.front().wholeExtent;
     moveBy(-extent.topLeft());
     size_ = extent.size();
@@ -252,12 +256,14 @@ void PaintList::add(const CALayer& layer, const Surroundings& around) {
     if (peer.hidden || opacity <= 0 || pixelsPerPoint(toPixels) == 0)
         return;
     const auto look = LayerLook::of(peer, toPixels);
-    if (!peer.keepsPicture || !addPicture(layer, look, opacity, around))
-        addItem(layer, look, opacity, around);
+    const auto fades = around.fades || opacity != peer.number(LayerProperty::Opacity);
+    const auto keepsPicture = peer.keepsPicture || (fades && isMoreThanBackground(peer));
+    if (!keepsPicture || !addPicture(layer, look, opacity, around))
+        addItem(layer, look, opacity, around, fades);
 }
 
 void PaintList::addItem(const CALayer& layer, const LayerLook& look, double opacity,
-                        const Surroundings& around) {
+                        const Surroundings& around, bool fades) {
     const auto& peer = layer.peer();
     const auto index = items_.size();
     auto& item = items_.emplace_back();
@@ -267,7 +273,7 @@ void PaintList::addItem(const CALayer& layer, const LayerLook& look, double opac
     item.enclosing = around.enclosing;
     item.delegate = peer.delegate != nullptr && peer.delegate->hasContents() ? peer.delegate : nullptr;
     place(item, around);
-    addSublayers(layer, index);
+    addSublayers(layer, index, fades);
     items_[index].end = items_.size();
 }
 
@@ -321,8 +327,9 @@ PaintList::Surroundings PaintList::within(const PaintItem& item) {
             .enclosing = isApart ? item.identity : item.enclosing};
 }
 
-void PaintList::addSublayers(const CALayer& layer, std::size_t index) {
-    const auto around = within(items_[index]);
+void PaintList::addSublayers(const CALayer& layer, std::size_t index, bool fades) {
+    auto around = within(items_[index]);
+    around.fades = fades;
     for (const auto& sublayer : layer.peer().sublayers()) {
         const auto first = items_.size();
         add(*sublayer, around);

@@ -50,6 +50,7 @@ private:
         QRect clip;
         QRect fullView;
         std::uint64_t enclosing = 0;
+        bool fades = false; ///< in or out, so that what is within it had better keep pictures
     };
 
     /// What the picture of a layer shows that keeps one.
@@ -59,10 +60,11 @@ private:
     /// Tells an item with a look where it is, without what is within it.
     static void place(PaintItem& item, const Surroundings& around);
     void add(const CALayer& layer, const Surroundings& around);
-    void addItem(const CALayer& layer, const LayerLook& look, double opacity, const Surroundings& around);
+    void addItem(const CALayer& layer, const LayerLook& look, double opacity, const Surroundings& around,
+                 bool fades);
     /// \returns whether the layer is painted by way of a picture of its own
     bool addPicture(const CALayer& layer, const LayerLook& look, double opacity, const Surroundings& around);
-    void addSublayers(const CALayer& layer, std::size_t index);
+    void addSublayers(const CALayer& layer, std::size_t index, bool fades);
     void moveBy(QPoint distance);
 
     std::vector<PaintItem> items_;
