@@ -78,7 +78,7 @@ void PixelRects::bringBack(QImage& picture, const QRegion& region, const QImage&
     for (const auto& rect : region) {
         for (int y = rect.top(); y <= rect.bottom(); ++y)
             PixelRows::bringBack({picture.scanLine(y) + bytesOf(rect.left()), bytesOf(rect.width())},
-                                 pixelsOf(before, rect.left(), y, rect.width()),
+                                 pixelsOf(before, rect.left() - corner.x(), y - corner.y(), rect.width()),
                                  pixelsOf(mask, rect.left() - corner.x(), y - corner.y(), rect.width()));
     }
 }

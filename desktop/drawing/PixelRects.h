@@ -21,9 +21,8 @@ void copy(const QImage& from, QImage& picture, const QRegion& region, QPoint cor
 /// Paints another picture over them. \param corner of that one in the picture \param opacity 0..1
 void paintOver(QImage& picture, const QRegion& region, const QImage& over, QPoint corner, double opacity);
 
-/// Brings back what a mask leaves out. \param before the picture that is brought back, which has the pixels
-/// at the same places \param mask a picture, of which the alpha counts \param corner of the mask in the
-/// picture
+/// Brings back what a mask leaves out. \param before the pixels that are brought back \param mask of which
+/// the alpha counts \param corner of these two pictures in the first
 void bringBack(QImage& picture, const QRegion& region, const QImage& before, const QImage& mask,
                QPoint corner = {});
 

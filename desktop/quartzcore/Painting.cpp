@@ -58,40 +58,27 @@ QRegion softEdges(const PaintItem& item) {
            item.look.wholePixelsWithin(0, corner);
 }
 
-/// Has a painter paint the rectangles of a region one by one, which is faster than all at once.
-template <class Paint>
-void paintEach(QPainter& painter, const QRegion& region, Paint paint) {
+/// The parts of a region that are painted one by one. They depend on nothing but all of it, since where a
+/// picture begins decides about the last digits of its pixels.
+std::vector<QRect> partsOf(const QRegion& region) {
     constexpr auto rowsAtOnce = 64; // more are shared out to threads, which costs more than it saves
+    std::vector<QRect> parts;
     for (const auto& rect : region) {
-        for (auto top = rect.top(); top <= rect.bottom(); top += rowsAtOnce) {
-            const auto part = QRect(rect.left(), top, rect.width(), rowsAtOnce) & rect;
-            painter.setClipRect(part);
-            paint(part);
-        }
+        for (auto top = rect.top(); top <= rect.bottom(); top += rowsAtOnce)
+            parts.push_back(QRect(rect.left(), top, rect.width(), rowsAtOnce) & rect);
     }
+    return parts;
 }
 
-/// Paints a shape in parts that depend on nothing but where all of it is, since where a picture begins
-/// decides about the last digits of its pixels. \param region that is wanted of all
-template <class Use>
-void paintShape(const QPainterPath& shape, const QColor& color, const QRegion& all, const QRegion& region,
-                Use use) {
-    constexpr auto rowsAtOnce = 64; // more are shared out to threads, which costs more than it saves
-    for (const auto& rect : all) {
-        for (auto top = rect.top(); top <= rect.bottom(); top += rowsAtOnce) {
-            const auto place = QRect(rect.left(), top, rect.width(), rowsAtOnce) & rect;
-            if (!region.intersects(place))
-                continue;
-            QImage image(place.size(), QImage::Format_ARGB32_Premultiplied);
-            image.fill(Qt::transparent);
-            QPainter painter(&image);
-            painter.setRenderHint(QPainter::Antialiasing);
-            painter.translate(-place.topLeft());
-            painter.fillPath(shape, color);
-            painter.end();
-            use(image, place);
-        }
-    }
+/// A part of a picture in which a shape is filled.
+QImage partOfShape(const QPainterPath& shape, const QColor& color, const QRect& part) {
+    QImage image(part.size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(-part.topLeft());
+    painter.fillPath(shape, color);
+    return image;
 }
 
 /// The layer's edge, or beyond it where a mask makes the edge.
@@ -238,19 +225,16 @@ void Painting::paintMasked(std::size_t index, Surface& surface) {
         paintInside(index, surface);
         return;
     }
-    auto& saved = painter_.scratch().take(picture_.size());
-    PixelRects::copy(surface.image, saved, edges);
+    std::vector<QImage> saved;
+    std::vector<QRect> parts = partsOf(softEdges(item));
+    std::erase_if(parts, [&edges](const QRect& part) { return !edges.intersects(part); });
+    for (const auto& part : parts)
+        saved.push_back(surface.image.copy(part));
     paintInside(index, surface);
-    blendEdges(item, edges, saved, surface);
-    painter_.scratch().release();
-}
-
-void Painting::blendEdges(const PaintItem& item, const QRegion& edges, const QImage& saved,
-                          Surface& surface) {
     const auto outline = item.look.transform().map(item.look.outline());
-    paintShape(outline, Qt::black, softEdges(item), edges, [&](const QImage& mask, const QRect& place) {
-        PixelRects::bringBack(surface.image, edges & place, saved, mask, place.topLeft());
-    });
+    for (std::size_t place = 0; place < parts.size(); ++place)
+        PixelRects::bringBack(surface.image, edges & parts[place], saved[place],
+                              partOfShape(outline, Qt::black, parts[place]), parts[place].topLeft());
 }
 
 void Painting::paintShadow(const PaintItem& item, Surface& surface) {
@@ -275,13 +259,14 @@ void Painting::paintBackdrop(std::size_t index, Surface& surface) {
         seen.copyTo(surface.image, rect.translated(-item.body.topLeft()), item.body.topLeft());
     const auto shape = item.look.transform().map(shapeOf(item, 0));
     surface.painter.resetTransform();
-    paintEach(surface.painter, region - inside, [&](const QRect& rect) {
-        QImage part(rect.size(), QImage::Format_ARGB32_Premultiplied);
-        const auto corner = item.body.topLeft() - rect.topLeft();
-        seen.copyTo(part, part.rect().translated(-corner), corner);
-        surface.painter.setBrushOrigin(rect.topLeft());
-        surface.painter.fillPath(shape, QBrush(part));
-    });
+    for (const auto& part : partsOf(region - inside)) {
+        QImage image(part.size(), QImage::Format_ARGB32_Premultiplied);
+        const auto corner = item.body.topLeft() - part.topLeft();
+        seen.copyTo(image, image.rect().translated(-corner), corner);
+        surface.painter.setClipRect(part);
+        surface.painter.setBrushOrigin(part.topLeft());
+        surface.painter.fillPath(shape, QBrush(image));
+    }
     surface.painter.setBrushOrigin(0, 0);
 }
 
@@ -320,9 +305,11 @@ void Painting::paintBackground(std::size_t index, Surface& surface, double opaci
     const auto region = seen_[index] & all;
     const auto inside = insideOf(look, inset);
     PixelRects::paintOver(surface.image, region & inside, asColor(color));
-    paintShape(shape, asColor(color), all - inside, region, [&](const QImage& image, const QRect& place) {
-        PixelRects::paintOver(surface.image, region & place, image, place.topLeft(), 1);
-    });
+    for (const auto& part : partsOf(all - inside)) {
+        if (region.intersects(part))
+            PixelRects::paintOver(surface.image, region & part, partOfShape(shape, asColor(color), part),
+                                  part.topLeft(), 1);
+    }
 }
 
 void Painting::paintContents(const PaintItem& item, Surface& surface) {

@@ -42,8 +42,6 @@ private:
     void paintLayer(std::size_t index, Surface& surface);
     void paintInside(std::size_t index, Surface& surface);
     void paintMasked(std::size_t index, Surface& surface);
-    /// Brings back what was there where a mask cuts off.
-    void blendEdges(const PaintItem& item, const QRegion& edges, const QImage& saved, Surface& surface);
     void paintShadow(const PaintItem& item, Surface& surface);
     void paintBackdrop(std::size_t index, Surface& surface);
     /// \param opacity of a group that has nothing else
