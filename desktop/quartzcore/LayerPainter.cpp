@@ -37,20 +37,19 @@ const QImage& LayerPainter::smallerPictureOf(const PaintItem& item, int factor) 
     auto& smaller = compare(item).smaller[factor];
     if (smaller.isNull()) {
         const auto part = [factor](int size) { return std::max(1, (size + factor / 2) / factor); };
-        const auto& size = item.inner->size();
-        smaller = smallerPicture(item, {part(size.width()), part(size.height())});
+        const auto whole = item.partPaintedSmaller();
+        smaller = smallerPicture(item, whole, {part(whole.width()), part(whole.height())});
     }
     return smaller;
 }
 
-QImage LayerPainter::smallerPicture(const PaintItem& item, QSize size) {
+QImage LayerPainter::smallerPicture(const PaintItem& item, const QRect& part, QSize size) {
     const auto& list = *item.inner;
-    const QRect whole({}, list.size());
     if (!list.hasPictures())
-        return PixelComponents::reduced(pictureOf(item, whole), size).toImage();
+        return PixelComponents::reduced(pictureOf(item, part).copy(part), size).toImage();
     QImage smaller(size, QImage::Format_ARGB32_Premultiplied);
     const QRegion all(smaller.rect());
-    Painting(list.reduced(list.items().size(), whole, size), all, smaller, Qt::transparent, *this).paintAll();
+    Painting(list.reduced(list.items().size(), part, size), all, smaller, Qt::transparent, *this).paintAll();
     return smaller;
 }
 

@@ -20,7 +20,8 @@ public:
     /// ends.
     [[nodiscard]] const QImage& pictureOf(const PaintItem& item, const QRegion& part);
 
-    /// All of that so many times smaller; pictures within it are painted so from the start.
+    /// What is painted smaller of that, so many times smaller; pictures within it are painted so from the
+    /// start.
     /// \param factor 2, 4 and so on
     [[nodiscard]] const QImage& smallerPictureOf(const PaintItem& item, int factor);
 
@@ -31,7 +32,7 @@ public:
 private:
     void use(const PaintList& list);
     LayerPictures::Kept& compare(const PaintItem& item);
-    [[nodiscard]] QImage smallerPicture(const PaintItem& item, QSize size);
+    [[nodiscard]] QImage smallerPicture(const PaintItem& item, const QRect& part, QSize size);
 
     ScratchImages scratch_;
     ShadowRenderer shadows_;

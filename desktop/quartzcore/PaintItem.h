@@ -34,6 +34,10 @@ struct PaintItem {
     [[nodiscard]] bool isInnerScaled() const;
     /// Where it is, in pixels.
     [[nodiscard]] QRectF placeOfInner() const;
+    /// What of its picture is painted much smaller: without the clear margin of what is opaque, which would
+    /// be mixed with it; and where that is.
+    [[nodiscard]] QRect partPaintedSmaller() const;
+    [[nodiscard]] QRectF placeOfInner(const QRect& part) const;
     /// Where its corner is. \pre it is not scaled
     [[nodiscard]] QPoint cornerOfInner() const;
 

@@ -338,9 +338,14 @@ void Painting::paintPicture(std::size_t index, Surface& surface, double opacity)
 }
 
 void Painting::paintScaledPicture(const PaintItem& item, const QRegion& region, Surface& surface) const {
-    const auto times = timesSmaller(item);
-    const auto& image = times > 1 ? painter_.smallerPictureOf(item, times)
-                                  : painter_.pictureOf(item, pixelsOfPicture(item, region));
+    if (const auto times = timesSmaller(item); times > 1) {
+        surface.painter.resetTransform();
+        surface.painter.setClipRegion(region);
+        surface.painter.drawImage(item.placeOfInner(item.partPaintedSmaller()),
+                                  painter_.smallerPictureOf(item, times));
+        return;
+    }
+    const auto& image = painter_.pictureOf(item, pixelsOfPicture(item, region));
     const ScaledPicture scaled(image, item.placeOfInner());
     for (const auto& rect : region& item.opaque)
         scaled.copyTo(surface.image, rect);
