@@ -4,11 +4,11 @@
 #include "LayerPainter.h"
 #include "PixelRects.h"
 #include "ScaledPicture.h"
+#include "ShadowRenderer.h"
 
 #include <algorithm>
 #include <bit>
 #include <cmath>
-#include <utility>
 
 namespace {
 
