@@ -13,7 +13,7 @@ help:
 	@echo "make lint      check format, static analysis and the rules of the tree"
 	@echo "make format    format all C++ files"
 	@echo "make fuzz      run each fuzzer for SECONDS_EACH (default 600) seconds"
-	@echo "make bench     measure every frame that moves, painting a change against painting all, a long list against a short one, packing against bsdtar"
+	@echo "make bench     measure every frame that moves, the start and the memory, painting a change against painting all, a long list against a short one, packing against bsdtar"
 	@echo "make coverage  run all tests and report the lines and branches that they reach"
 	@echo "make clean     remove everything that was built"
 
@@ -69,9 +69,11 @@ fuzz:
 bench:
 	@tools/setup build bench
 	@cmake --preset desktop >/dev/null
-	@cmake --build --preset desktop -j 2 --target bench_painting bench_frames bench_long_list bench_archive
+	@cmake --build --preset desktop -j 2 --target bench_painting bench_frames bench_peer bench_program bench_long_list bench_archive
 	@build/desktop/bench/bench_painting
 	@build/desktop/bench/bench_frames
+	@build/desktop/bench/bench_peer
+	@build/desktop/bench/bench_program
 	@build/desktop/bench/bench_long_list
 	@build/desktop/bench/bench_archive
 

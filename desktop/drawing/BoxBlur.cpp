@@ -4,6 +4,7 @@
 #include <cmath>
 #include <functional>
 #include <span>
+#include <vector>
 
 BoxBlur::BoxBlur(double sigma, BlurEdges edges) : edges_(edges) {
     // A window of 2r+1 samples has the variance r(r+1)/3. The share of the outer two makes up for the rest.

@@ -1,17 +1,9 @@
 #pragma once
 
 #include "GaussianBlur.h"
+#include "PixelComponents.h"
 
 #include <cstddef>
-#include <vector>
-
-/// Pixels as real numbers, row by row.
-struct PixelComponents {
-    std::vector<float> values;
-    std::size_t rowCount = 0;
-    std::size_t rowLength = 0; ///< in values
-    std::size_t channels = 1;  ///< values of a pixel
-};
 
 /// A running mean along rows or columns. Its window has a whole number of samples and a share of the next one
 /// on either side, so that it has any variance. Three of them in a row come close to a Gaussian.

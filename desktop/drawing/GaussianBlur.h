@@ -1,5 +1,7 @@
 #pragma once
 
+#include "PixelComponents.h"
+
 #include <QImage>
 #include <QPainterPath>
 #include <QSize>
@@ -15,15 +17,9 @@ enum class BlurEdges {
 /// \returns an image of the same size and pixel ratio, ARGB32 premultiplied but for Alpha8, which it remains
 [[nodiscard]] QImage blurred(const QImage& image, double sigma, BlurEdges edges);
 
-/// Moves each colour away from the gray of its brightness: by 1 not at all, by 1.8 as the platform's
-/// backdrops.
-/// \param image of any format
-/// \returns an image of the same size and pixel ratio, ARGB32 premultiplied
-[[nodiscard]] QImage saturated(const QImage& image, double factor);
-
-/// What is seen through a backdrop of what lies behind it: blurred, its edges extended, then saturated.
-/// \param image ARGB32 premultiplied \returns an image of the same kind and size
-[[nodiscard]] QImage blurredBackdrop(const QImage& image, double sigma, double saturation);
+/// What such a blur makes of an image, at the fraction of its size at which that cannot be told.
+/// \param image ARGB32 premultiplied or Alpha8, not empty
+[[nodiscard]] PixelComponents blurredComponents(const QImage& image, double sigma, BlurEdges edges);
 
 /// A shape that is filled with an opaque colour, blurred; nothing is beyond the edges.
 /// \param shape in pixels of an image of that size \returns it, ARGB32 premultiplied

@@ -18,4 +18,12 @@ void paintOver(QImage& picture, const QRegion& region, const QColor& color);
 /// Replaces them by those of another picture. \param corner of that one in the picture
 void copy(const QImage& from, QImage& picture, const QRegion& region, QPoint corner = {});
 
+/// Paints another picture over them. \param corner of that one in the picture \param opacity 0..1
+void paintOver(QImage& picture, const QRegion& region, const QImage& over, QPoint corner, double opacity);
+
+/// Brings back what a mask leaves out. \param before the pixels that are brought back \param mask of which
+/// the alpha counts \param corner of these two pictures in the first
+void bringBack(QImage& picture, const QRegion& region, const QImage& before, const QImage& mask,
+               QPoint corner = {});
+
 } // namespace PixelRects

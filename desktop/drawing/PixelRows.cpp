@@ -1,5 +1,62 @@
 #include "PixelRows.h"
 
+#include <algorithm>
+#include <array>
+#include <cstring>
+
+namespace {
+
+/// A 255th of a product, rounded. \pre the product is one of two bytes, or a sum that is not larger
+constexpr std::uint8_t dividedBy255(std::uint16_t product) {
+    constexpr std::uint16_t half = 128;
+    const auto part = static_cast<std::uint16_t>(product + half);
+    return static_cast<std::uint8_t>(static_cast<std::uint16_t>(part + (part >> 8U)) >> 8U);
+}
+
+/// As many pixels as are worked on at once.
+constexpr std::size_t blockPixels = 64;
+using Alphas = std::array<std::uint32_t, blockPixels>; ///< of each pixel, for each of its bytes
+
+/// \returns whether no pixel has any
+bool findAlphas(const std::uint8_t* pixels, std::size_t count, std::uint32_t* alphas) {
+    std::uint32_t any = 0;
+    for (std::size_t index = 0; index < count; ++index) {
+        std::uint32_t pixel = 0;
+        std::memcpy(&pixel, pixels + index * PixelRows::pixelSize, PixelRows::pixelSize);
+        any |= pixel;
+        const auto alpha = pixel >> 24U;
+        const auto twice = alpha | alpha << 8U;
+        alphas[index] = twice | twice << 16U;
+    }
+    return any == 0;
+}
+
+void fade(const std::uint8_t* __restrict pixels, std::uint16_t opacity, std::uint8_t* __restrict faded,
+          std::size_t size) {
+    for (std::size_t index = 0; index < size; ++index)
+        faded[index] = dividedBy255(static_cast<std::uint16_t>(pixels[index] * opacity));
+}
+
+void paintPixelsOver(std::uint8_t* __restrict out, const std::uint8_t* __restrict over,
+                     const std::uint8_t* __restrict alphas, std::size_t size) {
+    for (std::size_t index = 0; index < size; ++index) {
+        const auto rest = static_cast<std::uint16_t>(255 - alphas[index]);
+        out[index] = static_cast<std::uint8_t>(over[index] +
+                                               dividedBy255(static_cast<std::uint16_t>(out[index] * rest)));
+    }
+}
+
+void bringPixelsBack(std::uint8_t* __restrict out, const std::uint8_t* __restrict before,
+                     const std::uint8_t* __restrict shares, std::size_t size) {
+    for (std::size_t index = 0; index < size; ++index) {
+        const auto rest = static_cast<std::uint16_t>(255 - shares[index]);
+        out[index] =
+            dividedBy255(static_cast<std::uint16_t>(out[index] * shares[index] + before[index] * rest));
+    }
+}
+
+} // namespace
+
 void PixelRows::mix(std::span<const Fine> first, std::span<const Fine> second, int share,
                     std::span<std::uint8_t> mixed) {
     constexpr auto whole = fineSteps * fullFineShare;
@@ -42,17 +99,42 @@ void PixelRows::mixWithNext(std::span<const std::uint8_t> row, std::span<const s
     }
 }
 
-void PixelRows::paintOver(std::span<std::uint8_t> row, std::span<const std::uint8_t> color,
-                          std::uint8_t rest) {
-    constexpr std::uint16_t half = 128;
+void PixelRows::paintOver(std::span<std::uint8_t> row, std::span<const std::uint8_t> over,
+                          std::uint8_t opacity) {
+    constexpr std::uint8_t full = 255;
+    Alphas alphas;
+    std::array<std::uint8_t, blockPixels * pixelSize> faded;
+    for (std::size_t start = 0; start < row.size(); start += faded.size()) {
+        const auto size = std::min(faded.size(), row.size() - start);
+        const auto* pixels = over.data() + start;
+        if (opacity != full) {
+            fade(pixels, opacity, faded.data(), size);
+            pixels = faded.data();
+        }
+        if (!findAlphas(pixels, size / pixelSize, alphas.data()))
+            paintPixelsOver(row.data() + start, pixels, reinterpret_cast<const std::uint8_t*>(alphas.data()),
+                            size);
+    }
+}
+
+void PixelRows::bringBack(std::span<std::uint8_t> row, std::span<const std::uint8_t> before,
+                          std::span<const std::uint8_t> mask) {
+    Alphas alphas;
+    for (std::size_t start = 0; start < row.size(); start += blockPixels * pixelSize) {
+        const auto size = std::min(blockPixels * pixelSize, row.size() - start);
+        static_cast<void>(findAlphas(mask.data() + start, size / pixelSize, alphas.data()));
+        bringPixelsBack(row.data() + start, before.data() + start,
+                        reinterpret_cast<const std::uint8_t*>(alphas.data()), size);
+    }
+}
+
+void PixelRows::paintColorOver(std::span<std::uint8_t> row, std::span<const std::uint8_t> color,
+                               std::uint8_t rest) {
     const auto* __restrict added = color.data();
     auto* __restrict out = row.data();
-    const std::uint16_t share = rest;
-    for (std::size_t index = 0; index < row.size(); ++index) {
-        const auto part = static_cast<std::uint16_t>(out[index] * share + half);
-        const auto left = static_cast<std::uint16_t>(part + (part >> 8U)); // divided by 255, rounded
-        out[index] = static_cast<std::uint8_t>((left >> 8U) + added[index]);
-    }
+    for (std::size_t index = 0; index < row.size(); ++index)
+        out[index] = static_cast<std::uint8_t>(dividedBy255(static_cast<std::uint16_t>(out[index] * rest)) +
+                                               added[index]);
 }
 
 void PixelRows::add(std::span<const std::uint8_t> row, std::span<std::uint16_t> sums) {

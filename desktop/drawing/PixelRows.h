@@ -31,7 +31,16 @@ void mixWithNext(std::span<const std::uint8_t> row, std::span<const std::uint8_t
 
 /// Paints a colour over a row. \param color premultiplied, for each byte; repeated \param rest what it leaves
 /// of the row, 0..255
-void paintOver(std::span<std::uint8_t> row, std::span<const std::uint8_t> color, std::uint8_t rest);
+void paintColorOver(std::span<std::uint8_t> row, std::span<const std::uint8_t> color, std::uint8_t rest);
+
+/// Paints a row over another. \param over premultiplied \param opacity 0..255
+/// \pre both are of one length, of whole pixels
+void paintOver(std::span<std::uint8_t> row, std::span<const std::uint8_t> over, std::uint8_t opacity);
+
+/// Brings back in a row what a mask leaves out. \param before what is brought back \param mask in colour, of
+/// which the alpha counts \pre all are of one length, of whole pixels
+void bringBack(std::span<std::uint8_t> row, std::span<const std::uint8_t> before,
+               std::span<const std::uint8_t> mask);
 
 /// So many rows can be added to sums.
 inline constexpr int rowsAddedAtMost = 257;

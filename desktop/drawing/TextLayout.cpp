@@ -104,6 +104,14 @@ bool hasJoinedLetters(const QString& text) {
     });
 }
 
+/// Larger pictures are shared out to threads, which costs more than it saves.
+void drawBandByBand(QPainter& painter, QPoint place, const QImage& image) {
+    constexpr auto pixelsAtOnce = 1 << 16;
+    const auto rows = std::max(1, pixelsAtOnce / image.width());
+    for (auto top = 0; top < image.height(); top += rows)
+        painter.drawImage(place + QPoint(0, top), image, QRect(0, top, image.width(), rows) & image.rect());
+}
+
 QString withoutTrailingSpaces(QString text) {
     while (!text.isEmpty() && text.back().isSpace())
         text.chop(1);
@@ -290,7 +298,7 @@ void TextLayout::paint(QPainter& painter, QPointF origin, const QColor& color) c
     painter.resetTransform();
     const auto pixel = 1 / painter.device()->devicePixelRatioF();
     painter.scale(pixel, pixel);
-    painter.drawImage(pixels.topLeft(), image);
+    drawBandByBand(painter, pixels.topLeft(), image);
     painter.restore();
 }
 

@@ -115,6 +115,13 @@ bool LayerLook::fillsWholePixels() const {
     return isUpright() && cornerPixels() == 0 && std::ranges::all_of(edges, isWhole);
 }
 
+QRect LayerLook::wholePixelsWithin(double horizontalInset, double verticalInset) const {
+    const auto rect = pixelRect().adjusted(horizontalInset, verticalInset, -horizontalInset, -verticalInset);
+    const auto first = [](double edge) { return static_cast<int>(std::ceil(edge - pixelTolerance)); };
+    const auto last = [](double edge) { return static_cast<int>(std::floor(edge + pixelTolerance)) - 1; };
+    return {QPoint(first(rect.left()), first(rect.top())), QPoint(last(rect.right()), last(rect.bottom()))};
+}
+
 double LayerLook::cornerPixels() const {
     if (!roundTop && !roundBottom)
         return 0;

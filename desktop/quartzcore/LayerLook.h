@@ -60,6 +60,10 @@ struct LayerLook {
     /// Those pixels. \pre the bounds fill whole ones
     [[nodiscard]] QRect wholePixels() const;
 
+    /// The pixels that are wholly within the bounds, those moved inwards by so many pixels; not valid when
+    /// there are none. \pre the bounds are upright
+    [[nodiscard]] QRect wholePixelsWithin(double horizontalInset, double verticalInset) const;
+
     /// The length of a corner's bend, in pixels.
     [[nodiscard]] double cornerPixels() const;
 

@@ -2,33 +2,70 @@
 
 #include "PaintDamage.h"
 #include "Painting.h"
+#include "PixelComponents.h"
+
+#include <algorithm>
 
 void LayerPainter::paint(const PaintList& list, const QRegion& damage, QImage& picture) {
-    bringUpToDate(list);
-    scratch_.makeRoom(list.size());
-    Painting(list, damage, picture, {scratch_, shadows_, pictures_}).paintAll(Qt::black);
+    use(list);
+    Painting(list, damage, picture, Qt::black, *this).paintAll();
     pictures_.paintingEnded();
 }
 
-void LayerPainter::bringUpToDate(const PaintList& list) {
+/// What is not painted now may be on the screen all the same.
+void LayerPainter::use(const PaintList& list) {
     for (const auto& item : list.items()) {
-        if (item.inner != nullptr && !item.extent.isEmpty())
-            bringUpToDate(item);
+        if (item.inner == nullptr || item.extent.isEmpty())
+            continue;
+        static_cast<void>(pictures_.use(item.identity));
+        use(*item.inner);
     }
 }
 
-void LayerPainter::bringUpToDate(const PaintItem& item) {
-    bringUpToDate(*item.inner);
+const QImage& LayerPainter::pictureOf(const PaintItem& item, const QRegion& part) {
+    auto& kept = compare(item);
+    if (!kept.outdated.intersects(part))
+        return pictures_.picture(item.identity);
+    // What is within pictures is painted bit by bit as it comes to be seen, but texts are not.
+    const auto damage = item.inner->hasPictures() ? kept.outdated & part : kept.outdated;
+    kept.outdated -= damage;
+    Painting(*item.inner, damage, kept.picture, Qt::transparent, *this).paintAll();
+    return pictures_.picture(item.identity);
+}
+
+const QImage& LayerPainter::smallerPictureOf(const PaintItem& item, int factor) {
+    auto& smaller = compare(item).smaller[factor];
+    if (smaller.isNull()) {
+        const auto part = [factor](int size) { return std::max(1, (size + factor / 2) / factor); };
+        const auto whole = item.partPaintedSmaller();
+        smaller = smallerPicture(item, whole, {part(whole.width()), part(whole.height())});
+    }
+    return smaller;
+}
+
+QImage LayerPainter::smallerPicture(const PaintItem& item, const QRect& part, QSize size) {
+    const auto& list = *item.inner;
+    if (!list.hasPictures())
+        return PixelComponents::reduced(pictureOf(item, part).copy(part), size).toImage();
+    QImage smaller(size, QImage::Format_ARGB32_Premultiplied);
+    const QRegion all(smaller.rect());
+    Painting(list.reduced(list.items().size(), part, size), all, smaller, Qt::transparent, *this).paintAll();
+    return smaller;
+}
+
+/// Finds out what of a layer's picture is to be painted again once it is seen.
+LayerPictures::Kept& LayerPainter::compare(const PaintItem& item) {
     auto& kept = pictures_.use(item.identity);
+    if (kept.shown == item.inner)
+        return kept;
     QRegion damage = QRect({}, item.inner->size());
     if (kept.shown != nullptr && kept.picture.size() == item.inner->size())
         damage = damageBetween(*kept.shown, *item.inner);
     else
         kept.picture = QImage(item.inner->size(), QImage::Format_ARGB32_Premultiplied);
-    if (!damage.isEmpty()) {
-        scratch_.makeRoom(item.inner->size());
-        Painting(*item.inner, damage, kept.picture, {scratch_, shadows_, pictures_})
-            .paintAll(Qt::transparent);
-    }
+    if (!damage.isEmpty())
+        kept.smaller.clear();
+    kept.outdated |= damage;
     kept.shown = item.inner;
+    return kept;
 }

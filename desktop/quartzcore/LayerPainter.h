@@ -15,10 +15,24 @@ public:
     /// Paints the pixels of `damage` anew. \param picture of the list's size, ARGB32 premultiplied
     void paint(const PaintList& list, const QRegion& damage, QImage& picture);
 
+    // For the paintings that it makes.
+    /// The picture of a layer that keeps one, brought up to date in a part of it; valid until the painting
+    /// ends.
+    [[nodiscard]] const QImage& pictureOf(const PaintItem& item, const QRegion& part);
+
+    /// What is painted smaller of that, so many times smaller; pictures within it are painted so from the
+    /// start.
+    /// \param factor 2, 4 and so on
+    [[nodiscard]] const QImage& smallerPictureOf(const PaintItem& item, int factor);
+
+    [[nodiscard]] ScratchImages& scratch() { return scratch_; }
+
+    [[nodiscard]] ShadowRenderer& shadows() { return shadows_; }
+
 private:
-    /// The layers' own pictures, those within each other too.
-    void bringUpToDate(const PaintList& list);
-    void bringUpToDate(const PaintItem& item);
+    void use(const PaintList& list);
+    LayerPictures::Kept& compare(const PaintItem& item);
+    [[nodiscard]] QImage smallerPicture(const PaintItem& item, const QRect& part, QSize size);
 
     ScratchImages scratch_;
     ShadowRenderer shadows_;

@@ -3,7 +3,9 @@
 #include "PaintList.h"
 
 #include <QImage>
+#include <QRegion>
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <unordered_map>
 
@@ -17,15 +19,17 @@ public:
     static constexpr std::uint64_t paintingsUnused = 240;
 
     struct Kept {
-        std::shared_ptr<const PaintList> shown; ///< null until it is painted
-        QImage picture;                         ///< ARGB32 premultiplied
+        std::shared_ptr<const PaintList> shown; ///< null until there is a picture
+        QImage picture;                         ///< of what is shown, ARGB32 premultiplied
+        QRegion outdated;                       ///< where the picture is not that
+        std::map<int, QImage> smaller;          ///< the same so many times smaller, up to date
         std::uint64_t lastUse = 0;
     };
 
     /// The picture of a layer, which may be one of what it showed before; it counts as used by this painting.
     [[nodiscard]] Kept& use(std::uint64_t identity);
 
-    /// The same when it is up to date. \pre `use` was called for it in this painting
+    /// The same without that. \pre there is one
     [[nodiscard]] const QImage& picture(std::uint64_t identity) const;
 
     /// A painting is over: drops what was not used for long, and beyond the capacity what this one did not

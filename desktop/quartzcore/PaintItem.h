@@ -25,6 +25,8 @@ struct PaintItem {
     QRect body;        ///< what the layer itself can reach
     QRect extent;      ///< the same with its shadow
     QRect wholeExtent; ///< the same with all within it
+    QRect fullView;    ///< where nothing fades what is within it, or cuts it off in a part of a pixel
+    QRect filled;      ///< whole pixels in full view that its shape covers; may be empty
     QRect opaque;      ///< where nothing behind it is seen; may be empty
 
     // Of a layer that keeps a picture.
@@ -32,6 +34,10 @@ struct PaintItem {
     [[nodiscard]] bool isInnerScaled() const;
     /// Where it is, in pixels.
     [[nodiscard]] QRectF placeOfInner() const;
+    /// What of its picture is painted much smaller: without the clear margin of what is opaque, which would
+    /// be mixed with it; and where that is.
+    [[nodiscard]] QRect partPaintedSmaller() const;
+    [[nodiscard]] QRectF placeOfInner(const QRect& part) const;
     /// Where its corner is. \pre it is not scaled
     [[nodiscard]] QPoint cornerOfInner() const;
 

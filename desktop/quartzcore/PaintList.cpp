@@ -101,6 +101,10 @@ bool suitsPicture(const LayerLook& look, double scale) {
            isWithin(map.d / scale, leastScaling, greatestScaling);
 }
 
+bool isMoreThanBackground(const CALayerPeer& layer) {
+    return !layer.sublayers().empty() || (layer.delegate != nullptr && layer.delegate->hasContents());
+}
+
 /// Has a picture at whole pixels, so that nothing but that tells it from its place.
 void snap(LayerLook& look, double scale) {
     auto& map = look.toPixels;
@@ -127,19 +131,15 @@ QRect roundedInwards(const QRectF& rect) {
 QRect filledRect(const LayerLook& look) {
     if (!look.isUpright() || look.borderWidth > 0)
         return {};
-    constexpr double softEdge = 1;
-    const auto corner = look.cornerPixels();
-    const auto rect =
-        look.fillsWholePixels()
-            ? look.wholePixels()
-            : roundedInwards(look.pixelRect().adjusted(0, corner + softEdge, 0, -corner - softEdge));
+    const auto bend = look.cornerPixels();
+    const auto rect = look.wholePixelsWithin(0, bend > 0 ? bend + 1 : 0);
     return rect.isValid() ? rect : QRect();
 }
 
 /// Where the picture of a layer lets nothing through.
 QRect opaqueOfPicture(const PaintItem& item) {
     const auto inside = item.inner->opaque();
-    const auto unmasked = item.hasSoftMask() ? filledRect(item.look) & item.innerClip : item.innerClip;
+    const auto unmasked = item.hasSoftMask() ? item.filled : item.fullView;
     if (inside.isEmpty())
         return {};
     if (!item.isInnerScaled())
@@ -158,7 +158,9 @@ PaintList::PaintList(const std::vector<const CALayer*>& roots, CGSize size, doub
     : size_(QSizeF(size.width * scale, size.height * scale).toSize()),
       scale_(scale) {
     for (const auto* const root : roots)
-        add(*root, {.toPixels = AffineTransform::scale(scale), .clip = QRect({}, size_)});
+        add(*root, {.toPixels = AffineTransform::scale(scale),
+                    .clip = QRect({}, size_),
+                    .fullView = QRect({}, size_)});
 }
 
 PaintList::PaintList(const CALayer& layer, const LayerLook& look, double scale) : scale_(scale) {
@@ -167,7 +169,7 @@ PaintList::PaintList(const CALayer& layer, const LayerLook& look, double scale) 
         AffineTransform::translation(-look.bounds.origin.x, -look.bounds.origin.y));
     alone.cornerRadius =
         look.masksToBounds ? 0 : look.cornerRadius; // the mask is where the picture is painted
-    addItem(layer, alone, 1, {.toPixels = {}, .clip = everywhere});
+    addItem(layer, alone, 1, {.toPixels = {}, .clip = everywhere, .fullView = everywhere}, false);
     const auto extent = items_.front().wholeExtent;
     moveBy(-extent.topLeft());
     size_ = extent.size();
@@ -181,6 +183,46 @@ QRect PaintList::opaque() const {
             largest = item.opaque;
     }
     return largest & QRect({}, size_);
+}
+
+bool PaintList::hasPictures() const {
+    return std::ranges::any_of(items_, [](const auto& item) { return item.inner != nullptr; });
+}
+
+PaintList PaintList::reduced(std::size_t count, const QRect& part, QSize size) const {
+    PaintList list;
+    list.size_ = size;
+    list.scale_ = scale_ * size.width() / part.width();
+    const AffineTransform toSize{.a = static_cast<double>(size.width()) / part.width(),
+                                 .d = static_cast<double>(size.height()) / part.height()};
+    const auto toPart = toSize.after(AffineTransform::translation(-part.x(), -part.y()));
+    const auto whole = QRect({}, size);
+    std::vector<std::size_t> around;
+    std::vector<std::size_t> ends;
+    const auto leave = [&](std::size_t place) {
+        for (; !around.empty() && ends.back() <= place; around.pop_back(), ends.pop_back())
+            list.items_[around.back()].end = list.items_.size();
+    };
+    for (std::size_t place = 0; place < count; ++place) {
+        leave(place);
+        const auto& original = items_[place];
+        if (!original.wholeExtent.intersects(part)) {
+            place = original.end - 1;
+            continue;
+        }
+        const auto surroundings = around.empty()
+                                      ? Surroundings{.toPixels = {}, .clip = whole, .fullView = whole}
+                                      : within(list.items_[around.back()]);
+        around.push_back(list.items_.size());
+        ends.push_back(std::min(original.end, count));
+        auto& item = list.items_.emplace_back(original);
+        item.look.toPixels = toPart.after(item.look.toPixels);
+        PaintList::place(item, surroundings);
+        for (const auto outer : around)
+            list.items_[outer].wholeExtent |= item.extent;
+    }
+    leave(count);
+    return list;
 }
 
 bool PaintList::showsWhatIsBehind() const {
@@ -200,8 +242,8 @@ void PaintList::moveBy(QPoint distance) {
     for (auto& item : items_) {
         item.look.toPixels.tx += distance.x();
         item.look.toPixels.ty += distance.y();
-        for (auto* const rect :
-             {&item.clip, &item.innerClip, &item.body, &item.extent, &item.wholeExtent, &item.opaque})
+        for (auto* const rect : {&item.clip, &item.innerClip, &item.body, &item.extent, &item.wholeExtent,
+                                 &item.fullView, &item.filled, &item.opaque})
             rect->translate(distance);
     }
 }
@@ -214,12 +256,14 @@ void PaintList::add(const CALayer& layer, const Surroundings& around) {
     if (peer.hidden || opacity <= 0 || pixelsPerPoint(toPixels) == 0)
         return;
     const auto look = LayerLook::of(peer, toPixels);
-    if (!peer.keepsPicture || !addPicture(layer, look, opacity, around))
-        addItem(layer, look, opacity, around);
+    const auto fades = around.fades || opacity != peer.number(LayerProperty::Opacity);
+    const auto keepsPicture = peer.keepsPicture || (fades && isMoreThanBackground(peer));
+    if (!keepsPicture || !addPicture(layer, look, opacity, around))
+        addItem(layer, look, opacity, around, fades);
 }
 
 void PaintList::addItem(const CALayer& layer, const LayerLook& look, double opacity,
-                        const Surroundings& around) {
+                        const Surroundings& around, bool fades) {
     const auto& peer = layer.peer();
     const auto index = items_.size();
     auto& item = items_.emplace_back();
@@ -228,14 +272,8 @@ void PaintList::addItem(const CALayer& layer, const LayerLook& look, double opac
     item.identity = peer.identity();
     item.enclosing = around.enclosing;
     item.delegate = peer.delegate != nullptr && peer.delegate->hasContents() ? peer.delegate : nullptr;
-    item.clip = around.clip;
-    item.innerClip = item.look.masksToBounds ? item.clip & maskedClip(item.look) : item.clip;
-    item.body = bodyExtent(item.look, item.delegate) & item.clip;
-    item.extent = item.body | (shadowExtent(item.look) & item.clip);
-    item.wholeExtent = item.extent;
-    if (look.background.alpha == 1 && item.isInFullView())
-        item.opaque = filledRect(look) & item.innerClip;
-    addSublayers(layer, index);
+    place(item, around);
+    addSublayers(layer, index, fades);
     items_[index].end = items_.size();
 }
 
@@ -259,24 +297,39 @@ bool PaintList::addPicture(const CALayer& layer, const LayerLook& look, double o
     const auto& map = item.inner->items().front().look.toPixels;
     const auto& origin = look.bounds.origin;
     item.innerPlace = -QPointF(map.tx + map.a * origin.x, map.ty + map.d * origin.y).toPoint();
-    item.clip = around.clip;
-    item.innerClip = item.look.masksToBounds ? item.clip & maskedClip(item.look) : item.clip;
-    item.body = alignedOutwards(item.placeOfInner(), 0) & item.innerClip;
-    item.extent = item.wholeExtent = item.body;
-    if (item.isInFullView())
-        item.opaque = opaqueOfPicture(item);
+    place(item, around);
     return true;
+}
+
+void PaintList::place(PaintItem& item, const Surroundings& around) {
+    const auto& look = item.look;
+    item.clip = around.clip;
+    item.innerClip = look.masksToBounds ? item.clip & maskedClip(look) : item.clip;
+    item.fullView = item.isGroup() ? QRect() : around.fullView & item.innerClip;
+    item.filled = filledRect(look) & item.fullView;
+    if (item.inner != nullptr) {
+        item.body = alignedOutwards(item.placeOfInner(), 0) & item.innerClip;
+        item.extent = item.body;
+        item.opaque = opaqueOfPicture(item);
+    } else {
+        item.body = bodyExtent(look, item.delegate) & item.clip;
+        item.extent = item.body | (shadowExtent(look) & item.clip);
+        item.opaque = look.background.alpha == 1 ? item.filled : QRect();
+    }
+    item.wholeExtent = item.extent;
 }
 
 PaintList::Surroundings PaintList::within(const PaintItem& item) {
     const auto isApart = item.isGroup() || item.hasSoftMask();
     return {.toPixels = item.look.toPixels,
             .clip = item.innerClip,
+            .fullView = item.hasSoftMask() ? item.filled : item.fullView,
             .enclosing = isApart ? item.identity : item.enclosing};
 }
 
-void PaintList::addSublayers(const CALayer& layer, std::size_t index) {
-    const auto around = within(items_[index]);
+void PaintList::addSublayers(const CALayer& layer, std::size_t index, bool fades) {
+    auto around = within(items_[index]);
+    around.fades = fades;
     for (const auto& sublayer : layer.peer().sublayers()) {
         const auto first = items_.size();
         add(*sublayer, around);

@@ -2,7 +2,9 @@
 
 #include "PaintItem.h"
 
+#include <QRect>
 #include <QSize>
+#include <cstddef>
 #include <vector>
 
 class CALayer;
@@ -28,6 +30,13 @@ public:
     /// A part of the picture that lets nothing through, the largest that one layer fills; may be empty.
     [[nodiscard]] QRect opaque() const;
 
+    /// What the first items show in a part of the picture, larger or smaller. \param size that it comes out
+    /// at
+    [[nodiscard]] PaintList reduced(std::size_t count, const QRect& part, QSize size) const;
+
+    /// Whether there are layers in it that keep pictures.
+    [[nodiscard]] bool hasPictures() const;
+
     /// Whether a backdrop in it shows what lies behind the picture.
     [[nodiscard]] bool showsWhatIsBehind() const;
 
@@ -39,18 +48,23 @@ private:
     struct Surroundings {
         AffineTransform toPixels; ///< from the superlayer's bounds
         QRect clip;
+        QRect fullView;
         std::uint64_t enclosing = 0;
+        bool fades = false; ///< in or out, so that what is within it had better keep pictures
     };
 
     /// What the picture of a layer shows that keeps one.
     PaintList(const CALayer& layer, const LayerLook& look, double scale);
 
     [[nodiscard]] static Surroundings within(const PaintItem& item);
+    /// Tells an item with a look where it is, without what is within it.
+    static void place(PaintItem& item, const Surroundings& around);
     void add(const CALayer& layer, const Surroundings& around);
-    void addItem(const CALayer& layer, const LayerLook& look, double opacity, const Surroundings& around);
+    void addItem(const CALayer& layer, const LayerLook& look, double opacity, const Surroundings& around,
+                 bool fades);
     /// \returns whether the layer is painted by way of a picture of its own
     bool addPicture(const CALayer& layer, const LayerLook& look, double opacity, const Surroundings& around);
-    void addSublayers(const CALayer& layer, std::size_t index);
+    void addSublayers(const CALayer& layer, std::size_t index, bool fades);
     void moveBy(QPoint distance);
 
     std::vector<PaintItem> items_;

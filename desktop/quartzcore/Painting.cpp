@@ -1,13 +1,14 @@
 #include "Painting.h"
 
-#include "GaussianBlur.h"
 #include "LayerDelegate.h"
+#include "LayerPainter.h"
 #include "PixelRects.h"
 #include "ScaledPicture.h"
+#include "ShadowRenderer.h"
 
+#include <algorithm>
+#include <bit>
 #include <cmath>
-#include <ranges>
-#include <utility>
 
 namespace {
 
@@ -22,36 +23,62 @@ double pixelsPerPoint(const LayerLook& look) {
     return std::sqrt(std::abs(look.transform().determinant()));
 }
 
+/// How many times smaller what is blurred may be painted.
+int timesSmaller(double sigma) {
+    constexpr double leastSigma = 6; ///< of the smaller picture; what is finer could be told
+    return static_cast<int>(std::bit_floor(static_cast<unsigned>(std::max(1.0, sigma / leastSigma))));
+}
+
+/// How many times smaller a picture is taken to be painted at a place.
+int timesSmaller(const PaintItem& item) {
+    const auto times = item.inner->size().height() / std::max(1.0, item.placeOfInner().height());
+    return 1 << static_cast<int>(std::lround(std::log2(std::max(1.0, times))));
+}
+
+/// Those of a layer's picture that a region is painted of where it is painted larger or smaller.
+QRegion pixelsOfPicture(const PaintItem& item, const QRegion& region) {
+    constexpr auto mixed = 2; // neighbours, and what rounding adds
+    const auto place = item.placeOfInner();
+    const auto& size = item.inner->size();
+    const auto toPicture = QTransform::fromScale(size.width() / place.width(), size.height() / place.height())
+                               .translate(-place.left(), -place.top());
+    QRegion pixels;
+    for (const auto& rect : region)
+        pixels |= toPicture.mapRect(QRectF(rect)).toAlignedRect().adjusted(-mixed, -mixed, mixed, mixed);
+    return pixels & QRect({}, size);
+}
+
 /// Where a soft mask may leave less than the whole of a pixel.
 QRegion softEdges(const PaintItem& item) {
     if (!item.look.isUpright())
         return {item.innerClip};
-    const auto rect = item.look.pixelRect();
-    const auto corner = item.look.cornerPixels() + 1;
-    const auto insideOf = [&rect](double x, double y) {
-        const auto inside = rect.adjusted(x, y, -x, -y);
-        if (!inside.isValid())
-            return QRect();
-        return QRect(
-            QPoint(static_cast<int>(std::ceil(inside.left())), static_cast<int>(std::ceil(inside.top()))),
-            QPoint(static_cast<int>(std::floor(inside.right())) - 1,
-                   static_cast<int>(std::floor(inside.bottom())) - 1));
-    };
-    return QRegion(item.innerClip) - insideOf(corner, 0) - insideOf(0, corner);
+    const auto bend = item.look.cornerPixels();
+    const auto corner = bend > 0 ? bend + 1 : 0;
+    return QRegion(item.innerClip) - item.look.wholePixelsWithin(corner, 0) -
+           item.look.wholePixelsWithin(0, corner);
 }
 
-/// Has a painter paint the rectangles of a region one by one, which is faster than all at once.
-template <class Paint>
-void paintEach(QPainter& painter, const QRegion& region, Paint paint) {
+/// The parts of a region that are painted one by one. They depend on nothing but all of it, since where a
+/// picture begins decides about the last digits of its pixels.
+std::vector<QRect> partsOf(const QRegion& region) {
+    constexpr auto rowsAtOnce = 64; // more are shared out to threads, which costs more than it saves
+    std::vector<QRect> parts;
     for (const auto& rect : region) {
-        painter.setClipRect(rect);
-        paint(rect);
+        for (auto top = rect.top(); top <= rect.bottom(); top += rowsAtOnce)
+            parts.push_back(QRect(rect.left(), top, rect.width(), rowsAtOnce) & rect);
     }
+    return parts;
 }
 
-/// Paints the pixels of a region with those of another picture, which has them at the same place.
-void paintPart(QPainter& painter, const QImage& image, const QRegion& region) {
-    paintEach(painter, region, [&](const QRect& rect) { painter.drawImage(rect.topLeft(), image, rect); });
+/// A part of a picture in which a shape is filled.
+QImage partOfShape(const QPainterPath& shape, const QColor& color, const QRect& part) {
+    QImage image(part.size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(-part.topLeft());
+    painter.fillPath(shape, color);
+    return image;
 }
 
 /// The layer's edge, or beyond it where a mask makes the edge.
@@ -66,15 +93,12 @@ QPainterPath shapeOf(const PaintItem& item, double inset) {
     return path;
 }
 
-/// The pixels between the corners of a background that are filled wholly, where they are worth the trouble.
+/// The pixels between the corners of a background that are filled wholly.
 QRect insideOf(const LayerLook& look, double inset) {
-    constexpr auto leastSide = 64;
-    const auto edge = 1 + inset * pixelsPerPoint(look);
-    const auto rect =
-        look.pixelRect().adjusted(edge, edge + look.cornerPixels(), -edge, -edge - look.cornerPixels());
-    if (!look.isUpright() || rect.width() < leastSide || rect.height() < leastSide)
+    if (!look.isUpright())
         return {};
-    return rect.toAlignedRect();
+    const auto edge = inset * pixelsPerPoint(look);
+    return look.wholePixelsWithin(edge, edge + look.cornerPixels());
 }
 
 /// Whether nothing of an item is painted but its background, so that a group needs no picture of its own.
@@ -92,42 +116,38 @@ bool isPictureOnly(const PaintItem& item) {
 
 } // namespace
 
-Painting::Surface::Surface(QImage& picture, double groupOpacity)
-    : image(picture),
-      painter(&picture),
-      opacity(groupOpacity) {
+Painting::Surface::Surface(QImage& picture) : image(picture), painter(&picture) {
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
                            QPainter::SmoothPixmapTransform);
 }
 
-Painting::Painting(const PaintList& list, const QRegion& damage, QImage& picture, const Tools& tools)
-    : items_(list.items()),
+Painting::Painting(const PaintList& list, const QRegion& damage, QImage& picture, const QColor& color,
+                   LayerPainter& painter)
+    : list_(list),
+      items_(list.items()),
       damage_(damage),
-      tools_(tools),
       picture_(picture),
+      color_(color),
+      painter_(painter),
       seen_(items_.size()),
+      covered_(items_.size() + 1),
       isAnySeen_(items_.size()) {}
 
-void Painting::paintAll(const QColor& color) {
+void Painting::paintAll() {
     findSeen();
-    isOpaque_ = color.alphaF() == 1;
-    PixelRects::fill(picture_, damage_, color);
-    Surface surface(picture_, 1);
-    surfaces_.push_back(&surface);
+    PixelRects::fill(picture_, damage_ - covered_.front(), color_);
+    Surface surface(picture_);
     paintItems(0, items_.size(), surface);
-    surfaces_.pop_back();
 }
 
 void Painting::findSeen() {
-    QRegion covered;
+    const auto isOpaque = color_.alphaF() == 1;
     for (auto index = items_.size(); index-- > 0;) {
         const auto& item = items_[index];
-        seen_[index] = (damage_ & item.extent) - covered;
-        if (seen_[index].isEmpty())
-            continue;
-        if (item.look.backdrop)
-            covered -= item.body;
-        covered |= item.opaque;
+        covered_[index] = covered_[index + 1];
+        seen_[index] = (damage_ & item.extent) - covered_[index];
+        if (!seen_[index].isEmpty())
+            covered_[index] |= item.look.backdrop && isOpaque ? item.filled : item.opaque;
     }
     for (auto index = items_.size(); index-- > 0;) {
         isAnySeen_[index] = !seen_[index].isEmpty();
@@ -135,6 +155,10 @@ void Painting::findSeen() {
              within = items_[within].end)
             isAnySeen_[index] = isAnySeen_[within];
     }
+}
+
+QRegion Painting::seenWithin(const PaintItem& item, const QRegion& part) const {
+    return (damage_ & part) - covered_[item.end];
 }
 
 void Painting::paintItems(std::size_t first, std::size_t end, Surface& surface) {
@@ -157,27 +181,19 @@ void Painting::paintGroup(std::size_t index, Surface& surface) {
         paintBackground(index, surface, item.opacity);
         return;
     }
-    auto& painter = surface.painter;
     if (isPictureOnly(item)) {
-        painter.setOpacity(item.opacity);
-        paintPicture(index, surface);
-        painter.setOpacity(1);
+        paintPicture(index, surface, item.opacity);
         return;
     }
-    const auto region = damage_ & item.wholeExtent;
-    auto& image = tools_.scratch.take();
+    const auto region = seenWithin(item, item.wholeExtent);
+    auto& image = painter_.scratch().take(picture_.size());
     PixelRects::fill(image, region, Qt::transparent);
     {
-        Surface group(image, item.opacity);
-        surfaces_.push_back(&group);
+        Surface group(image);
         paintLayer(index, group);
-        surfaces_.pop_back();
     }
-    painter.resetTransform();
-    painter.setOpacity(item.opacity);
-    paintPart(painter, image, region);
-    painter.setOpacity(1);
-    tools_.scratch.release();
+    PixelRects::paintOver(surface.image, region, image, {}, item.opacity);
+    painter_.scratch().release();
 }
 
 void Painting::paintLayer(std::size_t index, Surface& surface) {
@@ -204,40 +220,21 @@ void Painting::paintInside(std::size_t index, Surface& surface) {
 
 void Painting::paintMasked(std::size_t index, Surface& surface) {
     const auto& item = items_[index];
-    const auto edges = softEdges(item) & damage_;
+    const auto edges = seenWithin(item, softEdges(item));
     if (edges.isEmpty()) {
         paintInside(index, surface);
         return;
     }
-    auto& saved = tools_.scratch.take();
-    PixelRects::copy(surface.image, saved, edges);
+    std::vector<QImage> saved;
+    std::vector<QRect> parts = partsOf(softEdges(item));
+    std::erase_if(parts, [&edges](const QRect& part) { return !edges.intersects(part); });
+    for (const auto& part : parts)
+        saved.push_back(surface.image.copy(part));
     paintInside(index, surface);
-    blendEdges(item, edges, saved, surface);
-    tools_.scratch.release();
-}
-
-void Painting::blendEdges(const PaintItem& item, const QRegion& edges, QImage& saved, Surface& surface) {
-    auto& mask = tools_.scratch.take();
-    PixelRects::fill(mask, edges, Qt::transparent);
-    {
-        Surface shape(mask, 1);
-        const auto outline = item.look.transform().map(item.look.outline());
-        paintEach(shape.painter, edges,
-                  [&](const QRect& /*rect*/) { shape.painter.fillPath(outline, Qt::black); });
-    }
-    {
-        QPainter outside(&saved);
-        outside.setCompositionMode(QPainter::CompositionMode_DestinationOut);
-        paintPart(outside, mask, edges);
-    }
-    auto& painter = surface.painter;
-    painter.resetTransform();
-    painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
-    paintPart(painter, mask, edges);
-    painter.setCompositionMode(QPainter::CompositionMode_Plus);
-    paintPart(painter, saved, edges);
-    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
-    tools_.scratch.release();
+    const auto outline = item.look.transform().map(item.look.outline());
+    for (std::size_t place = 0; place < parts.size(); ++place)
+        PixelRects::bringBack(surface.image, edges & parts[place], saved[place],
+                              partOfShape(outline, Qt::black, parts[place]), parts[place].topLeft());
 }
 
 void Painting::paintShadow(const PaintItem& item, Surface& surface) {
@@ -248,38 +245,45 @@ void Painting::paintShadow(const PaintItem& item, Surface& surface) {
                         .offset = {look.shadowOffset.width, look.shadowOffset.height},
                         .opacity = look.shadowOpacity,
                         .color = asColor(look.shadowColor)};
-    tools_.shadows.paint(readied(surface, item, item.extent), look.shadowShape(), shadow);
+    painter_.shadows().paint(readied(surface, item, item.extent), look.shadowShape(), shadow);
 }
 
 void Painting::paintBackdrop(std::size_t index, Surface& surface) {
     const auto& item = items_[index];
-    const auto& look = item.look;
-    if (!look.backdrop || !damage_.intersects(item.body))
+    if (!item.look.backdrop || !damage_.intersects(item.body))
         return;
-    const auto seen = blurredBackdrop(behind(item.body), look.backdrop->blurRadius * pixelsPerPoint(look),
-                                      look.backdrop->saturation);
+    const auto seen = backdropOf(index);
     const auto region = seen_[index] & item.body & item.innerClip;
-    const auto inside = isOpaque_ ? insideOf(look, 0) : QRect();
-    PixelRects::copy(seen, surface.image, region & inside, item.body.topLeft());
-    auto& painter = surface.painter;
-    painter.resetTransform();
-    painter.setClipRegion(region - inside);
-    painter.setBrushOrigin(item.body.topLeft());
-    painter.fillPath(look.transform().map(shapeOf(item, 0)), QBrush(seen));
-    painter.setBrushOrigin(0, 0);
+    const auto inside = seen.isOpaque() ? item.filled : QRect();
+    for (const auto& rect : region& inside)
+        seen.copyTo(surface.image, rect.translated(-item.body.topLeft()), item.body.topLeft());
+    const auto shape = item.look.transform().map(shapeOf(item, 0));
+    surface.painter.resetTransform();
+    for (const auto& part : partsOf(region - inside)) {
+        QImage image(part.size(), QImage::Format_ARGB32_Premultiplied);
+        const auto corner = item.body.topLeft() - part.topLeft();
+        seen.copyTo(image, image.rect().translated(-corner), corner);
+        surface.painter.setClipRect(part);
+        surface.painter.setBrushOrigin(part.topLeft());
+        surface.painter.fillPath(shape, QBrush(image));
+    }
+    surface.painter.setBrushOrigin(0, 0);
 }
 
-QImage Painting::behind(const QRect& rect) const {
-    QImage image(rect.size(), QImage::Format_ARGB32_Premultiplied);
-    PixelRects::copy(picture_, image, QRect({}, rect.size()), -rect.topLeft());
-    QPainter painter(&image);
-    double opacity = 1;
-    for (const auto* const surface : surfaces_ | std::views::drop(1)) {
-        opacity *= surface->opacity;
-        painter.setOpacity(opacity);
-        painter.drawImage(QPoint(), surface->image, rect);
-    }
-    return image;
+/// What lies behind is painted smaller, as finely as is needed for its blur.
+BlurredBackdrop Painting::backdropOf(std::size_t index) const {
+    const auto& item = items_[index];
+    const auto sigma = item.look.backdrop->blurRadius * pixelsPerPoint(item.look);
+    const auto& full = item.body.size();
+    const auto factor = timesSmaller(sigma);
+    const QSize size(std::max(1, full.width() / factor), std::max(1, full.height() / factor));
+    const auto list = list_.reduced(index, item.body, size);
+    QImage behind(size, QImage::Format_ARGB32_Premultiplied);
+    const QRegion all(behind.rect());
+    Painting(list, all, behind, color_, painter_).paintAll();
+    const auto smaller = std::sqrt(static_cast<double>(size.width()) * size.height() /
+                                   (static_cast<double>(full.width()) * full.height()));
+    return {behind, sigma * smaller, item.look.backdrop->saturation, full};
 }
 
 void Painting::paintBackground(std::size_t index, Surface& surface, double opacity) {
@@ -289,7 +293,6 @@ void Painting::paintBackground(std::size_t index, Surface& surface, double opaci
     color.alpha *= opacity;
     if (color.alpha == 0)
         return;
-    auto& painter = surface.painter;
     if (look.fillsWholePixels()) {
         const auto region = seen_[index] & item.innerClip & look.wholePixels();
         PixelRects::paintOver(surface.image, region, asColor(color));
@@ -298,12 +301,15 @@ void Painting::paintBackground(std::size_t index, Surface& surface, double opaci
     const auto isEdgeHidden = look.borderColor.alpha == 1; // then no background shines through its edge
     const auto inset = isEdgeHidden ? look.borderWidth / 2 : 0;
     const auto shape = look.transform().map(shapeOf(item, inset));
-    const auto region = seen_[index] & item.body & item.innerClip;
+    const auto all = QRegion(item.body & item.innerClip);
+    const auto region = seen_[index] & all;
     const auto inside = insideOf(look, inset);
-    painter.resetTransform();
     PixelRects::paintOver(surface.image, region & inside, asColor(color));
-    painter.setClipRegion(region - inside);
-    painter.fillPath(shape, asColor(color));
+    for (const auto& part : partsOf(all - inside)) {
+        if (region.intersects(part))
+            PixelRects::paintOver(surface.image, region & part, partOfShape(shape, asColor(color), part),
+                                  part.topLeft(), 1);
+    }
 }
 
 void Painting::paintContents(const PaintItem& item, Surface& surface) {
@@ -316,33 +322,38 @@ void Painting::paintContents(const PaintItem& item, Surface& surface) {
     painter.restore();
 }
 
-void Painting::paintPicture(std::size_t index, Surface& surface) {
+void Painting::paintPicture(std::size_t index, Surface& surface, double opacity) {
     const auto& item = items_[index];
-    if (item.inner == nullptr)
-        return;
     const auto region = seen_[index] & item.body;
+    if (item.inner == nullptr || region.isEmpty())
+        return;
     if (item.isInnerScaled()) {
         paintScaledPicture(item, region, surface);
         return;
     }
-    const auto& image = tools_.pictures.picture(item.identity);
-    auto& painter = surface.painter;
-    painter.resetTransform();
-    const auto paint = [&](const QRect& /*rect*/) { painter.drawImage(item.cornerOfInner(), image); };
-    PixelRects::copy(image, surface.image, region & item.opaque, item.cornerOfInner());
-    paintEach(painter, region - item.opaque, paint);
+    const auto corner = item.cornerOfInner();
+    const auto& image = painter_.pictureOf(item, region.translated(-corner));
+    PixelRects::copy(image, surface.image, region & item.opaque, corner);
+    PixelRects::paintOver(surface.image, region - item.opaque, image, corner, opacity);
 }
 
 void Painting::paintScaledPicture(const PaintItem& item, const QRegion& region, Surface& surface) const {
-    const ScaledPicture scaled(tools_.pictures.picture(item.identity), item.placeOfInner());
+    if (const auto times = timesSmaller(item); times > 1) {
+        surface.painter.resetTransform();
+        surface.painter.setClipRegion(region);
+        surface.painter.drawImage(item.placeOfInner(item.partPaintedSmaller()),
+                                  painter_.smallerPictureOf(item, times));
+        return;
+    }
+    const auto& image = painter_.pictureOf(item, pixelsOfPicture(item, region));
+    const ScaledPicture scaled(image, item.placeOfInner());
     for (const auto& rect : region& item.opaque)
         scaled.copyTo(surface.image, rect);
-    surface.painter.resetTransform();
-    paintEach(surface.painter, region - item.opaque, [&](const QRect& rect) {
+    for (const auto& rect : region - item.opaque) {
         QImage part(rect.size(), QImage::Format_ARGB32_Premultiplied);
         scaled.copyTo(part, rect, rect.topLeft());
-        surface.painter.drawImage(rect.topLeft(), part);
-    });
+        PixelRects::paintOver(surface.image, rect, part, rect.topLeft(), 1);
+    }
 }
 
 void Painting::paintBorder(const PaintItem& item, Surface& surface) {

@@ -1,69 +1,64 @@
 #pragma once
 
-#include "LayerPictures.h"
+#include "BlurredBackdrop.h"
 #include "PaintList.h"
-#include "ScratchImages.h"
-#include "ShadowRenderer.h"
 
+#include <QColor>
 #include <QImage>
 #include <QPainter>
 #include <QRegion>
 #include <cstddef>
 #include <vector>
 
+class LayerPainter;
+
 /// The painting of one picture, or of a part of it. Everything is painted at its place in pictures of the
 /// whole's size, so that the same pixels come out whatever part is painted. Made by LayerPainter.
 class Painting {
 public:
-    /// What is kept from one painting to the next.
-    struct Tools {
-        ScratchImages& scratch; ///< with room for the picture
-        ShadowRenderer& shadows;
-        const LayerPictures& pictures; ///< up to date
-    };
-
-    Painting(const PaintList& list, const QRegion& damage, QImage& picture, const Tools& tools);
-
     /// \param color behind all layers
-    void paintAll(const QColor& color);
+    Painting(const PaintList& list, const QRegion& damage, QImage& picture, const QColor& color,
+             LayerPainter& painter);
+
+    void paintAll();
 
 private:
     /// A picture that layers are painted into: the whole's, or that of a group on its way into it.
     struct Surface {
         QImage& image;
         QPainter painter;
-        double opacity; ///< that the group is going to be painted with
 
-        Surface(QImage& picture, double groupOpacity);
+        explicit Surface(QImage& picture);
     };
 
     /// Where nothing that lies in front covers an item.
     void findSeen();
+    /// The same for a part of an item with all within it.
+    [[nodiscard]] QRegion seenWithin(const PaintItem& item, const QRegion& part) const;
+    [[nodiscard]] BlurredBackdrop backdropOf(std::size_t index) const;
     void paintItems(std::size_t first, std::size_t end, Surface& surface);
     void paintItem(std::size_t index, Surface& surface);
     void paintGroup(std::size_t index, Surface& surface);
     void paintLayer(std::size_t index, Surface& surface);
     void paintInside(std::size_t index, Surface& surface);
     void paintMasked(std::size_t index, Surface& surface);
-    /// Brings back what was there where a mask cuts off.
-    void blendEdges(const PaintItem& item, const QRegion& edges, QImage& saved, Surface& surface);
     void paintShadow(const PaintItem& item, Surface& surface);
     void paintBackdrop(std::size_t index, Surface& surface);
     /// \param opacity of a group that has nothing else
     void paintBackground(std::size_t index, Surface& surface, double opacity = 1);
     void paintContents(const PaintItem& item, Surface& surface);
-    void paintPicture(std::size_t index, Surface& surface);
+    void paintPicture(std::size_t index, Surface& surface, double opacity = 1);
     void paintScaledPicture(const PaintItem& item, const QRegion& region, Surface& surface) const;
     void paintBorder(const PaintItem& item, Surface& surface);
-    [[nodiscard]] QImage behind(const QRect& rect) const;
     [[nodiscard]] QPainter& readied(Surface& surface, const PaintItem& item, const QRegion& clip) const;
 
+    const PaintList& list_;
     const std::vector<PaintItem>& items_;
     const QRegion& damage_;
-    Tools tools_;
     QImage& picture_;
-    std::vector<QRegion> seen_;      ///< of the damage, where each item is seen, without what is within it
-    bool isOpaque_ = true;           ///< the picture, behind all layers
-    std::vector<bool> isAnySeen_;    ///< of each item with all within it
-    std::vector<Surface*> surfaces_; ///< the whole's, then those of the groups that are being painted
+    QColor color_; ///< behind all layers
+    LayerPainter& painter_;
+    std::vector<QRegion> seen_;    ///< of the damage, where each item is seen, without what is within it
+    std::vector<QRegion> covered_; ///< by each item and those in front of it; then by none
+    std::vector<bool> isAnySeen_;  ///< of each item with all within it
 };

@@ -1,15 +1,11 @@
 #include "ScratchImages.h"
 
-void ScratchImages::makeRoom(QSize size) {
-    const auto needed = size_.expandedTo(size);
-    if (size_ == needed)
-        return;
-    size_ = needed;
-    images_.clear();
-}
-
-QImage& ScratchImages::take() {
+QImage& ScratchImages::take(QSize size) {
     if (taken_ == images_.size())
-        images_.emplace_back(size_, QImage::Format_ARGB32_Premultiplied);
-    return images_[taken_++];
+        images_.emplace_back();
+    auto& image = images_[taken_++];
+    const auto needed = image.size().expandedTo(size);
+    if (image.size() != needed)
+        image = QImage(needed, QImage::Format_ARGB32_Premultiplied);
+    return image;
 }

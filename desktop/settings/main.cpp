@@ -1,3 +1,4 @@
+#include "PictureMemory.h"
 #include "Program.h"
 
 #include <QApplication>
@@ -44,6 +45,7 @@ int run(const ProgramOptions& options, char** arguments) {
 } // namespace
 
 int main(int count, char** arguments) {
+    giveBackPictureMemory();
     const auto options = ProgramOptions::parse(textsOf(count, arguments));
     if (!options) {
         std::fprintf(stderr, "corvex-settings: %s\n", options.error().c_str());

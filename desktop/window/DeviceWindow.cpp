@@ -29,7 +29,7 @@
 
 namespace {
 
-constexpr std::chrono::milliseconds frameTime(16);
+constexpr std::chrono::milliseconds frameTime(8); // of a display of 120 a second
 constexpr QColor surroundings(20, 20, 22);
 constexpr double focusRingWidth = 3;      // the window's units
 constexpr double pointsPerWheelStep = 48; // of the screen

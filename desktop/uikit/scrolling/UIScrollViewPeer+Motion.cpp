@@ -9,8 +9,8 @@
 
 namespace {
 
-/// Between two pictures of contents that move.
-constexpr std::chrono::nanoseconds tickLength = std::chrono::nanoseconds(std::chrono::seconds(1)) / 60;
+/// Between two pictures of contents that move, on a display of 120 a second.
+constexpr std::chrono::nanoseconds tickLength = std::chrono::nanoseconds(std::chrono::seconds(1)) / 120;
 
 std::chrono::nanoseconds now() {
     return Device::current().clock().uptime();

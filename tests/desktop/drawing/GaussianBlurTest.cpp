@@ -103,71 +103,16 @@ TEST(GaussianBlurTest, KeepsThePixelRatio) {
     auto image = square(20, 7);
     image.setDevicePixelRatio(3);
     EXPECT_EQ(blurred(image, 2, BlurEdges::Extended).devicePixelRatio(), 3);
-    EXPECT_EQ(saturated(image, 2).devicePixelRatio(), 3);
 }
 
 TEST(GaussianBlurTest, AnEmptyImageIsNoError) {
     EXPECT_TRUE(blurred({}, 3, BlurEdges::Extended).isNull());
-    EXPECT_TRUE(saturated({}, 3).isNull());
 }
 
 TEST(GaussianBlurTest, ASinglePixelIsBlurredIntoItself) {
     QImage image(1, 1, QImage::Format_RGB32);
     image.fill(QColor(1, 2, 3));
     EXPECT_EQ(blurred(image, 50, BlurEdges::Extended).pixelColor(0, 0), QColor(1, 2, 3));
-}
-
-TEST(GaussianBlurTest, SaturationMovesColorsAwayFromGray) {
-    QImage image(1, 1, QImage::Format_RGB32);
-    image.fill(QColor(120, 100, 90));
-    const auto color = saturated(image, 1.8).pixelColor(0, 0);
-    EXPECT_GT(color.red(), 120);
-    EXPECT_LT(color.blue(), 90);
-    EXPECT_NEAR(color.red() - color.green(), 1.8 * 20, 1.5);
-    EXPECT_EQ(saturated(image, 1).pixelColor(0, 0), QColor(120, 100, 90));
-    const auto none = saturated(image, 0).pixelColor(0, 0);
-    EXPECT_EQ(none.red(), none.blue());
-}
-
-TEST(GaussianBlurTest, SaturationLeavesGraysAndStaysWithinTheAlpha) {
-    QImage image(1, 1, QImage::Format_ARGB32_Premultiplied);
-    image.fill(QColor(128, 128, 128));
-    EXPECT_EQ(saturated(image, 3).pixelColor(0, 0), QColor(128, 128, 128));
-    image.fill(QColor(255, 0, 0, 100));
-    const auto pixel = *reinterpret_cast<const QRgb*>(saturated(image, 3).constScanLine(0));
-    EXPECT_EQ(qAlpha(pixel), 100);
-    EXPECT_EQ(qRed(pixel), 100);
-    EXPECT_EQ(qGreen(pixel), 0);
-}
-
-TEST(GaussianBlurTest, ABackdropIsBlurredAndSaturatedWhateverItsWidth) {
-    QImage image(200, 120, QImage::Format_ARGB32_Premultiplied);
-    image.fill(QColor(120, 100, 90));
-    const auto expected = saturated(image, 1.8).pixelColor(0, 0);
-    for (const double sigma : {2.0, 6.0, 60.0}) {
-        const auto seen = blurredBackdrop(image, sigma, 1.8);
-        EXPECT_EQ(seen.size(), image.size());
-        for (const auto place : {QPoint(0, 0), QPoint(100, 60), QPoint(199, 119)}) {
-            EXPECT_NEAR(seen.pixelColor(place).red(), expected.red(), 1) << sigma;
-            EXPECT_NEAR(seen.pixelColor(place).blue(), expected.blue(), 1) << sigma;
-            EXPECT_EQ(seen.pixelColor(place).alpha(), 255) << sigma;
-        }
-    }
-}
-
-TEST(GaussianBlurTest, AWideBackdropHasItsMeanInTheMiddle) {
-    QImage image(400, 300, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::white);
-    for (auto y = 0; y < image.height(); ++y) {
-        for (auto x = 0; x < 200; ++x)
-            image.setPixelColor(x, y, Qt::black);
-    }
-    const auto seen = blurredBackdrop(image, 20, 1);
-    EXPECT_NEAR(seen.pixelColor(200, 150).red(), 128, 5);
-    EXPECT_LT(seen.pixelColor(100, 150).red(), 3);
-    EXPECT_GT(seen.pixelColor(300, 150).red(), 252);
-    for (auto x = 101; x < 300; ++x)
-        EXPECT_GE(seen.pixelColor(x, 150).red(), seen.pixelColor(x - 1, 150).red());
 }
 
 TEST(GaussianBlurTest, AShapeHasItsColorWhereItIsWide) {

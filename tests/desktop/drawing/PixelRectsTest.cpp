@@ -62,3 +62,35 @@ TEST(PixelRectsTest, CopiesPixelsFromAnotherPlace) {
     EXPECT_EQ(image.pixelColor(5, 5), QColor(Qt::white));
     EXPECT_EQ(image.pixelColor(7, 7), QColor(Qt::white));
 }
+
+TEST(PixelRectsTest, APictureIsPaintedOverFaded) {
+    auto image = blank({200, 3}, QColor(200, 100, 0));
+    auto over = blank({150, 2}, Qt::transparent);
+    for (const auto x : {0, 70, 149}) {
+        over.setPixelColor(x, 0, QColor(0, 0, 255));
+        over.setPixelColor(x, 1, QColor(0, 0, 255, 102)); // two fifths
+    }
+    PixelRects::paintOver(image, image.rect(), over, {20, 1}, 1);
+    for (const auto x : {20, 90, 169}) {
+        EXPECT_EQ(image.pixelColor(x, 0), QColor(200, 100, 0)) << x;
+        EXPECT_EQ(image.pixelColor(x, 1), QColor(0, 0, 255)) << x;
+        EXPECT_EQ(image.pixelColor(x, 2), QColor(120, 60, 102)) << x;
+        EXPECT_EQ(image.pixelColor(x + 1, 1), QColor(200, 100, 0)) << x;
+    }
+    PixelRects::paintOver(image, QRect(0, 0, 21, 3), over, {0, 0}, 0.2);
+    EXPECT_EQ(image.pixelColor(0, 0), QColor(160, 80, 51));
+    EXPECT_EQ(image.pixelColor(70, 0), QColor(200, 100, 0));
+}
+
+TEST(PixelRectsTest, WhatAMaskLeavesOutIsBroughtBack) {
+    auto image = blank({100, 2}, QColor(200, 100, 0));
+    const auto before = blank({100, 2}, QColor(0, 0, 250));
+    auto mask = blank({100, 2}, Qt::transparent);
+    mask.setPixelColor(3, 0, Qt::black);
+    mask.setPixelColor(99, 0, QColor(0, 0, 0, 51)); // a fifth
+    PixelRects::bringBack(image, QRect(0, 0, 100, 1), before, mask);
+    EXPECT_EQ(image.pixelColor(3, 0), QColor(200, 100, 0));
+    EXPECT_EQ(image.pixelColor(99, 0), QColor(40, 20, 200));
+    EXPECT_EQ(image.pixelColor(50, 0), QColor(0, 0, 250));
+    EXPECT_EQ(image.pixelColor(50, 1), QColor(200, 100, 0));
+}

@@ -73,7 +73,7 @@ TEST_P(ScenePicturesTest, APartlyPaintedPictureIsThatOfAWholeRepaint) {
 INSTANTIATE_TEST_SUITE_P(
     Screens, ScenePicturesTest,
     testing::Values(
-        Screen::Options{.idiom = Idiom::Phone, .style = UserInterfaceStyle::Light, .scale = 2, .size = {}},
+        Screen::Options{.idiom = Idiom::Phone, .style = UserInterfaceStyle::Light, .scale = 3, .size = {}},
         Screen::Options{.idiom = Idiom::Phone, .style = UserInterfaceStyle::Dark, .scale = 1, .size = {}},
         Screen::Options{.idiom = Idiom::Pad, .style = UserInterfaceStyle::Light, .scale = 1, .size = {}}),
     [](const auto& tested) {

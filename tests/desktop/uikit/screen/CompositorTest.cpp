@@ -321,6 +321,27 @@ TEST_F(CompositorTest, APictureOfALayerFollowsWhatIsWithinIt) {
     EXPECT_EQ(shown_.pixel(2, 17), QColor(Qt::green));
 }
 
+TEST_F(CompositorTest, APictureOfALayerFollowsWhatChangedWhileItWasCovered) {
+    const auto page = shown_.add(CGRectMake(0, 0, 40, 40), red);
+    const auto row = ShownScreen::add(*page, CGRectMake(0, 0, 40, 10), green);
+    page->layer().peer().keepsPicture = true;
+    row->layer().peer().keepsPicture = true;
+    EXPECT_EQ(shown_.pixel(2, 2), QColor(Qt::green));
+    const auto cover = shown_.add(CGRectMake(0, 0, 40, 40), blue);
+    EXPECT_EQ(shown_.pixel(2, 2), QColor(Qt::blue));
+    row->setBackgroundColor(DesktopColor::fixed(blue));
+    ShownScreen::put(*page, CGRectMake(0, 30, 40, 10), green);
+    EXPECT_EQ(shown_.pixel(2, 35), QColor(Qt::blue));
+    cover->setFrame(CGRectMake(0, 5, 40, 28)); // by which a part of each is seen
+    cover->setBackgroundColor(DesktopColor::fixed(red));
+    EXPECT_EQ(shown_.pixel(2, 2), QColor(Qt::blue));
+    EXPECT_EQ(shown_.pixel(2, 35), QColor(Qt::green));
+    cover->peer().removeFromSuperview();
+    EXPECT_EQ(shown_.pixel(2, 7), QColor(Qt::blue));
+    EXPECT_EQ(shown_.pixel(2, 20), QColor(Qt::red));
+    EXPECT_EQ(shown_.pixel(2, 31), QColor(Qt::green));
+}
+
 TEST_F(CompositorTest, APictureOfALayerIsPaintedSmallerWithItsRoundCorners) {
     const auto view = shown_.add(CGRectMake(0, 0, 40, 40), red);
     ShownScreen::put(*view, CGRectMake(0, 20, 40, 20), blue);
@@ -348,6 +369,46 @@ TEST_F(CompositorTest, ABackdropInALayerThatKeepsAPictureShowsWhatIsBehindTheLay
     EXPECT_EQ(shown_.pixel(18, 20).red(), blurred);
     card->setBackgroundColor(DesktopColor::fixed(red));
     EXPECT_EQ(shown_.pixel(18, 20), QColor(Qt::red));
+}
+
+TEST(Compositor, AWideBackdropShowsKeptPicturesAsItShowsTheirLayers) {
+    ShownScreen shown({120, 160}, 3);
+    const auto page = shown.add(CGRectMake(0, 0, 120, 160), green);
+    const auto row = ShownScreen::add(*page, CGRectMake(0, 80, 60, 80), red);
+    ShownScreen::put(*row, CGRectMake(30, 0, 30, 40), blue);
+    const auto panel = make<UIView>();
+    panel->setFrame(CGRectMake(0, 0.5, 120, 159));
+    panel->layer().peer().backdrop = Backdrop{.blurRadius = 20, .saturation = 1};
+    shown.window->addSubview(panel);
+    const auto seen = shown.compositor.render().copy();
+    EXPECT_NE(seen.pixel(30, 400), seen.pixel(330, 400));
+    const auto expectAlike = [&](const char* what) {
+        const auto& picture = shown.compositor.render();
+        for (auto y = 9; y < picture.height(); y += 15) {
+            for (auto x = 4; x < picture.width(); x += 15) {
+                EXPECT_NEAR(qRed(picture.pixel(x, y)), qRed(seen.pixel(x, y)), 8) << what << x << ", " << y;
+                EXPECT_NEAR(qGreen(picture.pixel(x, y)), qGreen(seen.pixel(x, y)), 8) << what;
+            }
+        }
+    };
+    row->layer().peer().keepsPicture = true;
+    expectAlike("a row: ");
+    page->layer().peer().keepsPicture = true;
+    expectAlike("a row within a page: ");
+    row->layer().peer().keepsPicture = false;
+    expectAlike("a page: ");
+}
+
+TEST_F(CompositorTest, ABackdropFollowsWhatIsBehindIt) {
+    const auto page = shown_.add(CGRectMake(0, 0, 40, 40), green);
+    page->layer().peer().keepsPicture = true;
+    const auto panel = make<UIView>();
+    panel->setFrame(CGRectMake(0, 0, 40, 40));
+    panel->layer().peer().backdrop = Backdrop{.blurRadius = 20, .saturation = 1};
+    shown_.window->addSubview(panel);
+    expectNear(shown_.pixel(20, 20), 0, 255, 0);
+    page->setBackgroundColor(DesktopColor::fixed(red));
+    expectNear(shown_.pixel(20, 20), 255, 0, 0);
 }
 
 TEST_F(CompositorTest, WhatIsCoveredIsSeenThroughABackdropBesideIt) {

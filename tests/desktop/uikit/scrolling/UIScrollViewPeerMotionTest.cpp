@@ -44,6 +44,19 @@ TEST_F(UIScrollViewPeerMotionTest, ContentsBeyondAnEdgeReturnWithoutASwing) {
     EXPECT_EQ(events.back(), "at rest");
 }
 
+TEST_F(UIScrollViewPeerMotionTest, ContentsMoveInEachFrameOfADisplayOf120ASecond) {
+    down(100, 300);
+    move(100, 310);
+    move(100, 510);
+    advance(200ms);
+    up(100, 510);
+    for (auto frame = 1; frame <= 12; ++frame) {
+        const auto before = offset();
+        advance(std::chrono::nanoseconds(1s) / 120);
+        EXPECT_NE(offset(), before) << frame;
+    }
+}
+
 TEST_F(UIScrollViewPeerMotionTest, CancelledDragReturnsFromBeyondAnEdge) {
     down(100, 300);
     move(100, 310);

@@ -1,0 +1,22 @@
+#include "PictureMemory.h"
+
+#include <gtest/gtest.h>
+
+#include <malloc.h>
+
+#include <cstddef>
+#include <memory>
+
+#ifndef __SANITIZE_ADDRESS__ // which has an allocator of its own
+
+TEST(PictureMemoryTest, APictureIsAllocatedApartThoughALargerOneWas) {
+    giveBackPictureMemory();
+    constexpr std::size_t larger = 12'000'000;
+    constexpr std::size_t smaller = 4'000'000;
+    std::make_unique<std::byte[]>(larger).reset();
+    const auto before = mallinfo2().hblks;
+    const auto picture = std::make_unique<std::byte[]>(smaller);
+    EXPECT_EQ(mallinfo2().hblks, before + 1);
+}
+
+#endif
