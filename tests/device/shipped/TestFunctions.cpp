@@ -61,6 +61,7 @@ Imports testFunctions() {
                                     Import{"_number", code(number)},
                                     Import{"_observe", code(observe)},
                                     Import{"_perform", code(perform)},
+                                    Import{"_performMixed", code(performMixed)},
                                     Import{"_pickDocument", code(pickDocument)},
                                     Import{"_postNotification", code(postNotification)},
                                     Import{"_reportFailure", code(reportFailure)},
