@@ -21,6 +21,7 @@ class CellsTest : public testing::Test {
 protected:
     ~CellsTest() override {
         showRootController(nullptr);
+        showWindow(nullptr);
         putViewsInto(nullptr);
         objc_release(page);
     }
@@ -130,6 +131,20 @@ TEST_F(CellsTest, ATapExplainsARowWithoutAPageAboveTheWindowsController) {
                      "-[OpeningPage presentViewController:animated:completion:] UIAlertController 1"}));
     answerAlertOf(page, 0);
     objc_release(cell);
+}
+
+TEST_F(CellsTest, AWindowOfAClassThatNobodyKnowsIsAskedAndItsSilenceLogged) {
+    auto* const window = newByName("NSMutableSet");
+    showWindow(window);
+    auto* const cell = newCell("CXSwitchWithInfoCell", 0, nullptr, row({}));
+    takeJournal();
+    perform(cell, "infoButtonTapped", nullptr);
+    const auto lines = journalOf({"log", "present"});
+    ASSERT_EQ(lines.size(), 1U);
+    EXPECT_TRUE(lines[0].contains("rootViewController]: unrecognized selector sent to <NSObject: 0x"))
+        << lines[0];
+    objc_release(cell);
+    objc_release(window);
 }
 
 TEST_F(CellsTest, ARowWithoutTextsIsExplainedWithoutATitle) {

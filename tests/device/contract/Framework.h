@@ -20,6 +20,8 @@ id newWithSpecifier(const char* className, id specifier);
 void moveView(id view, id superview);
 /// What the application's window shows, and whose view every view is in; null for none. Not kept alive.
 void showRootController(id controller);
+/// The application's window is that object; for null, one that shows a controller. Not kept alive.
+void showWindow(id window);
 void putViewsInto(id controller);
 
 /// With `alloc` alone. The caller owes a release.
