@@ -121,8 +121,10 @@ TEST_F(RulePageTest, EachPageLoadsItsListOnce) {
 }
 
 TEST_F(RulePageTest, ItsPropertiesAndItsJudgementAreMessagesToo) {
-    perform(page, "setHasDynamicSpecifiers:", nullptr);
-    EXPECT_FALSE(has("hasDynamicSpecifiers"));
+    for (const bool any : {false, true}) {
+        invokeWithBooleans(page, "setHasDynamicSpecifiers:", any, false);
+        EXPECT_EQ(has("hasDynamicSpecifiers"), any);
+    }
     auto* const rules = newByName("NSMutableDictionary");
     perform(page, "setDynamicSpecifiers:", rules);
     EXPECT_EQ(perform(page, "dynamicSpecifiers", nullptr), rules);
