@@ -10,6 +10,7 @@
 
 #include <unistd.h>
 
+#include <array>
 #include <cstddef>
 #include <filesystem>
 #include <string>
@@ -17,6 +18,16 @@
 namespace {
 
 namespace files = std::filesystem;
+
+/// Longer than what a text keeps in itself.
+constexpr auto longText = "a text that is kept in a block of its own";
+
+/// What the cells read of their rows.
+constexpr std::array rowKeys{
+    "label",        "title",      "description", "infoTitle",  "infoMessage",     "localizationTable",
+    "leftIcon",     "leftLabel",  "leftClass",   "middleIcon", "middleLabel",     "middleClass",
+    "rightIcon",    "rightLabel", "rightClass",  "iconColor",  "iconShadowColor", "fontColor",
+    "renderingMode"};
 
 class MemoryTest : public testing::Test {
 protected:
@@ -91,18 +102,21 @@ TEST_F(MemoryTest, NothingIsLeftOfTheOtherPages) {
 
 TEST_F(MemoryTest, NothingIsLeftOfCells) {
     EXPECT_EQ(leftBehindBy([] {
+                  auto* const table = newByName("UIView");
                   for (const auto* const name : {"CXSwitchWithInfoCell", "CxHeaderCell", "TweakCustomCell"}) {
                       auto* const specifier = emptySpecifier();
-                      performWithTwo(specifier,
-                                     "setProperty:forKey:", text("a text of some length, to be kept"),
-                                     text("label"));
+                      for (const auto* const key : rowKeys)
+                          performWithTwo(specifier, "setProperty:forKey:", text(longText), text(key));
                       auto* const cell = newCell(name, 0, text("row"), specifier);
                       perform(cell, "refreshCellContentsWithSpecifier:", specifier);
                       layOut(cell);
                       if (answersTo(cell, "infoButtonTapped"))
                           perform(cell, "infoButtonTapped", nullptr);
+                      moveView(cell, table);
+                      moveView(cell, nullptr);
                       objc_release(cell);
                   }
+                  objc_release(table);
               }),
               0);
 }
@@ -113,11 +127,11 @@ TEST_F(MemoryTest, NothingIsLeftOfTheBackups) {
                   viewOf(page), specifiersOf(page);
                   perform(page, "createBackup", nullptr);
                   perform(page, "showBackupNamePrompt:", rightButtonOf(page));
-                  perform(fieldPresentedBy(page), "setText:", text("all"));
+                  perform(fieldPresentedBy(page), "setText:", text(longText));
                   perform(page, "handleBackupNameSave:", rightButtonOf(page));
                   perform(page, "dismissMessageController:", rightButtonOf(page));
                   perform(page, "showBackupList", nullptr);
-                  perform(page, "restoreBackup:", text("all.tar.gz"));
+                  perform(page, "restoreBackup:", text((std::string(longText) + ".tar.gz").c_str()));
                   perform(page, "handleRestoreConfirm:", rightButtonOf(page));
                   dismissPresented(page);
                   objc_release(page);

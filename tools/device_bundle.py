@@ -1,5 +1,6 @@
-"""What the tests of the device's bundle come to of its code, on an emulator that tells."""
+"""The device's bundle as it was linked, and its tests as they are run over it, on an emulator."""
 
+import filecmp
 import os
 import re
 import subprocess
@@ -9,7 +10,8 @@ from pathlib import Path
 ROOT = Path(__file__).resolve().parent.parent
 PROGRAM = ROOT / "build/device-shipped/tests/device/shipped/shipped_pane_test"
 BUNDLE = ROOT / "build/device/corvexPrefs.bundle/corvexPrefs"
-MAPS = ROOT / "build/device/bundle/corvexPrefs.link"
+LINK = ROOT / "build/device/bundle/corvexPrefs.link"
+SCENARIO = ROOT / "build/device-contract/scenario.journal"
 EMULATOR = ["qemu-aarch64", "-cpu", "max"]
 
 # The library's templates are compiled for all that they are used with, and bring what nobody calls.
@@ -21,7 +23,7 @@ INSTRUCTION = re.compile(r"^0x([0-9a-f]+): ")
 
 def lines_of_map(architecture):
     """The linker's account of what it has linked, without what it has left out."""
-    for line in (MAPS / architecture / "corvexPrefs.map").read_text().splitlines():
+    for line in (LINK / architecture / "corvexPrefs.map").read_text().splitlines():
         if line.startswith("# Dead Stripped"):
             break
         yield line
@@ -51,9 +53,19 @@ def functions_from(folders):
     return names
 
 
-def environment(folder):
+def environment(folder, **more):
     """What the tests run in, with a folder for their temporary files."""
-    return dict(os.environ, QEMU_LD_PREFIX=str(ROOT / "build/sysroot"), TMP=str(folder))
+    return dict(os.environ, QEMU_LD_PREFIX=str(ROOT / "build/sysroot"), TMP=str(folder), **more)
+
+
+def is_survived(bundle, architecture, folder, *options):
+    """Whether all tests pass over a bundle, and it tells the frameworks the same as the sources do."""
+    journal = Path(folder) / "journal"
+    command = ["timeout", "120", *EMULATOR, PROGRAM, bundle, architecture, *options]
+    for more, variables in ([], {}), (["--gtest_filter=ScenarioTest.*"], {"SCENARIO_JOURNAL": str(journal)}):
+        if subprocess.run([*command, *more], capture_output=True, env=environment(folder, **variables)).returncode != 0:
+            return False
+    return filecmp.cmp(journal, SCENARIO, shallow=False)
 
 
 def reached(architecture, folder):
