@@ -16,7 +16,7 @@ constexpr std::size_t parametersAtMost = 4;
 /// The arguments of a call as they come in: numbers and objects in one kind of registers, reals in another,
 /// each in their order.
 struct Registers {
-    std::array<std::int64_t, parametersAtMost> general;
+    std::array<id, parametersAtMost> general; ///< a number is what its bits are
     std::array<double, parametersAtMost> floating;
 };
 
@@ -28,12 +28,13 @@ public:
     [[nodiscard]] MessageValue next(MessageType type) {
         if (type == MessageType::Real)
             return PropertyList(registers_.floating[usedFloating_++]);
-        const auto raw = registers_.general[usedGeneral_++];
+        const id object = registers_.general[usedGeneral_++];
+        const auto number = reinterpret_cast<std::int64_t>(object);
         if (type == MessageType::Boolean)
-            return PropertyList(static_cast<std::uint8_t>(raw) != 0); // what is above it is anything
+            return PropertyList(static_cast<std::uint8_t>(number) != 0); // what is above it is anything
         if (type == MessageType::Integer)
-            return PropertyList(raw);
-        return messageValueOf(reinterpret_cast<id>(raw), type);
+            return PropertyList(number);
+        return messageValueOf(object, type);
     }
 
 private:
@@ -75,9 +76,8 @@ R answer(id self, SEL selector, const Registers& registers) {
 /// method's own type is, and finds the arguments in the registers that they are passed in. Those that the
 /// method has no arguments for hold anything.
 template <class R>
-R entry(id self, SEL selector, std::int64_t first, std::int64_t second, std::int64_t third,
-        std::int64_t fourth, double firstReal, double secondReal, double thirdReal,
-        double fourthReal) noexcept {
+R entry(id self, SEL selector, id first, id second, id third, id fourth, double firstReal, double secondReal,
+        double thirdReal, double fourthReal) noexcept {
     return answer<R>(self, selector,
                      {.general = {first, second, third, fourth},
                       .floating = {firstReal, secondReal, thirdReal, fourthReal}});
@@ -89,8 +89,8 @@ id initialise(id self, SEL selector, id argument) noexcept {
     const auto receiver = instanceAs<NSObject>(self);
     if (!receiver)
         return self;
-    const bool isReady = static_cast<bool>(answer<ObjcBool>(
-        self, selector, {.general = {reinterpret_cast<std::int64_t>(argument)}, .floating = {}}));
+    const bool isReady =
+        static_cast<bool>(answer<ObjcBool>(self, selector, {.general = {argument}, .floating = {}}));
     const id object = objectOf(*receiver);
     if (isReady)
         return object;
