@@ -74,6 +74,7 @@ TEST_F(BackupMethodsTest, AnotherFormatterTellsTheDates) {
 
 TEST_F(BackupMethodsTest, AnArchiveIsSharedFromTheMiddleOfATablet) {
     save("a");
+    setFrameOf(viewOf(page), CGRectMake(10, 20, 600, 800));
     perform(page, "shareBackup:", text("a.tar.gz"));
     auto lines = takeJournal();
     std::erase_if(lines, [](const std::string& line) {
@@ -83,7 +84,7 @@ TEST_F(BackupMethodsTest, AnArchiveIsSharedFromTheMiddleOfATablet) {
     EXPECT_EQ(lines[0], "-[UIActivityViewController initWithActivityItems:applicationActivities:] [file://" +
                             backup("a.tar.gz") + "] nil");
     EXPECT_TRUE(lines[1].starts_with("-[UIPopoverPresentationController setSourceView:]"));
-    EXPECT_TRUE(lines[2].starts_with("-[UIPopoverPresentationController setSourceRect:]"));
+    EXPECT_EQ(lines[2], "-[UIPopoverPresentationController setSourceRect:] {{300, 400}, {0, 0}}");
     EXPECT_EQ(lines[3], "-[cxBackupRestoreController presentViewController:animated:completion:] "
                         "UIActivityViewController 1");
 }

@@ -165,7 +165,7 @@ TEST_F(CellsTest, AHeaderIsBuiltFromTheBackToTheFront) {
                             "-[CAGradientLayer setColors:] [white(0.1, 0.3), white(0.2, 0.3)]",
                             "-[CAGradientLayer setStartPoint:] {0, 0}",
                             "-[CAGradientLayer setEndPoint:] {1, 1}",
-                            "-[CAGradientLayer setFrame:] {{0, 0}, {0, 0}}",
+                            "-[CAGradientLayer setFrame:] {{0, 0}, {320, 44}}",
                             "-[CAGradientLayer setCornerRadius:] 15",
                             "-[CALayer insertSublayer:atIndex:] CAGradientLayer 0",
                             "+[UIBlurEffect effectWithStyle:] 4",

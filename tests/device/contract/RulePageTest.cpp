@@ -120,6 +120,16 @@ TEST_F(RulePageTest, EachPageLoadsItsListOnce) {
     }
 }
 
+TEST_F(RulePageTest, EachPageThatHasRulesReadsThemWithItsList) {
+    for (const auto* const name : {"cxBannerController", "cxOrganizeController", "cxBackgroundController"}) {
+        const id opened = newByName(name);
+        EXPECT_EQ(perform(opened, "dynamicSpecifiers", nullptr), nullptr) << name;
+        specifiersOf(opened);
+        EXPECT_NE(perform(opened, "dynamicSpecifiers", nullptr), nullptr) << name;
+        objc_release(opened);
+    }
+}
+
 TEST_F(RulePageTest, ItsPropertiesAndItsJudgementAreMessagesToo) {
     for (const bool any : {false, true}) {
         invokeWithBooleans(page, "setHasDynamicSpecifiers:", any, false);
