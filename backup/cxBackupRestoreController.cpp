@@ -19,8 +19,7 @@ constexpr void (cxBackupRestoreController::*showMessageWithCompletion)(
 
 const Class classObject = Class::define<cxBackupRestoreController, PSListController>(
     "cxBackupRestoreController",
-    {method<"specifiers", &cxBackupRestoreController::specifiers>(),
-     method<"backupsPath", &cxBackupRestoreController::backupsPath>(),
+    {method<"backupsPath", &cxBackupRestoreController::backupsPath>(),
      method<"setBackupsPath:", &cxBackupRestoreController::setBackupsPath>(),
      method<"dateFormatter", &cxBackupRestoreController::dateFormatter>(),
      method<"setDateFormatter:", &cxBackupRestoreController::setDateFormatter>(),

@@ -3,7 +3,9 @@
 # error, where none does.
 include(${CMAKE_CURRENT_LIST_DIR}/PrecompiledStandardHeaders.cmake)
 
-# corvex_device_precompile_headers(TARGETS...): for libraries of the bundle.
+set(DEVICE_PRECOMPILED ${CMAKE_BINARY_DIR}/precompiled/cmake_pch.pch)
+
+# corvex_device_precompile_headers(): once, before any target takes them.
 function(corvex_device_precompile_headers)
     set(folder ${CMAKE_BINARY_DIR}/precompiled)
     list(TRANSFORM PRECOMPILED_STANDARD REPLACE "(.+)" "#include \\1\n" OUTPUT_VARIABLE lines)
@@ -15,20 +17,23 @@ function(corvex_device_precompile_headers)
     set(read_headers ${CMAKE_CXX_COMPILER} --target=${DEVICE_TARGET} ${optimisation} ${DEVICE_HEADER_OPTIONS}
         ${DEVICE_CODE_OPTIONS} ${CMAKE_CXX23_STANDARD_COMPILE_OPTION} -fpch-instantiate-templates -x c++-header ${header})
 
-    set(precompiled ${folder}/cmake_pch.pch)
     set(made)
     foreach(architecture IN LISTS DEVICE_ARCHITECTURES)
-        set(file ${precompiled}/${architecture}.pch)
+        set(file ${DEVICE_PRECOMPILED}/${architecture}.pch)
         add_custom_command(OUTPUT ${file}
-            COMMAND ${CMAKE_COMMAND} -E make_directory ${precompiled}
+            COMMAND ${CMAKE_COMMAND} -E make_directory ${DEVICE_PRECOMPILED}
             COMMAND ${read_headers} -arch ${architecture} -MD -MT ${file} -MF ${folder}/${architecture}.d -o ${file}
             DEPENDS ${header} DEPFILE ${folder}/${architecture}.d
             COMMENT "Reading the C++ library's headers for ${architecture}" VERBATIM)
         list(APPEND made ${file})
     endforeach()
     add_custom_target(device_precompiled_headers DEPENDS ${made})
+endfunction()
+
+# corvex_device_take_precompiled_headers(TARGETS...): for libraries of bundles.
+function(corvex_device_take_precompiled_headers)
     foreach(target IN LISTS ARGN)
-        target_compile_options(${target} PRIVATE "SHELL:-include-pch ${precompiled}")
+        target_compile_options(${target} PRIVATE "SHELL:-include-pch ${DEVICE_PRECOMPILED}")
         add_dependencies(${target} device_precompiled_headers)
     endforeach()
 endfunction()

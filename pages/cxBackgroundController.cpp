@@ -6,8 +6,8 @@ namespace {
 
 constexpr auto listName = "Background";
 
-const Class classObject = Class::define<cxBackgroundController, cxCollectDynamicSpecifiers>(
-    "cxBackgroundController", {method<"specifiers", &cxBackgroundController::specifiers>()});
+const Class classObject =
+    Class::define<cxBackgroundController, cxCollectDynamicSpecifiers>("cxBackgroundController");
 
 } // namespace
 

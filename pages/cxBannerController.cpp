@@ -6,8 +6,7 @@ namespace {
 
 constexpr auto listName = "Banner";
 
-const Class classObject = Class::define<cxBannerController, cxCollectDynamicSpecifiers>(
-    "cxBannerController", {method<"specifiers", &cxBannerController::specifiers>()});
+const Class classObject = Class::define<cxBannerController, cxCollectDynamicSpecifiers>("cxBannerController");
 
 } // namespace
 

@@ -6,8 +6,7 @@ namespace {
 
 constexpr auto listName = "Color";
 
-const Class classObject = Class::define<cxColorController, PSListController>(
-    "cxColorController", {method<"specifiers", &cxColorController::specifiers>()});
+const Class classObject = Class::define<cxColorController, PSListController>("cxColorController");
 
 } // namespace
 

@@ -6,8 +6,7 @@ namespace {
 
 constexpr auto listName = "Extra";
 
-const Class classObject = Class::define<cxExtraController, PSListController>(
-    "cxExtraController", {method<"specifiers", &cxExtraController::specifiers>()});
+const Class classObject = Class::define<cxExtraController, PSListController>("cxExtraController");
 
 } // namespace
 

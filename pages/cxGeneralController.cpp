@@ -6,8 +6,7 @@ namespace {
 
 constexpr auto listName = "General";
 
-const Class classObject = Class::define<cxGeneralController, PSListController>(
-    "cxGeneralController", {method<"specifiers", &cxGeneralController::specifiers>()});
+const Class classObject = Class::define<cxGeneralController, PSListController>("cxGeneralController");
 
 } // namespace
 

@@ -6,8 +6,7 @@ namespace {
 
 constexpr auto listName = "Label";
 
-const Class classObject = Class::define<cxLabelController, PSListController>(
-    "cxLabelController", {method<"specifiers", &cxLabelController::specifiers>()});
+const Class classObject = Class::define<cxLabelController, PSListController>("cxLabelController");
 
 } // namespace
 

@@ -6,8 +6,8 @@ namespace {
 
 constexpr auto listName = "Organize";
 
-const Class classObject = Class::define<cxOrganizeController, cxCollectDynamicSpecifiers>(
-    "cxOrganizeController", {method<"specifiers", &cxOrganizeController::specifiers>()});
+const Class classObject =
+    Class::define<cxOrganizeController, cxCollectDynamicSpecifiers>("cxOrganizeController");
 
 } // namespace
 

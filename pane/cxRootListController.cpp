@@ -16,9 +16,7 @@ constexpr std::uint32_t openingSound = 1519;
 
 const Class classObject = Class::define<cxRootListController, PSListController>(
     "cxRootListController",
-    {method<"specifiers", &cxRootListController::specifiers>(),
-     method<"viewDidLoad", &cxRootListController::viewDidLoad>(),
-     method<"setupPreferences", &cxRootListController::setupPreferences>(),
+    {method<"setupPreferences", &cxRootListController::setupPreferences>(),
      method<"setupNavigationSwitch", &cxRootListController::setupNavigationSwitch>(),
      method<"createNavigationSwitch", &cxRootListController::createNavigationSwitch>(),
      method<"configureNavigationSwitch:", &cxRootListController::configureNavigationSwitch>(),

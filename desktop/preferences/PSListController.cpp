@@ -39,6 +39,7 @@ const Class listClass = Class::define<PSListController, UIViewController>(
     "PSListController",
     {Method{"readPreferenceValue:", MessageType::Value, readParameters, &readValue},
      Method{"setPreferenceValue:specifier:", MessageType::Nothing, setParameters, &setValue},
+     method<"specifiers", &PSListController::specifiers>(),
      method<"reloadSpecifiers", &PSListController::reloadSpecifiers>()});
 
 /// Every row of a page is one.

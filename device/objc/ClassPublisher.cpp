@@ -15,7 +15,7 @@ namespace {
 constinit objc_class* principalClass = nullptr;
 
 void dealloc(id self, SEL selector) noexcept {
-    auto* const inherited = class_getMethodImplementation(frameworkClassBehind(self), selector);
+    auto* const inherited = inheritedImplementation(self, selector);
     {
         const AutoreleasePool pool;
         endInstance(self);
@@ -44,7 +44,7 @@ void addOverridables(objc_class* to, const Class* inherited) {
             continue;
         for (const auto& overridable : framework->overridables())
             class_addMethod(to, overridable.message->selector(), overridable.implementation,
-                            overridable.message->types().c_str());
+                            overridable.message->types());
     }
 }
 

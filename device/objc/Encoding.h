@@ -3,7 +3,8 @@
 #include "CoreGraphics/CGGeometry.h"
 #include "Runtime.h"
 
-#include <string>
+#include <algorithm>
+#include <array>
 #include <string_view>
 
 /// How Objective-C writes a type down. Specialised for each type that crosses the border.
@@ -58,13 +59,17 @@ using BlockRef = const BlockObject*;
 template <>
 inline constexpr std::string_view encodingOf<BlockRef> = "@?";
 
-/// The types of a whole method: its result, the two that every method has, and its parameters.
+/// The types of a whole method: its result, the two that every method has, and its parameters; ended by zero.
 template <class RawResult, class... RawParameters>
-[[nodiscard]] std::string methodEncoding() {
+inline constexpr auto methodEncoding = [] {
     static_assert(!encodingOf<RawResult>.empty() && (!encodingOf<RawParameters>.empty() && ...),
                   "a type of the method has no encoding");
-    std::string types(encodingOf<RawResult>);
-    types += "@:";
-    (types.append(encodingOf<RawParameters>), ...);
+    constexpr std::string_view everyMethodHas = "@:";
+    constexpr auto length =
+        (encodingOf<RawResult>.size() + ... + encodingOf<RawParameters>.size()) + everyMethodHas.size();
+    std::array<char, length + 1> types{};
+    auto* end = types.data();
+    for (const auto part : {encodingOf<RawResult>, everyMethodHas, encodingOf<RawParameters>...})
+        end = std::ranges::copy(part, end).out;
     return types;
-}
+}();

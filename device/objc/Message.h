@@ -15,7 +15,7 @@ struct Message {
                   "the selector has another number of colons than there are arguments");
 
     static inline const MessageRecord record{message.text.data(), message.selector.data(),
-                                             &methodEncoding<R, P...>};
+                                             methodEncoding<R, P...>.data()};
 
     /// Also before the record has been constructed, while the program is being loaded.
     [[nodiscard]] static SEL selector() {
@@ -65,12 +65,9 @@ Result sendToClass(const Arguments&... arguments) {
 /// overridden.
 template <MessageText message, class Result, class... Arguments>
 Result sendToBase(const NSObject& receiver, const Arguments&... arguments) {
-    const id object = objectOf(receiver);
-    auto* const base = frameworkClassBehind(object);
-    if (base == nullptr)
-        return send<message, Result>(object, arguments...);
     using Sent = Message<message, RawOf<Result>, RawOf<Arguments>...>;
-    return callImplementation<message, Result>(class_getMethodImplementation(base, Sent::selector()), object,
+    const id object = objectOf(receiver);
+    return callImplementation<message, Result>(inheritedImplementation(object, Sent::selector()), object,
                                                arguments...);
 }
 

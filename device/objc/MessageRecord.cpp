@@ -8,7 +8,7 @@ constinit const MessageRecord* firstRecord = nullptr;
 
 } // namespace
 
-MessageRecord::MessageRecord(const char* text, const char* selectorText, std::string (*types)())
+MessageRecord::MessageRecord(const char* text, const char* selectorText, const char* types)
     : text_(text),
       types_(types),
       selector_(sel_registerName(selectorText)),

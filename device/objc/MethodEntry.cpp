@@ -5,37 +5,55 @@
 #include "ObjectiveC/Class.h"
 
 #include <array>
-#include <variant>
+#include <cstddef>
+#include <cstdint>
+#include <vector>
 
 namespace {
 
-using RawArgument = std::variant<ObjcBool, std::int64_t, double, id>;
-
-// Numbers that are passed otherwise than objects are, only where the pane has them: for each list of types
-// there is a function.
 constexpr std::size_t parametersAtMost = 4;
-constexpr std::size_t parametersOfAnyTypeAtMost = 2;
 
-MessageValue valueOf(const RawArgument& argument, MessageType type) {
-    if (const auto* const boolean = std::get_if<ObjcBool>(&argument))
-        return PropertyList(static_cast<bool>(*boolean));
-    if (const auto* const integer = std::get_if<std::int64_t>(&argument))
-        return PropertyList(*integer);
-    if (const auto* const real = std::get_if<double>(&argument))
-        return PropertyList(*real);
-    return messageValueOf(std::get<id>(argument), type);
-}
+/// The arguments of a call as they come in: numbers and objects in one kind of registers, reals in another,
+/// each in their order.
+struct Registers {
+    std::array<id, parametersAtMost> general; ///< a number is what its bits are
+    std::array<double, parametersAtMost> floating;
+};
+
+/// Hands the arguments of a call out, in their order.
+class Arguments {
+public:
+    explicit Arguments(const Registers& registers) : registers_(registers) {}
+
+    [[nodiscard]] MessageValue next(MessageType type) {
+        if (type == MessageType::Real)
+            return PropertyList(registers_.floating[usedFloating_++]);
+        const id object = registers_.general[usedGeneral_++];
+        const auto number = reinterpret_cast<std::int64_t>(object);
+        if (type == MessageType::Boolean)
+            return PropertyList(static_cast<std::uint8_t>(number) != 0); // what is above it is anything
+        if (type == MessageType::Integer)
+            return PropertyList(number);
+        return messageValueOf(object, type);
+    }
+
+private:
+    const Registers& registers_;
+    std::size_t usedGeneral_ = 0;
+    std::size_t usedFloating_ = 0;
+};
 
 /// Calls the C++ member that the class table names. Nothing is called any more once the C++ half has ended.
-MessageValue callMember(id self, SEL selector, std::span<const RawArgument> arguments) {
+MessageValue callMember(id self, SEL selector, const Registers& registers) {
     const auto receiver = instanceAs<NSObject>(self);
     const auto* const method = receiver ? receiver->isa().instanceMethod(sel_getName(selector)) : nullptr;
     if (method == nullptr)
         return {};
     std::vector<MessageValue> values;
-    values.reserve(arguments.size());
-    for (std::size_t i = 0; i < arguments.size(); ++i)
-        values.push_back(valueOf(arguments[i], method->parameters[i]));
+    values.reserve(method->parameters.size());
+    Arguments arguments(registers);
+    for (const auto type : method->parameters)
+        values.push_back(arguments.next(type));
     return method->invoke(*receiver, values);
 }
 
@@ -50,15 +68,19 @@ R rawOf(const MessageValue& value) {
 }
 
 template <class R>
-[[gnu::noinline]] R answer(id self, SEL selector, std::span<const RawArgument> arguments) {
-    return withinPool<R>([&] { return rawOf<R>(callMember(self, selector, arguments)); });
+R answer(id self, SEL selector, const Registers& registers) {
+    return withinPool<R>([&] { return rawOf<R>(callMember(self, selector, registers)); });
 }
 
-/// The function that Objective-C calls, of the exact type. Small, since there is one for every list of types.
-template <class R, class... P>
-R entry(id self, SEL selector, P... arguments) noexcept {
-    const std::array<RawArgument, sizeof...(P)> raw{RawArgument(arguments)...};
-    return answer<R>(self, selector, raw);
+/// The function that Objective-C calls, for methods of every list of parameters: it is called as one of the
+/// method's own type is, and finds the arguments in the registers that they are passed in. Those that the
+/// method has no arguments for hold anything.
+template <class R>
+R entry(id self, SEL selector, id first, id second, id third, id fourth, double firstReal, double secondReal,
+        double thirdReal, double fourthReal) noexcept {
+    return answer<R>(self, selector,
+                     {.general = {first, second, third, fourth},
+                      .floating = {firstReal, secondReal, thirdReal, fourthReal}});
 }
 
 /// For an initialiser, which owns its receiver: that is what it answers with, or what its C++ half has become
@@ -67,8 +89,8 @@ id initialise(id self, SEL selector, id argument) noexcept {
     const auto receiver = instanceAs<NSObject>(self);
     if (!receiver)
         return self;
-    const std::array<RawArgument, 1> raw{RawArgument(argument)};
-    const bool isReady = static_cast<bool>(answer<ObjcBool>(self, selector, raw));
+    const bool isReady =
+        static_cast<bool>(answer<ObjcBool>(self, selector, {.general = {argument}, .floating = {}}));
     const id object = objectOf(*receiver);
     if (isReady)
         return object;
@@ -79,39 +101,6 @@ id initialise(id self, SEL selector, id argument) noexcept {
 bool isInitialiser(const Method& method) {
     return method.selector.starts_with("init") && method.result == MessageType::Boolean &&
            method.parameters.size() == 1;
-}
-
-// The types that a method has are put together one after the other: the result first, then the parameters.
-
-template <class R, class... P>
-IMP entryWith(std::span<const MessageType> further);
-
-template <class R, class Number, class... P>
-IMP entryWithNumber(std::span<const MessageType> further) {
-    if constexpr (sizeof...(P) < parametersOfAnyTypeAtMost)
-        return entryWith<R, P..., Number>(further);
-    else
-        return nullptr;
-}
-
-template <class R, class... P>
-IMP entryWith(std::span<const MessageType> further) {
-    if (further.empty())
-        return reinterpret_cast<IMP>(&entry<R, P...>);
-    if constexpr (sizeof...(P) < parametersAtMost) {
-        const auto rest = further.subspan(1);
-        switch (further.front()) {
-        case MessageType::Boolean:
-            return entryWithNumber<R, ObjcBool, P...>(rest);
-        case MessageType::Integer:
-            return entryWith<R, P..., std::int64_t>(rest);
-        case MessageType::Real:
-            return entryWithNumber<R, double, P...>(rest);
-        default:
-            return entryWith<R, P..., id>(rest);
-        }
-    }
-    return nullptr;
 }
 
 std::string_view encodingOfType(MessageType type) {
@@ -134,19 +123,21 @@ std::string_view encodingOfType(MessageType type) {
 } // namespace
 
 IMP methodEntry(const Method& method) {
+    if (method.parameters.size() > parametersAtMost)
+        return nullptr;
     if (isInitialiser(method))
         return reinterpret_cast<IMP>(&initialise);
     switch (method.result) {
     case MessageType::Nothing:
-        return entryWith<void>(method.parameters);
+        return reinterpret_cast<IMP>(&entry<void>);
     case MessageType::Boolean:
-        return entryWith<ObjcBool>(method.parameters);
+        return reinterpret_cast<IMP>(&entry<ObjcBool>);
     case MessageType::Integer:
-        return entryWith<std::int64_t>(method.parameters);
+        return reinterpret_cast<IMP>(&entry<std::int64_t>);
     case MessageType::Real:
-        return entryWith<double>(method.parameters);
+        return reinterpret_cast<IMP>(&entry<double>);
     default:
-        return entryWith<id>(method.parameters);
+        return reinterpret_cast<IMP>(&entry<id>);
     }
 }
 

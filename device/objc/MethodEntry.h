@@ -7,10 +7,10 @@
 
 /// The methods of the class table as Objective-C methods.
 
-/// The function that Objective-C calls for methods of that result and those parameters; null when there are
-/// more than four parameters, or a boolean or a real among those after the second. It finds the method by the
-/// receiver and the selector that it is called with. A method "init..." that takes an object and answers
-/// whether the receiver is ready is an initialiser, and answers with the receiver as those do.
+/// The function that Objective-C calls for the method; null when it has more than four parameters. It finds
+/// the method by the receiver and the selector that it is called with. A method "init..." that takes an
+/// object and answers whether the receiver is ready is an initialiser, and answers with the receiver as those
+/// do.
 [[nodiscard]] IMP methodEntry(const Method& method);
 
 /// How Objective-C writes the method's types down.

@@ -12,12 +12,6 @@ struct Overridable {
     IMP implementation; ///< calls the C++ function
 };
 
-/// The function to call for what an object inherits from the frameworks, for an object whose C++ half has
-/// ended.
-[[nodiscard]] inline IMP inheritedImplementation(id object, SEL selector) {
-    return class_getMethodImplementation(frameworkClassBehind(object), selector);
-}
-
 /// The methods' implementations. Each calls the C++ function, virtually, of the receiver's C++ half.
 template <MessageText message, auto member, class Signature = decltype(member)>
 struct OverrideEntry;

@@ -31,6 +31,17 @@ struct Published {
     std::map<objc_class*, std::string> names;
 };
 
+/// The nearest class of the object that the frameworks define, when its own is published by us; null when its
+/// own class is the frameworks' already.
+objc_class* frameworkClassBehind(id object) {
+    auto& all = Published::shared();
+    const std::shared_lock lock(all.mutex);
+    auto* candidate = all.nearestTo(object_getClass(object));
+    while (candidate != nullptr && all.contains(candidate))
+        candidate = class_getSuperclass(candidate);
+    return candidate;
+}
+
 } // namespace
 
 objc_class* newClass(const std::string& name, objc_class* base) {
@@ -78,11 +89,8 @@ objc_class* publishedClassOf(id object) {
     return all.nearestTo(object_getClass(object));
 }
 
-objc_class* frameworkClassBehind(id object) {
-    auto& all = Published::shared();
-    const std::shared_lock lock(all.mutex);
-    auto* candidate = all.nearestTo(object_getClass(object));
-    while (candidate != nullptr && all.contains(candidate))
-        candidate = class_getSuperclass(candidate);
-    return candidate;
+IMP inheritedImplementation(id object, SEL selector) {
+    auto* const base = frameworkClassBehind(object);
+    return base != nullptr ? class_getMethodImplementation(base, selector)
+                           : messageFunction(object, selector);
 }

@@ -24,6 +24,6 @@ void markPublished(const Class& stated, objc_class* published);
 /// The nearest class of the object that is published by us; null when there is none.
 [[nodiscard]] objc_class* publishedClassOf(id object);
 
-/// The nearest class of the object that the frameworks define, when its own is published by us; null when its
-/// own class is the frameworks' already.
-[[nodiscard]] objc_class* frameworkClassBehind(id object);
+/// The function to call for what the frameworks do for a message: for an object of a published class what
+/// that inherits from them, for any other what it does by itself.
+[[nodiscard]] IMP inheritedImplementation(id object, SEL selector);

@@ -29,7 +29,9 @@ TEST_F(ThreadsTest, CountsRightWithManyThreads) {
             for (int round = 0; round < 20000; ++round)
                 const auto copy = shared; // NOLINT(*-unnecessary-copy-initialization)
         };
-        const std::array threads{std::jthread(copyOften), std::jthread(copyOften), std::jthread(copyOften)};
+        std::array threads{std::thread(copyOften), std::thread(copyOften), std::thread(copyOften)};
+        for (auto& thread : threads)
+            thread.join();
     }
     EXPECT_EQ(journal, "");
     shared = nullptr;

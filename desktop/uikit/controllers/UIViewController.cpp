@@ -9,7 +9,8 @@
 
 namespace {
 
-const Class classObject = Class::define<UIViewController, UIResponder>("UIViewController");
+const Class classObject = Class::define<UIViewController, UIResponder>(
+    "UIViewController", {method<"viewDidLoad", &UIViewController::viewDidLoad>()});
 
 } // namespace
 

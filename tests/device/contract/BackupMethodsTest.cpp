@@ -22,6 +22,12 @@ namespace files = std::filesystem;
 
 class BackupMethodsTest : public BackupPageFixture {
 protected:
+    /// The user chooses a file of the documents' folder.
+    void importFile(const std::string& name) const {
+        perform(page, "importBackup", nullptr);
+        pickDocument(presentedBy(page), (folder + "/" + name).c_str());
+    }
+
     /// The sheets' titles and texts that were made since.
     [[nodiscard]] static Lines sheets() {
         Lines lines = takeJournal();
@@ -74,6 +80,7 @@ TEST_F(BackupMethodsTest, AnotherFormatterTellsTheDates) {
 
 TEST_F(BackupMethodsTest, AnArchiveIsSharedFromTheMiddleOfATablet) {
     save("a");
+    setFrameOf(viewOf(page), CGRectMake(10, 20, 600, 800));
     perform(page, "shareBackup:", text("a.tar.gz"));
     auto lines = takeJournal();
     std::erase_if(lines, [](const std::string& line) {
@@ -83,7 +90,7 @@ TEST_F(BackupMethodsTest, AnArchiveIsSharedFromTheMiddleOfATablet) {
     EXPECT_EQ(lines[0], "-[UIActivityViewController initWithActivityItems:applicationActivities:] [file://" +
                             backup("a.tar.gz") + "] nil");
     EXPECT_TRUE(lines[1].starts_with("-[UIPopoverPresentationController setSourceView:]"));
-    EXPECT_TRUE(lines[2].starts_with("-[UIPopoverPresentationController setSourceRect:]"));
+    EXPECT_EQ(lines[2], "-[UIPopoverPresentationController setSourceRect:] {{300, 400}, {0, 0}}");
     EXPECT_EQ(lines[3], "-[cxBackupRestoreController presentViewController:animated:completion:] "
                         "UIActivityViewController 1");
 }
@@ -147,6 +154,44 @@ TEST_F(BackupMethodsTest, WhatIsNoArchiveIsNotImported) {
     perform(page, "importBackup", nullptr);
     pickDocument(presentedBy(page), (folder + "/missing.tar.gz").c_str());
     EXPECT_FALSE(sheets().empty());
+}
+
+TEST_F(BackupMethodsTest, WhatFailsIsToldInItsOwnWords) {
+    const auto isTold = [](const std::string& words, const std::string& title) {
+        return std::ranges::any_of(sheets(), [&](const std::string& line) {
+            return line.starts_with(sheetMade + ('"' + title + "\" \"" + words + '"'));
+        });
+    };
+    perform(page, "showBackupList", nullptr);
+    EXPECT_TRUE(isTold("No backups found", "Info"));
+    perform(page, "shareBackup:", text("missing.tar.gz"));
+    EXPECT_TRUE(isTold("Backup file not found", "Error"));
+    std::ofstream(folder + "/picture.png") << "picture";
+    importFile("picture.png");
+    EXPECT_TRUE(isTold("Invalid file type. Please select a .tar.gz backup file.", "Error"));
+    std::ofstream(folder + "/broken.tar.gz") << std::string(2000, 'x');
+    importFile("broken.tar.gz");
+    EXPECT_TRUE(isTold("Failed to validate backup file", "Error"));
+    storeValue(boolean(true), "kEnabled");
+    save("a");
+    files::copy_file(backup("a.tar.gz"), folder + "/a.tar.gz");
+    importFile("a.tar.gz");
+    EXPECT_TRUE(isTold(
+        "A backup with this name already exists. Please rename the backup file before importing.", "Error"));
+}
+
+TEST_F(BackupMethodsTest, AnArchiveMayBeNamedInCapitals) {
+    storeValue(boolean(true), "kEnabled");
+    save("a");
+    files::rename(backup("a.tar.gz"), folder + "/B.TAR.GZ");
+    importFile("B.TAR.GZ");
+    EXPECT_TRUE(files::exists(backup("B.TAR.GZ"))) << testing::PrintToString(sheets());
+    takeJournal();
+    perform(page, "showBackupList", nullptr);
+    EXPECT_TRUE(std::ranges::any_of(takeJournal(), [](const std::string& line) {
+        return line.starts_with("-[OBWelcomeController addBulletedListItemWithTitle:") &&
+               line.contains(" \"B");
+    }));
 }
 
 TEST_F(BackupMethodsTest, WithoutItsFolderNoBackupIsMade) {

@@ -1,18 +1,29 @@
+#include "ClassPublisher.h"
 #include "CountedView.h"
 #include "Framework.h"
 #include "Journal.h"
 #include "Message.h"
+#include "ObjectiveC/Class.h"
+#include "ObjectiveC/Method.h"
 #include "UIKit/UIControl.h"
 #include "UIKit/UILabel.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
 
 using Lines = std::vector<std::string>;
+
+class CrowdedView final : public UIView {
+public:
+    void takeFour(double /*one*/, double /*two*/, double /*three*/, double /*four*/) {}
+
+    void takeFive(double /*one*/, double /*two*/, double /*three*/, double /*four*/, double /*five*/) {}
+};
 
 } // namespace
 
@@ -67,6 +78,31 @@ TEST(BindingTest, MethodsOfTheTableAnswerWithEveryKindOfValue) {
     auto* const twice = perform(object, "twice:", object);
     ASSERT_EQ(countOf(twice), 2U);
     EXPECT_EQ(objectAt(twice, 1), object);
+}
+
+TEST(BindingTest, ArgumentsOfAnyKindsArriveInAnyOrder) {
+    const auto view = make<CountedView>();
+    const auto take = [&](std::int64_t flag) {
+        return performMixed(objectOf(*view), "takeReal:text:flag:real:", 0.5, text("two"), flag, -4);
+    };
+    EXPECT_EQ(take(1), 1);
+    EXPECT_EQ(view->mixed, std::pair(0.5, -4.0));
+    EXPECT_EQ(view->mixedText, "two");
+    constexpr std::int64_t besideTheBoolean = 0x7F00;
+    EXPECT_EQ(take(besideTheBoolean), 0);
+    EXPECT_EQ(take(besideTheBoolean + 1), 1);
+}
+
+TEST(BindingTest, AMethodOfFiveParametersIsLoggedAndNotPublished) {
+    static const Class crowdedClass =
+        Class::define<CrowdedView, UIView>("CrowdedView", {method<"a:b:c:d:e:", &CrowdedView::takeFive>(),
+                                                           method<"a:b:c:d:", &CrowdedView::takeFour>()});
+    takeJournal();
+    publishClasses();
+    EXPECT_EQ(takeJournal(),
+              Lines{"log: -[CrowdedView a:b:c:d:e:] has more parameters than can be published."});
+    EXPECT_EQ(typesOf("CrowdedView", "a:b:c:d:e:"), nullptr);
+    EXPECT_EQ(std::string(typesOf("CrowdedView", "a:b:c:d:")), "v@:dddd");
 }
 
 TEST(BindingTest, AFreshAnswerReachesItsCaller) {

@@ -24,7 +24,10 @@
 
 static UIViewController *rootController, *ancestorController; // not kept alive
 
+static id shownWindow; // likewise
+
 void showRootController(UIViewController *controller) { rootController = controller; }
+void showWindow(id window) { shownWindow = window; }
 void putViewsInto(UIViewController *controller) { ancestorController = controller; }
 
 @interface UIWindow : UIView
@@ -37,7 +40,7 @@ void putViewsInto(UIViewController *controller) { ancestorController = controlle
 @implementation UIApplication (Windows)
 - (UIWindow *)keyWindow {
     record(self, _cmd, @"");
-    return [[UIWindow new] autorelease];
+    return shownWindow ? shownWindow : [[UIWindow new] autorelease];
 }
 @end
 

@@ -21,6 +21,7 @@ class CellsTest : public testing::Test {
 protected:
     ~CellsTest() override {
         showRootController(nullptr);
+        showWindow(nullptr);
         putViewsInto(nullptr);
         objc_release(page);
     }
@@ -132,6 +133,20 @@ TEST_F(CellsTest, ATapExplainsARowWithoutAPageAboveTheWindowsController) {
     objc_release(cell);
 }
 
+TEST_F(CellsTest, AWindowOfAClassThatNobodyKnowsIsAskedAndItsSilenceLogged) {
+    auto* const window = newByName("NSMutableSet");
+    showWindow(window);
+    auto* const cell = newCell("CXSwitchWithInfoCell", 0, nullptr, row({}));
+    takeJournal();
+    perform(cell, "infoButtonTapped", nullptr);
+    const auto lines = journalOf({"log", "present"});
+    ASSERT_EQ(lines.size(), 1U);
+    EXPECT_TRUE(lines[0].contains("rootViewController]: unrecognized selector sent to <NSObject: 0x"))
+        << lines[0];
+    objc_release(cell);
+    objc_release(window);
+}
+
 TEST_F(CellsTest, ARowWithoutTextsIsExplainedWithoutATitle) {
     auto* const cell = newCell("CXSwitchWithInfoCell", 0, nullptr, row({}));
     takeJournal();
@@ -150,7 +165,7 @@ TEST_F(CellsTest, AHeaderIsBuiltFromTheBackToTheFront) {
                             "-[CAGradientLayer setColors:] [white(0.1, 0.3), white(0.2, 0.3)]",
                             "-[CAGradientLayer setStartPoint:] {0, 0}",
                             "-[CAGradientLayer setEndPoint:] {1, 1}",
-                            "-[CAGradientLayer setFrame:] {{0, 0}, {0, 0}}",
+                            "-[CAGradientLayer setFrame:] {{0, 0}, {320, 44}}",
                             "-[CAGradientLayer setCornerRadius:] 15",
                             "-[CALayer insertSublayer:atIndex:] CAGradientLayer 0",
                             "+[UIBlurEffect effectWithStyle:] 4",

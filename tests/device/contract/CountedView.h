@@ -7,6 +7,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 /// A view that is known to the class table, counts itself, and does what tests give it to do.
@@ -45,6 +46,14 @@ public:
 
     void setPair(bool on, bool animated) { pair = (on ? 1 : 0) + (animated ? 2 : 0); }
 
+    [[nodiscard]] std::int64_t takeMixed(double first, const std::optional<std::string>& text, bool flag,
+                                         double second) {
+        mixed = {first, second};
+        mixedText = text;
+        pair = flag ? 1 : 0;
+        return pair;
+    }
+
     [[nodiscard]] std::optional<std::string> echo(const std::optional<std::string>& text) const {
         return text;
     }
@@ -61,6 +70,8 @@ public:
 
     std::int64_t layouts = 0;
     int pair = 0;
+    std::pair<double, double> mixed;
+    std::optional<std::string> mixedText;
     std::function<void()> atEnd;
     std::function<void()> atLayout;
     Weak<UIView> watched;

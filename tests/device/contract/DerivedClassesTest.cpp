@@ -82,7 +82,7 @@ void expectAWorkingRow(const std::string& name) {
               (Lines{"-[" + name + " initWithStyle:reuseIdentifier:specifier:] 3 \"row\" PSSpecifier",
                      "-[" + name + " initWithStyle:reuseIdentifier:] 3 \"row\"",
                      "-[" + name + " initWithFrame:] {{0, 0}, {0, 0}}",
-                     "-[UIView initWithFrame:] {{0, 0}, {0, 0}}", "-[UIView setTag:] 5"}));
+                     "-[UIView initWithFrame:] {{0, 0}, {320, 44}}", "-[UIView setTag:] 5"}));
     perform(object, "refreshCellContentsWithSpecifier:", specifier);
     EXPECT_TRUE(row->refreshed);
     EXPECT_EQ(takeJournal(), (Lines{"-[" + name + " refreshCellContentsWithSpecifier:] PSSpecifier"}));

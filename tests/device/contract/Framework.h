@@ -20,6 +20,8 @@ id newWithSpecifier(const char* className, id specifier);
 void moveView(id view, id superview);
 /// What the application's window shows, and whose view every view is in; null for none. Not kept alive.
 void showRootController(id controller);
+/// The application's window is that object; for null, one that shows a controller. Not kept alive.
+void showWindow(id window);
 void putViewsInto(id controller);
 
 /// With `alloc` alone. The caller owes a release.
@@ -83,6 +85,9 @@ bool answersTo(id receiver, const char* selector);
 id performWithTwo(id receiver, const char* selector, id first, id second);
 /// With three objects and a number more, for methods of as many parameters or one less.
 id performWithMore(id receiver, const char* selector, id first, id second, id third, std::int64_t number);
+/// For methods of a real, an object, a boolean, of which the number is the whole register, and another real.
+long performMixed(id receiver, const char* selector, double first, id second, std::int64_t third,
+                  double fourth);
 /// The same through the types that the class was published with, and answered as a number.
 long invokeForInteger(id receiver, const char* selector, id argument);
 void invokeWithDouble(id receiver, const char* selector, double argument);

@@ -170,6 +170,12 @@ id performWithMore(id receiver, const char *selector, id first, id second, id th
     return ((Method)[receiver methodForSelector:name])(receiver, name, first, second, third, number);
 }
 
+long performMixed(id receiver, const char *selector, double first, id second, long third, double fourth) {
+    typedef long (*Method)(id, SEL, double, id, long, double);
+    SEL name = sel_registerName(selector);
+    return ((Method)(void (*)(void))[receiver methodForSelector:name])(receiver, name, first, second, third, fourth);
+}
+
 static NSInvocation *invocationWithTwo(id receiver, const char *selector, void *argument, void *second) {
     SEL name = sel_registerName(selector);
     NSMethodSignature *signature = [receiver methodSignatureForSelector:name];

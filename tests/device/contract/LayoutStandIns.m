@@ -166,9 +166,9 @@ static id answer(id receiver, SEL question, Class class) {
 @implementation UITableViewCell
 - (id)initWithStyle:(NSInteger)style reuseIdentifier:(NSString *)identifier {
     record(self, _cmd, @"%ld %@", (long)style, describe(identifier));
-    CGRect empty = {{0, 0}, {0, 0}};
+    CGRect empty = {{0, 0}, {0, 0}}, content = {{0, 0}, {320, 44}};
     self = [super initWithFrame:empty];
-    contentView = [UIView new];
+    contentView = [[UIView alloc] initWithFrame:content];
     return self;
 }
 - (UIView *)contentView { return contentView; }

@@ -280,8 +280,10 @@ TEST_F(PublishedMethodsTest, ASwitchIsTurnedByItsMethods) {
     EXPECT_TRUE(wasAnimated());
     finishAnimations();
     EXPECT_TRUE(invokeForBoolean(control, "isRounded"));
-    invokeWithBooleans(control, "setRounded:", false, false);
-    EXPECT_FALSE(invokeForBoolean(control, "isRounded"));
+    for (const bool rounded : {false, true}) {
+        invokeWithBooleans(control, "setRounded:", rounded, false);
+        EXPECT_EQ(invokeForBoolean(control, "isRounded"), rounded);
+    }
     objc_release(control);
 }
 

@@ -120,9 +120,21 @@ TEST_F(RulePageTest, EachPageLoadsItsListOnce) {
     }
 }
 
+TEST_F(RulePageTest, EachPageThatHasRulesReadsThemWithItsList) {
+    for (const auto* const name : {"cxBannerController", "cxOrganizeController", "cxBackgroundController"}) {
+        const id opened = newByName(name);
+        EXPECT_EQ(perform(opened, "dynamicSpecifiers", nullptr), nullptr) << name;
+        specifiersOf(opened);
+        EXPECT_NE(perform(opened, "dynamicSpecifiers", nullptr), nullptr) << name;
+        objc_release(opened);
+    }
+}
+
 TEST_F(RulePageTest, ItsPropertiesAndItsJudgementAreMessagesToo) {
-    perform(page, "setHasDynamicSpecifiers:", nullptr);
-    EXPECT_FALSE(has("hasDynamicSpecifiers"));
+    for (const bool any : {false, true}) {
+        invokeWithBooleans(page, "setHasDynamicSpecifiers:", any, false);
+        EXPECT_EQ(has("hasDynamicSpecifiers"), any);
+    }
     auto* const rules = newByName("NSMutableDictionary");
     perform(page, "setDynamicSpecifiers:", rules);
     EXPECT_EQ(perform(page, "dynamicSpecifiers", nullptr), rules);

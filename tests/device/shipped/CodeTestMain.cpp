@@ -7,6 +7,7 @@
 #include "ImportTable.h"
 #include "StateOfEachTest.h"
 #include "TestFunctions.h"
+#include "ThreadFunctions.h"
 
 #include <gtest/gtest.h>
 
@@ -43,8 +44,10 @@ void registerTests() {
 int main(int count, char** arguments) {
     testing::InitGoogleTest(&count, arguments);
     tellCrashes();
-    for (const auto& [symbol, address] : testFunctions())
-        ImportTable::add(symbol, address);
+    for (const auto imports : {testFunctions(), threadFunctions()}) {
+        for (const auto& [symbol, address] : imports)
+            ImportTable::add(symbol, address);
+    }
     {
         const AutoreleasePool pool;
         BundleUnderTest::load(BundleUnderTest::readArguments(count, arguments));

@@ -6,9 +6,12 @@
 
 #include <gtest/gtest.h>
 
+#include <langinfo.h>
+
 #include <array>
 #include <clocale>
 #include <cstddef>
+#include <cstdlib>
 #include <deque>
 #include <string>
 
@@ -39,6 +42,12 @@ const char* setWholeLocale(int category, const char* name) {
     return category == all ? std::setlocale(LC_ALL, name) : nullptr;
 }
 
+/// What a locale tells of itself, of which tests ask for the name of the encoding alone.
+const char* tellOfLocale(int item) {
+    constexpr int encoding = 0; // numbered otherwise there
+    return item == encoding ? nl_langinfo(CODESET) : nullptr;
+}
+
 } // namespace
 
 Imports testFunctions() {
@@ -49,18 +58,22 @@ Imports testFunctions() {
                                     Import{"_emptySpecifier", code(emptySpecifier)},
                                     Import{"_finishAnimations", code(finishAnimations)},
                                     Import{"_forgetSuites", code(forgetSuites)},
+                                    Import{"_free", code(std::free)},
                                     Import{"_invokeForBoolean", code(invokeForBoolean)},
                                     Import{"_invokeForInteger", code(invokeForInteger)},
                                     Import{"_invokeWithBooleans", code(invokeWithBooleans)},
                                     Import{"_invokeWithDouble", code(invokeWithDouble)},
                                     Import{"_layOut", code(layOut)},
+                                    Import{"_mblen", code(std::mblen)},
                                     Import{"_newByName", code(newByName)},
                                     Import{"_newCell", code(newCell)},
                                     Import{"_newWithCoder", code(newWithCoder)},
                                     Import{"_newWithFrame", code(newWithFrame)},
+                                    Import{"_nl_langinfo", code(tellOfLocale)},
                                     Import{"_number", code(number)},
                                     Import{"_observe", code(observe)},
                                     Import{"_perform", code(perform)},
+                                    Import{"_performMixed", code(performMixed)},
                                     Import{"_pickDocument", code(pickDocument)},
                                     Import{"_postNotification", code(postNotification)},
                                     Import{"_reportFailure", code(reportFailure)},

@@ -17,9 +17,12 @@ bool areSame(const TypeRecord& one, const TypeRecord& other) {
     return &one == &other || std::strcmp(nameOf(one), nameOf(other)) == 0;
 }
 
-bool hasBase(const TypeRecord& type) {
-    return CodePointers::stripped(type.table) ==
-           reinterpret_cast<std::uint64_t>(&typeRecordTables.withBase[2]);
+/// The record that a class with a base has of that; null for one without. The device's library calls virtual
+/// functions of every record that it comes to, and so authenticates the record's table.
+const TypeRecord* baseOf(const TypeRecord& type) {
+    const auto table =
+        CodePointers::authenticated(type.table, SigningKey::DA, 0, "the table of a class's record");
+    return table == reinterpret_cast<std::uint64_t>(&typeRecordTables.withBase[2]) ? type.base : nullptr;
 }
 
 } // namespace
@@ -30,10 +33,8 @@ const void* castToRecorded(const void* object, const TypeRecord* /*from*/, const
         CodePointers::stripped(*static_cast<const std::uint64_t*>(object)));
     const auto offsetToWhole = static_cast<std::int64_t>(table[-2]);
     const auto* type = reinterpret_cast<const TypeRecord*>(table[-1]);
-    while (!areSame(*type, *to)) {
-        if (!hasBase(*type))
-            return nullptr;
-        type = type->base;
-    }
-    return static_cast<const char*>(object) + offsetToWhole;
+    bool isFound = false;
+    for (; type != nullptr; type = baseOf(*type))
+        isFound = isFound || areSame(*type, *to);
+    return isFound ? static_cast<const char*>(object) + offsetToWhole : nullptr;
 }

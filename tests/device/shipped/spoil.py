@@ -4,7 +4,9 @@
 WHAT is "byte", for which the copy is left with a signature that no longer fits; or, signed anew:
 
 - "instruction": where the pane plays a sound, it plays another one;
-- "fixup": what is bound to the function that sends messages is bound to the import after it.
+- "fixup": what is bound to the function that sends messages is bound to the one that releases objects;
+- "answer": what hands over an object that is nobody's, autoreleasing it, retains it instead;
+- "block": the class of the first block that is made is signed otherwise than blocks' are (of arm64e alone).
 
 Prints where the fault is, as the half's file has it.
 """
@@ -18,6 +20,7 @@ SUBTYPES = {"arm64": 0, "arm64e": 2}
 UNIVERSAL = b"\xca\xfe\xba\xbe"
 SEGMENT, FIXUPS, SIGNATURE = 0x19, 0x80000034, 0x1D
 SOUND = 0x5280BDE0  # mov w0, #1519
+BLOCK = 0xF2E00000 | 0x6AE1 << 5  # movk x0, #0x6ae1, lsl #48
 
 
 class Half:
@@ -76,16 +79,16 @@ class Half:
                 distance = 8 * (content >> 51 & 0x7FF)
                 place += distance
 
-    def ordinal(self, symbol):
-        """The number of an import."""
+    def imports(self):
+        """The names of the imports, in the order of their numbers."""
         fixups = self.read("<I", self.commands[FIXUPS] + 8)
         _, _, imports, names, count, form, _ = self.read("<7I", fixups)
+        found = []
         for number in range(count):
             name = fixups + names + (self.read("<I", fixups + imports + number * (4 if form == 1 else 8)) >> 9)
             end = self.data.index(b"\0", self.start + name)
-            if self.data[self.start + name : end].decode() == symbol:
-                return number
-        raise LookupError(symbol)
+            found.append(self.data[self.start + name : end].decode())
+        return found
 
     def sign_anew(self, place):
         """The hash of the page in which a place is."""
@@ -98,22 +101,38 @@ class Half:
         self.write("32s", hashes + 32 * page, hashlib.sha256(content).digest())
 
 
+def change_first(half, instruction, register, changed):
+    """Changes the first instruction that is one, whichever register it is for. Returns its place."""
+    _, size, offset = half.sections["__text"]
+    places = range(offset, offset + size, 4)
+    place = next(place for place in places if half.read("<I", place) & ~register == instruction)
+    half.write("<I", place, half.read("<I", place) + changed)
+    return place
+
+
+def bind_otherwise(half, symbol, other):
+    """Binds what is bound to an import to another one. Returns its place."""
+    bound, instead = map(half.imports().index, (symbol, other))
+    _, size, start = half.sections["__got"]
+    place = next(slot for slot in range(start, start + size, 8) if half.read("<Q", slot) & 0xFFFFFF == bound)
+    half.write("<Q", place, half.read("<Q", place) + instead - bound)
+    return place
+
+
 def spoil(half, what):
     """Plants the fault. Returns its place."""
-    offset = half.sections["__text"][2]
     if what == "byte":
-        half.write("B", offset, half.read("B", offset) ^ 1)
-        return offset
+        place = half.sections["__text"][2]
+        half.write("B", place, half.read("B", place) ^ 1)
+        return place
     if what == "instruction":
-        _, size, _ = half.sections["__text"]
-        place = next(place for place in range(offset, offset + size, 4) if half.read("<I", place) == SOUND)
-        half.write("<I", place, SOUND + (1 << 5))
+        place = change_first(half, SOUND, 0, 1 << 5)
+    elif what == "block":
+        place = change_first(half, BLOCK, 0x1F, 1 << 5)
+    elif what == "answer":
+        place = bind_otherwise(half, "_objc_autorelease", "_objc_retain")
     else:
-        bound = half.ordinal("_objc_msgSend")
-        _, size, start = half.sections["__got"]
-        slots = range(start, start + size, 8)
-        place = next(slot for slot in slots if half.read("<Q", slot) & 0xFFFFFF == bound)
-        half.write("<Q", place, half.read("<Q", place) + 1)
+        place = bind_otherwise(half, "_objc_msgSend", "_objc_release")
     half.sign_anew(place)
     return place
 
