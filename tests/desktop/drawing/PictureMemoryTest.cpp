@@ -5,7 +5,7 @@
 #include <malloc.h>
 
 #include <cstddef>
-#include <memory>
+#include <vector>
 
 #ifndef __SANITIZE_ADDRESS__ // which has an allocator of its own
 
@@ -13,9 +13,9 @@ TEST(PictureMemoryTest, APictureIsAllocatedApartThoughALargerOneWas) {
     giveBackPictureMemory();
     constexpr std::size_t larger = 12'000'000;
     constexpr std::size_t smaller = 4'000'000;
-    std::make_unique<std::byte[]>(larger).reset();
+    static_cast<void>(std::vector<std::byte>(larger));
     const auto before = mallinfo2().hblks;
-    const auto picture = std::make_unique<std::byte[]>(smaller);
+    const std::vector<std::byte> picture(smaller);
     EXPECT_EQ(mallinfo2().hblks, before + 1);
 }
 
