@@ -13,9 +13,8 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
-#include <optional>
+#include <memory>
 #include <string>
-#include <utility>
 
 /// Measures what a frame of the master switch's animation costs against painting the pane's whole page from
 /// nothing, without pictures that were kept, in one run, on a phone at 3x. Prints both times and their ratio;
@@ -58,7 +57,7 @@ void tap(TouchDispatcher& touches, const UIView& view) {
 
 /// The mean time of a frame while the switch goes from one side to the other, many times.
 template <class Prepare>
-Milliseconds frameTime(std::optional<Compositor>& compositor, TestDevice& device, const UIView& control,
+Milliseconds frameTime(std::unique_ptr<Compositor>& compositor, TestDevice& device, const UIView& control,
                        Prepare prepare) {
     TouchDispatcher touches;
     Milliseconds sum{};
@@ -89,10 +88,11 @@ int main(int argc, char** argv) {
     Shell shell;
     DrivenShell driven(shell);
     const auto control = openPane(device, driven);
-    std::optional<Compositor> compositor(std::in_place, screen);
+    auto compositor = std::make_unique<Compositor>(screen);
     compositor->render();
     const auto part = frameTime(compositor, device, *control, [] {});
-    const auto whole = frameTime(compositor, device, *control, [&] { compositor.emplace(screen); });
+    const auto whole =
+        frameTime(compositor, device, *control, [&] { compositor = std::make_unique<Compositor>(screen); });
     const auto ratio = part / whole;
     std::printf("a frame of the switch: %.2f ms; of the whole page: %.2f ms; ratio %.3f (at most %.2f)\n",
                 part.count(), whole.count(), ratio, largestRatio);

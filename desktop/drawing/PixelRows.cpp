@@ -103,7 +103,7 @@ void PixelRows::paintOver(std::span<std::uint8_t> row, std::span<const std::uint
                           std::uint8_t opacity) {
     constexpr std::uint8_t full = 255;
     Alphas alphas;
-    std::array<std::uint8_t, blockPixels * pixelSize> faded;
+    std::array<std::uint8_t, blockPixels * pixelSize> faded{};
     for (std::size_t start = 0; start < row.size(); start += faded.size()) {
         const auto size = std::min(faded.size(), row.size() - start);
         const auto* pixels = over.data() + start;

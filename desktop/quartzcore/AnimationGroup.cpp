@@ -54,8 +54,9 @@ void AnimationGroup::recorded() {
 
 void AnimationGroup::animationTakenAway() {
     finished_ = false;
+    // Layers end with this, so that it must not throw, as shared_from_this() might.
     if (--running_ == 0)
-        MainQueue::async([self = shared_from_this()] { self->complete(false); });
+        MainQueue::async([self = weak_from_this().lock()] { self->complete(false); });
 }
 
 void AnimationGroup::complete(bool finished) {

@@ -225,9 +225,10 @@ void Painting::paintMasked(std::size_t index, Surface& surface) {
         paintInside(index, surface);
         return;
     }
-    std::vector<QImage> saved;
     std::vector<QRect> parts = partsOf(softEdges(item));
     std::erase_if(parts, [&edges](const QRect& part) { return !edges.intersects(part); });
+    std::vector<QImage> saved;
+    saved.reserve(parts.size());
     for (const auto& part : parts)
         saved.push_back(surface.image.copy(part));
     paintInside(index, surface);
@@ -252,7 +253,7 @@ void Painting::paintBackdrop(std::size_t index, Surface& surface) {
     const auto& item = items_[index];
     if (!item.look.backdrop || !damage_.intersects(item.body))
         return;
-    const auto seen = backdropOf(index);
+    const auto seen = backdropOf(index, *item.look.backdrop);
     const auto region = seen_[index] & item.body & item.innerClip;
     const auto inside = seen.isOpaque() ? item.filled : QRect();
     for (const auto& rect : region& inside)
@@ -271,9 +272,9 @@ void Painting::paintBackdrop(std::size_t index, Surface& surface) {
 }
 
 /// What lies behind is painted smaller, as finely as is needed for its blur.
-BlurredBackdrop Painting::backdropOf(std::size_t index) const {
+BlurredBackdrop Painting::backdropOf(std::size_t index, const Backdrop& backdrop) const {
     const auto& item = items_[index];
-    const auto sigma = item.look.backdrop->blurRadius * pixelsPerPoint(item.look);
+    const auto sigma = backdrop.blurRadius * pixelsPerPoint(item.look);
     const auto& full = item.body.size();
     const auto factor = timesSmaller(sigma);
     const QSize size(std::max(1, full.width() / factor), std::max(1, full.height() / factor));
@@ -283,7 +284,7 @@ BlurredBackdrop Painting::backdropOf(std::size_t index) const {
     Painting(list, all, behind, color_, painter_).paintAll();
     const auto smaller = std::sqrt(static_cast<double>(size.width()) * size.height() /
                                    (static_cast<double>(full.width()) * full.height()));
-    return {behind, sigma * smaller, item.look.backdrop->saturation, full};
+    return {behind, sigma * smaller, backdrop.saturation, full};
 }
 
 void Painting::paintBackground(std::size_t index, Surface& surface, double opacity) {

@@ -35,7 +35,7 @@ private:
     void findSeen();
     /// The same for a part of an item with all within it.
     [[nodiscard]] QRegion seenWithin(const PaintItem& item, const QRegion& part) const;
-    [[nodiscard]] BlurredBackdrop backdropOf(std::size_t index) const;
+    [[nodiscard]] BlurredBackdrop backdropOf(std::size_t index, const Backdrop& backdrop) const;
     void paintItems(std::size_t first, std::size_t end, Surface& surface);
     void paintItem(std::size_t index, Surface& surface);
     void paintGroup(std::size_t index, Surface& surface);

@@ -10,7 +10,7 @@
 namespace {
 
 constexpr auto preferences = "/var/mobile/Library/Preferences/com.orvel.corvexprefs.plist";
-constexpr auto bundle = "/var/jb/Library/PreferenceBundles/corvexPrefs.bundle/";
+constexpr auto bundleFolder = "/var/jb/Library/PreferenceBundles/corvexPrefs.bundle/";
 
 std::string text(const std::string& key, const std::string& text) {
     return "<key>" + key + "</key><string>" + text + "</string>";
@@ -43,9 +43,9 @@ protected:
     }
 
     void writeList(const std::string& name, const std::string& items) {
-        program.device().write(bundle + name + ".plist", R"(<plist version="1.0"><dict>)" +
-                                                             text("title", name) + "<key>items</key><array>" +
-                                                             items + "</array></dict></plist>");
+        program.device().write(bundleFolder + name + ".plist",
+                               R"(<plist version="1.0"><dict>)" + text("title", name) +
+                                   "<key>items</key><array>" + items + "</array></dict></plist>");
     }
 
     [[nodiscard]] QJsonObject row(const char* id) {
