@@ -24,7 +24,8 @@ MEMBER = re.compile(r"(?:\.|->|\b(?!std)\w+::)([A-Za-z_]\w*)")
 # What is found by its name.
 FOUND_BY_NAME = {"PrintTo"}
 NAMELESS = re.compile(r"^(?:(?:INSTANTIATE_|TYPED_)?TEST\w*|static_assert)\(|^using (?:namespace|enum)\b|^using [\w:]+;")
-PROGRAM = re.compile(r"^int main\(", re.MULTILINE)
+# Of which a program has one.
+PROGRAM = re.compile(r"^(?:extern \"C\" )?int (?:main|LLVMFuzzerTestOneInput)\(", re.MULTILINE)
 
 
 def own_names(text):

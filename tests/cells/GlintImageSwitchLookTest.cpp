@@ -9,7 +9,7 @@ namespace {
 /// thumb that is on has been set or not.
 using State = std::tuple<bool, bool, bool>;
 
-std::string nameOf(const testing::TestParamInfo<State>& info) {
+std::string nameOfState(const testing::TestParamInfo<State>& info) {
     const auto [on, tracking, thumbColorSet] = info.param;
     return std::string(on ? "On" : "Off") + (tracking ? "Tracking" : "Resting") +
            (thumbColorSet ? "WithOnThumb" : "");
@@ -55,7 +55,7 @@ protected:
 } // namespace
 
 INSTANTIATE_TEST_SUITE_P(AllStates, GlintImageSwitchLookTest,
-                         testing::Combine(testing::Bool(), testing::Bool(), testing::Bool()), nameOf);
+                         testing::Combine(testing::Bool(), testing::Bool(), testing::Bool()), nameOfState);
 
 TEST_P(GlintImageSwitchLookTest, TheActiveColourRepaintsTheTrackOfARestingSwitchThatIsOn) {
     control->setActiveColor(color);

@@ -89,6 +89,7 @@ class JoinedTest(unittest.TestCase):
 
     def test_a_program_stands_alone(self):
         self.assertFalse(batches.can_be_joined("int main(int count, char** arguments) {\n}\n"))
+        self.assertFalse(batches.can_be_joined('extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data,\n'))
         self.assertTrue(batches.can_be_joined("void remain() {}\n"))
 
 

@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr double width = 342;
+constexpr double headerWidth = 342;
 constexpr auto longText =
     "A text that is so long that it takes more than the one line that there is room for";
 
@@ -12,7 +12,7 @@ class OBHeaderViewTest : public WelcomeFixture {
 protected:
     void fill(const OBHeaderView::Content& content) {
         header_->setContent(content);
-        header_->setFrame(CGRectMake(0, 0, width, header_->heightForWidth(width)));
+        header_->setFrame(CGRectMake(0, 0, headerWidth, header_->heightForWidth(headerWidth)));
         header_->peer().layoutIfNeeded();
     }
 
@@ -56,7 +56,7 @@ TEST_F(OBHeaderViewTest, ShowsSymbolsOfAnySizeAlike) {
         fill({.title = "New", .detail = {}, .image = DesktopImage::symbol("gear", size)});
         EXPECT_EQ(image().origin.y, 60) << size;
         EXPECT_EQ(image().size.height, 64) << size;
-        EXPECT_NEAR(CGRectGetMidX(image()), width / 2, 0.5) << size;
+        EXPECT_NEAR(CGRectGetMidX(image()), headerWidth / 2, 0.5) << size;
     }
 }
 
@@ -79,10 +79,10 @@ TEST_F(OBHeaderViewTest, HasItsPartsBelowEachOther) {
         EXPECT_EQ(title().origin.y, titleTop) << what;
         EXPECT_EQ(detail().size.height > 0, hasDetail) << what;
         EXPECT_EQ(detail().origin.y, CGRectGetMaxY(title()) + (hasDetail ? 10 : 0)) << what;
-        EXPECT_EQ(header_->heightForWidth(width), CGRectGetMaxY(detail())) << what;
+        EXPECT_EQ(header_->heightForWidth(headerWidth), CGRectGetMaxY(detail())) << what;
         for (const auto& text : {title(), detail()}) {
             EXPECT_EQ(text.origin.x, 0) << what;
-            EXPECT_EQ(text.size.width, width) << what;
+            EXPECT_EQ(text.size.width, headerWidth) << what;
         }
     }
 }
