@@ -59,10 +59,12 @@ LayerPictures::Kept& LayerPainter::compare(const PaintItem& item) {
     if (kept.shown == item.inner)
         return kept;
     QRegion damage = QRect({}, item.inner->size());
-    if (kept.shown != nullptr && kept.picture.size() == item.inner->size())
+    if (kept.shown != nullptr && kept.picture.size() == item.inner->size()) {
         damage = damageBetween(*kept.shown, *item.inner);
-    else
+    } else {
         kept.picture = QImage(item.inner->size(), QImage::Format_ARGB32_Premultiplied);
+        kept.outdated = {}; // of the picture before, which may have been larger
+    }
     if (!damage.isEmpty())
         kept.smaller.clear();
     kept.outdated |= damage;

@@ -342,6 +342,22 @@ TEST_F(CompositorTest, APictureOfALayerFollowsWhatChangedWhileItWasCovered) {
     EXPECT_EQ(shown_.pixel(2, 31), QColor(Qt::green));
 }
 
+// What would be painted beyond the smaller picture, the sanitizers notice.
+TEST_F(CompositorTest, APictureOfALayerShrinksWhichWasNotSeenWhole) {
+    const auto page = shown_.add(CGRectMake(0, 0, 40, 40), red);
+    const auto row = ShownScreen::add(*page, CGRectMake(0, 0, 40, 10), green);
+    page->layer().peer().keepsPicture = true;
+    row->layer().peer().keepsPicture = true;
+    const auto cover = shown_.add(CGRectMake(0, 20, 40, 20), blue);
+    EXPECT_EQ(shown_.pixel(2, 15), QColor(Qt::red));
+    row->peer().removeFromSuperview();
+    page->setFrame(CGRectMake(0, 0, 40, 10));
+    cover->peer().removeFromSuperview();
+    EXPECT_EQ(shown_.pixel(2, 5), QColor(Qt::red));
+    EXPECT_EQ(shown_.pixel(2, 15), white);
+    EXPECT_EQ(shown_.pixel(2, 30), white);
+}
+
 TEST_F(CompositorTest, APictureOfALayerIsPaintedSmallerWithItsRoundCorners) {
     const auto view = shown_.add(CGRectMake(0, 0, 40, 40), red);
     ShownScreen::put(*view, CGRectMake(0, 20, 40, 20), blue);
