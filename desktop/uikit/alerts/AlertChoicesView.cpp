@@ -55,7 +55,7 @@ void AlertChoicesView::sortButtons() {
 }
 
 void AlertChoicesView::layoutSubviews() {
-    UIControl::layoutSubviews();
+    FollowingControl::layoutSubviews();
     sortButtons(); // the widths of titles are whole pixels, whose size may have changed
     const auto layout = buttonLayout();
     for (std::size_t place = 0; place < buttons_.size(); ++place)
@@ -85,24 +85,4 @@ void AlertChoicesView::fingerLifted(CGPoint place) {
 
 void AlertChoicesView::fingerGone() {
     highlight(nullptr);
-}
-
-bool AlertChoicesView::beginTrackingWithTouch(UITouch& touch, UIEvent* event) {
-    fingerMoved(touch.locationInView(*this));
-    return UIControl::beginTrackingWithTouch(touch, event);
-}
-
-bool AlertChoicesView::continueTrackingWithTouch(UITouch& touch, UIEvent* event) {
-    fingerMoved(touch.locationInView(*this));
-    return UIControl::continueTrackingWithTouch(touch, event);
-}
-
-void AlertChoicesView::endTrackingWithTouch(UITouch& touch, UIEvent* event) {
-    UIControl::endTrackingWithTouch(touch, event);
-    fingerLifted(touch.locationInView(*this));
-}
-
-void AlertChoicesView::cancelTrackingWithEvent(UIEvent* event) {
-    UIControl::cancelTrackingWithEvent(event);
-    fingerGone();
 }

@@ -1,15 +1,15 @@
 #pragma once
 
-#include "UIKit/UIControl.h"
 #include "alerts/AlertButtonView.h"
 #include "alerts/AlertLayout.h"
+#include "controls/FollowingControl.h"
 
 #include <functional>
 #include <vector>
 
 /// The buttons of an alert in their places, and the finger that moves over them. Made by the alert's view,
 /// which lets it scroll, and which tells it of a finger that came down elsewhere.
-class AlertChoicesView final : public UIControl {
+class AlertChoicesView final : public FollowingControl {
 public:
     using Chosen = std::function<void(const Ref<DesktopAlertAction>& action)>;
 
@@ -28,16 +28,10 @@ public:
     /// The height of all of them.
     [[nodiscard]] double fullHeight() const { return buttonLayout().height(); }
 
-    // The finger, in this view's points.
-    void fingerMoved(CGPoint place);
-    void fingerLifted(CGPoint place);
-    void fingerGone();
-
-    // UIControl:
-    bool beginTrackingWithTouch(UITouch& touch, UIEvent* event) override;
-    bool continueTrackingWithTouch(UITouch& touch, UIEvent* event) override;
-    void endTrackingWithTouch(UITouch& touch, UIEvent* event) override;
-    void cancelTrackingWithEvent(UIEvent* event) override;
+    // FollowingControl:
+    void fingerMoved(CGPoint place) override;
+    void fingerLifted(CGPoint place) override;
+    void fingerGone() override;
 
     // UIView:
     void layoutSubviews() override;

@@ -52,7 +52,7 @@ double AlertView::choicesHeight(double height) const {
 }
 
 void AlertView::layoutSubviews() {
-    UIControl::layoutSubviews();
+    FollowingControl::layoutSubviews();
     const auto height = bounds().size.height;
     const auto choices = choicesHeight(height);
     const auto texts = texts_->fullHeight(AlertLayout::width);
@@ -67,36 +67,24 @@ void AlertView::layoutSubviews() {
     peerOf<UIScrollViewPeer>(*scroll_).setContentSize(choices_->bounds().size);
 }
 
-std::optional<CGPoint> AlertView::placeAmongChoices(const UITouch& touch) const {
-    if (!CGRectContainsPoint(scroll_->frame(), touch.locationInView(*this)))
+std::optional<CGPoint> AlertView::placeAmongChoices(CGPoint place) const {
+    if (!CGRectContainsPoint(scroll_->frame(), place))
         return std::nullopt;
-    return touch.locationInView(*choices_);
+    return peer().convertTo(*choices_, place);
 }
 
-void AlertView::follow(const UITouch& touch) {
-    if (const auto place = placeAmongChoices(touch))
-        choices_->fingerMoved(*place);
+void AlertView::fingerMoved(CGPoint place) {
+    if (const auto there = placeAmongChoices(place))
+        choices_->fingerMoved(*there);
     else
         choices_->fingerGone();
 }
 
-bool AlertView::beginTrackingWithTouch(UITouch& touch, UIEvent* event) {
-    follow(touch);
-    return UIControl::beginTrackingWithTouch(touch, event);
+void AlertView::fingerLifted(CGPoint place) {
+    if (const auto there = placeAmongChoices(place))
+        choices_->fingerLifted(*there);
 }
 
-bool AlertView::continueTrackingWithTouch(UITouch& touch, UIEvent* event) {
-    follow(touch);
-    return UIControl::continueTrackingWithTouch(touch, event);
-}
-
-void AlertView::endTrackingWithTouch(UITouch& touch, UIEvent* event) {
-    UIControl::endTrackingWithTouch(touch, event);
-    if (const auto place = placeAmongChoices(touch))
-        choices_->fingerLifted(*place);
-}
-
-void AlertView::cancelTrackingWithEvent(UIEvent* event) {
-    UIControl::cancelTrackingWithEvent(event);
+void AlertView::fingerGone() {
     choices_->fingerGone();
 }

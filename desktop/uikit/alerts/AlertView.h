@@ -1,9 +1,9 @@
 #pragma once
 
-#include "UIKit/UIControl.h"
 #include "UIKit/UIScrollView.h"
 #include "alerts/AlertChoicesView.h"
 #include "alerts/AlertTextView.h"
+#include "controls/FollowingControl.h"
 
 #include <optional>
 #include <string>
@@ -11,7 +11,7 @@
 
 /// The panel of an alert: its texts, and its buttons, which a finger chooses from wherever it came down.
 /// Where there is no room for all, both scroll. The view of an alert controller, made by it.
-class AlertView final : public UIControl {
+class AlertView final : public FollowingControl {
 public:
     using Chosen = AlertChoicesView::Chosen;
 
@@ -29,11 +29,10 @@ public:
     /// The height with all of the texts and buttons.
     [[nodiscard]] double fullHeight() const;
 
-    // UIControl:
-    bool beginTrackingWithTouch(UITouch& touch, UIEvent* event) override;
-    bool continueTrackingWithTouch(UITouch& touch, UIEvent* event) override;
-    void endTrackingWithTouch(UITouch& touch, UIEvent* event) override;
-    void cancelTrackingWithEvent(UIEvent* event) override;
+    // FollowingControl:
+    void fingerMoved(CGPoint place) override;
+    void fingerLifted(CGPoint place) override;
+    void fingerGone() override;
 
     // UIView:
     void layoutSubviews() override;
@@ -42,8 +41,7 @@ private:
     /// Of the buttons, in an alert of that height: all that is left, and half of it where that is less.
     [[nodiscard]] double choicesHeight(double height) const;
     /// In the buttons' points; nothing where none of them is seen.
-    [[nodiscard]] std::optional<CGPoint> placeAmongChoices(const UITouch& touch) const;
-    void follow(const UITouch& touch);
+    [[nodiscard]] std::optional<CGPoint> placeAmongChoices(CGPoint place) const;
 
     Ref<UIView> blur_;
     Ref<UIView> tint_;

@@ -61,7 +61,7 @@ double MenuView::fullHeight() const {
 }
 
 void MenuView::layoutSubviews() {
-    UIControl::layoutSubviews();
+    FollowingControl::layoutSubviews();
     for (const auto& view : {panel_, blur_, tint_})
         view->setFrame(bounds());
     auto top = 0.0;
@@ -93,37 +93,14 @@ void MenuView::fingerMoved(CGPoint place) {
         row->setHighlighted(row.get() == touched);
 }
 
-bool MenuView::fingerLifted(CGPoint place) {
-    const auto* const touched = rowAt(place);
-    if (touched == nullptr) {
+void MenuView::fingerLifted(CGPoint place) {
+    if (const auto* const touched = rowAt(place))
+        chosen_(touched->action());
+    else
         fingerGone();
-        return false;
-    }
-    chosen_(touched->action());
-    return true;
 }
 
 void MenuView::fingerGone() {
     for (const auto& row : rows_)
         row->setHighlighted(false);
-}
-
-bool MenuView::beginTrackingWithTouch(UITouch& touch, UIEvent* event) {
-    fingerMoved(touch.locationInView(*this));
-    return UIControl::beginTrackingWithTouch(touch, event);
-}
-
-bool MenuView::continueTrackingWithTouch(UITouch& touch, UIEvent* event) {
-    fingerMoved(touch.locationInView(*this));
-    return UIControl::continueTrackingWithTouch(touch, event);
-}
-
-void MenuView::endTrackingWithTouch(UITouch& touch, UIEvent* event) {
-    UIControl::endTrackingWithTouch(touch, event);
-    fingerLifted(touch.locationInView(*this));
-}
-
-void MenuView::cancelTrackingWithEvent(UIEvent* event) {
-    UIControl::cancelTrackingWithEvent(event);
-    fingerGone();
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "UIKit/UIControl.h"
+#include "controls/FollowingControl.h"
 #include "menus/DesktopMenu.h"
 #include "menus/MenuRowView.h"
 
@@ -9,7 +9,7 @@
 
 /// The panel of an open menu: its rows, and the finger that moves over them, wherever it came down. Made by
 /// the menu's presentation.
-class MenuView final : public UIControl {
+class MenuView final : public FollowingControl {
 public:
     using Chosen = std::function<void(const Ref<DesktopAction>& action)>;
 
@@ -24,17 +24,10 @@ public:
 
     [[nodiscard]] const std::vector<Ref<MenuRowView>>& rows() const { return rows_; }
 
-    /// A finger is there, in points of the panel; its row is highlighted.
-    void fingerMoved(CGPoint place);
-    /// It was lifted there. \returns whether it chose something
-    bool fingerLifted(CGPoint place);
-    void fingerGone();
-
-    // UIControl:
-    bool beginTrackingWithTouch(UITouch& touch, UIEvent* event) override;
-    bool continueTrackingWithTouch(UITouch& touch, UIEvent* event) override;
-    void endTrackingWithTouch(UITouch& touch, UIEvent* event) override;
-    void cancelTrackingWithEvent(UIEvent* event) override;
+    // FollowingControl:
+    void fingerMoved(CGPoint place) override;
+    void fingerLifted(CGPoint place) override;
+    void fingerGone() override;
 
     // UIView:
     void layoutSubviews() override;
