@@ -90,5 +90,5 @@ def joined(sources):
     return "".join(parts)
 
 
-def can_be_joined(text):
-    return not PROGRAM.search(text)
+def is_program(text):
+    return PROGRAM.search(text) is not None

@@ -87,10 +87,10 @@ class JoinedTest(unittest.TestCase):
         both = self.joined("#include <map>\n", "#include <map>\n#include <map>\n")
         self.assertEqual(both.count("#include <map>"), 2)
 
-    def test_a_program_stands_alone(self):
-        self.assertFalse(batches.can_be_joined("int main(int count, char** arguments) {\n}\n"))
-        self.assertFalse(batches.can_be_joined('extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data,\n'))
-        self.assertTrue(batches.can_be_joined("void remain() {}\n"))
+    def test_a_program_is_known_by_its_entry(self):
+        self.assertTrue(batches.is_program("int main(int count, char** arguments) {\n}\n"))
+        self.assertTrue(batches.is_program('extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data,\n'))
+        self.assertFalse(batches.is_program("void remain() {}\n"))
 
 
 if __name__ == "__main__":

@@ -216,9 +216,9 @@ class TidyTest(unittest.TestCase):
         self.assertEqual(self.looked_at(together), ["A.cpp", "core/A.cpp core/B.cpp core/C.cpp", "core/B.cpp core/C.cpp"])
         self.assertEqual(self.looked_at(together), [])
 
-    def test_at_most_sixteen_are_one(self):
-        database = self.several(**{f"S{number:02}": "" for number in range(33)})
-        self.assertEqual(sorted(len(names.split()) for names in self.looked_at(database)), [11, 11, 11])
+    def test_at_most_twenty_four_are_one(self):
+        database = self.several(**{f"S{number:02}": "" for number in range(49)})
+        self.assertEqual(sorted(len(names.split()) for names in self.looked_at(database)), [16, 16, 17])
 
     def test_sources_that_are_compiled_differently_are_looked_at_alone(self):
         self.several(A="", B="")
@@ -249,9 +249,13 @@ class TidyTest(unittest.TestCase):
         self.assertEqual(self.looked_at(database), ["C.cpp", "core/A.cpp core/B.cpp"])
         self.assertEqual([argument for argument in self.arguments_of_all() if argument.startswith("-D")], ["-DX=1", "-DY"])
 
-    def test_a_program_is_looked_at_alone(self):
-        database = self.several(A="", B="", C="int main() {}\n")
-        self.assertEqual(self.looked_at(database), ["C.cpp", "core/A.cpp core/B.cpp"])
+    def test_two_programs_are_looked_at_apart(self):
+        database = self.several(A="", B="int main() {}\n", C="", D="int main() {}\n")
+        self.assertEqual(self.looked_at(database), ["core/A.cpp core/B.cpp", "core/C.cpp core/D.cpp"])
+
+    def test_one_program_is_looked_at_with_others(self):
+        database = self.several(A="int main() {}\n", B="")
+        self.assertEqual(self.looked_at(database), ["core/B.cpp core/A.cpp"])
 
     def test_several_are_looked_at_with_the_settings_of_all_of_them(self):
         self.write(".clang-tidy", "root")
