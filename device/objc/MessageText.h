@@ -10,19 +10,18 @@ template <std::size_t size>
 struct MessageText {
     // NOLINTNEXTLINE(*-avoid-c-arrays): that is what a literal is
     consteval MessageText(const char (&literal)[size]) {
-        std::copy_n(literal, size, text.begin());
-        std::copy_n(literal, size, className.begin());
-        const auto space = std::ranges::find(className, ' ');
-        std::ranges::copy(std::ranges::subrange(space + 1, className.end()), selector.begin());
-        std::ranges::fill(std::ranges::subrange(space, className.end()), '\0');
-        std::ranges::copy(std::ranges::subrange(className.begin() + 2, className.end()), className.begin());
-        std::ranges::replace(selector, ']', '\0');
+        // By pointers, whose algorithms are the same for texts of every length.
+        std::copy_n(literal, size, text.data());
+        const char* const end = literal + size;
+        const char* const space = std::find(literal + 2, end, ' ');
+        std::copy(literal + 2, space, className.data());
+        std::copy(space + 1, std::find(space, end, ']'), selector.data());
     }
 
     [[nodiscard]] consteval bool isForClass() const { return text[0] == '+'; }
 
     [[nodiscard]] consteval std::size_t parameterCount() const {
-        return static_cast<std::size_t>(std::ranges::count(text, ':'));
+        return static_cast<std::size_t>(std::count(text.data(), text.data() + size, ':'));
     }
 
     std::array<char, size> text{};
