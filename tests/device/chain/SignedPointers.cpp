@@ -10,11 +10,11 @@
 #include <typeinfo>
 #include <vector>
 
-/// Run first. \returns how many checks failed, each of which has been told to `reportFailure`
+/// Run first. \returns how many checks failed, each of which has been told to `reportFailedCheck`
 extern "C" [[gnu::visibility("default")]] int runChecks();
 
 /// The loader's.
-extern "C" void reportFailure(const char* check);
+extern "C" void reportFailedCheck(const char* check);
 
 namespace {
 
@@ -187,7 +187,7 @@ int runChecks() {
     for (const auto& check : checks) {
         if (check.passes())
             continue;
-        reportFailure(check.name);
+        reportFailedCheck(check.name);
         ++failures;
     }
     return failures;

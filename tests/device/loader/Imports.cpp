@@ -25,7 +25,7 @@ void* allocate(size_t size) {
 
 void doNothing() {}
 
-void reportFailure(const char* check) {
+void reportFailedCheck(const char* check) {
     Kernel::write("failed: ");
     Kernel::write(check);
     Kernel::write("\n");
@@ -41,7 +41,7 @@ const Import imports[] = {
     {"__ZNSt3__119__shared_weak_count14__release_weakEv", code(doNothing)},
     {"__ZNSt3__119__shared_weak_countD2Ev", code(doNothing)},
     {"_memcpy", code(memcpy)},
-    {"_reportFailure", code(reportFailure)},
+    {"_reportFailedCheck", code(reportFailedCheck)},
     {"___stack_chk_guard", &stackGuard},
     {"__ZTINSt3__119__shared_weak_countE", variables},
     {"__ZTVN10__cxxabiv117__class_type_infoE", variables},
