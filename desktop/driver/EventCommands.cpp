@@ -2,7 +2,10 @@
 
 #include "Device.h"
 #include "JsonValues.h"
+#include "system/DarwinNotifications.h"
 #include "system/LogRecorder.h"
+#include "system/SystemSounds.h"
+#include "system/UrlOpener.h"
 
 #include <QJsonArray>
 #include <QJsonObject>

@@ -3,6 +3,7 @@
 #include "Device.h"
 #include "JsonValues.h"
 #include "NumberText.h"
+#include "time/MainQueueScheduler.h"
 #include "time/VirtualClock.h"
 
 #include <QJsonObject>

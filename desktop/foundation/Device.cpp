@@ -1,9 +1,15 @@
 #include "Device.h"
 
+#include "DesktopBundle.h"
 #include "Foundation/NSFileManager.h"
 #include "Foundation/NSLog.h"
 #include "preferences/PreferenceDomains.h"
 #include "preferences/PreferenceFolder.h"
+#include "system/ApplicationTermination.h"
+#include "system/DarwinNotifications.h"
+#include "system/SystemSounds.h"
+#include "system/UrlOpener.h"
+#include "time/MainQueueScheduler.h"
 
 #include <unicode/timezone.h>
 
@@ -39,7 +45,11 @@ Device::Device(Options options)
       timeZone_(knownTimeZone(options.timeZone)),
       mainBundle_(make<DesktopBundle>(options.mainBundlePath)),
       preferenceDomains_(std::make_shared<PreferenceDomains>(root_)),
-      mainQueue_(*clock_) {
+      mainQueue_(std::make_unique<MainQueueScheduler>(*clock_)),
+      notifications_(std::make_unique<DarwinNotifications>()),
+      sounds_(std::make_unique<SystemSounds>()),
+      urls_(std::make_unique<UrlOpener>()),
+      terminations_(std::make_unique<ApplicationTermination>()) {
     if (currentDevice != nullptr)
         endProgram("a second device was made while there is one");
     currentDevice = this;

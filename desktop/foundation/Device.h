@@ -1,18 +1,19 @@
 #pragma once
 
-#include "DesktopBundle.h"
+#include "ObjectiveC/Ref.h"
 #include "files/DeviceRoot.h"
-#include "system/ApplicationTermination.h"
-#include "system/DarwinNotifications.h"
-#include "system/SystemSounds.h"
-#include "system/UrlOpener.h"
 #include "time/Clock.h"
-#include "time/MainQueueScheduler.h"
 
 #include <memory>
 #include <string>
 
+class ApplicationTermination;
+class DarwinNotifications;
+class DesktopBundle;
+class MainQueueScheduler;
 class PreferenceDomains;
+class SystemSounds;
+class UrlOpener;
 
 /// The device that this process stands for: its file system, time, settings of language and region. One at a
 /// time; the contract's functions act on it. Made by the host program, or by a test.
@@ -49,15 +50,15 @@ public:
         return preferenceDomains_;
     }
 
-    [[nodiscard]] MainQueueScheduler& mainQueue() { return mainQueue_; }
+    [[nodiscard]] MainQueueScheduler& mainQueue() { return *mainQueue_; }
 
-    [[nodiscard]] DarwinNotifications& notifications() { return notifications_; }
+    [[nodiscard]] DarwinNotifications& notifications() { return *notifications_; }
 
-    [[nodiscard]] SystemSounds& sounds() { return sounds_; }
+    [[nodiscard]] SystemSounds& sounds() { return *sounds_; }
 
-    [[nodiscard]] UrlOpener& urls() { return urls_; }
+    [[nodiscard]] UrlOpener& urls() { return *urls_; }
 
-    [[nodiscard]] ApplicationTermination& terminations() { return terminations_; }
+    [[nodiscard]] ApplicationTermination& terminations() { return *terminations_; }
 
     /// The user's folders, as device paths without a "/" at the end.
     static constexpr auto documentsPath = "/var/mobile/Documents";
@@ -70,9 +71,9 @@ private:
     std::string timeZone_;
     Ref<DesktopBundle> mainBundle_;
     std::shared_ptr<PreferenceDomains> preferenceDomains_;
-    MainQueueScheduler mainQueue_;
-    DarwinNotifications notifications_;
-    SystemSounds sounds_;
-    UrlOpener urls_;
-    ApplicationTermination terminations_;
+    std::unique_ptr<MainQueueScheduler> mainQueue_;
+    std::unique_ptr<DarwinNotifications> notifications_;
+    std::unique_ptr<SystemSounds> sounds_;
+    std::unique_ptr<UrlOpener> urls_;
+    std::unique_ptr<ApplicationTermination> terminations_;
 };

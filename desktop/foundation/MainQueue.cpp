@@ -1,6 +1,7 @@
 #include "Dispatch/MainQueue.h"
 
 #include "Device.h"
+#include "time/MainQueueScheduler.h"
 
 void MainQueue::async(std::function<void()> block) {
     after(std::chrono::nanoseconds::zero(), std::move(block));

@@ -1,5 +1,6 @@
 #include "LoadedBundles.h"
 
+#include "DesktopBundle.h"
 #include "Device.h"
 #include "ObjectiveC/ClassTable.h"
 

@@ -1,5 +1,6 @@
 #include "HomeView.h"
 
+#include "DesktopBundle.h"
 #include "Device.h"
 #include "Foundation/NSString.h"
 #include "ObjectiveC/Class.h"

@@ -10,6 +10,8 @@
 #include "screen/Screen.h"
 #include "screen/TouchDispatcher.h"
 #include "system/LogRecorder.h"
+#include "system/UrlOpener.h"
+#include "time/MainQueueScheduler.h"
 #include "time/RealClock.h"
 #include "time/VirtualClock.h"
 

@@ -1,5 +1,6 @@
 #include "SettingsRootPage.h"
 
+#include "DesktopBundle.h"
 #include "DesktopImage.h"
 #include "Device.h"
 #include "Foundation/NSString.h"

@@ -11,6 +11,8 @@
 #include "screen/DesktopApplication.h"
 #include "screen/Screen.h"
 #include "screen/TouchDispatcher.h"
+#include "system/ApplicationTermination.h"
+#include "time/MainQueueScheduler.h"
 #include "views/UIViewPeer.h"
 
 #include <algorithm>

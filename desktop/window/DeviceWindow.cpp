@@ -11,6 +11,7 @@
 #include "screen/Screen.h"
 #include "screen/TouchDispatcher.h"
 #include "scrolling/UIScrollViewPeer.h"
+#include "time/MainQueueScheduler.h"
 #include "time/UnixTime.h"
 #include "typing/TextFieldContent.h"
 #include "typing/TextInput.h"

@@ -12,6 +12,7 @@
 #include "accessibility/AccessibilityElement.h"
 #include "controllers/DesktopNavigationItem.h"
 #include "navigation/UINavigationControllerPeer.h"
+#include "system/DarwinNotifications.h"
 #include "typing/EditedText.h"
 #include "typing/TextInput.h"
 

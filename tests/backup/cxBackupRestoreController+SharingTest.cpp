@@ -1,5 +1,6 @@
 #include "BackupPageFixture.h"
 #include "Device.h"
+#include "system/UrlOpener.h"
 #include "views/UIViewPeer.h"
 
 namespace {

@@ -6,8 +6,10 @@
 #include "menus/DesktopAction.h"
 #include "screen/DesktopApplication.h"
 #include "system/ApplicationTermination.h"
+#include "system/DarwinNotifications.h"
 #include "system/LibraryFiles.h"
 #include "system/SystemSounds.h"
+#include "time/MainQueueScheduler.h"
 #include "views/UIViewPeer.h"
 
 #include <filesystem>

@@ -10,6 +10,7 @@
 #include "controls/UIControlPeer.h"
 #include "menus/DesktopAction.h"
 #include "navigation/UINavigationControllerPeer.h"
+#include "system/DarwinNotifications.h"
 #include "system/SystemSounds.h"
 #include "views/UILabelPeer.h"
 

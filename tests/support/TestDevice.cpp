@@ -1,5 +1,6 @@
 #include "TestDevice.h"
 
+#include "time/MainQueueScheduler.h"
 #include "time/UnixTime.h"
 
 #include <gtest/gtest.h>

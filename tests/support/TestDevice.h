@@ -2,6 +2,7 @@
 
 #include "Device.h"
 #include "system/LogRecorder.h"
+#include "time/VirtualClock.h"
 
 #include <chrono>
 #include <string>

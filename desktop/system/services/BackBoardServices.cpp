@@ -1,5 +1,6 @@
 #include "Device.h"
 #include "objects/CFStringObject.h"
+#include "system/ApplicationTermination.h"
 
 /// Ends an application. \param report whether to write a crash report \param description may be null
 extern "C" [[gnu::visibility("default")]] void

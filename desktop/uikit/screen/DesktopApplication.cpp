@@ -6,6 +6,7 @@
 #include "ObjectiveC/Class.h"
 #include "screen/Screen.h"
 #include "screen/UIWindow.h"
+#include "system/UrlOpener.h"
 #include "views/UIViewPeer.h"
 
 #include <algorithm>

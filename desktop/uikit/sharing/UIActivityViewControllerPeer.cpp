@@ -9,6 +9,7 @@
 #include "documents/FileSizeText.h"
 #include "presentation/PopoverPresentationView.h"
 #include "screen/Screen.h"
+#include "system/UrlOpener.h"
 
 #include <array>
 #include <utility>

@@ -2,6 +2,7 @@
 #include "DriverFixture.h"
 #include "Foundation/NSLog.h"
 #include "controls/UIControlPeer.h"
+#include "system/DarwinNotifications.h"
 #include "views/UIViewPeer.h"
 
 #include <QImage>

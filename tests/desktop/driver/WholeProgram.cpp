@@ -2,6 +2,7 @@
 
 #include "AllCommands.h"
 #include "DeviceInstaller.h"
+#include "time/MainQueueScheduler.h"
 
 #include <gtest/gtest.h>
 

@@ -3,6 +3,7 @@
 #include "ChildProgram.h"
 #include "EnvironmentVariable.h"
 #include "TestDevice.h"
+#include "system/DarwinNotifications.h"
 #include "system/PrivateBus.h"
 #include "system/SignalListener.h"
 

@@ -8,6 +8,7 @@
 #include "cells/RowsFixture.h"
 #include "controls/UISliderPeer.h"
 #include "screen/Presentations.h"
+#include "system/DarwinNotifications.h"
 
 namespace {
 

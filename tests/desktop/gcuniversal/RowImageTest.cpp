@@ -2,6 +2,7 @@
 
 #include "DesktopImage.h"
 #include "TestDevice.h"
+#include "system/DarwinNotifications.h"
 
 #include <gtest/gtest.h>
 

@@ -2,6 +2,7 @@
 #include "Foundation/NSUserDefaults.h"
 #include "PageFixture.h"
 #include "preferences/PreferenceFolder.h"
+#include "system/DarwinNotifications.h"
 #include "views/UILabelPeer.h"
 
 #include <algorithm>

@@ -2,6 +2,7 @@
 
 #include "cells/RowsFixture.h"
 #include "navigation/UINavigationControllerPeer.h"
+#include "system/DarwinNotifications.h"
 #include "views/UILabelPeer.h"
 
 namespace {

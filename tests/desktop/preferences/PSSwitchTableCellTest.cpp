@@ -3,6 +3,7 @@
 #include "PSControlTableCellPeer.h"
 #include "PageFixture.h"
 #include "controls/UISwitchPeer.h"
+#include "system/DarwinNotifications.h"
 
 namespace {
 

@@ -6,6 +6,7 @@
 #include "objects/LiveObjects.h"
 #include "screen/UIWindow.h"
 #include "system/ApplicationTermination.h"
+#include "time/MainQueueScheduler.h"
 #include "views/UIViewPeer.h"
 
 namespace {

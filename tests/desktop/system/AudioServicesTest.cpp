@@ -1,6 +1,7 @@
 #include "AudioToolbox/AudioServices.h"
 
 #include "TestDevice.h"
+#include "system/SystemSounds.h"
 
 #include <gtest/gtest.h>
 

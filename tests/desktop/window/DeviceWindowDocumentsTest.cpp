@@ -4,6 +4,7 @@
 #include "UIKit/UIDocumentPickerViewController.h"
 #include "WindowFixture.h"
 #include "accessibility/AccessibilityElement.h"
+#include "system/UrlOpener.h"
 
 #include <set>
 

@@ -2,6 +2,7 @@
 #include "WindowFixture.h"
 #include "controls/UISliderPeer.h"
 #include "scrolling/UIScrollViewPeer.h"
+#include "time/MainQueueScheduler.h"
 
 #include <QGuiApplication>
 #include <QMimeData>

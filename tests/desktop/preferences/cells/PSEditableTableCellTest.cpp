@@ -2,6 +2,7 @@
 
 #include "cells/RowsFixture.h"
 #include "keyboard/Keyboard.h"
+#include "system/DarwinNotifications.h"
 #include "typing/TextInput.h"
 
 namespace {

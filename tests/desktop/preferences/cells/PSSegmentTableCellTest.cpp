@@ -2,6 +2,7 @@
 
 #include "cells/RowsFixture.h"
 #include "controls/UISegmentedControlPeer.h"
+#include "system/DarwinNotifications.h"
 
 namespace {
 

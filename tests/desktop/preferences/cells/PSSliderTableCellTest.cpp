@@ -2,6 +2,7 @@
 
 #include "cells/RowsFixture.h"
 #include "controls/UISliderPeer.h"
+#include "system/DarwinNotifications.h"
 #include "views/UILabelPeer.h"
 
 namespace {

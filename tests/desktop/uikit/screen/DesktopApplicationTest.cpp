@@ -3,6 +3,7 @@
 #include "ObjectiveC/Method.h"
 #include "UIKit/UIViewController.h"
 #include "screen/ShownScreen.h"
+#include "system/UrlOpener.h"
 
 #include <gtest/gtest.h>
 

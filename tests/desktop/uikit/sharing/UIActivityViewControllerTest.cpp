@@ -3,6 +3,7 @@
 #include "ObjectiveC/Weak.h"
 #include "documents/DocumentsFixture.h"
 #include "sharing/UIActivityViewControllerPeer.h"
+#include "system/UrlOpener.h"
 #include "views/UIViewPeer.h"
 
 #include <sys/stat.h>

@@ -1,6 +1,7 @@
 #include "CALayerPeer.h"
 #include "screen/Compositor.h"
 #include "text/TextFieldFixture.h"
+#include "time/MainQueueScheduler.h"
 
 #include <QImage>
 #include <string>
