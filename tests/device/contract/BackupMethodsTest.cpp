@@ -95,6 +95,15 @@ TEST_F(BackupMethodsTest, AnArchiveIsSharedFromTheMiddleOfATablet) {
                         "UIActivityViewController 1");
 }
 
+TEST_F(BackupMethodsTest, WithoutTheSheetThatSharesNothingIsShown) {
+    save("a");
+    refuseInitialisersOf("UIActivityViewController");
+    perform(page, "shareBackup:", text("a.tar.gz"));
+    refuseInitialisersOf(nullptr);
+    EXPECT_EQ(presentedBy(page), nullptr);
+    EXPECT_EQ(aliveOf("UIActivityViewController"), 0);
+}
+
 TEST_F(BackupMethodsTest, AnArchiveIsShownByTheOtherApplication) {
     save("a");
     perform(page, "openInFilza:", text("a.tar.gz"));
