@@ -141,6 +141,8 @@ TEST_F(UILabelPeerTest, TellsHowItsTextIsSet) {
     const auto properties = peer().inspectedProperties();
     EXPECT_EQ(properties.at("text"), PropertyList("Some words of text"));
     EXPECT_EQ(properties.at("textAlignment"), PropertyList(2));
+    EXPECT_EQ(properties.at("fontSize"), PropertyList(17.0));
+    EXPECT_EQ(properties.at("fontWeight"), PropertyList(400));
     EXPECT_EQ(properties.at("font"), PropertyList(PropertyList::Dictionary{{"size", 17.0}, {"weight", 400}}));
     EXPECT_EQ(properties.at("textColor"), PropertyList(PropertyList::Array{0.0, 1.0, 0.0, 1.0}));
 }
