@@ -56,6 +56,8 @@ void cxBackupRestoreController::shareBackup(const std::optional<std::string>& fi
         return;
     }
     const auto shared = UIActivityViewController::initWithActivityItems({NSURL::fileURLWithPath(path)});
+    if (!shared)
+        return;
     if (isTablet())
         anchorToMiddle(*shared, view());
     presentViewController(shared, true, {});

@@ -1,11 +1,10 @@
 #include "ObjectiveC/AttachedValues.h"
 #include "ObjectiveC/Class.h"
+#include "SheetBackdrop.h"
 #include "UIKit/NSLayoutXAxisAnchor.h"
 #include "UIKit/NSLayoutYAxisAnchor.h"
 #include "UIKit/UILayoutGuide.h"
 #include "UIKit/UINavigationItem.h"
-#include "UIKit/_UIBackdropView.h"
-#include "UIKit/_UIBackdropViewSettings.h"
 #include "cxBackupRestoreController.h"
 
 #include <iterator>
@@ -17,16 +16,6 @@ constexpr std::int64_t sheetBackdropStyle = 2;
 constexpr auto completionKey = "CompletionBlock";
 constexpr auto itemClassPart = "BulletedListItem";
 
-/// Beneath everything in the view.
-void addBackdrop(UIView& view, std::int64_t style) {
-    const auto backdrop = _UIBackdropView::initWithFrame(
-        {}, true, _UIBackdropViewSettings::settingsForStyle(static_cast<int>(style)));
-    if (!backdrop)
-        return;
-    backdrop->setClipsToBounds(true);
-    view.insertSubview(backdrop, 0);
-}
-
 } // namespace
 
 // The presentation style is one that all who present sheets replace; that is meant.
@@ -36,7 +25,7 @@ Ref<OBWelcomeController> cxBackupRestoreController::createWelcomeControllerWithT
     auto sheet = OBWelcomeController::initWithTitle(title.value_or(""), detailText, symbolName.value_or(""));
     if (!sheet)
         return nullptr;
-    addBackdrop(sheet->view(), backdropStyle);
+    addBackdrop(sheet->view(), static_cast<int>(backdropStyle));
     sheet->view().setBackgroundColor(UIColor::clearColor());
     sheet->setModalPresentationStyle(UIModalPresentationStyle::PageSheet);
     return sheet;

@@ -75,9 +75,9 @@ void CXSwitchWithInfoCell::tintInfoButton() {
 }
 
 void CXSwitchWithInfoCell::infoButtonTapped() {
-    const auto infoTitle = textForKey("infoTitle");
+    const auto infoTitle = textOf(specifier(), "infoTitle");
     const auto alert = UIAlertController::alertControllerWithTitle(
-        infoTitle ? infoTitle : textForKey("label"), message(), UIAlertControllerStyle::Alert);
+        infoTitle ? infoTitle : textOf(specifier(), "label"), message(), UIAlertControllerStyle::Alert);
     alert->addAction(UIAlertAction::actionWithTitle("Cancel", UIAlertActionStyle::Cancel, {}));
     auto presenter = _viewControllerForAncestor();
     if (!presenter)
@@ -86,13 +86,8 @@ void CXSwitchWithInfoCell::infoButtonTapped() {
         presenter->presentViewController(alert, true, {});
 }
 
-std::optional<std::string> CXSwitchWithInfoCell::textForKey(std::string_view key) const {
-    const auto row = specifier();
-    return row ? textOf(*row, key) : std::nullopt;
-}
-
 std::string CXSwitchWithInfoCell::message() const {
-    const auto key = textForKey("infoMessage").value_or(messageInstead);
+    const auto key = textOf(specifier(), "infoMessage").value_or(messageInstead);
     return withLineBreaks(
-        NSBundle::mainBundle()->localizedStringForKey(key, key, textForKey("localizationTable")));
+        NSBundle::mainBundle()->localizedStringForKey(key, key, textOf(specifier(), "localizationTable")));
 }

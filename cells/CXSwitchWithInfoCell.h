@@ -28,7 +28,6 @@ public:
 private:
     void setupInfoButton();
     void tintInfoButton();
-    [[nodiscard]] std::optional<std::string> textForKey(std::string_view key) const;
     [[nodiscard]] std::string message() const;
 
     Ref<UIButton> infoButton_;

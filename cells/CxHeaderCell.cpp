@@ -35,6 +35,8 @@ void setupBlurEffectShadow(const UIView& view) {
 
 Ref<UIVisualEffectView> createBlurEffectView(const Ref<UIBlurEffect>& effect) {
     auto view = UIVisualEffectView::initWithEffect(effect);
+    if (!view)
+        return nullptr;
     view->setTranslatesAutoresizingMaskIntoConstraints(false);
     view->layer().setCornerRadius(cardRadius);
     view->setClipsToBounds(true);
@@ -117,6 +119,8 @@ void CxHeaderCell::setupGradientBackground() {
 
 void CxHeaderCell::setupBlurEffect() {
     const auto view = createBlurEffectView(UIBlurEffect::effectWithStyle(UIBlurEffectStyle::Regular));
+    if (!view)
+        return;
     contentView().addSubview(view);
     placeOnCard(*view);
 }

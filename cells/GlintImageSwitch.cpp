@@ -114,13 +114,6 @@ void GlintImageSwitch::setupDefaults() {
     thumbTintColor_ = UIColor::whiteColor();
     onThumbTintColor_ = UIColor::whiteColor();
     shadowColor_ = UIColor::grayColor();
-    rounded_ = true;
-    currentVisualValue_ = false;
-    startTrackingValue_ = false;
-    didChangeWhileTracking_ = false;
-    isAnimating_ = false;
-    userDidSpecifyOnThumbTintColor_ = false;
-    switchValue_ = false;
 }
 
 void GlintImageSwitch::setupTrack() {

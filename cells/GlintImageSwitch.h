@@ -107,7 +107,7 @@ private:
     void setTrackContentsOn(bool on);
     void setThumbFrame(double x, double width);
 
-    bool rounded_ = false;
+    bool rounded_ = true;
     bool currentVisualValue_ = false;
     bool startTrackingValue_ = false;
     bool didChangeWhileTracking_ = false;

@@ -108,12 +108,12 @@ void TweakCustomCell::setupUI() {
 }
 
 void TweakCustomCell::loadImages() {
-    const auto mode =
-        static_cast<long>(textForKey("renderingMode") == templateMode ? UIImageRenderingMode::AlwaysTemplate
-                                                                      : UIImageRenderingMode::AlwaysOriginal);
-    leftIconImage_ = loadImageNamed(textForKey("leftIcon"), mode);
-    middleIconImage_ = loadImageNamed(textForKey("middleIcon"), mode);
-    rightIconImage_ = loadImageNamed(textForKey("rightIcon"), mode);
+    const auto mode = static_cast<long>(textOf(specifier(), "renderingMode") == templateMode
+                                            ? UIImageRenderingMode::AlwaysTemplate
+                                            : UIImageRenderingMode::AlwaysOriginal);
+    leftIconImage_ = loadImageNamed(textOf(specifier(), "leftIcon"), mode);
+    middleIconImage_ = loadImageNamed(textOf(specifier(), "middleIcon"), mode);
+    rightIconImage_ = loadImageNamed(textOf(specifier(), "rightIcon"), mode);
 }
 
 Ref<UIImage> TweakCustomCell::loadImageNamed(const std::optional<std::string>& name, long renderingMode) {
@@ -136,11 +136,6 @@ Ref<UIColor> TweakCustomCell::getFontColor(const std::optional<std::string>& tex
     return text == adaptiveFontColor ? UIColor::labelColor() : colorFromHex(text);
 }
 
-std::optional<std::string> TweakCustomCell::textForKey(std::string_view key) const {
-    const auto row = specifier();
-    return row ? textOf(*row, key) : std::nullopt;
-}
-
 Ref<UIStackView> TweakCustomCell::createMainStackView() {
     auto stack = make<UIStackView>();
     stack->setAxis(UILayoutConstraintAxis::Horizontal);
@@ -153,15 +148,19 @@ Ref<UIStackView> TweakCustomCell::createMainStackView() {
 }
 
 void TweakCustomCell::configureButtons(UIStackView& stack) {
-    const Colors colors{.tint = colorFromHexString(textForKey("iconColor")),
-                        .shadow = colorFromHexString(textForKey("iconShadowColor")),
-                        .font = getFontColor(textForKey("fontColor"))};
+    const Colors colors{.tint = colorFromHexString(textOf(specifier(), "iconColor")),
+                        .shadow = colorFromHexString(textOf(specifier(), "iconShadowColor")),
+                        .font = getFontColor(textOf(specifier(), "fontColor"))};
     const auto row = specifier();
     const auto number = row ? row->propertyForKey("iconInset") : std::nullopt;
     const auto inset = static_cast<float>(number ? number->doubleValue() : 0);
-    addColumn(stack, {leftIconImage_, textForKey("leftLabel"), textForKey("leftClass")}, colors, inset);
-    addColumn(stack, {middleIconImage_, textForKey("middleLabel"), textForKey("middleClass")}, colors, inset);
-    addColumn(stack, {rightIconImage_, textForKey("rightLabel"), textForKey("rightClass")}, colors, inset);
+    addColumn(stack, {leftIconImage_, textOf(specifier(), "leftLabel"), textOf(specifier(), "leftClass")},
+              colors, inset);
+    addColumn(stack,
+              {middleIconImage_, textOf(specifier(), "middleLabel"), textOf(specifier(), "middleClass")},
+              colors, inset);
+    addColumn(stack, {rightIconImage_, textOf(specifier(), "rightLabel"), textOf(specifier(), "rightClass")},
+              colors, inset);
 }
 
 void TweakCustomCell::addColumn(UIStackView& stack, const Column& column, const Colors& colors,

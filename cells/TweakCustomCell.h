@@ -70,7 +70,6 @@ private:
         std::optional<std::string> className;
     };
 
-    [[nodiscard]] std::optional<std::string> textForKey(std::string_view key) const;
     [[nodiscard]] Ref<UIStackView> createMainStackView();
     void configureButtons(UIStackView& stack);
     void addColumn(UIStackView& stack, const Column& column, const Colors& colors, double iconInset);

@@ -5,3 +5,7 @@ std::optional<std::string> textOf(const PSSpecifier& specifier, std::string_view
     const auto* const text = value ? value->getIf<std::string>() : nullptr;
     return text != nullptr ? std::optional(*text) : std::nullopt;
 }
+
+std::optional<std::string> textOf(const Ref<PSSpecifier>& specifier, std::string_view key) {
+    return specifier ? textOf(*specifier, key) : std::nullopt;
+}

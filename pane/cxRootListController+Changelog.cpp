@@ -1,6 +1,5 @@
 #include "RootPrefixResolver.h"
-#include "UIKit/_UIBackdropView.h"
-#include "UIKit/_UIBackdropViewSettings.h"
+#include "SheetBackdrop.h"
 #include "Version.h"
 #include "cxRootListController.h"
 
@@ -41,16 +40,6 @@ Ref<UIImage> loadIcon() {
     return icon ? icon : UIImage::systemImageNamed(iconInstead);
 }
 
-/// Beneath everything in the view.
-void addBackdrop(UIView& view) {
-    const auto backdrop =
-        _UIBackdropView::initWithFrame({}, true, _UIBackdropViewSettings::settingsForStyle(backdropStyle));
-    if (!backdrop)
-        return;
-    backdrop->setClipsToBounds(true);
-    view.insertSubview(backdrop, 0);
-}
-
 } // namespace
 
 void cxRootListController::checkAndShowChangelogIfNeeded() {
@@ -75,7 +64,7 @@ void cxRootListController::showWtfChangedInThisVersion() {
         return;
     addChangelogItemsToController(changelogController_, UIImage::systemImageNamed(itemSymbol));
     auto& view = changelogController_->view();
-    addBackdrop(view);
+    addBackdrop(view, backdropStyle);
     view.setBackgroundColor(UIColor::clearColor());
     view.setTintColor(UIColor::yellowColor());
     changelogController_->setModalPresentationStyle(UIModalPresentationStyle::PageSheet);

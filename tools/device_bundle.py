@@ -63,7 +63,8 @@ def is_survived(bundle, architecture, folder, *options):
     journal = Path(folder) / "journal"
     command = ["timeout", "120", *EMULATOR, PROGRAM, bundle, architecture, *options]
     for more, variables in ([], {}), (["--gtest_filter=ScenarioTest.*"], {"SCENARIO_JOURNAL": str(journal)}):
-        if subprocess.run([*command, *more], capture_output=True, env=environment(folder, **variables)).returncode != 0:
+        run = subprocess.run([*command, *more], capture_output=True, cwd=folder, env=environment(folder, **variables))
+        if run.returncode != 0:
             return False
     return filecmp.cmp(journal, SCENARIO, shallow=False)
 
@@ -73,7 +74,7 @@ def reached(architecture, folder):
     log = Path(folder) / "log"
     run = subprocess.run(
         [*EMULATOR, "-d", "in_asm", "-D", log, PROGRAM, BUNDLE, architecture, "--tell-place", "--gtest_brief=1"],
-        env=environment(folder), text=True, capture_output=True,
+        cwd=folder, env=environment(folder), text=True, capture_output=True,
     )
     place = re.search(r"loaded at 0x([0-9a-f]+)", run.stderr)
     if run.returncode != 0 or not place:

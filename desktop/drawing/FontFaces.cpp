@@ -11,7 +11,15 @@ namespace {
 constexpr auto textFamily = "Inter";
 constexpr auto displayFamily = "Inter Display";
 constexpr auto otherScripts = "DejaVu Sans"; ///< for Arabic and Hebrew, which those lack
-constexpr auto package = "fonts-inter";
+
+/// A family that texts are set in, and the Debian package that has it.
+struct Family {
+    const char* name;
+    const char* package;
+};
+
+constexpr std::array neededFamilies{Family{textFamily, "fonts-inter"}, Family{displayFamily, "fonts-inter"},
+                                    Family{otherScripts, "fonts-dejavu-core"}};
 
 // With these the stand-ins' capitals are as high as the platform's.
 constexpr double textScale = 0.97;
@@ -51,14 +59,14 @@ bool isDisplay(const FontStyle& style) {
 
 std::expected<void, std::string> FontFaces::check(const QStringList& families) {
     QStringList missing;
-    for (const auto* family : {textFamily, displayFamily}) {
-        if (!families.contains(QLatin1String(family)))
-            missing.append(QLatin1String(family));
+    for (const auto& [name, package] : neededFamilies) {
+        if (!families.contains(QLatin1String(name)))
+            missing.append(QString("%1 (Debian package %2)").arg(name, package));
     }
     if (missing.isEmpty())
         return {};
     return std::unexpected("the font families that texts are set in are not installed: " +
-                           missing.join(", ").toStdString() + " (Debian package " + package + ")");
+                           missing.join(", ").toStdString());
 }
 
 QFont FontFaces::font(const FontStyle& style) {

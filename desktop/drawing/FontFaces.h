@@ -8,15 +8,15 @@
 #include <expected>
 #include <string>
 
-/// The faces that stand in for the platform's own: Inter for text, and Inter Display for what is larger.
-/// Needs a QGuiApplication.
+/// The faces that stand in for the platform's own: Inter for text, Inter Display for what is larger, and
+/// DejaVu Sans for the scripts that those lack. Needs a QGuiApplication.
 class FontFaces {
 public:
     /// From this size on, in points, a text is set in the display face.
     static constexpr double displaySize = 20;
 
     /// Whether the faces are there. A host asks at its start, as any text would come out in another face.
-    /// \returns or a message for the user that names the missing families and the package that has them
+    /// \returns or a message for the user that names the missing families and the packages that have them
     [[nodiscard]] static std::expected<void, std::string>
     check(const QStringList& families = QFontDatabase::families());
 

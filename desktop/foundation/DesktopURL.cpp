@@ -78,10 +78,6 @@ Ref<NSURL> NSURL::URLWithString(std::string_view text) {
     return isUrl(text) ? make<DesktopURL>(std::string(text)) : nullptr;
 }
 
-bool DesktopURL::isFileURL() const {
-    return text_.starts_with(fileStart);
-}
-
 std::string DesktopURL::path() const {
     auto encoded = afterHost(afterScheme(text_));
     encoded = encoded.substr(0, encoded.find_first_of("?#"));

@@ -12,8 +12,6 @@ public:
     /// All of it, percent-encoded.
     [[nodiscard]] const std::string& absoluteString() const { return text_; }
 
-    [[nodiscard]] bool isFileURL() const;
-
     // NSURL:
     [[nodiscard]] std::string path() const override;
     [[nodiscard]] std::string lastPathComponent() const override;

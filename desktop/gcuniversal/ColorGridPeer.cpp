@@ -1,6 +1,6 @@
 #include "ColorGridPeer.h"
 
-#include "HexColor.h"
+#include "ColorCode.h"
 #include "touches/DesktopTouch.h"
 
 #include <QPainter>
@@ -20,7 +20,7 @@ ColorComponents colorAtPlace(int place) {
 
 std::string rgb(const ColorComponents& color) {
     constexpr std::size_t withoutOpacity = 6;
-    return hexFromColor(color).substr(0, withoutOpacity);
+    return codeOfColor(color).substr(0, withoutOpacity);
 }
 
 } // namespace

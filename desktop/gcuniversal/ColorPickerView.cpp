@@ -1,8 +1,8 @@
 #include "ColorPickerView.h"
 
+#include "ColorCode.h"
 #include "ColorGridPeer.h"
 #include "DesktopColor.h"
-#include "HexColor.h"
 #include "ObjectiveC/Class.h"
 #include "controls/UISliderPeer.h"
 #include "scrolling/UIScrollViewPeer.h"
@@ -81,7 +81,7 @@ void ColorPickerView::setColor(const ColorComponents& color) {
     swatch_->setColor(color_);
     peerOf<ColorGridPeer>(*grid_).setColor(color_);
     if (!peerOf<UITextFieldPeer>(*field_).fieldIsFirstResponder())
-        peerOf<UITextFieldPeer>(*field_).setText(hexFromColor(color_));
+        peerOf<UITextFieldPeer>(*field_).setText(codeOfColor(color_));
     for (const auto& part : parts_)
         peerOf<UISliderPeer>(*part.slider).setValue(color_.*part.value);
 }
@@ -93,8 +93,8 @@ void ColorPickerView::choose(const ColorComponents& color) {
 
 /// What is no colour is put back.
 void ColorPickerView::readField() {
-    const auto typed = colorFromHex(field_->text());
-    if (typed && hexFromColor(*typed) != hexFromColor(color_))
+    const auto typed = colorFromCode(field_->text());
+    if (typed && codeOfColor(*typed) != codeOfColor(color_))
         choose(*typed);
     else
         setColor(color_);

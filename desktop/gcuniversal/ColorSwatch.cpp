@@ -1,7 +1,7 @@
 #include "ColorSwatch.h"
 
+#include "ColorCode.h"
 #include "DesktopColor.h"
-#include "HexColor.h"
 #include "ObjectiveC/Class.h"
 #include "views/UIViewPeer.h"
 
@@ -63,7 +63,7 @@ void ColorSwatchPeer::drawLayer(QPainter& painter, const CGRect& bounds, const T
 
 PropertyList::Dictionary ColorSwatchPeer::inspectedProperties() const {
     auto properties = UIViewPeer::inspectedProperties();
-    properties.insert_or_assign("color", hexFromColor(color_));
+    properties.insert_or_assign("color", codeOfColor(color_));
     return properties;
 }
 

@@ -1,8 +1,8 @@
 #include "GcColorPickerCell.h"
 
+#include "ColorCode.h"
 #include "ColorSwatch.h"
 #include "GcColorPickerController.h"
-#include "HexColor.h"
 #include "ObjectiveC/Class.h"
 #include "PSListControllerPeer.h"
 #include "PSTableCellPeer.h"
@@ -45,7 +45,7 @@ void GcColorPickerCellPeer::refresh() {
     swatch_->setColor(color);
     detailTextLabel().setText({});
     setAccessibility(
-        {.label = {}, .value = hexFromColor(color), .role = AccessibilityRole::None, .isElement = false});
+        {.label = {}, .value = codeOfColor(color), .role = AccessibilityRole::None, .isElement = false});
 }
 
 bool GcColorPickerCellPeer::tapped(PSListController& page) {

@@ -1,7 +1,7 @@
 #include "GcColorPickerController.h"
 
+#include "ColorCode.h"
 #include "ColorPickerView.h"
-#include "HexColor.h"
 #include "ObjectiveC/Class.h"
 #include "SystemTexts.h"
 #include "controllers/DesktopBarButtonItem.h"
@@ -73,7 +73,7 @@ void GcColorPickerControllerPeer::save() {
     // What is typed counts.
     Screen::current().firstResponder().removeIn(*colors_);
     if (std::exchange(isChanged_, false))
-        write_(hexFromColor(colors_->color()));
+        write_(codeOfColor(colors_->color()));
 }
 
 } // namespace
@@ -84,7 +84,7 @@ GcColorPickerController::GcColorPickerController(const Ref<DesktopSpecifier>& ro
 ColorComponents colorOfRow(DesktopSpecifier& row) {
     const auto value = row.performGetter();
     const auto* const text = value ? value->getIf<std::string>() : nullptr;
-    const auto kept = text != nullptr ? colorFromHex(*text) : std::nullopt;
+    const auto kept = text != nullptr ? colorFromCode(*text) : std::nullopt;
     constexpr ColorComponents clear{.red = 0, .green = 0, .blue = 0, .alpha = 0};
-    return kept.value_or(colorFromHex(row.textForKey("fallback")).value_or(clear));
+    return kept.value_or(colorFromCode(row.textForKey("fallback")).value_or(clear));
 }

@@ -37,7 +37,6 @@ bool isHeif(const QByteArray& content) {
     if (content.size() < signatureSize)
         return false;
     const auto start = content.first(signatureSize);
-    // NOLINTNEXTLINE(*-reinterpret-cast): the library's bytes
     const auto kind = heif_check_filetype(reinterpret_cast<const std::uint8_t*>(start.data()), signatureSize);
     return kind == heif_filetype_yes_supported || kind == heif_filetype_yes_unsupported;
 }

@@ -32,7 +32,6 @@ void OBWelcomeController::addBulletedListItemWithTitle(std::string_view title, s
     addBulletedListItemWithTitle(title, description, image, nullptr);
 }
 
-// NOLINTNEXTLINE(readability-make-member-function-const): it changes the page
 void OBWelcomeController::addBulletedListItemWithTitle(std::string_view title, std::string_view description,
                                                        const Ref<UIImage>& image,
                                                        const Ref<UIColor>& tintColor) {

@@ -89,8 +89,6 @@ public:
 
     void forgetCell() { cell_ = {}; }
 
-    void setTarget(NSObject& target) { target_ = Weak<NSObject>(&target); }
-
     /// The row's value: what the target answers to the message named by "get", which is by default
     /// "readPreferenceValue:".
     [[nodiscard]] std::optional<PropertyList> performGetter();

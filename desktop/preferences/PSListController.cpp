@@ -62,7 +62,6 @@ PSListController::Specifiers PSListController::cachedSpecifiers() const {
     return peerOf<PSListControllerPeer>(*this).cachedSpecifiers();
 }
 
-// NOLINTNEXTLINE(readability-make-member-function-const): it changes the page
 void PSListController::setCachedSpecifiers(Specifiers specifiers) {
     peerOf<PSListControllerPeer>(*this).setCachedSpecifiers(std::move(specifiers));
 }

@@ -8,8 +8,6 @@ public:
 
     [[nodiscard]] static AnimationCurve easeOut() { return cubic(0, 0, 0.58, 1); }
 
-    [[nodiscard]] static AnimationCurve easeIn() { return cubic(0.42, 0, 1, 1); }
-
     [[nodiscard]] static AnimationCurve linear() { return cubic(0, 0, 1, 1); }
 
     /// The curve of pages and sheets that come and go, and of the keyboard: a spring that does not swing,

@@ -6,6 +6,7 @@
 #include "DeviceWindow.h"
 #include "DrivenShell.h"
 #include "DriverSession.h"
+#include "FontFaces.h"
 #include "WindowAccessibility.h"
 #include "screen/Screen.h"
 #include "screen/TouchDispatcher.h"
@@ -41,6 +42,14 @@ Region regionOfDesktop() {
     const auto locale = QLocale::system();
     return {.locale = locale == QLocale::c() ? commonLocale : locale.name().toStdString(),
             .timeZone = QTimeZone::systemTimeZoneId().toStdString()};
+}
+
+/// Whether texts can be set as they are meant. Says what they lack.
+bool hasFontFaces() {
+    const auto found = FontFaces::check();
+    if (!found)
+        std::fprintf(stderr, "corvex-settings: %s\n", found.error().c_str());
+    return found.has_value();
 }
 
 /// Opens the device root, and brings it up to date when it is empty or that was asked for. Says why not.
@@ -97,6 +106,8 @@ int drive(VirtualClock& clock, LogRecorder& log, const ProgramOptions& options) 
 
 int runDriver(const ProgramOptions& options) {
     std::signal(SIGPIPE, SIG_IGN); // whoever reads the answers may go; then the writing fails
+    if (!hasFontFaces())
+        return EXIT_FAILURE;
     auto root = readiedRoot(options);
     if (!root)
         return EXIT_FAILURE;
@@ -109,6 +120,8 @@ int runDriver(const ProgramOptions& options) {
 }
 
 int runWindow(const ProgramOptions& options) {
+    if (!hasFontFaces())
+        return EXIT_FAILURE;
     auto root = readiedRoot(options);
     if (!root)
         return EXIT_FAILURE;

@@ -104,7 +104,7 @@ QAccessibleInterface* WindowAccessibility::interfaceFor(const Ref<UIView>& view)
         std::ranges::find(children_, view, [](const Child& child) { return child.view.strong(); });
     if (known != children_.end())
         return QAccessible::accessibleInterface(known->id);
-    auto* const made = new ElementAccessibility(*this, view); // NOLINT(*-owning-memory): Qt owns it from here
+    auto* const made = new ElementAccessibility(*this, view); // Qt owns it from here
     children_.push_back({.view = view, .id = QAccessible::registerAccessibleInterface(made)});
     return made;
 }

@@ -7,7 +7,6 @@ NSNotificationCenter& NSNotificationCenter::defaultCenter() {
     return shared;
 }
 
-// NOLINTNEXTLINE(readability-convert-member-functions-to-static): as the contract has it
 void NSNotificationCenter::removeObserver(const NSObject& observer) {
     const AutoreleasePool pool;
     send<"-[NSNotificationCenter removeObserver:]", void>(

@@ -71,6 +71,7 @@ TEST_F(GlintImageSwitchTouchTest, EveryMoveShowsTheFingersSideAnew) {
             control->thumbView()->setFrame(CGRectMake(10, 1, 20, 28));
             move(x);
             EXPECT_EQ(thumbFrame(), x > 25 ? pressedOn : pressedOff);
+            EXPECT_NEAR(shownThumbLeft(), 10, 0.01) << "it goes there, and does not jump";
             settle();
         }
         cancel(x);

@@ -212,15 +212,28 @@ TEST_F(TweakCustomCellTest, EveryCaptionIsSetAlike) {
 }
 
 TEST_F(TweakCustomCellTest, ACaptionThatIsTooLongShrinksToSevenTenthsAndThenJustEnds) {
-    constexpr auto fitsWhenSmaller = "Notifications and backgrounds";
-    const auto fitting = captionsOf(*shown(with("leftLabel", fitsWhenSmaller))).front();
-    EXPECT_FALSE(peerOf<UILabelPeer>(*fitting).isTruncated());
+    const auto caption = captionsOf(*shown(fullRow())).front();
     const auto plain = make<UILabel>();
-    plain->setFrame(fitting->bounds());
-    plain->setText(fitsWhenSmaller);
+    plain->setFrame(caption->bounds());
     plain->setFont(UIFont::systemFontOfSize(11, UIFontWeightMedium));
     plain->setNumberOfLines(2);
-    EXPECT_TRUE(peerOf<UILabelPeer>(*plain).isTruncated());
+    const auto longestOf = [](const Ref<UILabel>& label) {
+        std::string text = "nn";
+        for (; !peerOf<UILabelPeer>(*label).isTruncated(); label->setText(text))
+            text += " nn";
+        return text.size();
+    };
+    const auto longestShrunkTo = [&](double scale) {
+        plain->setText("");
+        plain->setAdjustsFontSizeToFitWidth(true);
+        plain->setMinimumScaleFactor(scale);
+        return longestOf(plain);
+    };
+    const auto longest = longestOf(caption);
+    EXPECT_LT(longestOf(plain), longestShrunkTo(0.8)) << "of its own it does not shrink";
+    EXPECT_LT(longestShrunkTo(0.8), longest);
+    EXPECT_EQ(longestShrunkTo(0.7), longest);
+    EXPECT_GT(longestShrunkTo(0.6), longest);
 }
 
 TEST_F(TweakCustomCellTest, OnlyTheExactTextTrueMakesTheIconsTemplates) {

@@ -24,9 +24,7 @@ protected:
         return dynamicCast<OBWelcomeController>(page->presentedViewController());
     }
 
-    [[nodiscard]] const SheetContent& content() const {
-        return dynamic_cast<const SheetContent&>(sheet()->peer());
-    }
+    [[nodiscard]] const SheetContent& content() const { return *peerIf<SheetContent>(*sheet()); }
 
     /// What the sheet shows above its title.
     [[nodiscard]] Ref<DesktopImage> icon() const {

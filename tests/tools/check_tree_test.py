@@ -30,7 +30,8 @@ class CheckTreeTest(unittest.TestCase):
             self.built.append({"directory": str(self.root), "file": path})
 
     def check(self, *databases):
-        commands = self.root / "compile_commands.json"
+        commands = self.root / "build" / "compile_commands.json"
+        commands.parent.mkdir(exist_ok=True)
         commands.write_text(json.dumps(self.built))
         done = subprocess.run(
             [sys.executable, CHECK_TREE, self.root, commands, *databases], capture_output=True, text=True, check=False
@@ -46,6 +47,14 @@ class CheckTreeTest(unittest.TestCase):
         self.write("README.md", "[the license](LICENSE)\n")
         self.write("LICENSE")
         self.assertEqual(self.check(), [])
+
+    def test_a_file_that_a_program_left_in_the_root_is_named(self):
+        self.write("CMakeLists.txt")
+        self.write(".clang-format")
+        self.write("core/preferences.plist")
+        self.assertEqual(self.check(), [])
+        self.write("preferences.plist")
+        self.assertEqual(self.check(), ["preferences.plist:1: is none of the files that belong into the root"])
 
     def test_a_test_file_that_is_not_built_is_named(self):
         self.write("tests/core/StoreTest.cpp", built=False)
@@ -93,7 +102,7 @@ class CheckTreeTest(unittest.TestCase):
     def test_a_source_may_be_in_any_of_the_builds(self):
         self.write("device/objc/Box.cpp", built=False)
         self.assertEqual(self.check(), ["device/objc/Box.cpp:1: is not in the build"])
-        other = self.root / "other.json"
+        other = self.root / "build" / "other.json"
         other.write_text(json.dumps([{"directory": str(self.root), "file": "device/objc/Box.cpp"}]))
         self.assertEqual(self.check(other), [])
 
@@ -139,6 +148,14 @@ class CheckTreeTest(unittest.TestCase):
             ],
         )
 
+    def test_files_are_reached_through_the_contract_alone(self):
+        self.write("core/Store.cpp", "#include <cstdio>\nstd::FILE* a;\nauto b = std::fopen(c, d);\nauto e = std::tmpfile();\n")
+        self.write("core/Print.cpp", "#include <cstdio>\nint a = std::snprintf(b, c, d);\n")
+        self.assertEqual(
+            self.check(),
+            [f"core/Store.cpp:{line}: the device has no files but through NSFileManager and its neighbours" for line in [2, 3, 4]],
+        )
+
     def test_the_devices_half_includes_the_contract_and_its_own_parts(self):
         self.write("platform/UIKit/UIView.h")
         self.write("device/objc/Message.h")
@@ -177,6 +194,20 @@ class CheckTreeTest(unittest.TestCase):
         self.assertEqual(
             self.check(),
             ["desktop/uikit/views/UIViewPeer.cpp:2: desktop/uikit/views/ may not include controls/UIControlPeer.h"],
+        )
+
+    def test_nobody_goes_around_the_folders_by_a_relative_path(self):
+        self.write("desktop/uikit/controls/UIControlPeer.h")
+        self.write("desktop/uikit/views/UIViewPeer.cpp", '#include "../controls/UIControlPeer.h"\n')
+        self.write("tests/desktop/uikit/Test.cpp", '#include "here/../UIControlPeer.h"\n')
+        self.assertEqual(
+            self.check(),
+            [
+                "desktop/uikit/views/UIViewPeer.cpp:1: "
+                "includes ../controls/UIControlPeer.h, which goes around the folders it is given",
+                "tests/desktop/uikit/Test.cpp:1: "
+                "includes here/../UIControlPeer.h, which goes around the folders it is given",
+            ],
         )
 
     def test_what_lies_beside_the_subfolders_is_above_them_all(self):

@@ -64,11 +64,6 @@ void UIButtonPeer::setFontStyle(const FontStyle& style) {
     contentDidChange();
 }
 
-void UIButtonPeer::setContentInsets(const UIEdgeInsets& insets) {
-    contentInsets_ = insets;
-    contentDidChange();
-}
-
 void UIButtonPeer::setTitleColor(const Ref<UIColor>& color) {
     titleColor_ = color;
     updateColors();
@@ -112,9 +107,8 @@ CGSize UIButtonPeer::titleSize() const {
 CGSize UIButtonPeer::sizeThatFits(CGSize /*room*/) const {
     const auto image = imageSize();
     const auto title = titleSize();
-    return {std::max(leastSide, contentInsets_.left + image.width + title.width + contentInsets_.right),
-            std::max(leastSide,
-                     contentInsets_.top + std::max(image.height, title.height) + contentInsets_.bottom)};
+    return {std::max(leastSide, image.width + title.width),
+            std::max({leastSide, image.height, title.height})};
 }
 
 std::optional<double> UIButtonPeer::intrinsicWidth() const {
@@ -143,7 +137,7 @@ CGRect UIButtonPeer::imageFrame(const CGRect& room, double left) const {
 }
 
 void UIButtonPeer::layoutSubviews() {
-    const auto room = UIEdgeInsetsInsetRect(view().bounds(), contentInsets_);
+    const auto room = view().bounds();
     const auto image = imageSize();
     auto title = titleSize();
     title.width = std::clamp(title.width, 0.0, std::max(0.0, room.size.width - image.width));

@@ -31,9 +31,6 @@ public:
     /// Regular and 15 points until another is set.
     void setFontStyle(const FontStyle& style);
 
-    /// The room around title and image; none until it is set.
-    void setContentInsets(const UIEdgeInsets& insets);
-
     /// Empty for the tint.
     void setTitleColor(const Ref<UIColor>& color);
 
@@ -69,7 +66,6 @@ private:
     Ref<UILabel> titleLabel_;
     Ref<UIImageView> imageView_;
     Ref<UIColor> titleColor_;
-    UIEdgeInsets contentInsets_;
     UIEdgeInsets imageInsets_;
     bool isPale_ = false;
 };

@@ -42,25 +42,5 @@ void NSLayoutConstraintPeer::activate() {
     }
     holder_ = Weak<UIView>(holder);
     holder->peer().layoutRules().constraints.push_back(retain(constraint_));
-    changed();
-}
-
-void NSLayoutConstraintPeer::deactivate() {
-    const auto holder = holder_.strong();
-    if (!holder)
-        return;
-    const auto kept = retain(constraint_);
-    changed();
-    holder_ = Weak<UIView>();
-    std::erase(holder->peer().layoutRules().constraints, kept);
-}
-
-void NSLayoutConstraintPeer::setConstant(double constant) {
-    terms_.constant = constant;
-    changed();
-}
-
-void NSLayoutConstraintPeer::changed() const {
-    if (const auto holder = holder_.strong())
-        holder->peer().setNeedsConstraintLayout();
+    holder->peer().setNeedsConstraintLayout();
 }

@@ -36,13 +36,9 @@ public:
 
     /// A constraint between views that are not in one tree is refused with a log line.
     void activate();
-    void deactivate();
-    void setConstant(double constant);
 
 private:
     friend class NSLayoutConstraint;
-
-    void changed() const;
 
     NSLayoutConstraint* constraint_ = nullptr;
     Terms terms_;

@@ -24,11 +24,6 @@ void UIStackViewPeer::addArrangedSubview(const Ref<UIView>& view) {
     setNeedsConstraintLayout();
 }
 
-void UIStackViewPeer::removeArrangedSubview(const UIView& view) {
-    std::erase_if(arranged_, [&view](const auto& arranged) { return arranged.get() == &view; });
-    setNeedsConstraintLayout();
-}
-
 void UIStackViewPeer::setAxis(UILayoutConstraintAxis axis) {
     axis_ = axis;
     setNeedsConstraintLayout();

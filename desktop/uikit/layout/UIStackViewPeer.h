@@ -14,12 +14,8 @@ class UIStackViewPeer final : public UIViewPeer {
 public:
     using Object = UIStackView;
 
-    [[nodiscard]] const std::vector<Ref<UIView>>& arrangedSubviews() const { return arranged_; }
-
     /// Adds it as a subview too, and lets constraints decide its frame.
     void addArrangedSubview(const Ref<UIView>& view);
-    /// It stays a subview until it is taken away there.
-    void removeArrangedSubview(const UIView& view);
 
     void setAxis(UILayoutConstraintAxis axis);
     void setDistribution(UIStackViewDistribution distribution);

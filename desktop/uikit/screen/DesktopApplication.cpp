@@ -29,12 +29,10 @@ Ref<UIApplication> UIApplication::sharedApplication() {
     return retain(&DesktopApplication::shared());
 }
 
-// NOLINTNEXTLINE(readability-convert-member-functions-to-static): as the contract has it
 bool UIApplication::canOpenURL(const Ref<NSURL>& url) const {
     return Device::current().urls().canOpen(textOf(url));
 }
 
-// NOLINTNEXTLINE(readability-convert-member-functions-to-static): as the contract has it
 void UIApplication::openURL(const Ref<NSURL>& url, std::function<void(bool)> completion) {
     const auto isOpened = Device::current().urls().open(textOf(url));
     if (completion)

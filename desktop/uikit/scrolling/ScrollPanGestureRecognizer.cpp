@@ -19,10 +19,6 @@ bool ScrollPanGestureRecognizer::shouldBegin() {
     return !content || content.get() == view() || scroll_.touchesShouldCancelIn(*content);
 }
 
-std::chrono::nanoseconds ScrollPanGestureRecognizer::contentTouchDelay() const {
-    return scroll_.delaysContentTouches() ? contentDelay : std::chrono::nanoseconds::zero();
-}
-
 void ScrollPanGestureRecognizer::touchBegan(DesktopTouch& touch) {
     PanGestureRecognizer::touchBegan(touch);
     if (scroll_.isMoving())

@@ -15,7 +15,8 @@ public:
 
     // GestureRecognizer:
     [[nodiscard]] bool shouldBegin() override;
-    [[nodiscard]] std::chrono::nanoseconds contentTouchDelay() const override;
+
+    [[nodiscard]] std::chrono::nanoseconds contentTouchDelay() const override { return contentDelay; }
 
 protected:
     // GestureRecognizer:

@@ -27,8 +27,6 @@ double withOverrun(double place, double least, double greatest, double length,
 } // namespace
 
 CGPoint UIScrollViewPeer::banded(CGPoint offset) const {
-    if (!bounces_)
-        return clamped(offset);
     const auto least = minimumOffset();
     const auto greatest = maximumOffset();
     const auto size = view().bounds().size;
@@ -61,7 +59,6 @@ void UIScrollViewPeer::beginDrag() {
     stopMotion();
     dragStart_ = unbanded(contentOffset());
     indicators_->show();
-    willBeginDragging();
 }
 
 void UIScrollViewPeer::drag() {
@@ -91,13 +88,12 @@ void UIScrollViewPeer::endDrag(CGPoint velocity) {
                           ScrollMotion::glideEnd(from.y, velocity.y)};
     const auto within = clamped(natural);
     auto target = within;
-    willEndDragging(velocity, target);
     for (const auto& handler : std::vector(releaseHandlers_))
         handler(target);
     const auto least = minimumOffset();
     const auto greatest = maximumOffset();
-    const auto goal = [this](double chosen, double proposed, double free) {
-        return chosen == proposed && bounces_ ? free : chosen;
+    const auto goal = [](double chosen, double proposed, double free) {
+        return chosen == proposed ? free : chosen;
     };
     start(ScrollMotion::glide(from.x, goal(target.x, within.x, natural.x), least.x, greatest.x),
           ScrollMotion::glide(from.y, goal(target.y, within.y, natural.y), least.y, greatest.y));
@@ -142,10 +138,8 @@ void UIScrollViewPeer::comeToRest() {
     const CGPoint rest{motion_->x.rest(), motion_->y.rest()};
     motion_.reset();
     AnimationGroup::runWithoutAnimation([&] { moveTo(rest); });
-    if (motion_ || dragStart_)
-        return;
-    indicators_->fade();
-    didEndScrolling();
+    if (!motion_ && !dragStart_)
+        indicators_->fade();
 }
 
 void UIScrollViewPeer::stopMotion() {

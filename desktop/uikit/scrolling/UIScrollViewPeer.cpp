@@ -94,7 +94,7 @@ void UIScrollViewPeer::scrollRectToVisible(const CGRect& rect, bool animated) {
 }
 
 void UIScrollViewPeer::scrollBy(CGPoint distance) {
-    if (dragStart_ || !scrollEnabled_)
+    if (dragStart_)
         return;
     const auto kept = retain(&view());
     stopMotion();
@@ -102,11 +102,6 @@ void UIScrollViewPeer::scrollBy(CGPoint distance) {
     indicators_->show();
     moveTo(clamped({offset.x + distance.x, offset.y + distance.y}));
     indicators_->fade();
-}
-
-void UIScrollViewPeer::setScrollEnabled(bool enabled) {
-    scrollEnabled_ = enabled;
-    pan_->setEnabled(enabled);
 }
 
 bool UIScrollViewPeer::scrollsHorizontally() const {

@@ -47,19 +47,8 @@ public:
     /// Moves the offset at once by what a wheel or a touch pad says, within the edges.
     void scrollBy(CGPoint distance);
 
-    /// Whether fingers move the contents. On.
-    void setScrollEnabled(bool enabled);
-
     /// Whether contents that fit are moved nevertheless, and spring back. Off.
     void setAlwaysBounceVertical(bool bounces) { alwaysBounceVertical_ = bounces; }
-
-    /// Whether the contents may be drawn beyond the edges. On.
-    void setBounces(bool bounces) { bounces_ = bounces; }
-
-    /// Whether contents wait for a touch that may become a drag. On.
-    void setDelaysContentTouches(bool delays) { delaysContentTouches_ = delays; }
-
-    [[nodiscard]] bool delaysContentTouches() const { return delaysContentTouches_; }
 
     [[nodiscard]] PanGestureRecognizer& panGestureRecognizer() const { return *pan_; }
 
@@ -74,7 +63,8 @@ public:
 
     /// For others than the derived peer: called whenever the offset has changed.
     void addScrollHandler(std::function<void()> handler);
-    /// Likewise, when a finger that dragged is lifted: after `willEndDragging`, with what came of its target.
+    /// Called when a finger that dragged is lifted. `target` is where the contents will come to rest, and may
+    /// be changed.
     void addReleaseHandler(std::function<void(CGPoint& target)> handler);
 
     // Hooks.
@@ -83,15 +73,6 @@ public:
     [[nodiscard]] virtual bool touchesShouldCancelIn(const UIView& content) const;
 
     virtual void didScroll() {}
-
-    virtual void willBeginDragging() {}
-
-    /// The finger was lifted. \param velocity of the offset, points a second
-    /// \param target where the contents will come to rest; may be changed
-    virtual void willEndDragging(CGPoint /*velocity*/, CGPoint& /*target*/) {}
-
-    /// The contents have come to rest after a drag or an animated change.
-    virtual void didEndScrolling() {}
 
     // UIViewPeer:
     void layoutSubviews() override;
@@ -138,8 +119,5 @@ private:
     std::vector<std::function<void()>> scrollHandlers_;
     std::vector<std::function<void(CGPoint& target)>> releaseHandlers_;
     unsigned ticking_ = 0; ///< which motion the ticks are for
-    bool scrollEnabled_ = true;
     bool alwaysBounceVertical_ = false;
-    bool bounces_ = true;
-    bool delaysContentTouches_ = true;
 };

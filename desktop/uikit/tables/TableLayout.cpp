@@ -42,11 +42,6 @@ TableLayout::Span TableLayout::footer(std::size_t section) const {
     return {placed.cardBottom(), placed.heights.footer};
 }
 
-TableLayout::Span TableLayout::card(std::size_t section) const {
-    const auto& placed = sections_[section];
-    return {placed.cardTop(), placed.cardBottom() - placed.cardTop()};
-}
-
 std::vector<IndexPath> TableLayout::rowsBetween(double top, double bottom) const {
     std::vector<IndexPath> found;
     for (const auto section : sectionsBetween(top, bottom)) {

@@ -48,9 +48,6 @@ public:
     [[nodiscard]] Span row(IndexPath row) const;
     [[nodiscard]] Span footer(std::size_t section) const;
 
-    /// From the first row's top to the last one's bottom.
-    [[nodiscard]] Span card(std::size_t section) const;
-
     /// Of all sections.
     [[nodiscard]] double height() const { return sections_.empty() ? 0 : sections_.back().bottom(); }
 

@@ -12,6 +12,7 @@
 
 namespace {
 
+constexpr FontStyle textStyle{.size = 17};
 constexpr double caretWidth = 2;
 constexpr double selectionOpacity = 0.2;
 constexpr double underlineWidth = 1;
@@ -55,11 +56,6 @@ void UITextFieldPeer::setPlaceholder(const std::string& placeholder) {
 
 void UITextFieldPeer::setBorderStyle(UITextBorderStyle style) {
     borderStyle_ = style;
-    changed();
-}
-
-void UITextFieldPeer::setFontStyle(const FontStyle& style) {
-    fontStyle_ = style;
     changed();
 }
 
@@ -167,7 +163,7 @@ const TextLayout& UITextFieldPeer::layout() const {
     if (!laid_ || !std::equal_to()(laid_->scale, scale) || !std::equal_to()(laid_->width, width)) {
         const TextLayoutOptions options{
             .maximumWidth = width, .maximumLines = 1, .alignment = alignment(), .pixelScale = scale};
-        laid_.emplace(Laid{scale, width, TextLayout(readableText().toStdString(), fontStyle_, options)});
+        laid_.emplace(Laid{scale, width, TextLayout(readableText().toStdString(), textStyle, options)});
     }
     return laid_->layout;
 }
@@ -251,7 +247,7 @@ void UITextFieldPeer::tintColorDidChange() {
 
 double UITextFieldPeer::textWidth() const {
     const auto shown = shownText();
-    return TextLayout(shown.value_or(""), fontStyle_, {.pixelScale = traits().displayScale}).size().width();
+    return TextLayout(shown.value_or(""), textStyle, {.pixelScale = traits().displayScale}).size().width();
 }
 
 CGSize UITextFieldPeer::sizeThatFits(CGSize /*room*/) const {
@@ -323,7 +319,7 @@ void UITextFieldPeer::drawText(QPainter& painter, const Traits& traits) const {
 
 void UITextFieldPeer::drawPlaceholder(QPainter& painter, const Traits& traits) const {
     const auto room = textRect();
-    const TextLayout placeholder(placeholder_, fontStyle_,
+    const TextLayout placeholder(placeholder_, textStyle,
                                  {.maximumWidth = std::max(0.0, room.size.width),
                                   .maximumLines = 1,
                                   .alignment = alignment(),

@@ -28,9 +28,6 @@ public:
     void setText(const std::string& text);
     void setPlaceholder(const std::string& placeholder);
     void setBorderStyle(UITextBorderStyle style);
-    /// Regular and 17 points until another is set.
-    void setFontStyle(const FontStyle& style);
-
     void setTextInputTraits(const TextInputTraits& traits);
 
     /// Whether the key "return" gives the keyboard up. Not so until it is told.
@@ -145,7 +142,6 @@ private:
     TextInputTraits inputTraits_;
     std::function<void()> endHandler_;    ///< may be empty
     std::function<void()> returnHandler_; ///< may be empty
-    FontStyle fontStyle_;
     UITextBorderStyle borderStyle_ = UITextBorderStyle::None;
     Ref<UIView> caret_;
     double scrolled_ = 0;

@@ -3,7 +3,6 @@
 #include "views/UIViewPeer.h"
 
 void DesktopTouch::moveTo(CGPoint place, TouchPhase phase, std::chrono::nanoseconds time) {
-    previousPlace_ = place_;
     place_ = place;
     phase_ = phase;
     time_ = time;

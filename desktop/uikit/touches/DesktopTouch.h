@@ -10,16 +10,11 @@
 class DesktopTouch final : public UITouch {
 public:
     /// \param place in points of the screen; \param time uptime
-    DesktopTouch(CGPoint place, std::chrono::nanoseconds time)
-        : place_(place),
-          previousPlace_(place),
-          time_(time) {}
+    DesktopTouch(CGPoint place, std::chrono::nanoseconds time) : place_(place), time_(time) {}
 
     void moveTo(CGPoint place, TouchPhase phase, std::chrono::nanoseconds time);
 
     [[nodiscard]] CGPoint place() const { return place_; }
-
-    [[nodiscard]] CGPoint previousPlace() const { return previousPlace_; }
 
     [[nodiscard]] TouchPhase phase() const { return phase_; }
 
@@ -40,7 +35,6 @@ public:
 
 private:
     CGPoint place_;
-    CGPoint previousPlace_;
     TouchPhase phase_ = TouchPhase::Began;
     std::chrono::nanoseconds time_;
     Weak<UIView> view_;

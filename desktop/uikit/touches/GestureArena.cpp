@@ -33,7 +33,7 @@ std::vector<Ref<GestureRecognizer>> recognizersAround(const UIView& hit) {
 
 /// Whether `later`, of the same touch or an earlier one, is only recognised once `first` has failed.
 bool goesBefore(const GestureRecognizer& first, const GestureRecognizer& later) {
-    return later.requiresToFail(first) || (first.isFollowing() && first.goesBefore(later));
+    return first.isFollowing() && first.goesBefore(later);
 }
 
 } // namespace
@@ -112,7 +112,7 @@ void GestureArena::recognized(GestureRecognizer& winner) {
     }
     deciding_ = false;
     reconsider();
-    if (winner.cancelsTouchesInView() && winner.isFollowing())
+    if (winner.isFollowing())
         takeTouch_();
 }
 

@@ -1,11 +1,8 @@
 #include "touches/GestureRecognizer.h"
 
-#include "Dispatch/MainQueue.h"
 #include "ObjectiveC/Class.h"
 #include "touches/GestureArena.h"
-#include "views/UIViewPeer.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace {
@@ -24,18 +21,6 @@ void GestureRecognizer::setEnabled(bool enabled) {
 
 void GestureRecognizer::addHandler(std::function<void()> handler) {
     handlers_.push_back(std::move(handler));
-}
-
-void GestureRecognizer::requireToFail(const Ref<GestureRecognizer>& other) {
-    required_.emplace_back(other);
-}
-
-bool GestureRecognizer::requiresToFail(const GestureRecognizer& other) const {
-    return std::ranges::any_of(required_, [&](const auto& one) { return one.strong().get() == &other; });
-}
-
-CGPoint GestureRecognizer::locationInView(const UIView& view) const {
-    return view.peer().convertFromScreen(location_);
 }
 
 void GestureRecognizer::viewIsGone() {
@@ -106,7 +91,6 @@ void GestureRecognizer::recognizeWaiting() {
 
 void GestureRecognizer::enter(State state) {
     const auto kept = retain(this);
-    stopTimer();
     wanted_.reset();
     state_ = state;
     arena_->recognized(*this);
@@ -143,7 +127,6 @@ void GestureRecognizer::fail() {
     if (state_ != State::Possible)
         return;
     const auto kept = retain(this);
-    stopTimer();
     wanted_.reset();
     state_ = State::Failed;
     if (arena_ != nullptr)
@@ -167,18 +150,9 @@ void GestureRecognizer::resetIfOver() {
 }
 
 void GestureRecognizer::reset() {
-    stopTimer();
     wanted_.reset();
     state_ = State::Possible;
     didReset();
     if (auto* const arena = std::exchange(arena_, nullptr))
         arena->remove(*this);
-}
-
-void GestureRecognizer::setTimer(std::chrono::nanoseconds delay) {
-    const auto timer = ++timer_;
-    MainQueue::after(delay, [self = Weak<GestureRecognizer>(this), timer] {
-        if (const auto recognizer = self.strong(); recognizer && recognizer->timer_ == timer)
-            recognizer->timeIsUp();
-    });
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ObjectiveC/Weak.h"
+#include "ObjectiveC/Ref.h"
 #include "touches/DesktopTouch.h"
 #include "views/AttachedRecognizer.h"
 
@@ -37,21 +37,10 @@ public:
     /// Switching a recogniser off cancels its gesture.
     void setEnabled(bool enabled);
 
-    /// Whether views lose the touch once the gesture is recognised; they do unless told otherwise.
-    void setCancelsTouchesInView(bool cancels) { cancelsTouchesInView_ = cancels; }
-
-    [[nodiscard]] bool cancelsTouchesInView() const { return cancelsTouchesInView_; }
-
     /// Calls `handler` whenever the gesture is recognised, changes, ends or is cancelled.
     void addHandler(std::function<void()> handler);
 
-    /// This gesture is only recognised once the other one has failed.
-    void requireToFail(const Ref<GestureRecognizer>& other);
-
-    /// Where the finger is, or was last, in points of that view.
-    [[nodiscard]] CGPoint locationInView(const UIView& view) const;
-
-    /// The same in points of the screen.
+    /// Where the finger is, or was last, in points of the screen.
     [[nodiscard]] CGPoint location() const { return location_; }
 
     // What a kind may decide. All are asked with the touch known.
@@ -97,7 +86,6 @@ public:
     /// Whether the gesture is there and waits for others to fail.
     [[nodiscard]] bool isWaiting() const { return wanted_.has_value(); }
 
-    [[nodiscard]] bool requiresToFail(const GestureRecognizer& other) const;
     /// Recognises a gesture that has waited, now that nothing goes before it.
     void recognizeWaiting();
     /// The gesture is not to be.
@@ -109,9 +97,6 @@ protected:
     virtual void touchBegan(DesktopTouch& touch) = 0;
     virtual void touchMoved(DesktopTouch& touch) = 0;
     virtual void touchEnded(DesktopTouch& touch) = 0;
-
-    /// The time that was last asked for is up.
-    virtual void timeIsUp() {}
 
     /// The gesture is over, however it ended; the next one starts from nothing.
     virtual void didReset() {}
@@ -128,11 +113,6 @@ protected:
     void end();
     void cancel();
 
-    /// Calls `timeIsUp` after that time, in place of what was asked for before.
-    void setTimer(std::chrono::nanoseconds delay);
-
-    void stopTimer() { ++timer_; }
-
 private:
     void want(State state);
     void enter(State state);
@@ -147,9 +127,6 @@ private:
     CGPoint location_;
     State state_ = State::Possible;
     std::optional<State> wanted_;
-    std::vector<Weak<GestureRecognizer>> required_;
     std::vector<std::function<void()>> handlers_;
-    unsigned timer_ = 0;
     bool enabled_ = true;
-    bool cancelsTouchesInView_ = true;
 };

@@ -10,16 +10,11 @@ const Class classObject = Class::define<TapGestureRecognizer, GestureRecognizer>
 
 /// How far the finger may stray from where it first came down; points.
 constexpr double slop = 10;
-/// Within what time the finger comes down for the next tap.
-constexpr std::chrono::milliseconds longestGap{350};
 
 } // namespace
 
 void TapGestureRecognizer::touchBegan(DesktopTouch& touch) {
-    stopTimer();
-    if (taps_ == 0)
-        start_ = touch.place();
-    touchMoved(touch);
+    start_ = touch.place();
 }
 
 void TapGestureRecognizer::touchMoved(DesktopTouch& touch) {
@@ -29,11 +24,5 @@ void TapGestureRecognizer::touchMoved(DesktopTouch& touch) {
 
 void TapGestureRecognizer::touchEnded(DesktopTouch& touch) {
     touchMoved(touch);
-    if (state() != State::Possible)
-        return;
-    ++taps_;
-    if (taps_ >= required_)
-        recognize();
-    else
-        setTimer(longestGap);
+    recognize();
 }

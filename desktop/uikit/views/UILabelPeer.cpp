@@ -204,13 +204,6 @@ double UILabelPeer::top(const TextLayout& layout, double height, double scale) {
     return std::floor((height - layout.size().height()) / 2 * scale) / scale;
 }
 
-double UILabelPeer::firstBaseline() const {
-    const auto size = view().bounds().size;
-    const auto scale = traits().displayScale;
-    const auto& layout = layoutFor(size, scale);
-    return top(layout, size.height, scale) + layout.baseline(0);
-}
-
 bool UILabelPeer::isTruncated() const {
     return layoutFor(view().bounds().size, traits().displayScale).isTruncated();
 }

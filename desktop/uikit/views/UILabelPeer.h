@@ -57,12 +57,8 @@ public:
     void setShadowOffset(CGSize offset);
 
     /// The width that a text of several lines is wrapped to for the intrinsic height; 0 for none.
-    [[nodiscard]] double preferredMaxLayoutWidth() const { return preferredMaxLayoutWidth_; }
-
     void setPreferredMaxLayoutWidth(double width);
 
-    /// From the bounds' top to the first line's baseline, in points.
-    [[nodiscard]] double firstBaseline() const;
     /// What the text's lines need in a width, in points that are not rounded to pixels; 0 without text.
     [[nodiscard]] double heightOfLines(double width) const;
     /// Whether there is text that the bounds have no room for.

@@ -1,9 +1,9 @@
 #include "GcColorPickerCell.h"
 
+#include "ColorCode.h"
 #include "ColorGridPeer.h"
 #include "ColorPickerView.h"
 #include "ColorSwatch.h"
-#include "HexColor.h"
 #include "ObjectiveC/Class.h"
 #include "cells/RowsFixture.h"
 #include "controls/UISliderPeer.h"
@@ -21,7 +21,7 @@ protected:
     }
 
     [[nodiscard]] std::string shownColor(const std::string& id) const {
-        return hexFromColor(viewIn<ColorSwatch>(id).color());
+        return codeOfColor(viewIn<ColorSwatch>(id).color());
     }
 
     void open(const std::string& id) {
@@ -91,8 +91,8 @@ TEST_F(GcColorPickerCellTest, ATapOpensASheetThatSavesAsItIsLeft) {
     EXPECT_EQ(written("a"), std::nullopt);
     close();
     const auto middle = ColorGridPeer::colorAt(ColorGridPeer::columns / 2, ColorGridPeer::lines / 2);
-    EXPECT_EQ(written("a"), PropertyList(hexFromColor(middle)));
-    EXPECT_EQ(shownColor("a"), hexFromColor(middle));
+    EXPECT_EQ(written("a"), PropertyList(codeOfColor(middle)));
+    EXPECT_EQ(shownColor("a"), codeOfColor(middle));
     EXPECT_EQ(Device::current().notifications().take(), Texts{"com.example.changed"});
 }
 

@@ -9,9 +9,8 @@ namespace {
 constexpr double tolerance = 1e-4;
 
 TEST(AnimationCurve, BeginsAtNothingAndEndsWithAll) {
-    for (const auto& curve :
-         {AnimationCurve::easeInOut(), AnimationCurve::easeIn(), AnimationCurve::easeOut(),
-          AnimationCurve::linear(), AnimationCurve::system()}) {
+    for (const auto& curve : {AnimationCurve::easeInOut(), AnimationCurve::easeOut(),
+                              AnimationCurve::linear(), AnimationCurve::system()}) {
         EXPECT_EQ(curve.progress(0), 0);
         EXPECT_EQ(curve.progress(1), 1);
     }
@@ -33,11 +32,9 @@ TEST(AnimationCurve, IsSlowAtBothEndsWhenEasedInAndOut) {
     EXPECT_NEAR(curve.progress(0.9), 1 - 0.0197, tolerance);
 }
 
-TEST(AnimationCurve, StartsSlowlyWhenEasedInAndEndsSoWhenEasedOut) {
-    EXPECT_LT(AnimationCurve::easeIn().progress(0.2), 0.2);
-    EXPECT_GT(AnimationCurve::easeOut().progress(0.2), 0.2);
-    EXPECT_NEAR(AnimationCurve::easeIn().progress(0.2), 1 - AnimationCurve::easeOut().progress(0.8),
-                tolerance);
+TEST(AnimationCurve, EndsSlowlyWhenEasedOut) {
+    EXPECT_NEAR(AnimationCurve::easeOut().progress(0.2), 0.31, 0.01);
+    EXPECT_NEAR(AnimationCurve::easeOut().progress(0.8), 0.94, 0.02);
 }
 
 TEST(AnimationCurve, ComesCloseToASpringThatDoesNotSwingAsTheSystems) {

@@ -95,6 +95,15 @@ TEST_F(BackupMethodsTest, AnArchiveIsSharedFromTheMiddleOfATablet) {
                         "UIActivityViewController 1");
 }
 
+TEST_F(BackupMethodsTest, WithoutTheSheetThatSharesNothingIsShown) {
+    save("a");
+    refuseInitialisersOf("UIActivityViewController");
+    perform(page, "shareBackup:", text("a.tar.gz"));
+    refuseInitialisersOf(nullptr);
+    EXPECT_EQ(presentedBy(page), nullptr);
+    EXPECT_EQ(aliveOf("UIActivityViewController"), 0);
+}
+
 TEST_F(BackupMethodsTest, AnArchiveIsShownByTheOtherApplication) {
     save("a");
     perform(page, "openInFilza:", text("a.tar.gz"));
@@ -178,6 +187,31 @@ TEST_F(BackupMethodsTest, WhatFailsIsToldInItsOwnWords) {
     importFile("a.tar.gz");
     EXPECT_TRUE(isTold(
         "A backup with this name already exists. Please rename the backup file before importing.", "Error"));
+}
+
+// That it goes on where the name is taken is meant.
+TEST_F(BackupMethodsTest, AccessToWhatIsImportedEndsUnlessItsNameIsTaken) {
+    const auto accessTo = [this](const std::string& name) {
+        takeJournal();
+        importFile(name);
+        Lines lines = takeJournal();
+        std::erase_if(lines, [](const std::string& line) { return !line.contains("AccessingSecurity"); });
+        for (auto& line : lines)
+            line = line.substr(line.find(' ') + 1);
+        return lines;
+    };
+    const auto line = [this](const std::string& what, const std::string& name) {
+        return what + "AccessingSecurityScopedResource] " + folder + "/" + name;
+    };
+    std::ofstream(folder + "/broken.tar.gz") << std::string(2000, 'x');
+    EXPECT_EQ(accessTo("broken.tar.gz"),
+              (Lines{line("start", "broken.tar.gz"), line("stop", "broken.tar.gz")}));
+    storeValue(boolean(true), "kEnabled");
+    save("a");
+    files::copy_file(backup("a.tar.gz"), folder + "/a.tar.gz");
+    EXPECT_EQ(accessTo("a.tar.gz"), Lines{line("start", "a.tar.gz")});
+    files::rename(folder + "/a.tar.gz", folder + "/b.tar.gz");
+    EXPECT_EQ(accessTo("b.tar.gz"), (Lines{line("start", "b.tar.gz"), line("stop", "b.tar.gz")}));
 }
 
 TEST_F(BackupMethodsTest, AnArchiveMayBeNamedInCapitals) {

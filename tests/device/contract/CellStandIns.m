@@ -17,6 +17,10 @@
 @implementation UIVisualEffectView
 - (id)initWithEffect:(UIBlurEffect *)effect {
     record(self, _cmd, @"%@", describe(effect));
+    if (isRefusing([UIVisualEffectView class])) {
+        [self release];
+        return nil;
+    }
     CGRect empty = {{0, 0}, {0, 0}};
     return [super initWithFrame:empty];
 }

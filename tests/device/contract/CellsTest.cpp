@@ -194,6 +194,18 @@ TEST_F(CellsTest, AHeaderIsBuiltFromTheBackToTheFront) {
     objc_release(cell);
 }
 
+TEST_F(CellsTest, AHeaderWithoutItsBlurHasAllTheRest) {
+    refuseInitialisersOf("UIVisualEffectView");
+    auto* const cell = newCell("CxHeaderCell", 0, nullptr, row({{"title", text("Corvex")}}));
+    refuseInitialisersOf(nullptr);
+    EXPECT_EQ(
+        journalOf({"addSubview", "UIVisualEffectView", "setText:"}),
+        (Lines{"-[UIVisualEffectView initWithEffect:] UIBlurEffect", "-[UIView addSubview:] UIStackView",
+               "-[UILabel setText:] \"Corvex • 3.0.1\"", "-[UILabel setText:] nil"}));
+    EXPECT_EQ(aliveOf("UIVisualEffectView"), 0);
+    objc_release(cell);
+}
+
 TEST_F(CellsTest, TheHeadersLabelsAreSetAsTheyAreToLook) {
     auto* const cell = newCell("CxHeaderCell", 0, nullptr, row({{"description", text("Text")}}));
     auto lines = journalOf({"-[UILabel ", "+[UIFont "});

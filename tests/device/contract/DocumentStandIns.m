@@ -33,6 +33,10 @@
 @implementation UIActivityViewController
 - (id)initWithActivityItems:(NSArray *)items applicationActivities:(NSArray *)activities {
     record(self, _cmd, @"%@ %@", describe(items), describe(activities));
+    if (isRefusing([UIActivityViewController class])) {
+        [self release];
+        return nil;
+    }
     if ((self = [self init]))
         popover = [UIPopoverPresentationController new];
     return self;

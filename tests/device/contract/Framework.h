@@ -29,7 +29,7 @@ id allocatedByName(const char* className);
 /// The next view that is readied answers its initialiser with that object.
 void answerNextInitialiserWith(id object);
 /// From now on what is made of that class is refused; null for none. For the classes of the sheet for what is
-/// new.
+/// new, of the header's card, and of what shares a file.
 void refuseInitialisersOf(const char* className);
 /// What a cell of StandInCell answers.
 id accessoryOf(id cell);

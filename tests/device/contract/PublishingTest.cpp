@@ -20,6 +20,11 @@ using Lines = std::vector<std::string>;
 
 class LateView final : public UIView {};
 
+/// Stands for what other code states, and has taken away with it.
+class Unloaded : public UIView {};
+
+class Orphan final : public Unloaded {};
+
 /// Stands for a class of the framework that readies itself.
 class Readied : public UIView {};
 
@@ -78,6 +83,16 @@ TEST(PublishingTest, ATakenNameIsLoggedOnce) {
     publishClasses();
     EXPECT_EQ(takeJournal(), Lines());
     EXPECT_STREQ(class_getName(object_getClass(objectOf(*make<LateView>()))), "LateView3");
+}
+
+TEST(PublishingTest, AClassWhoseBaseIsMissingIsLogged) {
+    const Class orphan = Class::define<Orphan, Unloaded>("Orphan");
+    takeJournal();
+    publishClasses();
+    EXPECT_EQ(takeJournal(),
+              Lines{"log: Class Orphan cannot be published: it, or one that it derives from, is "
+                    "missing."});
+    EXPECT_EQ(runtimeClass(orphan), nullptr);
 }
 
 TEST(PublishingTest, WhatKeepsTheCppHalvesTakesAnotherNameToo) {

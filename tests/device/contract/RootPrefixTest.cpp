@@ -33,5 +33,5 @@ TEST(RootPrefixTest, APathOfTheJailbreaksIsOneOfTheSystemsWithoutItsPrefix) {
 TEST(RootPrefixTest, APathWithoutABufferIsTheCallers) {
     auto* const path = RootPrefixResolver::libroot_jbrootpath("/usr", nullptr);
     EXPECT_STREQ(path, "/var/jb/usr");
-    std::free(path); // NOLINT(*-no-malloc,*-owning-memory): as whoever calls libroot does
+    std::free(path); // NOLINT(*-no-malloc): as whoever calls libroot does
 }

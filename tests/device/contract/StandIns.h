@@ -21,6 +21,9 @@ void record(id receiver, SEL selector, NSString* format, ...);
 NSString* describe(id object);
 NSString* describeRect(CGRect rect);
 
+// Whether initialisers of that class are to answer nil.
+BOOL isRefusing(Class made);
+
 // Blocks, as whoever takes one keeps and calls it.
 void* copyBlock(void* block);
 void releaseBlock(void* block);

@@ -183,6 +183,8 @@ void callBlockWithObject(void *block, id object) {
 
 static Class refusing;
 
+BOOL isRefusing(Class made) { return refusing == made; }
+
 void refuseInitialisersOf(const char *className) { refusing = className ? objc_getClass(className) : Nil; }
 
 static id nextAnswer; // owned
@@ -408,7 +410,7 @@ void finishAnimations(void) {
 @implementation _UIBackdropView
 - (id)initWithFrame:(CGRect)given autosizesToFitSuperview:(BOOL)autosizes settings:(_UIBackdropViewSettings *)settings {
     record(self, _cmd, @"%@ %d %@", describeRect(given), autosizes, describe(settings));
-    if (refusing == [_UIBackdropView class]) {
+    if (isRefusing([_UIBackdropView class])) {
         [self release];
         return nil;
     }
@@ -579,7 +581,7 @@ void finishAnimations(void) {
 @implementation OBWelcomeController
 - (id)initWithTitle:(NSString *)title detailText:(NSString *)detailText icon:(UIImage *)icon {
     record(self, _cmd, @"%@ %@ %@", describe(title), describe(detailText), describe(icon));
-    if (refusing == [OBWelcomeController class]) {
+    if (isRefusing([OBWelcomeController class])) {
         [self release];
         return nil;
     }

@@ -39,8 +39,6 @@ public:
 
     [[nodiscard]] uint8_t* memory() const { return memory_; }
 
-    [[nodiscard]] unsigned long signedSlotCount() const { return signedSlotCount_; }
-
 private:
     void placeSegments();
     void protectSegments() const;

@@ -170,27 +170,6 @@ TEST_F(NSLayoutConstraintTest, ViewsOfDifferentTreesCannotBeTied) {
     EXPECT_EQ(device.log().take().size(), 1U);
 }
 
-TEST_F(NSLayoutConstraintTest, AChangedConstantMovesTheView) {
-    const auto view = add(10, 10);
-    auto& left = equal({*view, Leading}, {*host, Leading}, 5);
-    layOut();
-    left.setConstant(15);
-    layOut();
-    EXPECT_EQ(view->frame().origin.x, 15);
-}
-
-TEST_F(NSLayoutConstraintTest, ADeactivatedConstraintNoLongerHolds) {
-    const auto view = add(10, 10);
-    auto& left = equal({*view, Leading}, {*host, Leading}, 5);
-    const auto right = view->trailingAnchor()->constraintEqualToAnchor(host->trailingAnchor());
-    layOut();
-    left.deactivate();
-    NSLayoutConstraint::activateConstraints({right});
-    EXPECT_FALSE(left.isActive());
-    layOut();
-    EXPECT_EQ(view->frame().origin.x, 290);
-}
-
 TEST_F(NSLayoutConstraintTest, AConstraintOnAViewThatIsGoneIsLeftOut) {
     const auto view = add(10, 10);
     {

@@ -131,14 +131,6 @@ TEST_F(UIStackViewTest, HiddenViewsTakeNoRoomNorTheirSpacing) {
     EXPECT_EQ(widths(), (Numbers{20, 40, 220}));
 }
 
-TEST_F(UIStackViewTest, ARemovedViewStaysASubviewButIsNotPlaced) {
-    peer().removeArrangedSubview(*views[2]);
-    layOut();
-    EXPECT_EQ(widths()[1], 280);
-    EXPECT_EQ(peer().arrangedSubviews().size(), 2U);
-    EXPECT_EQ(views[2]->peer().superview(), stack.get());
-}
-
 TEST_F(UIStackViewTest, KeepsToItsMarginsWhenToldTo) {
     stack->setLayoutMargins({.top = 20, .left = 20, .bottom = 20, .right = 20});
     stack->setLayoutMarginsRelativeArrangement(true);

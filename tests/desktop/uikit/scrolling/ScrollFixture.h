@@ -5,54 +5,18 @@
 #include "views/RecordingViews.h"
 
 #include <chrono>
-#include <memory>
 #include <optional>
-#include <string>
-#include <vector>
-
-/// A scroll view's peer that writes down what its hooks hear.
-class RecordingScrollPeer final : public UIScrollViewPeer {
-public:
-    explicit RecordingScrollPeer(std::vector<std::string>& events) : events_(events) {}
-
-    // UIScrollViewPeer:
-    void didScroll() override { ++scrolls; }
-
-    void willBeginDragging() override { events_.emplace_back("begin dragging"); }
-
-    void willEndDragging(CGPoint velocity, CGPoint& target) override {
-        events_.emplace_back("end dragging");
-        lastVelocity = velocity;
-        proposed = target;
-        if (chosen)
-            target = *chosen;
-    }
-
-    void didEndScrolling() override { events_.emplace_back("at rest"); }
-
-    int scrolls = 0;
-    CGPoint lastVelocity;
-    CGPoint proposed;
-    std::optional<CGPoint> chosen;
-
-private:
-    std::vector<std::string>& events_;
-};
-
-class RecordingScrollView final : public UIScrollView {
-public:
-    explicit RecordingScrollView(std::vector<std::string>& events)
-        : UIScrollView(std::make_unique<RecordingScrollPeer>(events)) {}
-};
 
 /// A scroll view of 300 x 600 points at (0, 100), clear of the safe area, with content of 300 x 2000.
 class ScrollFixture : public TouchFixture {
 protected:
-    ScrollFixture() : peer(peerOf<RecordingScrollPeer>(*scroll)) {
+    ScrollFixture() {
         scroll->setFrame(CGRectMake(0, 100, 300, 600));
         content->setFrame(CGRectMake(0, 0, 300, 2000));
         scroll->addSubview(content);
         peer.setContentSize({300, 2000});
+        peer.panGestureRecognizer().addHandler([this] { panned(); });
+        peer.addReleaseHandler([this](CGPoint& target) { released(target); });
         window->addSubview(scroll);
         screen.layoutIfNeeded();
     }
@@ -78,6 +42,20 @@ protected:
     }
 
     Ref<RecordingView> content = make<RecordingView>("content", events);
-    Ref<UIScrollView> scroll = make<RecordingScrollView>(events);
-    RecordingScrollPeer& peer;
+    Ref<UIScrollView> scroll = make<UIScrollView>();
+    UIScrollViewPeer& peer = peerOf<UIScrollViewPeer>(*scroll);
+    CGPoint proposed;              ///< where the contents would have come to rest when last let go
+    std::optional<CGPoint> chosen; ///< where they are to come to rest instead
+
+private:
+    void panned() {
+        if (peer.panGestureRecognizer().state() == GestureRecognizer::State::Began)
+            events.emplace_back("begin dragging");
+    }
+
+    void released(CGPoint& target) {
+        events.emplace_back("end dragging");
+        proposed = target;
+        target = chosen.value_or(target);
+    }
 };

@@ -25,7 +25,7 @@ TEST_F(UIScrollViewPeerTest, ContentsFollowTheFingerAfterTheFirstTenPoints) {
     up(150, 400);
     EXPECT_FALSE(peer.isDragging());
     EXPECT_EQ(offset(), 90);
-    EXPECT_EQ(events, (Events{"begin dragging", "end dragging", "at rest"}));
+    EXPECT_EQ(events, (Events{"begin dragging", "end dragging"}));
 }
 
 TEST_F(UIScrollViewPeerTest, ContentHearsOfATouchThatStaysForAMoment) {
@@ -51,7 +51,7 @@ TEST_F(UIScrollViewPeerTest, ContentNeverHearsOfAQuickDrag) {
     move(100, 480);
     advance(100ms);
     up(100, 480);
-    EXPECT_EQ(events, (Events{"begin dragging", "end dragging", "at rest"}));
+    EXPECT_EQ(events, (Events{"begin dragging", "end dragging"}));
 }
 
 TEST_F(UIScrollViewPeerTest, LateDragTakesTheTouchFromTheContent) {
@@ -79,12 +79,6 @@ TEST_F(UIScrollViewPeerTest, ControlThatHasTheTouchKeepsIt) {
     EXPECT_EQ(offset(), 40);
 }
 
-TEST_F(UIScrollViewPeerTest, ContentNeedNotWait) {
-    peer.setDelaysContentTouches(false);
-    down(100, 500);
-    EXPECT_EQ(events, Events{"content began"});
-}
-
 TEST_F(UIScrollViewPeerTest, DragGoesOnFromAnOffsetSetMeanwhile) {
     drawUp(100);
     peer.setContentOffset({0, 700});
@@ -109,15 +103,6 @@ TEST_F(UIScrollViewPeerTest, SidewaysDragIsNotTheScrollViews) {
     down(100, 500);
     move(150, 500);
     move(150, 400);
-    EXPECT_EQ(offset(), 0);
-}
-
-TEST_F(UIScrollViewPeerTest, SwitchedOffScrollViewLeavesTouchesToItsContents) {
-    peer.setScrollEnabled(false);
-    down(100, 500);
-    move(100, 400);
-    up(100, 400);
-    EXPECT_EQ(events, (Events{"content began", "content moved", "content ended"}));
     EXPECT_EQ(offset(), 0);
 }
 

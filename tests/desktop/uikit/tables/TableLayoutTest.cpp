@@ -21,7 +21,6 @@ TEST(TableLayout, StacksHeadersRowsAndFooters) {
     EXPECT_EQ(layout.row({0, 0}), (Span{35, 44}));
     EXPECT_EQ(layout.row({0, 1}), (Span{79, 0}));
     EXPECT_EQ(layout.row({0, 2}), (Span{79, 60}));
-    EXPECT_EQ(layout.card(0), (Span{35, 104}));
     EXPECT_EQ(layout.footer(0), (Span{139, 18}));
     EXPECT_EQ(layout.header(1), (Span{157, 18}));
     EXPECT_EQ(layout.row({1, 0}), (Span{175, 44}));

@@ -8,13 +8,12 @@ namespace {
 
 using namespace std::chrono_literals;
 
-TEST(DesktopTouch, RemembersWhereItWas) {
+TEST(DesktopTouch, TellsWhereAndWhenItWasMoved) {
     const auto touch = make<DesktopTouch>(CGPoint{1, 2}, 10ms);
     EXPECT_EQ(touch->phase(), TouchPhase::Began);
-    EXPECT_EQ(touch->previousPlace(), (CGPoint{1, 2}));
+    EXPECT_EQ(touch->place(), (CGPoint{1, 2}));
     touch->moveTo({3, 4}, TouchPhase::Moved, 20ms);
     EXPECT_EQ(touch->place(), (CGPoint{3, 4}));
-    EXPECT_EQ(touch->previousPlace(), (CGPoint{1, 2}));
     EXPECT_EQ(touch->phase(), TouchPhase::Moved);
     EXPECT_EQ(touch->time(), 20ms);
 }

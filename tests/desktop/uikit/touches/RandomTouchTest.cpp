@@ -45,7 +45,6 @@ protected:
     Ref<UIView> makeScrollView() {
         const auto scroll = make<UIScrollView>();
         peerOf<UIScrollViewPeer>(*scroll).setContentSize({within(800), within(2000)});
-        peerOf<UIScrollViewPeer>(*scroll).setDelaysContentTouches(below(3) != 0);
         peerOf<UIScrollViewPeer>(*scroll).addScrollHandler([this] {
             ++scrolls;
             if (below(40) == 0)
@@ -73,9 +72,7 @@ protected:
             return make<PanGestureRecognizer>();
         if (kind == 1)
             return make<ScreenEdgePanGestureRecognizer>();
-        const auto taps = make<TapGestureRecognizer>();
-        taps->setNumberOfTapsRequired(1 + below(2));
-        return taps;
+        return make<TapGestureRecognizer>();
     }
 
     void addView() { addViewTo(*someView()); }
@@ -102,9 +99,6 @@ protected:
             if (below(6) == 0)
                 disturb();
         });
-        const auto& others = view->peer().gestureRecognizers();
-        if (!others.empty())
-            recognizer->requireToFail(dynamicCast<GestureRecognizer>(others.front()));
         view->peer().addGestureRecognizer(recognizer);
     }
 

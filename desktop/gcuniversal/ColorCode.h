@@ -8,7 +8,7 @@
 
 /// The colour that a text of hex digits stands for: "rgb", "rgba", "rrggbb" or "rrggbbaa", with "#" before it
 /// or not; after "rrggbb" ":0.42" may tell the opacity. Nothing for any other text.
-[[nodiscard]] std::optional<ColorComponents> colorFromHex(std::string_view text);
+[[nodiscard]] std::optional<ColorComponents> colorFromCode(std::string_view text);
 
 /// "rrggbbaa", in small letters.
-[[nodiscard]] std::string hexFromColor(const ColorComponents& color);
+[[nodiscard]] std::string codeOfColor(const ColorComponents& color);

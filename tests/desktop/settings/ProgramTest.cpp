@@ -350,6 +350,23 @@ TEST_F(ProgramTest, UrlHandlersAndSoundsAreAnswered) {
     EXPECT_EQ(program.done("sounds").value("events").toArray(), QJsonArray());
 }
 
+TEST_F(ProgramTest, DoesNotBeginWithoutTheFacesOfItsTexts) {
+    const auto noFonts = folder_.path() + "/fonts.conf";
+    const auto told = folder_.path() + "/told";
+    std::ofstream(noFonts) << "<fontconfig></fontconfig>";
+    for (const std::string mode : {"--drive ", ""}) {
+        const auto command = "QT_QPA_PLATFORM=offscreen FONTCONFIG_FILE=" + noFonts +
+                             " timeout 60 " PROGRAM " " + mode + "--device-root " + root_ + " </dev/null 2>" +
+                             told;
+        EXPECT_EQ(exitCodeOf({"-c", command}, "/bin/sh"), 1) << mode;
+        std::ifstream message(told);
+        const std::string text(std::istreambuf_iterator<char>(message), {});
+        EXPECT_NE(text.find("corvex-settings: the font families that texts are set in"), std::string::npos)
+            << text;
+    }
+    EXPECT_FALSE(std::filesystem::exists(root_));
+}
+
 TEST_F(ProgramTest, EndsWithSuccessAtTheEndOfItsInput) {
     DrivenProgram program(root_);
     EXPECT_EQ(program.exitCodeAtEndOfInput(), 0);

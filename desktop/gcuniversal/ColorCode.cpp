@@ -1,4 +1,4 @@
-#include "HexColor.h"
+#include "ColorCode.h"
 
 #include <QString>
 #include <algorithm>
@@ -39,7 +39,7 @@ std::optional<double> opacityFrom(std::string_view text) {
 
 } // namespace
 
-std::optional<ColorComponents> colorFromHex(std::string_view text) {
+std::optional<ColorComponents> colorFromCode(std::string_view text) {
     if (text.starts_with('#'))
         text.remove_prefix(1);
     const auto colon = text.find(':');
@@ -63,7 +63,7 @@ std::optional<ColorComponents> colorFromHex(std::string_view text) {
     return std::nullopt;
 }
 
-std::string hexFromColor(const ColorComponents& color) {
+std::string codeOfColor(const ColorComponents& color) {
     QString text;
     for (const auto part : {color.red, color.green, color.blue, color.alpha}) {
         constexpr int hex = 16;
