@@ -32,6 +32,18 @@ protected:
         return dynamicCast<DesktopAction>(action);
     }
 
+    /// Opens one of that many rows, titled by their numbers from 1 on.
+    void openMenuOf(int count) {
+        std::vector<Ref<UIAction>> actions;
+        for (auto number = 1; number <= count; ++number)
+            actions.push_back(action(std::to_string(number)));
+        page->navigationItem().setRightBarButtonItems(
+            {UIBarButtonItem::initWithImage(nullptr, UIMenu::menuWithTitle("Numbers", actions))});
+        settle();
+        tap(gear());
+        settle();
+    }
+
     Presented* menu() { return screen.presentations().top(); }
 
     UIView& gear() { return *content().rightButtons().at(0); }
@@ -192,6 +204,45 @@ TEST_F(MenuPresentationTest, itsButtonIsPaleUntilItCloses) {
     EXPECT_DOUBLE_EQ(pale.layer().peer().number(LayerProperty::Opacity), 1);
 }
 
+TEST_F(MenuPresentationTest, veryManyRowsScrollBelowTheTitleOnceTheyHaveNoRoom) {
+    openMenuOf(40);
+    const auto frame = screenFrame(menu()->shownView());
+    EXPECT_DOUBLE_EQ(frame.origin.y, 95);
+    EXPECT_DOUBLE_EQ(CGRectGetMaxY(frame), 844 - 34 - 8);
+    EXPECT_DOUBLE_EQ(menu()->actions()[0].frame.origin.y, 95 + 32);
+    drag({250, 600}, {250, 300});
+    EXPECT_LT(menu()->actions()[0].frame.origin.y, 95 + 32 - 200);
+    up({250, 300});
+    settle();
+    EXPECT_THAT(chosen, ElementsAre()) << "a finger that scrolls chooses nothing";
+    ASSERT_NE(menu(), nullptr);
+    tap(CGPoint{250, 95 + 16});
+    settle();
+    EXPECT_NE(menu(), nullptr) << "rows that are scrolled away are not behind the title";
+    for (auto times = 0; times < 8; ++times) {
+        drag({250, 700}, {250, 300});
+        up({250, 300});
+        settle();
+    }
+    EXPECT_NEAR(CGRectGetMaxY(menu()->actions().back().frame), CGRectGetMaxY(frame), 1e-6);
+    tap(middleOf(menu()->actions()[38].frame));
+    settle();
+    EXPECT_THAT(chosen, ElementsAre("39"));
+}
+
+TEST_F(MenuPresentationTest, aFingerThatHasRestedOnARowOfManyChoosesAndDoesNotScroll) {
+    openMenuOf(40);
+    const auto actions = menu()->actions();
+    down(middleOf(actions[9].frame));
+    advance(milliseconds(200));
+    for (const auto row : {8, 7, 6})
+        move(middleOf(actions.at(static_cast<std::size_t>(row)).frame));
+    EXPECT_EQ(menu()->actions()[6].frame, actions[6].frame);
+    up(middleOf(actions[6].frame));
+    settle();
+    EXPECT_THAT(chosen, ElementsAre("7"));
+}
+
 TEST_F(MenuPresentationTest, theActionMayTakeTheWholeApplicationAway) {
     const auto leave = UIAction::actionWithTitle("Leave", nullptr, std::nullopt, [this](UIAction&) {
         screen.removeWindow(*window);
@@ -230,4 +281,12 @@ TEST(MenuFrameTest, keepsToTheSideOfItsSourceAndWithinTheScreen) {
 TEST(MenuFrameTest, isAboveASourceThatHasNoRoomBelow) {
     EXPECT_EQ(MenuPresentation::frameFor({250, 132}, CGRectMake(5, 700, 44, 44), CGRectMake(0, 47, 390, 763)),
               CGRectMake(8, 564, 250, 132));
+}
+
+TEST(MenuFrameTest, isLessHighOnTheSideWithMoreRoomWhereNeitherHasEnough) {
+    const auto screen = CGRectMake(0, 47, 390, 763);
+    EXPECT_EQ(MenuPresentation::frameFor({250, 900}, CGRectMake(5, 100, 44, 44), screen),
+              CGRectMake(8, 148, 250, 654));
+    EXPECT_EQ(MenuPresentation::frameFor({250, 900}, CGRectMake(5, 700, 44, 44), screen),
+              CGRectMake(8, 55, 250, 641));
 }
