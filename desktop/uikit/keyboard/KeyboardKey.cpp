@@ -18,6 +18,7 @@ constexpr double cornerRadius = 5;
 constexpr double shadowHeight = 1;
 constexpr double letterSize = 25;
 constexpr double capitalSize = 22.5;
+constexpr double caselessSize = 20; ///< of letters that are neither small nor large, whose keys are narrow
 constexpr double wordSize = 16;
 constexpr double symbolSize = 19;
 constexpr double bareSymbolSize = 24; ///< without a cap around it
@@ -70,6 +71,9 @@ std::string symbolOf(const KeyboardKey& key) {
 double textSizeOf(const KeyboardKey& key) {
     if (isWide(key.key()))
         return wordSize;
+    const auto text = QString::fromStdString(key.key().text);
+    if (text.front().category() == QChar::Letter_Other)
+        return caselessSize;
     return key.isShifted() ? capitalSize : letterSize;
 }
 
