@@ -1,6 +1,7 @@
 #include "CALayerPeer.h"
 #include "DesktopImage.h"
 #include "accessibility/AccessibilityElement.h"
+#include "menus/MenuView.h"
 #include "navigation/NavigationFixture.h"
 #include "screen/Compositor.h"
 
@@ -176,6 +177,18 @@ TEST_F(MenuPresentationTest, aFingerMayMoveFromRowToRow) {
     EXPECT_THAT(chosen, ElementsAre("Apply"));
 }
 
+TEST_F(MenuPresentationTest, aRowStandsOutAsSoonAsAFingerIsOnIt) {
+    tap(gear());
+    settle();
+    const auto& row = *dynamic_cast<MenuView&>(menu()->shownView()).rows()[1];
+    const auto& highlight = *row.peer().subviews().front();
+    EXPECT_TRUE(highlight.peer().isHidden());
+    down(middleOf(menu()->actions()[1].frame));
+    EXPECT_FALSE(highlight.peer().isHidden());
+    move(middleOf(menu()->actions()[0].frame));
+    EXPECT_TRUE(highlight.peer().isHidden());
+}
+
 TEST_F(MenuPresentationTest, aDisabledActionIsNotChosenAndTheMenuStays) {
     tap(gear());
     settle();
@@ -208,7 +221,7 @@ TEST_F(MenuPresentationTest, veryManyRowsScrollBelowTheTitleOnceTheyHaveNoRoom) 
     openMenuOf(40);
     const auto frame = screenFrame(menu()->shownView());
     EXPECT_DOUBLE_EQ(frame.origin.y, 95);
-    EXPECT_DOUBLE_EQ(CGRectGetMaxY(frame), 844 - 34 - 8);
+    ASSERT_DOUBLE_EQ(CGRectGetMaxY(frame), 844 - 34 - 8);
     EXPECT_DOUBLE_EQ(menu()->actions()[0].frame.origin.y, 95 + 32);
     drag({250, 600}, {250, 300});
     EXPECT_LT(menu()->actions()[0].frame.origin.y, 95 + 32 - 200);
@@ -218,7 +231,7 @@ TEST_F(MenuPresentationTest, veryManyRowsScrollBelowTheTitleOnceTheyHaveNoRoom) 
     ASSERT_NE(menu(), nullptr);
     tap(CGPoint{250, 95 + 16});
     settle();
-    EXPECT_NE(menu(), nullptr) << "rows that are scrolled away are not behind the title";
+    ASSERT_NE(menu(), nullptr) << "rows that are scrolled away are not behind the title";
     for (auto times = 0; times < 8; ++times) {
         drag({250, 700}, {250, 300});
         up({250, 300});
