@@ -5,6 +5,7 @@
 
 #include <gmock/gmock.h>
 
+#include <utility>
 #include <vector>
 
 namespace {
