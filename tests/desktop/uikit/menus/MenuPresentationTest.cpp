@@ -37,7 +37,7 @@ protected:
     void openMenuOf(int count) {
         std::vector<Ref<UIAction>> actions;
         for (auto number = 1; number <= count; ++number)
-            actions.push_back(action(std::to_string(number)));
+            actions.emplace_back(action(std::to_string(number)));
         page->navigationItem().setRightBarButtonItems(
             {UIBarButtonItem::initWithImage(nullptr, UIMenu::menuWithTitle("Numbers", actions))});
         settle();
