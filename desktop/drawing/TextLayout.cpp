@@ -1,6 +1,7 @@
 #include "TextLayout.h"
 
 #include "FontFaces.h"
+#include "PixelComponents.h"
 
 #include <QGlyphRun>
 #include <QImage>
@@ -19,7 +20,7 @@ constexpr QChar ellipsis(0x2026);
 /// Where Qt wants a width and there is none. It counts in 64ths with 32 bits.
 constexpr double unlimited = 1e7;
 
-constexpr double roundingError = 1e-6; ///< of a sum of line heights, in pixels
+constexpr double roundingError = 1e-6; ///< of a sum of line heights or a place, in pixels
 
 bool endsParagraph(QChar character) {
     return character == '\n' || character == '\r' || character == QChar::LineSeparator ||
@@ -110,6 +111,15 @@ void drawBandByBand(QPainter& painter, QPoint place, const QImage& image) {
     const auto rows = std::max(1, pixelsAtOnce / image.width());
     for (auto top = 0; top < image.height(); top += rows)
         painter.drawImage(place + QPoint(0, top), image, QRect(0, top, image.width(), rows) & image.rect());
+}
+
+/// How many times as finely letters are painted before they are brought to the painter's pixels. The
+/// rasteriser's curves are made of few straight lines, so that letters of few pixels would be thinner than
+/// their outlines. What is shown smaller than it is, is moving or blurred.
+int finenessOf(const QTransform& toPixels) {
+    constexpr auto fineScale = 3.0; // pixels per point
+    const auto scale = std::sqrt(std::abs(toPixels.determinant()));
+    return scale >= 1 && scale < 2 ? static_cast<int>(std::ceil(fineScale / scale)) : 1;
 }
 
 QString withoutTrailingSpaces(QString text) {
@@ -287,13 +297,21 @@ void TextLayout::paint(QPainter& painter, QPointF origin, const QColor& color) c
     const auto pixels = pixelsIn(painter, inkRect().translated(origin));
     if (pixels.isEmpty())
         return;
-    QImage image(pixels.size(), QImage::Format_ARGB32_Premultiplied);
+    const auto& toPixels = painter.deviceTransform();
+    const auto fineness = finenessOf(toPixels);
+    QImage image(pixels.size() * fineness, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     {
         QPainter letters(&image);
-        letters.setTransform(painter.deviceTransform() * QTransform::fromTranslate(-pixels.x(), -pixels.y()));
+        // The first line stands on whole pixels, as the rasteriser has it on its own ones.
+        const auto line = toPixels.map(origin + QPointF(0, baseline(0))).y();
+        const auto down = fineness > 1 ? std::floor(line + 0.5 + roundingError) - line : 0;
+        letters.setTransform(toPixels * QTransform::fromTranslate(-pixels.x(), down - pixels.y()) *
+                             QTransform::fromScale(fineness, fineness));
         paintLines(letters, origin, color);
     }
+    if (fineness > 1)
+        image = PixelComponents::reduced(image, pixels.size()).toImage();
     painter.save();
     painter.resetTransform();
     const auto pixel = 1 / painter.device()->devicePixelRatioF();

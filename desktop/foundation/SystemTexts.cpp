@@ -1,10 +1,12 @@
 #include "SystemTexts.h"
 
 #include "Device.h"
+#include "Foundation/Format.h"
 #include "texts/LanguageNames.h"
 
 #include <algorithm>
 #include <array>
+#include <span>
 
 namespace {
 
@@ -19,7 +21,24 @@ struct Text {
 constexpr std::array texts{
     Text{"%@ byte", "%@ Byte", "%@ بايت", ""},
     Text{"%@ bytes", "%@ Byte", "%@ بايت", ""},
+    Text{"%@ cannot be loaded: %@.", "%@ kann nicht geladen werden: %@.",
+         "لا يمكن تحميل \u2068%@\u2069: \u2068%@\u2069.", "לא ניתן לטעון את \u2068%@\u2069: \u2068%@\u2069."},
+    Text{"%@ cannot be read: %@.", "%@ kann nicht gelesen werden: %@.",
+         "لا يمكن قراءة \u2068%@\u2069: \u2068%@\u2069.", "לא ניתן לקרוא את \u2068%@\u2069: \u2068%@\u2069."},
     Text{"%@ Documents", "%@ Dokumente", "", ""},
+    Text{"%@ is cut short.", "%@ ist nicht vollständig.", "\u2068%@\u2069 غير مكتمل.",
+         "\u2068%@\u2069 אינו שלם."},
+    Text{"%@ is damaged.", "%@ ist beschädigt.", "\u2068%@\u2069 تالف.", "\u2068%@\u2069 פגום."},
+    Text{"%@ is damaged: it is no property list.", "%@ ist beschädigt: Es ist keine Property-Liste.", "", ""},
+    Text{"%@ is empty.", "%@ ist leer.", "\u2068%@\u2069 فارغ.", "\u2068%@\u2069 ריק."},
+    Text{"%@ is made for another kind of processor.", "%@ ist für eine andere Art von Prozessor gemacht.",
+         "\u2068%@\u2069 مخصص لنوع آخر من المعالجات.", "\u2068%@\u2069 מיועד לסוג אחר של מעבד."},
+    Text{"%@ is no library.", "%@ ist keine Bibliothek.", "\u2068%@\u2069 ليس مكتبة.",
+         "\u2068%@\u2069 אינו ספרייה."},
+    Text{"%@ names no code.", "%@ nennt keinen Code.", "", ""},
+    Text{"%@ names no principal class.", "%@ nennt keine Hauptklasse.", "", ""},
+    Text{"A page of its class “%@” cannot be made.",
+         "Eine Seite seiner Klasse „%@“ kann nicht erzeugt werden.", "", ""},
     Text{"About", "Info", "حول", "אודות"},
     Text{"Appearance", "Erscheinungsbild", "المظهر", "מראה"},
     Text{"Back", "Zurück", "رجوع", "חזרה"},
@@ -31,10 +50,13 @@ constexpr std::array texts{
     Text{"Dark", "Dunkel", "داكن", "כהה"},
     Text{"Device", "Gerät", "الجهاز", "מכשיר"},
     Text{"Done", "Fertig", "تم", "סיום"},
+    Text{"Its class “%@” is no page.", "Seine Klasse „%@“ ist keine Seite.", "", ""},
     Text{"Language", "Sprache", "اللغة", "שפה"},
     Text{"Light", "Hell", "فاتح", "בהיר"},
     Text{"More Info", "Weitere Infos", "مزيد من المعلومات", "מידע נוסף"},
     Text{"No application opened it.", "Kein Programm hat sie geöffnet.", "لم يفتحه أي تطبيق.", ""},
+    Text{"No class in it is called “%@”.", "Keine Klasse darin heißt „%@“.", "", ""},
+    Text{"nothing defines “%@”", "„%@“ ist nirgends definiert", "", ""},
     Text{"One file is wanted.", "Es wird eine Datei gebraucht.", "مطلوب ملف واحد.", "נדרש קובץ אחד."},
     Text{"One folder is wanted.", "Es wird ein Ordner gebraucht.", "مطلوب مجلد واحد.", "נדרשת תיקייה אחת."},
     Text{"Open With…", "Öffnen mit …", "فتح باستخدام…", "פתיחה באמצעות…"},
@@ -47,6 +69,9 @@ constexpr std::array texts{
          "לא ניתן לפתוח את הקובץ"},
     Text{"The File Could Not Be Shared", "Die Datei konnte nicht geteilt werden", "تعذرت مشاركة الملف",
          "לא ניתן היה לשתף את הקובץ"},
+    Text{"There is no %@.", "%@ fehlt.", "\u2068%@\u2069 غير موجود.", "\u2068%@\u2069 חסר."},
+    Text{"There is no bundle “%@” in %@.", "Das Bundle „%@“ gibt es in %@ nicht.", "", ""},
+    Text{"There is no code at %@.", "Unter %@ ist kein Code.", "", ""},
     Text{"This folder is empty.", "Dieser Ordner ist leer.", "هذا المجلد فارغ.", "התיקייה ריקה."},
     Text{"Time Zone", "Zeitzone", "المنطقة الزمنية", "אזור זמן"},
     Text{"“%@” could not be opened: %@.", "„%@“ konnte nicht geöffnet werden: %@.", "تعذر فتح «%@»: %@.", ""},
@@ -72,4 +97,8 @@ std::string systemText(std::string_view english) {
         &Language::name);
     const auto isKnown = text != texts.end() && language != languages.end();
     return std::string(isKnown && !(text->*language->text).empty() ? text->*language->text : english);
+}
+
+std::string systemText(std::string_view english, std::initializer_list<std::string> arguments) {
+    return replacePlaceholders(systemText(english), std::span(arguments.begin(), arguments.size()));
 }

@@ -2,6 +2,7 @@
 
 #include "Device.h"
 #include "LibraryImage.h"
+#include "SystemTexts.h"
 
 #include <cxxabi.h>
 #include <dlfcn.h>
@@ -35,7 +36,7 @@ std::string reasonIn(std::string_view loaderText) {
         loaderText.remove_prefix(end + separator.size());
     if (!loaderText.starts_with(missing))
         return std::string(loaderText);
-    return "nothing defines “" + readable(std::string(loaderText.substr(missing.size()))) + "”";
+    return systemText("nothing defines “%@”", {readable(std::string(loaderText.substr(missing.size())))});
 }
 
 } // namespace
@@ -43,14 +44,15 @@ std::string reasonIn(std::string_view loaderText) {
 std::expected<BundleCode, std::string> BundleCode::load(const std::string& devicePath) {
     auto file = RegularFile::open(Device::current().root(), devicePath, O_RDONLY);
     if (!file && file.error() == ENOENT)
-        return std::unexpected("There is no code at " + devicePath + ".");
+        return std::unexpected(systemText("There is no code at %@.", {devicePath}));
     if (!file)
-        return std::unexpected(devicePath +
-                               " cannot be read: " + std::generic_category().message(file.error()) + ".");
+        return std::unexpected(systemText("%@ cannot be read: %@.",
+                                          {devicePath, std::generic_category().message(file.error())}));
     if (const auto image = LibraryImage::check(*file); !image)
-        return std::unexpected(devicePath + " " + image.error() + ".");
+        return std::unexpected(systemText("%@ " + image.error() + ".", {devicePath}));
     auto handle = LibraryFiles::shared().load(std::move(*file), RTLD_NOW | RTLD_LOCAL);
     if (!handle)
-        return std::unexpected(devicePath + " cannot be loaded: " + reasonIn(handle.error()) + ".");
+        return std::unexpected(
+            systemText("%@ cannot be loaded: %@.", {devicePath, reasonIn(handle.error())}));
     return BundleCode(std::move(*handle));
 }

@@ -4,6 +4,7 @@
 #include "Foundation/NSFileManager.h"
 #include "Foundation/NSString.h"
 #include "LoadedBundles.h"
+#include "SystemTexts.h"
 #include "objects/LiveObjects.h"
 
 #include <optional>
@@ -28,10 +29,10 @@ std::string textIn(const PropertyList::Dictionary& info, std::string_view key) {
 std::expected<BundleInfo, std::string> readInfo(const std::string& bundlePath) {
     const auto path = bundlePath + "/Info.plist";
     if (!NSFileManager::defaultManager().fileExistsAtPath(path))
-        return Problem("There is no " + path + ".");
+        return Problem(systemText("There is no %@.", {path}));
     const auto info = dictionaryWithContentsOfFile(path);
     if (!info)
-        return Problem(path + " is damaged: it is no property list.");
+        return Problem(systemText("%@ is damaged: it is no property list.", {path}));
     return BundleInfo{.executable = textIn(*info, "CFBundleExecutable"),
                       .principalClass = textIn(*info, "NSPrincipalClass")};
 }
@@ -44,10 +45,10 @@ bool isBundleName(std::string_view name) {
 std::expected<const Class*, std::string> pageClass(const std::string& name) {
     const auto* const found = NSClassFromString(name);
     if (found == nullptr)
-        return Problem("No class in it is called “" + name + "”.");
+        return Problem(systemText("No class in it is called “%@”.", {name}));
     const auto* const controller = NSClassFromString("UIViewController");
     if (controller == nullptr || !found->isSubclassOf(*controller))
-        return Problem("Its class “" + name + "” is no page.");
+        return Problem(systemText("Its class “%@” is no page.", {name}));
     return found;
 }
 
@@ -61,13 +62,15 @@ std::expected<PreferenceBundle, std::string> PreferenceBundle::load(std::string_
     const auto path = pathOf(name);
     auto bundle = isBundleName(name) ? DesktopBundle::withPath(path) : nullptr;
     if (!bundle)
-        return Problem("There is no bundle “" + std::string(name) + "” in " + std::string(folder) + ".");
+        return Problem(
+            systemText("There is no bundle “%@” in %@.", {std::string(name), std::string(folder)}));
     const auto info = readInfo(path);
     if (!info)
         return Problem(info.error());
     if (info->executable.empty() || info->principalClass.empty())
-        return Problem(path + "/Info.plist names no " +
-                       (info->executable.empty() ? "code." : "principal class."));
+        return Problem(
+            systemText(info->executable.empty() ? "%@ names no code." : "%@ names no principal class.",
+                       {path + "/Info.plist"}));
 
     std::expected<BundleCode, std::string> code = Problem("");
     LoadedBundles::shared().addClassesLoadedBy(
@@ -106,6 +109,6 @@ PreferenceBundle::makePage(const std::string& className) const {
     const auto made = (*found)->create();
     auto* const page = dynamic_cast<UIViewController*>(made.get());
     if (page == nullptr)
-        return Problem("A page of its class “" + name + "” cannot be made.");
+        return Problem(systemText("A page of its class “%@” cannot be made.", {name}));
     return retain(page);
 }

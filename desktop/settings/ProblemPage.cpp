@@ -1,12 +1,10 @@
 #include "ProblemPage.h"
 
-#include "Foundation/Format.h"
 #include "ObjectiveC/Class.h"
 #include "ProblemView.h"
 #include "SystemTexts.h"
 #include "controllers/UIViewControllerPeer.h"
 
-#include <array>
 #include <memory>
 #include <utility>
 
@@ -31,7 +29,6 @@ private:
 } // namespace
 
 ProblemPage::ProblemPage(const std::string& label, const std::string& reason)
-    : UIViewController(std::make_unique<ProblemPagePeer>(
-          replacePlaceholders(systemText("Cannot Open “%@”"), std::array{label}), reason)) {
+    : UIViewController(std::make_unique<ProblemPagePeer>(systemText("Cannot Open “%@”", {label}), reason)) {
     peer().setTitle(label);
 }

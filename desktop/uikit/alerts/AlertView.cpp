@@ -3,7 +3,7 @@
 #include "CALayerPeer.h"
 #include "DesktopColor.h"
 #include "ObjectiveC/Class.h"
-#include "scrolling/UIScrollViewPeer.h"
+#include "views/UIViewPeer.h"
 
 #include <algorithm>
 #include <utility>
@@ -17,12 +17,15 @@ constexpr Backdrop material{.blurRadius = 20, .saturation = 1.8};
 } // namespace
 
 AlertView::AlertView(const std::string& title, const std::optional<std::string>& message, Chosen chosen)
-    : blur_(make<UIView>()),
+    : AlertView(title, message, make<AlertChoicesView>(std::move(chosen))) {}
+
+AlertView::AlertView(const std::string& title, const std::optional<std::string>& message,
+                     const Ref<AlertChoicesView>& choices)
+    : ChoicePanel(choices),
+      blur_(make<UIView>()),
       tint_(make<UIView>()),
       texts_(make<AlertTextView>(title, message)),
-      scroll_(make<UIScrollView>()),
-      choices_(make<AlertChoicesView>(std::move(chosen))) {
-    peer().setAccessibility({}); // its buttons are elements, it is none itself
+      choices_(choices) {
     setClipsToBounds(true);
     layer().setCornerRadius(cornerRadius);
     layer().peer().continuousCorners = true;
@@ -33,8 +36,7 @@ AlertView::AlertView(const std::string& title, const std::optional<std::string>&
         addSubview(view);
     }
     addSubview(texts_);
-    addSubview(scroll_);
-    scroll_->addSubview(choices_);
+    addSubview(scroll());
 }
 
 void AlertView::setActions(const std::vector<Ref<DesktopAlertAction>>& actions) {
@@ -52,7 +54,7 @@ double AlertView::choicesHeight(double height) const {
 }
 
 void AlertView::layoutSubviews() {
-    FollowingControl::layoutSubviews();
+    ChoicePanel::layoutSubviews();
     const auto height = bounds().size.height;
     const auto choices = choicesHeight(height);
     const auto texts = texts_->fullHeight(AlertLayout::width);
@@ -60,31 +62,6 @@ void AlertView::layoutSubviews() {
     tint_->setFrame(bounds());
     texts_->setFrame(CGRectMake(0, 0, AlertLayout::width, height - choices));
     texts_->setUserInteractionEnabled(texts > height - choices);
-    scroll_->setFrame(CGRectMake(0, height - choices, AlertLayout::width, choices));
-    scroll_->setUserInteractionEnabled(choices_->fullHeight() > choices);
     choices_->setBelowTexts(texts > 0);
-    choices_->setFrame(CGRectMake(0, 0, AlertLayout::width, choices_->fullHeight()));
-    peerOf<UIScrollViewPeer>(*scroll_).setContentSize(choices_->bounds().size);
-}
-
-std::optional<CGPoint> AlertView::placeAmongChoices(CGPoint place) const {
-    if (!CGRectContainsPoint(scroll_->frame(), place))
-        return std::nullopt;
-    return peer().convertTo(*choices_, place);
-}
-
-void AlertView::fingerMoved(CGPoint place) {
-    if (const auto there = placeAmongChoices(place))
-        choices_->fingerMoved(*there);
-    else
-        choices_->fingerGone();
-}
-
-void AlertView::fingerLifted(CGPoint place) {
-    if (const auto there = placeAmongChoices(place))
-        choices_->fingerLifted(*there);
-}
-
-void AlertView::fingerGone() {
-    choices_->fingerGone();
+    placeChoices(CGRectMake(0, height - choices, AlertLayout::width, choices), choices_->fullHeight());
 }

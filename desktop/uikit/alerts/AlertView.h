@@ -1,9 +1,8 @@
 #pragma once
 
-#include "UIKit/UIScrollView.h"
 #include "alerts/AlertChoicesView.h"
 #include "alerts/AlertTextView.h"
-#include "controls/FollowingControl.h"
+#include "scrolling/ChoicePanel.h"
 
 #include <optional>
 #include <string>
@@ -11,7 +10,7 @@
 
 /// The panel of an alert: its texts, and its buttons, which a finger chooses from wherever it came down.
 /// Where there is no room for all, both scroll. The view of an alert controller, made by it.
-class AlertView final : public FollowingControl {
+class AlertView final : public ChoicePanel {
 public:
     using Chosen = AlertChoicesView::Chosen;
 
@@ -29,23 +28,18 @@ public:
     /// The height with all of the texts and buttons.
     [[nodiscard]] double fullHeight() const;
 
-    // FollowingControl:
-    void fingerMoved(CGPoint place) override;
-    void fingerLifted(CGPoint place) override;
-    void fingerGone() override;
-
     // UIView:
     void layoutSubviews() override;
 
 private:
+    AlertView(const std::string& title, const std::optional<std::string>& message,
+              const Ref<AlertChoicesView>& choices);
+
     /// Of the buttons, in an alert of that height: all that is left, and half of it where that is less.
     [[nodiscard]] double choicesHeight(double height) const;
-    /// In the buttons' points; nothing where none of them is seen.
-    [[nodiscard]] std::optional<CGPoint> placeAmongChoices(CGPoint place) const;
 
     Ref<UIView> blur_;
     Ref<UIView> tint_;
     Ref<AlertTextView> texts_;
-    Ref<UIScrollView> scroll_; ///< of the buttons
     Ref<AlertChoicesView> choices_;
 };

@@ -1,7 +1,6 @@
 #include "documents/DocumentInbox.h"
 
 #include "Device.h"
-#include "Foundation/Format.h"
 #include "Foundation/NSFileManager.h"
 #include "Foundation/NSString.h"
 #include "Foundation/NSUUID.h"
@@ -11,7 +10,6 @@
 
 #include <fcntl.h>
 
-#include <array>
 #include <cstring>
 
 namespace {
@@ -19,8 +17,7 @@ namespace {
 constexpr auto inboxName = "com.apple.Preferences-Inbox";
 
 std::string problem(const std::string& path, int error) {
-    return replacePlaceholders(systemText("“%@” could not be opened: %@."),
-                               std::array{lastPathComponent(path), std::string(std::strerror(error))});
+    return systemText("“%@” could not be opened: %@.", {lastPathComponent(path), std::strerror(error)});
 }
 
 std::expected<void, int> copyInto(const std::string& folder, const std::string& name, RegularFile& file) {

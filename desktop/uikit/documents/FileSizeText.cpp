@@ -1,7 +1,6 @@
 #include "documents/FileSizeText.h"
 
 #include "Device.h"
-#include "Foundation/Format.h"
 #include "SystemTexts.h"
 
 #include <QLocale>
@@ -14,8 +13,8 @@ std::string fileSizeText(std::uint64_t bytes) {
     constexpr double roundsUp = 999.5; // to the next unit
     const QLocale locale(QString::fromStdString(Device::current().locale()));
     if (bytes < static_cast<std::uint64_t>(step))
-        return replacePlaceholders(systemText(bytes == 1 ? "%@ byte" : "%@ bytes"),
-                                   std::array{locale.toString(static_cast<qulonglong>(bytes)).toStdString()});
+        return systemText(bytes == 1 ? "%@ byte" : "%@ bytes",
+                          {locale.toString(static_cast<qulonglong>(bytes)).toStdString()});
     std::size_t unit = 0;
     auto size = static_cast<double>(bytes) / step;
     for (; size >= roundsUp && unit + 1 < units.size(); ++unit)

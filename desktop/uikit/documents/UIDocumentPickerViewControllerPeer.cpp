@@ -2,7 +2,6 @@
 
 #include "DesktopImage.h"
 #include "Device.h"
-#include "Foundation/Format.h"
 #include "Foundation/NSString.h"
 #include "SystemTexts.h"
 #include "alerts/Complaint.h"
@@ -14,7 +13,6 @@
 #include "screen/Screen.h"
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 namespace {
@@ -99,8 +97,8 @@ void UIDocumentPickerViewControllerPeer::cancelPicking() {
 std::expected<std::string, std::string>
 UIDocumentPickerViewControllerPeer::copyOf(const std::string& hostPath) const {
     if (!isOfOneOf(types_, hostPath))
-        return std::unexpected(replacePlaceholders(systemText("“%@” is not of a kind that can be chosen."),
-                                                   std::array{lastPathComponent(hostPath)}));
+        return std::unexpected(
+            systemText("“%@” is not of a kind that can be chosen.", {lastPathComponent(hostPath)}));
     return DocumentInbox::takeHostFile(hostPath);
 }
 

@@ -18,8 +18,10 @@ constexpr double cornerRadius = 5;
 constexpr double shadowHeight = 1;
 constexpr double letterSize = 25;
 constexpr double capitalSize = 22.5;
+constexpr double caselessSize = 20; ///< of letters that are neither small nor large, whose keys are narrow
 constexpr double wordSize = 16;
 constexpr double symbolSize = 19;
+constexpr double bareSymbolSize = 24; ///< without a cap around it
 
 struct Palette {
     QColor letterKey;
@@ -45,8 +47,8 @@ bool isWide(const KeyboardLayout::Key& key) {
 /// What is written on a key.
 std::string labelOf(const KeyboardKey& key) {
     const auto& text = key.key().text;
-    if (text == " ")
-        return "space";
+    if (!key.key().word.empty())
+        return key.key().word;
     return key.isShifted() && !isWide(key.key()) ? QString::fromStdString(text).toUpper().toStdString()
                                                  : text;
 }
@@ -57,6 +59,10 @@ std::string symbolOf(const KeyboardKey& key) {
         return key.isShifted() ? "shift.fill" : "shift";
     case Action::Delete:
         return "delete.left";
+    case Action::Return:
+        return key.key().word.empty() ? "return" : "";
+    case Action::ChangeLanguage:
+        return "globe";
     default:
         return {};
     }
@@ -65,6 +71,9 @@ std::string symbolOf(const KeyboardKey& key) {
 double textSizeOf(const KeyboardKey& key) {
     if (isWide(key.key()))
         return wordSize;
+    const auto text = QString::fromStdString(key.key().text);
+    if (text.front().category() == QChar::Letter_Other)
+        return caselessSize;
     return key.isShifted() ? capitalSize : letterSize;
 }
 
@@ -80,11 +89,8 @@ public:
                            bounds.size.width - 2 * gap.across, bounds.size.height - 2 * gap.down);
         const auto palette = paletteFor(traits);
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(palette.shadow);
-        painter.drawRoundedRect(shape.translated(0, shadowHeight), cornerRadius, cornerRadius);
-        painter.setBrush(isBright() ? palette.letterKey : palette.otherKey);
-        painter.drawRoundedRect(shape, cornerRadius, cornerRadius);
+        if (hasCap(traits))
+            drawCap(painter, shape, palette);
         drawLabel(painter, shape, palette.text, traits);
     }
 
@@ -98,8 +104,22 @@ private:
         return bright != isHighlighted();
     }
 
+    /// A phone's key below the rows is its symbol alone.
+    [[nodiscard]] bool hasCap(const Traits& traits) const {
+        return traits.idiom != Idiom::Phone || key().key().action != Action::ChangeLanguage;
+    }
+
+    void drawCap(QPainter& painter, const QRectF& shape, const Palette& palette) const {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(palette.shadow);
+        painter.drawRoundedRect(shape.translated(0, shadowHeight), cornerRadius, cornerRadius);
+        painter.setBrush(isBright() ? palette.letterKey : palette.otherKey);
+        painter.drawRoundedRect(shape, cornerRadius, cornerRadius);
+    }
+
     void drawLabel(QPainter& painter, const QRectF& shape, const QColor& color, const Traits& traits) const {
-        if (const auto symbol = DesktopImage::symbol(symbolOf(key()), symbolSize)) {
+        if (const auto symbol =
+                DesktopImage::symbol(symbolOf(key()), hasCap(traits) ? symbolSize : bareSymbolSize)) {
             const auto size = symbol->size();
             symbol->draw(painter,
                          CGRectMake(shape.center().x() - size.width / 2, shape.center().y() - size.height / 2,

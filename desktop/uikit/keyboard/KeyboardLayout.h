@@ -2,6 +2,7 @@
 
 #include "CoreGraphics/CGGeometry.h"
 #include "Traits.h"
+#include "keyboard/KeyboardLanguage.h"
 
 #include <string>
 #include <vector>
@@ -10,12 +11,13 @@
 struct KeyboardLayout {
     enum class Page { Letters, Numbers, Symbols };
 
-    enum class Action { Type, Shift, Delete, Return, ShowLetters, ShowNumbers, ShowSymbols };
+    enum class Action { Type, Shift, Delete, Return, ShowLetters, ShowNumbers, ShowSymbols, ChangeLanguage };
 
     struct Key {
         Action action = Action::Type;
-        std::string text; ///< what it types, or what is written on it; letters are small
+        std::string text; ///< what it types, or else what it is called; letters are small
         CGRect frame;     ///< with half of the gaps around it, in points of the keyboard
+        std::string word; ///< what is written on it when that is not its text
     };
 
     /// Between a key's frame and what is drawn of it.
@@ -30,5 +32,6 @@ struct KeyboardLayout {
     [[nodiscard]] static Gap gap(Idiom idiom);
 
     /// \param width the screen's
-    [[nodiscard]] static std::vector<Key> keys(Page page, Idiom idiom, double width);
+    [[nodiscard]] static std::vector<Key> keys(Page page, Idiom idiom, double width,
+                                               const KeyboardLanguage& language);
 };

@@ -1,7 +1,7 @@
 #include "keyboard/KeyboardView.h"
 
 #include "AnimationGroup.h"
-#include "DesktopColor.h"
+#include "Device.h"
 #include "ObjectiveC/Class.h"
 #include "screen/Screen.h"
 #include "typing/TextInput.h"
@@ -60,7 +60,9 @@ public:
 
 } // namespace
 
-KeyboardView::KeyboardView() : UIView(std::make_unique<KeyboardViewPeer>()) {}
+KeyboardView::KeyboardView()
+    : UIView(std::make_unique<KeyboardViewPeer>()),
+      languages_(KeyboardLanguage::forLocale(Device::current().locale())) {}
 
 void KeyboardView::reset() {
     const auto* const input = Screen::current().firstResponder().input();
@@ -81,7 +83,8 @@ void KeyboardView::showPage(Page page) {
     AnimationGroup::runWithoutAnimation([this] {
         for (const auto& key : std::exchange(keys_, {}))
             key->peer().removeFromSuperview();
-        for (const auto& key : KeyboardLayout::keys(page_, peer().traits().idiom, laidOutWidth_)) {
+        for (const auto& key :
+             KeyboardLayout::keys(page_, peer().traits().idiom, laidOutWidth_, language())) {
             keys_.push_back(make<KeyboardKey>(key, [this](const auto& pressed) { press(pressed); }));
             keys_.back()->setFrame(key.frame);
             addSubview(keys_.back());
@@ -90,15 +93,21 @@ void KeyboardView::showPage(Page page) {
     setShifted(isShifted_);
 }
 
+void KeyboardView::showNextLanguage() {
+    language_ = (language_ + 1) % languages_.size();
+    showPage(Page::Letters);
+    shiftForText();
+}
+
 void KeyboardView::shiftForText() {
     const auto* const input = Screen::current().firstResponder().input();
     setShifted(input != nullptr && beginsLarge(*input));
 }
 
 void KeyboardView::setShifted(bool shifted) {
-    isShifted_ = shifted;
+    isShifted_ = shifted && language().hasCapitals;
     for (const auto& key : keys_)
-        key->setShifted(shifted && page_ == Page::Letters);
+        key->setShifted(isShifted_ && page_ == Page::Letters);
 }
 
 void KeyboardView::press(const KeyboardLayout::Key& key) {
@@ -125,6 +134,9 @@ void KeyboardView::press(const KeyboardLayout::Key& key) {
         break;
     case Action::ShowSymbols:
         showPage(Page::Symbols);
+        break;
+    case Action::ChangeLanguage:
+        showNextLanguage();
         break;
     }
 }

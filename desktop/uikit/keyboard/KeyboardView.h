@@ -2,6 +2,7 @@
 
 #include "keyboard/KeyboardKey.h"
 
+#include <cstddef>
 #include <vector>
 
 /// The on-screen keyboard: types into the first responder. Made and placed by `Keyboard`.
@@ -21,11 +22,16 @@ public:
 
 private:
     void showPage(KeyboardLayout::Page page);
+    void showNextLanguage();
     void setShifted(bool shifted);
     void shiftForText();
     void press(const KeyboardLayout::Key& key);
     void type(const std::string& text);
 
+    [[nodiscard]] const KeyboardLanguage& language() const { return languages_[language_]; }
+
+    std::vector<KeyboardLanguage> languages_;
+    std::size_t language_ = 0; ///< its place among them
     std::vector<Ref<KeyboardKey>> keys_;
     KeyboardLayout::Page page_ = KeyboardLayout::Page::Letters;
     double laidOutWidth_ = 0;

@@ -29,11 +29,13 @@ CGRect MenuPresentation::frameFor(CGSize size, const CGRect& source, const CGRec
     const auto least = bounds.origin.x + edgeDistance;
     const auto x =
         std::clamp(wanted, least, std::max(least, CGRectGetMaxX(bounds) - edgeDistance - size.width));
+    const auto top = bounds.origin.y + edgeDistance;
+    const auto bottom = CGRectGetMaxY(bounds) - edgeDistance;
     const auto below = CGRectGetMaxY(source) + sourceDistance;
-    const auto fitsBelow = below + size.height <= CGRectGetMaxY(bounds) - edgeDistance;
-    const auto above =
-        std::max(bounds.origin.y + edgeDistance, source.origin.y - sourceDistance - size.height);
-    return CGRectMake(x, fitsBelow ? below : above, size.width, size.height);
+    const auto above = source.origin.y - sourceDistance;
+    const auto opensBelow = size.height <= bottom - below || bottom - below >= above - top;
+    const auto height = std::min(size.height, std::max(0.0, opensBelow ? bottom - below : above - top));
+    return CGRectMake(x, opensBelow ? below : above - height, size.width, height);
 }
 
 Ref<MenuPresentation> MenuPresentation::open(const Ref<DesktopMenu>& menu, const UIView& source,
@@ -58,7 +60,7 @@ MenuPresentation::MenuPresentation(const Ref<DesktopMenu>& menu, const CGRect& s
       source_(source),
       closing_(std::move(closing)),
       surroundings_(make<UIControl>()),
-      menu_(make<MenuView>(menu, [this](const Ref<DesktopAction>& action) { close(action); })) {
+      menu_(make<MenuView>(*menu, [this](const Ref<DesktopAction>& action) { close(action); })) {
     setAutoresizingMask(UIViewAutoresizing::FlexibleWidth | UIViewAutoresizing::FlexibleHeight);
     peerOf<UIControlPeer>(*surroundings_).addHandler(UIControlEvents::TouchDown, [this] { close(nullptr); });
     addSubview(surroundings_);

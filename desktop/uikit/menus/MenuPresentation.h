@@ -19,8 +19,8 @@ public:
 
     [[nodiscard]] MenuView& menuView() const { return *menu_; }
 
-    /// Where a panel of that size goes: below the source, or above it where there is no room, and away from
-    /// the edges of `bounds`.
+    /// Where a panel of that size goes: below the source, or above it where there is no room for all of it
+    /// and more than below; where that is too little, less high. Away from the edges of `bounds`.
     [[nodiscard]] static CGRect frameFor(CGSize size, const CGRect& source, const CGRect& bounds);
 
     // Presented:

@@ -21,17 +21,19 @@ constexpr Backdrop material{.blurRadius = 20, .saturation = 1.8};
 
 } // namespace
 
-MenuView::MenuView(const Ref<DesktopMenu>& menu, Chosen chosen)
-    : chosen_(std::move(chosen)),
+MenuView::MenuView(const DesktopMenu& menu, Chosen chosen)
+    : MenuView(menu, make<MenuRowsView>(menu, std::move(chosen))) {}
+
+MenuView::MenuView(const DesktopMenu& menu, const Ref<MenuRowsView>& rows)
+    : ChoicePanel(rows),
       panel_(make<UIView>()),
       blur_(make<UIView>()),
-      tint_(make<UIView>()) {
-    peer().setAccessibility({}); // its rows are elements, it is none itself
+      tint_(make<UIView>()),
+      rows_(rows) {
     layer().setShadowRadius(shadowRadius);
     layer().setShadowOpacity(shadowOpacity);
     layer().setShadowOffset({});
     panel_->setClipsToBounds(true);
-    panel_->setUserInteractionEnabled(false);
     panel_->layer().setCornerRadius(cornerRadius);
     panel_->layer().peer().continuousCorners = true;
     blur_->layer().peer().backdrop = material;
@@ -39,13 +41,9 @@ MenuView::MenuView(const Ref<DesktopMenu>& menu, Chosen chosen)
     addSubview(panel_);
     panel_->addSubview(blur_);
     panel_->addSubview(tint_);
-    if (!menu->title().empty())
-        addTitle(menu->title());
-    for (const auto& action : menu->actions()) {
-        rows_.push_back(make<MenuRowView>(action));
-        rows_.back()->setHasSeparator(title_ || rows_.size() > 1);
-        panel_->addSubview(rows_.back());
-    }
+    if (!menu.title().empty())
+        addTitle(menu.title());
+    panel_->addSubview(scroll());
 }
 
 void MenuView::addTitle(const std::string& title) {
@@ -56,51 +54,24 @@ void MenuView::addTitle(const std::string& title) {
     panel_->addSubview(title_);
 }
 
+double MenuView::heightOfTitle() const {
+    return title_ ? titleHeight : 0;
+}
+
 double MenuView::fullHeight() const {
-    return (title_ ? titleHeight : 0) + MenuRowView::height * static_cast<double>(rows_.size());
+    return heightOfTitle() + rows_->fullHeight();
 }
 
 void MenuView::layoutSubviews() {
-    FollowingControl::layoutSubviews();
+    ChoicePanel::layoutSubviews();
+    const auto& size = bounds().size;
     for (const auto& view : {panel_, blur_, tint_})
         view->setFrame(bounds());
-    auto top = 0.0;
-    if (title_) {
-        title_->setFrame(CGRectMake(titleMargin, 0, bounds().size.width - 2 * titleMargin, titleHeight));
-        top = titleHeight;
-    }
-    for (const auto& row : rows_) {
-        row->setFrame(CGRectMake(0, top, bounds().size.width, MenuRowView::height));
-        top += MenuRowView::height;
-    }
+    if (title_)
+        title_->setFrame(CGRectMake(titleMargin, 0, size.width - 2 * titleMargin, titleHeight));
+    const auto top = heightOfTitle();
+    placeChoices(CGRectMake(0, top, size.width, size.height - top), rows_->fullHeight());
     QPainterPath outline;
-    outline.addRoundedRect(QRectF(0, 0, bounds().size.width, bounds().size.height), cornerRadius,
-                           cornerRadius);
+    outline.addRoundedRect(QRectF(0, 0, size.width, size.height), cornerRadius, cornerRadius);
     layer().peer().shadowPath = outline;
-}
-
-MenuRowView* MenuView::rowAt(CGPoint place) const {
-    for (const auto& row : rows_) {
-        if (CGRectContainsPoint(row->frame(), place) && !row->action()->isDisabled())
-            return row.get();
-    }
-    return nullptr;
-}
-
-void MenuView::fingerMoved(CGPoint place) {
-    const auto* const touched = rowAt(place);
-    for (const auto& row : rows_)
-        row->setHighlighted(row.get() == touched);
-}
-
-void MenuView::fingerLifted(CGPoint place) {
-    if (const auto* const touched = rowAt(place))
-        chosen_(touched->action());
-    else
-        fingerGone();
-}
-
-void MenuView::fingerGone() {
-    for (const auto& row : rows_)
-        row->setHighlighted(false);
 }

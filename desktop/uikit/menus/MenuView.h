@@ -1,45 +1,40 @@
 #pragma once
 
-#include "controls/FollowingControl.h"
 #include "menus/DesktopMenu.h"
-#include "menus/MenuRowView.h"
+#include "menus/MenuRowsView.h"
+#include "scrolling/ChoicePanel.h"
 
-#include <functional>
 #include <vector>
 
-/// The panel of an open menu: its rows, and the finger that moves over them, wherever it came down. Made by
-/// the menu's presentation.
-class MenuView final : public FollowingControl {
+/// The panel of an open menu: its title, and its rows, which a finger chooses from wherever it came down.
+/// Made by the menu's presentation.
+class MenuView final : public ChoicePanel {
 public:
-    using Chosen = std::function<void(const Ref<DesktopAction>& action)>;
+    using Chosen = MenuRowsView::Chosen;
 
     static constexpr double width = 250; ///< points
     static constexpr double cornerRadius = 13;
 
     /// \param chosen called when a finger was lifted over an action that is not disabled
-    MenuView(const Ref<DesktopMenu>& menu, Chosen chosen);
+    MenuView(const DesktopMenu& menu, Chosen chosen);
 
-    /// The height of all rows, and of the title when there is one.
+    /// The height with all rows, and with the title when there is one.
     [[nodiscard]] double fullHeight() const;
 
-    [[nodiscard]] const std::vector<Ref<MenuRowView>>& rows() const { return rows_; }
-
-    // FollowingControl:
-    void fingerMoved(CGPoint place) override;
-    void fingerLifted(CGPoint place) override;
-    void fingerGone() override;
+    [[nodiscard]] const std::vector<Ref<MenuRowView>>& rows() const { return rows_->rows(); }
 
     // UIView:
     void layoutSubviews() override;
 
 private:
-    void addTitle(const std::string& title);
-    [[nodiscard]] MenuRowView* rowAt(CGPoint place) const;
+    MenuView(const DesktopMenu& menu, const Ref<MenuRowsView>& rows);
 
-    Chosen chosen_;
+    void addTitle(const std::string& title);
+    [[nodiscard]] double heightOfTitle() const;
+
     Ref<UIView> panel_; ///< cuts the rows off at the round corners, which the shadow around is not
     Ref<UIView> blur_;
     Ref<UIView> tint_;
     Ref<UILabel> title_; ///< empty without one
-    std::vector<Ref<MenuRowView>> rows_;
+    Ref<MenuRowsView> rows_;
 };

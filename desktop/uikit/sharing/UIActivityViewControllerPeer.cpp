@@ -2,7 +2,6 @@
 
 #include "DesktopURL.h"
 #include "Device.h"
-#include "Foundation/Format.h"
 #include "Foundation/NSLog.h"
 #include "SystemTexts.h"
 #include "alerts/Complaint.h"
@@ -67,9 +66,8 @@ std::optional<double> UIActivityViewControllerPeer::sheetHeight() const {
 }
 
 std::string UIActivityViewControllerPeer::sheetTitle() const {
-    return files_.size() == 1
-               ? files_.front().name()
-               : replacePlaceholders(systemText("%@ Documents"), std::array{std::to_string(files_.size())});
+    return files_.size() == 1 ? files_.front().name()
+                              : systemText("%@ Documents", {std::to_string(files_.size())});
 }
 
 std::string UIActivityViewControllerPeer::sheetDetail() const {

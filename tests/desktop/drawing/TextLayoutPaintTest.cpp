@@ -78,13 +78,39 @@ TEST(TextLayoutPaintTest, LettersAreAsHeavyAsTheirOutlinesOnEveryBackground) {
     for (const double size : {11.0, 13.0, 17.0, 34.0}) {
         const TextLayout layout("Ask Before", {.size = size});
         const auto area = areaOf(layout);
-        for (const double scale : {1.0, 2.0, 3.0}) {
+        for (const double scale : {1.0, 1.5, 2.0, 3.0}) {
             EXPECT_NEAR(inkOn(Qt::white, Qt::black, layout, scale) / area, 1, 0.02)
                 << size << " at " << scale;
             EXPECT_NEAR(inkOn(Qt::black, Qt::white, layout, scale) / area, 1, 0.02)
                 << size << " at " << scale;
             EXPECT_NEAR(inkOn(QColor(28, 28, 30), QColor(235, 235, 245), layout, scale) / area, 1, 0.02)
                 << size << " at " << scale;
+        }
+    }
+}
+
+/// Of a few pixels each, dots and small curves are what a rasteriser makes smaller first.
+TEST(TextLayoutPaintTest, RoundLettersAndDotsAreAsHeavyAsTheirOutlinesWhereTheyHaveFewPixels) {
+    for (const auto* const text : {"Größe ÄÖÜ", "illi.;,il", "إعدادات"}) {
+        for (const double size : {10.0, 12.0, 15.0, 20.0}) {
+            const TextLayout layout(text, {.size = size});
+            const auto area = areaOf(layout);
+            for (const double scale : {1.0, 1.25, 1.5})
+                EXPECT_NEAR(inkOn(Qt::white, Qt::black, layout, scale) / area, 1, 0.01)
+                    << text << ", " << size << " at " << scale;
+        }
+    }
+}
+
+TEST(TextLayoutPaintTest, ALineStandsOnWholePixelsWhereverItIs) {
+    const TextLayout layout("HEH", {.size = 17});
+    for (const double scale : {1.0, 1.5, 2.0}) {
+        for (const double top : {8.0, 8.25, 8.5, 8.75}) {
+            const auto image = paintedText(layout, {10, top}, scale);
+            const auto ink = inkOf(image, 1);
+            const auto last = image.copy(ink.left(), ink.bottom(), ink.width(), 1);
+            EXPECT_GT(alphaSum(last), 5 * scale) << top << " at " << scale;
+            EXPECT_EQ(inkOf(last, 200).isEmpty(), false) << top << " at " << scale;
         }
     }
 }

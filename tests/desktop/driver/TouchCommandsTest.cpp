@@ -4,6 +4,7 @@
 #include "UIKit/UINavigationController.h"
 #include "controllers/DesktopBarButtonItem.h"
 #include "controllers/UIViewControllerPeer.h"
+#include "menus/MenuPresentation.h"
 #include "scrolling/UIScrollViewPeer.h"
 #include "views/UIViewPeer.h"
 
@@ -83,6 +84,22 @@ TEST_F(TouchCommandsTest, TapScrollsTheElementIntoView) {
     EXPECT_EQ(presses, 1);
     EXPECT_GE(place[1].toDouble(), 100);
     EXPECT_LE(place[1].toDouble() + 44, 700);
+}
+
+TEST_F(TouchCommandsTest, TapScrollsTheRowsOfALongMenu) {
+    auto chosen = 0;
+    std::vector<Ref<UIAction>> actions;
+    for (auto number = 1; number <= 40; ++number)
+        actions.push_back(UIAction::actionWithTitle(std::to_string(number), nullptr, std::nullopt,
+                                                    [&chosen, number](UIAction&) { chosen = number; }));
+    auto presses = 0;
+    const auto button = addButton(upper, "More", presses);
+    static_cast<void>(
+        MenuPresentation::open(dynamicCast<DesktopMenu>(UIMenu::menuWithTitle("", actions)), *button, {}));
+    static_cast<void>(ask("settle"));
+    static_cast<void>(ask("tap 38"));
+    static_cast<void>(ask("settle"));
+    EXPECT_EQ(chosen, 38);
 }
 
 TEST_F(TouchCommandsTest, TapLooksInWhatIsPresentedOnly) {

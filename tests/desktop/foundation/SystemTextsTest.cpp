@@ -31,6 +31,18 @@ TEST(SystemTextsTest, WhatALanguageLacksIsInEnglish) {
     EXPECT_EQ(systemText("%@ Documents"), "%@ Documents");
 }
 
+TEST(SystemTextsTest, ArgumentsTakeTheirPlaces) {
+    const TestDevice device({.locale = "de_DE", .timeZone = "UTC"});
+    EXPECT_EQ(systemText("There is no bundle “%@” in %@.", {"Pane", "/var"}),
+              "Das Bundle „Pane“ gibt es in /var nicht.");
+}
+
+/// A path would else begin at the right with its slash at the other end.
+TEST(SystemTextsTest, PathsAreReadFromTheLeftInTextsThatAreNot) {
+    const TestDevice device({.locale = "ar_EG", .timeZone = "UTC"});
+    EXPECT_EQ(systemText("%@ is empty.", {"/code"}), "\u2068/code\u2069 فارغ.");
+}
+
 TEST(SystemTextsTest, WhatIsNotKnownStaysAsItIs) {
     const TestDevice device({.locale = "de_DE", .timeZone = "UTC"});
     EXPECT_EQ(systemText("Corvex"), "Corvex");

@@ -11,12 +11,19 @@ namespace {
 
 class BundleCodeTest : public BundleFixture {
 protected:
+    using BundleFixture::BundleFixture;
+
     /// Why a file of these bytes cannot be loaded; "" when it is loaded.
     [[nodiscard]] std::string problemWith(const std::string& bytes) const {
         device.write("/code", bytes);
         const auto code = BundleCode::load("/code");
         return code ? "" : code.error();
     }
+};
+
+class GermanBundleCodeTest : public BundleCodeTest {
+protected:
+    GermanBundleCodeTest() : BundleCodeTest({.locale = "de_DE"}) {}
 };
 
 } // namespace
@@ -59,4 +66,13 @@ TEST_F(BundleCodeTest, SaysThatAFolderOrAPipeIsNoFile) {
         ASSERT_FALSE(code);
         EXPECT_TRUE(code.error().starts_with(std::string(path) + " cannot be read: ")) << code.error();
     }
+}
+
+TEST_F(GermanBundleCodeTest, SaysItInTheDevicesLanguage) {
+    EXPECT_EQ(BundleCode::load("/nowhere").error(), "Unter /nowhere ist kein Code.");
+    EXPECT_EQ(problemWith(""), "/code ist leer.");
+    EXPECT_EQ(problemWith("no code"), "/code ist keine Bibliothek.");
+    EXPECT_EQ(problemWith(builtCode("StandInPage").substr(0, 5000)), "/code ist nicht vollständig.");
+    EXPECT_EQ(problemWith(builtCode("MissingSymbol")),
+              "/code kann nicht geladen werden: „promisedByNobody(int)“ ist nirgends definiert.");
 }

@@ -10,6 +10,8 @@
 /// A device that bundles are installed on.
 class BundleFixture : public testing::Test {
 protected:
+    explicit BundleFixture(const TestDevice::Settings& settings = {}) : device(settings) {}
+
     /// The bytes of the code that was built under that name.
     [[nodiscard]] static std::string builtCode(const std::string& name);
 

@@ -9,6 +9,8 @@ namespace {
 
 class PreferenceBundleTest : public BundleFixture {
 protected:
+    using BundleFixture::BundleFixture;
+
     /// Why the bundle cannot be loaded; "" when it is.
     [[nodiscard]] static std::string problemWith(const std::string& name) {
         const auto bundle = PreferenceBundle::load(name);
@@ -22,6 +24,11 @@ protected:
     }
 
     const std::string path = PreferenceBundle::pathOf("Pane");
+};
+
+class GermanPreferenceBundleTest : public PreferenceBundleTest {
+protected:
+    GermanPreferenceBundleTest() : PreferenceBundleTest({.locale = "de_DE"}) {}
 };
 
 } // namespace
@@ -115,4 +122,16 @@ TEST_F(PreferenceBundleTest, APageCanBeMadeOfAnotherClass) {
               "A page of its class “standInRefusingPage” cannot be made.");
     EXPECT_EQ(problemWithPage(*bundle, "standInHelper"), "Its class “standInHelper” is no page.");
     EXPECT_EQ(problemWithPage(*bundle, "nowhere"), "No class in it is called “nowhere”.");
+}
+
+TEST_F(GermanPreferenceBundleTest, SaysItInTheDevicesLanguage) {
+    EXPECT_EQ(problemWith("Pane"), "Das Bundle „Pane“ gibt es in /var/jb/Library/PreferenceBundles nicht.");
+    device.write(path + "/Info.plist", "no list");
+    EXPECT_EQ(problemWith("Pane"), path + "/Info.plist ist beschädigt: Es ist keine Property-Liste.");
+    writeInfo("Pane", "<key>NSPrincipalClass</key><string>page</string>");
+    EXPECT_EQ(problemWith("Pane"), path + "/Info.plist nennt keinen Code.");
+    writeInfo("Pane", "<key>CFBundleExecutable</key><string>code</string>");
+    EXPECT_EQ(problemWith("Pane"), path + "/Info.plist nennt keine Hauptklasse.");
+    install("Pane", "elsewhere", builtCode("StandInPage"));
+    EXPECT_EQ(problemWith("Pane"), "Keine Klasse darin heißt „elsewhere“.");
 }

@@ -140,6 +140,25 @@ TEST_F(DeviceWindowChoicesTest, TheArrowsGoThroughTheRowsOfAMenu) {
     EXPECT_EQ(screen.presentations().top(), nullptr);
 }
 
+TEST_F(DeviceWindowChoicesTest, TheArrowsBringTheRowsOfALongMenuIntoSight) {
+    std::vector<Ref<UIAction>> actions;
+    for (auto number = 1; number <= 40; ++number)
+        actions.push_back(menuAction(std::to_string(number)));
+    page->navigationItem().setRightBarButtonItems({UIBarButtonItem::initWithImage(
+        UIImage::systemImageNamed("gear"), UIMenu::menuWithTitle("", actions))});
+    settle();
+    openMenu();
+    for (auto steps = 0; steps < 35; ++steps)
+        press(Qt::Key_Down);
+    EXPECT_EQ(focused(), "35");
+    const auto panel = screenFrame(screen.presentations().top()->shownView());
+    const auto frame = screen.presentations().top()->actions()[34].frame;
+    EXPECT_GT(frame.origin.y, panel.origin.y);
+    EXPECT_LE(CGRectGetMaxY(frame), CGRectGetMaxY(panel));
+    key(Qt::Key_Space);
+    EXPECT_EQ(chosen, Texts{"35"});
+}
+
 TEST_F(DeviceWindowChoicesTest, ReturnChoosesNothingInAMenuThatTheKeyboardIsNotAt) {
     openMenu();
     key(Qt::Key_Return);

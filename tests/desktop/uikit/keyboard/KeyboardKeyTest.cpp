@@ -12,9 +12,9 @@ using Action = KeyboardLayout::Action;
 
 class KeyboardKeyTest : public TouchFixture {
 protected:
-    Ref<KeyboardKey> add(Action action, const std::string& text) {
+    Ref<KeyboardKey> add(Action action, const std::string& text, const std::string& word = {}) {
         auto key =
-            make<KeyboardKey>(KeyboardLayout::Key{action, text, CGRectMake(100, 100, 40, 54)},
+            make<KeyboardKey>(KeyboardLayout::Key{action, text, CGRectMake(100, 100, 40, 54), word},
                               [this](const KeyboardLayout::Key& pressed) { events.push_back(pressed.text); });
         key->setFrame(key->key().frame);
         window->addSubview(key);
@@ -64,6 +64,19 @@ TEST_F(KeyboardKeyTest, LooksLikeWhatItIsFor) {
     shift->setShifted(false);
     screen.setStyle(UserInterfaceStyle::Dark);
     EXPECT_LT(colorOfCap().lightness(), rest.lightness());
+}
+
+TEST_F(KeyboardKeyTest, IsCalledByWhatIsWrittenOnIt) {
+    EXPECT_EQ(add(Action::Type, "a")->peer().accessibility().label, "a");
+    EXPECT_EQ(add(Action::Type, " ", "Leerzeichen")->peer().accessibility().label, "Leerzeichen");
+}
+
+TEST_F(KeyboardKeyTest, HasNoCapBelowTheRowsOfAPhone) {
+    const auto bare = colorOfCap();
+    static_cast<void>(add(Action::ChangeLanguage, "globe"));
+    EXPECT_EQ(colorOfCap(), bare);
+    static_cast<void>(add(Action::ShowNumbers, "123"));
+    EXPECT_NE(colorOfCap(), bare);
 }
 
 } // namespace

@@ -20,6 +20,7 @@ struct Case {
     double width;
     std::string typed; ///< by all keys, in their order
     std::vector<Action> others;
+    std::string locale = "en_US";
 };
 
 void PrintTo(const Case& one, std::ostream* out) {
@@ -29,7 +30,8 @@ void PrintTo(const Case& one, std::ostream* out) {
 class KeyboardLayoutTest : public testing::TestWithParam<Case> {
 protected:
     [[nodiscard]] static std::vector<KeyboardLayout::Key> keys() {
-        return KeyboardLayout::keys(GetParam().page, GetParam().idiom, GetParam().width);
+        return KeyboardLayout::keys(GetParam().page, GetParam().idiom, GetParam().width,
+                                    KeyboardLanguage::forLocale(GetParam().locale).front());
     }
 };
 
@@ -67,7 +69,8 @@ TEST_P(KeyboardLayoutTest, FillsFourRowsFromSideToSide) {
     std::set<double> rows;
     double right = 0;
     for (const auto& key : keys()) {
-        rows.insert(key.frame.origin.y);
+        if (key.action != Action::ChangeLanguage)
+            rows.insert(key.frame.origin.y);
         right = std::max(right, CGRectGetMaxX(key.frame));
     }
     EXPECT_EQ(rows.size(), 4);
@@ -114,6 +117,85 @@ const std::vector<Case> cases{
      "1234567890€£¥_^[]{}§|~…\\<>!? ",
      {Action::Delete, Action::Return, Action::ShowNumbers, Action::ShowNumbers, Action::ShowLetters,
       Action::ShowLetters}},
+    {"phoneGermanLetters",
+     Page::Letters,
+     Idiom::Phone,
+     390,
+     "qwertzuiopüasdfghjklöäyxcvbnm ",
+     {Action::Shift, Action::Delete, Action::ShowNumbers, Action::Return},
+     "de_DE"},
+    {"phoneGermanNumbers",
+     Page::Numbers,
+     Idiom::Phone,
+     390,
+     "1234567890-/:;()€&@\".,?!' ",
+     {Action::ShowSymbols, Action::Delete, Action::ShowLetters, Action::Return},
+     "de_AT"},
+    {"phoneGermanSymbols",
+     Page::Symbols,
+     Idiom::Phone,
+     390,
+     "[]{}#%^*+=_\\|~<>$£¥•.,?!' ",
+     {Action::ShowNumbers, Action::Delete, Action::ShowLetters, Action::Return},
+     "de_DE"},
+    {"phoneArabicLetters",
+     Page::Letters,
+     Idiom::Phone,
+     390,
+     "ضصثقفغعهخحجشسيبلاتنمكطذءؤرىةوزظد ",
+     {Action::Delete, Action::ShowNumbers, Action::Return, Action::ChangeLanguage},
+     "ar_EG"},
+    {"phoneArabicNumbers",
+     Page::Numbers,
+     Idiom::Phone,
+     390,
+     "1234567890-/:؛()$&@\".،؟!' ",
+     {Action::ShowSymbols, Action::Delete, Action::ShowLetters, Action::Return, Action::ChangeLanguage},
+     "ar_EG"},
+    {"phoneHebrewLetters",
+     Page::Letters,
+     Idiom::Phone,
+     320,
+     "קראטוןםפשדגכעיחלךףזסבהנמצתץ ",
+     {Action::Delete, Action::ShowNumbers, Action::Return, Action::ChangeLanguage},
+     "he_IL"},
+    {"padGermanLetters",
+     Page::Letters,
+     Idiom::Pad,
+     820,
+     "qwertzuiopüasdfghjklöäyxcvbnm,. ",
+     {Action::Delete, Action::Return, Action::Shift, Action::Shift, Action::ShowNumbers, Action::ShowNumbers},
+     "de_DE"},
+    {"padArabicLetters",
+     Page::Letters,
+     Idiom::Pad,
+     820,
+     "ضصثقفغعهخحجشسيبلاتنمكطذءؤرىةوزظد،. ",
+     {Action::Delete, Action::Return, Action::ShowNumbers, Action::ChangeLanguage, Action::ShowNumbers},
+     "ar_EG"},
+    {"padArabicSymbols",
+     Page::Symbols,
+     Idiom::Pad,
+     820,
+     "1234567890€£¥_^[]{}§|~…\\<>!؟ ",
+     {Action::Delete, Action::Return, Action::ShowNumbers, Action::ShowNumbers, Action::ShowLetters,
+      Action::ChangeLanguage, Action::ShowLetters},
+     "ar_EG"},
+    {"padHebrewLetters",
+     Page::Letters,
+     Idiom::Pad,
+     820,
+     "קראטוןםפשדגכעיחלךףזסבהנמצתץ,. ",
+     {Action::Delete, Action::Return, Action::ShowNumbers, Action::ChangeLanguage, Action::ShowNumbers},
+     "he_IL"},
+    {"padHebrewNumbers",
+     Page::Numbers,
+     Idiom::Pad,
+     820,
+     "1234567890@#₪&*()'\"%-+=/;:,. ",
+     {Action::Delete, Action::Return, Action::ShowSymbols, Action::ShowSymbols, Action::ShowLetters,
+      Action::ChangeLanguage, Action::ShowLetters},
+     "he_IL"},
 };
 
 INSTANTIATE_TEST_SUITE_P(Pages, KeyboardLayoutTest, testing::ValuesIn(cases),

@@ -14,6 +14,8 @@ using std::chrono::milliseconds;
 
 class KeyboardTest : public TextFieldFixture {
 protected:
+    using TextFieldFixture::TextFieldFixture;
+
     void show() {
         field->becomeFirstResponder();
         settle();
@@ -30,6 +32,11 @@ protected:
         const auto place = (*found)->peer().convertToScreen((*found)->bounds());
         tap(CGRectGetMidX(place), CGRectGetMidY(place));
     }
+};
+
+class ArabicKeyboardTest : public KeyboardTest {
+protected:
+    ArabicKeyboardTest() : KeyboardTest({.locale = "ar_EG"}) {}
 };
 
 TEST_F(KeyboardTest, IsShownWhileATextHasIt) {
@@ -185,6 +192,36 @@ TEST_F(KeyboardTest, BeginsAnewForAnotherText) {
     other->becomeFirstResponder();
     settle();
     EXPECT_EQ(keyboard().view()->keys().front()->key().text, "1");
+}
+
+TEST_F(ArabicKeyboardTest, TypesTheLettersOfItsLanguage) {
+    show();
+    EXPECT_FALSE(keyboard().view()->isShifted());
+    for (const auto* const key : {"س", "ل", "ا", "م"})
+        tapKey(key);
+    EXPECT_EQ(field->text(), "سلام");
+    tapKey("123");
+    tapKey("؟");
+    tapKey("ABC");
+    tapKey("ش");
+    EXPECT_EQ(field->text(), "سلام؟ش");
+}
+
+TEST_F(ArabicKeyboardTest, AKeyLeadsToLatinLettersAndBack) {
+    show();
+    tapKey("123");
+    tapKey("globe");
+    EXPECT_TRUE(keyboard().view()->isShifted());
+    for (const auto* const key : {"q", "x"})
+        tapKey(key);
+    EXPECT_EQ(field->text(), "Qx");
+    peer().resignFirstResponder();
+    settle();
+    show();
+    EXPECT_EQ(keyboard().view()->keys().front()->key().text, "q") << "what was chosen stays";
+    tapKey("globe");
+    tapKey("ض");
+    EXPECT_EQ(field->text(), "Qxض");
 }
 
 } // namespace

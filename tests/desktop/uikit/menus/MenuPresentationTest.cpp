@@ -1,6 +1,7 @@
 #include "CALayerPeer.h"
 #include "DesktopImage.h"
 #include "accessibility/AccessibilityElement.h"
+#include "menus/MenuView.h"
 #include "navigation/NavigationFixture.h"
 #include "screen/Compositor.h"
 
@@ -30,6 +31,18 @@ protected:
                                                 [this, title](UIAction&) { chosen.push_back(title); });
         action->setAttributes(attributes);
         return dynamicCast<DesktopAction>(action);
+    }
+
+    /// Opens one of that many rows, titled by their numbers from 1 on.
+    void openMenuOf(int count) {
+        std::vector<Ref<UIAction>> actions;
+        for (auto number = 1; number <= count; ++number)
+            actions.emplace_back(action(std::to_string(number)));
+        page->navigationItem().setRightBarButtonItems(
+            {UIBarButtonItem::initWithImage(nullptr, UIMenu::menuWithTitle("Numbers", actions))});
+        settle();
+        tap(gear());
+        settle();
     }
 
     Presented* menu() { return screen.presentations().top(); }
@@ -164,6 +177,18 @@ TEST_F(MenuPresentationTest, aFingerMayMoveFromRowToRow) {
     EXPECT_THAT(chosen, ElementsAre("Apply"));
 }
 
+TEST_F(MenuPresentationTest, aRowStandsOutAsSoonAsAFingerIsOnIt) {
+    tap(gear());
+    settle();
+    const auto& row = *dynamic_cast<MenuView&>(menu()->shownView()).rows()[1];
+    const auto& highlight = *row.peer().subviews().front();
+    EXPECT_TRUE(highlight.peer().isHidden());
+    down(middleOf(menu()->actions()[1].frame));
+    EXPECT_FALSE(highlight.peer().isHidden());
+    move(middleOf(menu()->actions()[0].frame));
+    EXPECT_TRUE(highlight.peer().isHidden());
+}
+
 TEST_F(MenuPresentationTest, aDisabledActionIsNotChosenAndTheMenuStays) {
     tap(gear());
     settle();
@@ -190,6 +215,45 @@ TEST_F(MenuPresentationTest, itsButtonIsPaleUntilItCloses) {
     EXPECT_DOUBLE_EQ(pale.layer().peer().number(LayerProperty::Opacity), 0.2);
     menu()->dismissPresented();
     EXPECT_DOUBLE_EQ(pale.layer().peer().number(LayerProperty::Opacity), 1);
+}
+
+TEST_F(MenuPresentationTest, veryManyRowsScrollBelowTheTitleOnceTheyHaveNoRoom) {
+    openMenuOf(40);
+    const auto frame = screenFrame(menu()->shownView());
+    EXPECT_DOUBLE_EQ(frame.origin.y, 95);
+    ASSERT_DOUBLE_EQ(CGRectGetMaxY(frame), 844 - 34 - 8);
+    EXPECT_DOUBLE_EQ(menu()->actions()[0].frame.origin.y, 95 + 32);
+    drag({250, 600}, {250, 300});
+    EXPECT_LT(menu()->actions()[0].frame.origin.y, 95 + 32 - 200);
+    up({250, 300});
+    settle();
+    EXPECT_THAT(chosen, ElementsAre()) << "a finger that scrolls chooses nothing";
+    ASSERT_NE(menu(), nullptr);
+    tap(CGPoint{250, 95 + 16});
+    settle();
+    ASSERT_NE(menu(), nullptr) << "rows that are scrolled away are not behind the title";
+    for (auto times = 0; times < 8; ++times) {
+        drag({250, 700}, {250, 300});
+        up({250, 300});
+        settle();
+    }
+    EXPECT_NEAR(CGRectGetMaxY(menu()->actions().back().frame), CGRectGetMaxY(frame), 1e-6);
+    tap(middleOf(menu()->actions()[38].frame));
+    settle();
+    EXPECT_THAT(chosen, ElementsAre("39"));
+}
+
+TEST_F(MenuPresentationTest, aFingerThatHasRestedOnARowOfManyChoosesAndDoesNotScroll) {
+    openMenuOf(40);
+    const auto actions = menu()->actions();
+    down(middleOf(actions[9].frame));
+    advance(milliseconds(200));
+    for (const auto row : {8, 7, 6})
+        move(middleOf(actions.at(static_cast<std::size_t>(row)).frame));
+    EXPECT_EQ(menu()->actions()[6].frame, actions[6].frame);
+    up(middleOf(actions[6].frame));
+    settle();
+    EXPECT_THAT(chosen, ElementsAre("7"));
 }
 
 TEST_F(MenuPresentationTest, theActionMayTakeTheWholeApplicationAway) {
@@ -230,4 +294,12 @@ TEST(MenuFrameTest, keepsToTheSideOfItsSourceAndWithinTheScreen) {
 TEST(MenuFrameTest, isAboveASourceThatHasNoRoomBelow) {
     EXPECT_EQ(MenuPresentation::frameFor({250, 132}, CGRectMake(5, 700, 44, 44), CGRectMake(0, 47, 390, 763)),
               CGRectMake(8, 564, 250, 132));
+}
+
+TEST(MenuFrameTest, isLessHighOnTheSideWithMoreRoomWhereNeitherHasEnough) {
+    const auto screen = CGRectMake(0, 47, 390, 763);
+    EXPECT_EQ(MenuPresentation::frameFor({250, 900}, CGRectMake(5, 100, 44, 44), screen),
+              CGRectMake(8, 148, 250, 654));
+    EXPECT_EQ(MenuPresentation::frameFor({250, 900}, CGRectMake(5, 700, 44, 44), screen),
+              CGRectMake(8, 55, 250, 641));
 }

@@ -7,6 +7,8 @@
 #include "menus/MenuRowView.h"
 #include "navigation/NavigationFixture.h"
 #include "presentation/Presentation.h"
+#include "screen/Compositor.h"
+#include "screen/StatusGlyphs.h"
 #include "screen/SystemBars.h"
 
 #include <gmock/gmock.h>
@@ -83,6 +85,25 @@ TEST_F(RightToLeftNavigationTest, ThePageThatComesCastsItsShadowToItsRightAndIts
     EXPECT_NEAR(shownX(content().titleView()), (390 - content().titleView().bounds().size.width) / 2, 1);
 }
 
+TEST_F(RightToLeftNavigationTest, TheShadowOfThePageThatComesDarkensTowardsIt) {
+    a->view().setBackgroundColor(UIColor::whiteColor());
+    show({a});
+    navigation->pushViewController(b, true);
+    layOut();
+    advance(milliseconds(150));
+    const auto edge = shownX(b->view()) + 390;
+    ASSERT_LT(edge, 370);
+    Compositor compositor(screen);
+    const auto picture = compositor.render();
+    const auto lightness = [&picture, edge](double beyond) {
+        return picture.pixelColor(static_cast<int>((edge + beyond) * 3), 3 * 500).lightness();
+    };
+    EXPECT_LT(lightness(1), lightness(5));
+    EXPECT_LT(lightness(5), lightness(9));
+    EXPECT_LE(lightness(9), lightness(11));
+    EXPECT_EQ(lightness(11), lightness(15));
+}
+
 TEST_F(RightToLeftNavigationTest, ASwipeFromTheRightEdgeGoesBack) {
     show({a, b});
     drag({5, 400}, {275, 400}, 60);
@@ -136,6 +157,30 @@ TEST_F(RightToLeftNavigationTest, TheTimeIsAtTheRightAndTheBatteryAtTheLeft) {
     const auto& parts = bars.statusBar().peer().subviews();
     EXPECT_EQ(CGRectGetMidX(parts.front()->frame()), 390 - 57);
     EXPECT_EQ(parts.back()->frame().origin.x, 27);
+}
+
+TEST_F(RightToLeftNavigationTest, TheBatteryIsFollowedByTheWirelessGlyphAndThatByTheSignals) {
+    using Glyphs = StatusGlyphs;
+    window->setBackgroundColor(UIColor::whiteColor());
+    const SystemBars bars;
+    layOut();
+    const auto frame = screenFrame(*bars.statusBar().peer().subviews().back());
+    Compositor compositor(screen);
+    const auto picture = compositor.render();
+    const auto isEmpty = [&picture, &frame](double begin, double width) {
+        const auto area = QRectF(frame.origin.x + begin, frame.origin.y, width, frame.size.height);
+        const auto part = picture.copy(QRectF(area.topLeft() * 3, area.size() * 3).toAlignedRect());
+        auto plain = part;
+        plain.fill(part.pixel(0, 0));
+        return part == plain;
+    };
+    const auto wireless = Glyphs::batteryWidth + Glyphs::spacing;
+    const auto signal = wireless + Glyphs::wirelessWidth + Glyphs::spacing;
+    constexpr auto margin = 0.5; // that an edge may be smooth in
+    EXPECT_TRUE(isEmpty(Glyphs::batteryWidth + margin, Glyphs::spacing - 2 * margin));
+    EXPECT_FALSE(isEmpty(wireless, Glyphs::wirelessWidth));
+    EXPECT_TRUE(isEmpty(signal - Glyphs::spacing + margin, Glyphs::spacing - 2 * margin));
+    EXPECT_FALSE(isEmpty(signal, Glyphs::signalWidth));
 }
 
 TEST_F(RightToLeftNavigationTest, AMenusSymbolsAreAtTheLeft) {

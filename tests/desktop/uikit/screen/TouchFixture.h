@@ -11,6 +11,7 @@ class TouchFixture : public Phone {
 protected:
     using Events = std::vector<std::string>;
 
+    using Phone::Phone;
     using Phone::tap;
 
     void down(double x, double y) { Phone::down({x, y}); }

@@ -1,6 +1,7 @@
 #include "text/TextFieldFixture.h"
 
-TextFieldFixture::TextFieldFixture() {
+TextFieldFixture::TextFieldFixture(const TestDevice::Settings& settings)
+    : TouchFixture(Screen::Options(), settings) {
     field->setFrame(frame);
     field->setBorderStyle(UITextBorderStyle::RoundedRect);
     field->setPlaceholder("Backup Name");

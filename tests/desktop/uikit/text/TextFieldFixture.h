@@ -8,7 +8,7 @@
 /// A phone with a text field of 200 by 40 points on its screen, its text's left edge at 17 points.
 class TextFieldFixture : public TouchFixture {
 protected:
-    TextFieldFixture();
+    explicit TextFieldFixture(const TestDevice::Settings& settings = {});
 
     [[nodiscard]] UITextFieldPeer& peer() const { return peerOf<UITextFieldPeer>(*field); }
 
