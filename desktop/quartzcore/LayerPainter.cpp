@@ -62,7 +62,7 @@ LayerPictures::Kept& LayerPainter::compare(const PaintItem& item) {
     if (kept.shown != nullptr && kept.picture.size() == item.inner->size()) {
         damage = damageBetween(*kept.shown, *item.inner);
     } else {
-        kept.picture = QImage(item.inner->size(), QImage::Format_ARGB32_Premultiplied);
+        kept.picture = pictures_.make(item.inner->size());
         kept.outdated = {}; // of the picture before, which may have been larger
     }
     if (!damage.isEmpty())

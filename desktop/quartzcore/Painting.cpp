@@ -2,6 +2,7 @@
 
 #include "LayerDelegate.h"
 #include "LayerPainter.h"
+#include "PicturePool.h"
 #include "PixelRects.h"
 #include "ScaledPicture.h"
 #include "ShadowRenderer.h"
@@ -351,7 +352,7 @@ void Painting::paintScaledPicture(const PaintItem& item, const QRegion& region, 
     for (const auto& rect : region& item.opaque)
         scaled.copyTo(surface.image, rect);
     for (const auto& rect : region - item.opaque) {
-        QImage part(rect.size(), QImage::Format_ARGB32_Premultiplied);
+        auto part = PicturePool::shared().make(rect.size());
         scaled.copyTo(part, rect, rect.topLeft());
         PixelRects::paintOver(surface.image, rect, part, rect.topLeft(), 1);
     }
