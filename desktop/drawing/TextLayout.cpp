@@ -2,6 +2,7 @@
 
 #include "FontFaces.h"
 #include "KnownTexts.h"
+#include "PainterBands.h"
 
 #include <QGlyphRun>
 #include <QImage>
@@ -57,14 +58,6 @@ Sides glyphSides(const QTextLine& line, int first, int last) {
 QRect pixelsIn(const QPainter& painter, const QRectF& rect) {
     const QRectF device(0, 0, painter.device()->width(), painter.device()->height());
     return (painter.deviceTransform().mapRect(rect) & device).toAlignedRect();
-}
-
-/// Larger pictures are shared out to threads, which costs more than it saves.
-void drawBandByBand(QPainter& painter, QPoint place, const QImage& image) {
-    constexpr auto pixelsAtOnce = 1 << 16;
-    const auto rows = std::max(1, pixelsAtOnce / image.width());
-    for (auto top = 0; top < image.height(); top += rows)
-        painter.drawImage(place + QPoint(0, top), image, QRect(0, top, image.width(), rows) & image.rect());
 }
 
 } // namespace
@@ -191,7 +184,7 @@ void TextLayout::paint(QPainter& painter, QPointF origin, const QColor& color) c
     painter.resetTransform();
     const auto pixel = 1 / painter.device()->devicePixelRatioF();
     painter.scale(pixel, pixel);
-    drawBandByBand(painter, pixels.topLeft(), image);
+    PainterBands::draw(painter, pixels.topLeft(), image);
     painter.restore();
 }
 
