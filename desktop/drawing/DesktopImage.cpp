@@ -3,6 +3,7 @@
 #include "Foundation/NSData.h"
 #include "Foundation/NSFileManager.h"
 #include "ObjectiveC/Class.h"
+#include "PainterBands.h"
 #include "SymbolLibrary.h"
 
 #include <QBuffer>
@@ -77,18 +78,9 @@ Ref<DesktopImage> pictureInFile(std::string_view path) {
 QImage tinted(QImage picture, const QColor& color) {
     QPainter painter(&picture);
     painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-    painter.fillRect(picture.rect(), color);
+    for (const auto& band : PainterBands::of(picture.rect()))
+        painter.fillRect(band, color);
     return picture;
-}
-
-/// The picture with no more pixels than it is shown with, if those are a lot less.
-QImage reduced(const QImage& picture, const QPainter& painter, const QRectF& rect) {
-    const auto shown = painter.deviceTransform().mapRect(rect).size();
-    const auto factor = std::max(shown.width() / picture.width(), shown.height() / picture.height());
-    if (factor >= smallestScaling)
-        return picture;
-    const auto size = shown.toSize().expandedTo({1, 1});
-    return picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
 void drawOutline(QPainter& painter, const QPainterPath& outline, CGSize size, const QRectF& rect,
@@ -156,8 +148,20 @@ void DesktopImage::draw(QPainter& painter, const CGRect& rect, const ColorCompon
         drawOutline(painter, *outline, size_, place, isTemplate() ? tint.toQColor() : QColor(Qt::black));
         return;
     }
-    const auto picture = reduced(std::get<QImage>(content_), painter, place);
-    painter.drawImage(place, isTemplate() ? tinted(picture, tint.toQColor()) : picture);
+    const auto picture = reduced(painter, place);
+    PainterBands::draw(painter, place, isTemplate() ? tinted(picture, tint.toQColor()) : picture);
+}
+
+QImage DesktopImage::reduced(const QPainter& painter, const QRectF& rect) const {
+    const auto& picture = std::get<QImage>(content_);
+    const auto shown = painter.deviceTransform().mapRect(rect).size();
+    const auto factor = std::max(shown.width() / picture.width(), shown.height() / picture.height());
+    if (factor >= smallestScaling)
+        return picture;
+    const auto size = shown.toSize().expandedTo({1, 1});
+    if (reduced_.size() != size)
+        reduced_ = picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    return reduced_;
 }
 
 Ref<UIImage> DesktopImage::imageWithRenderingMode(UIImageRenderingMode mode) const {

@@ -7,6 +7,7 @@
 
 #include <QImage>
 #include <QPainterPath>
+#include <QRectF>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -56,7 +57,11 @@ private:
 
     DesktopImage(Content content, std::string symbolName, CGSize size, UIImageRenderingMode mode);
 
+    /// The picture with no more pixels than it is shown with, if those are a lot less.
+    [[nodiscard]] QImage reduced(const QPainter& painter, const QRectF& rect) const;
+
     Content content_;
+    mutable QImage reduced_; ///< as it was drawn last; null when it never was
     std::string symbolName_;
     CGSize size_;
     UIImageRenderingMode mode_ = UIImageRenderingMode::Automatic;

@@ -2,6 +2,7 @@
 
 #include "BoxBlur.h"
 #include "EnlargedPixels.h"
+#include "PicturePool.h"
 #include "PixelRows.h"
 
 #include <QPainter>
@@ -127,7 +128,7 @@ PixelComponents blurredComponents(const QImage& image, double sigma, BlurEdges e
 }
 
 QImage blurredShape(const QPainterPath& shape, QSize size, double sigma, QRgb color) {
-    QImage result(size, format);
+    auto result = PicturePool::shared().make(size);
     if (sigma > finestSigma) {
         EnlargedPixels(inColor(blurredMaskAtFraction(shape, size, sigma), color), size)
             .copyTo(result, result.rect());

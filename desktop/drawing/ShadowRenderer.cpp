@@ -1,6 +1,7 @@
 #include "ShadowRenderer.h"
 
 #include "GaussianBlur.h"
+#include "PainterBands.h"
 
 #include <QPainter>
 #include <QTransform>
@@ -65,7 +66,7 @@ void ShadowRenderer::paint(QPainter& painter, const QPainterPath& shape, const S
     painter.resetTransform();
     painter.scale(1 / ratio, 1 / ratio);
     painter.setOpacity(painter.opacity() * shadow.opacity * static_cast<double>(shadow.color.alphaF()));
-    painter.drawImage(wholePixel(position) + made.origin, made.image);
+    PainterBands::draw(painter, wholePixel(position) + made.origin, made.image);
     painter.restore();
 }
 

@@ -1,6 +1,8 @@
 #include "TextLayout.h"
 
 #include "FontFaces.h"
+#include "KnownTexts.h"
+#include "PainterBands.h"
 #include "PixelComponents.h"
 
 #include <QGlyphRun>
@@ -15,45 +17,7 @@
 
 namespace {
 
-constexpr QChar ellipsis(0x2026);
-
-/// Where Qt wants a width and there is none. It counts in 64ths with 32 bits.
-constexpr double unlimited = 1e7;
-
 constexpr double roundingError = 1e-6; ///< of a sum of line heights or a place, in pixels
-
-bool endsParagraph(QChar character) {
-    return character == '\n' || character == '\r' || character == QChar::LineSeparator ||
-           character == QChar::ParagraphSeparator;
-}
-
-qsizetype paragraphEnd(const QString& text, qsizetype begin) {
-    return std::find_if(text.begin() + begin, text.end(), endsParagraph) - text.begin();
-}
-
-/// The first position after the separator at a position, which is one of two units when it is CR LF.
-qsizetype afterSeparator(const QString& text, qsizetype position) {
-    const bool isPair = text[position] == '\r' && position + 1 < text.size() && text[position + 1] == '\n';
-    return position + (isPair ? 2 : 1);
-}
-
-QTextOption optionFor(QTextOption::WrapMode wrapMode) {
-    QTextOption option(Qt::AlignLeft | Qt::AlignAbsolute);
-    option.setTextDirection(Qt::LayoutDirectionAuto);
-    option.setWrapMode(wrapMode);
-    return option;
-}
-
-/// Lays the first line out. \returns it
-QTextLine layOutFirstLine(QTextLayout& layout, QTextOption::WrapMode wrapMode, double width) {
-    layout.setTextOption(optionFor(wrapMode));
-    layout.beginLayout();
-    auto line = layout.createLine();
-    if (line.isValid())
-        line.setLineWidth(width);
-    layout.endLayout();
-    return line;
-}
 
 /// Rectangles that touch become one.
 std::vector<QRectF> joined(std::vector<QRectF> rects) {
@@ -97,22 +61,6 @@ QRect pixelsIn(const QPainter& painter, const QRectF& rect) {
     return (painter.deviceTransform().mapRect(rect) & device).toAlignedRect();
 }
 
-/// As Arabic has.
-bool hasJoinedLetters(const QString& text) {
-    return std::ranges::any_of(text, [](QChar character) {
-        const auto type = character.joiningType();
-        return type == QChar::Joining_Dual || type == QChar::Joining_Right;
-    });
-}
-
-/// Larger pictures are shared out to threads, which costs more than it saves.
-void drawBandByBand(QPainter& painter, QPoint place, const QImage& image) {
-    constexpr auto pixelsAtOnce = 1 << 16;
-    const auto rows = std::max(1, pixelsAtOnce / image.width());
-    for (auto top = 0; top < image.height(); top += rows)
-        painter.drawImage(place + QPoint(0, top), image, QRect(0, top, image.width(), rows) & image.rect());
-}
-
 /// How many times as finely letters are painted before they are brought to the painter's pixels. The
 /// rasteriser's curves are made of few straight lines, so that letters of few pixels would be thinner than
 /// their outlines. What is shown smaller than it is, is moving or blurred.
@@ -122,87 +70,25 @@ int finenessOf(const QTransform& toPixels) {
     return scale >= 1 && scale < 2 ? static_cast<int>(std::ceil(fineScale / scale)) : 1;
 }
 
-QString withoutTrailingSpaces(QString text) {
-    while (!text.isEmpty() && text.back().isSpace())
-        text.chop(1);
-    return text;
-}
-
 } // namespace
 
 TextLayout::TextLayout(std::string_view text, const FontStyle& style, const TextLayoutOptions& options)
-    : text_(text),
-      style_(style),
+    : style_(style),
       unit_(FontFaces::unit(style)),
-      options_(options) {
+      options_(options),
+      text_(KnownTexts::shared().lines(text, style,
+                                       {.width = std::max(0.0, options.maximumWidth),
+                                        .lines = options.maximumLines,
+                                        .endsWithEllipsis = options.endsWithEllipsis})) {
     options_.maximumWidth = std::max(0.0, options_.maximumWidth);
-    breakIntoLines();
-}
-
-void TextLayout::breakIntoLines() {
-    const auto& text = text_.string();
-    qsizetype begin = 0;
-    while (!isTruncated_) {
-        const auto end = paragraphEnd(text, begin);
-        breakParagraph(begin, end);
-        if (end == text.size())
-            return;
-        begin = afterSeparator(text, end);
-    }
-}
-
-void TextLayout::breakParagraph(qsizetype begin, qsizetype end) {
-    const double width = options_.maximumWidth / unit_;
-    const bool wraps = width < unlimited;
-    const auto layout = layoutOf(text_.string().mid(begin, end - begin));
-    layout->setTextOption(optionFor(wraps ? QTextOption::WrapAtWordBoundaryOrAnywhere : QTextOption::NoWrap));
-    layout->beginLayout();
-    for (auto line = layout->createLine(); line.isValid() && !isTruncated_; line = layout->createLine()) {
-        line.setLineWidth(wraps ? width : unlimited);
-        const auto lineEnd = begin + line.textStart() + line.textLength();
-        lines_.push_back({layout, line.lineNumber(), begin, lineEnd});
-        isTruncated_ = lines_.size() == options_.maximumLines && lineEnd < text_.string().size();
-    }
-    layout->endLayout();
-    if (isTruncated_ && options_.endsWithEllipsis)
-        cutLastLine(end);
-}
-
-void TextLayout::cutLastLine(qsizetype paragraphEnd) {
-    auto& line = lines_.back();
-    const auto begin = line.offset + line.textLine().textStart();
-    const auto text = beginningWithRoomForEllipsis(text_.string().mid(begin, paragraphEnd - begin));
-    line.end = begin + text.size();
-    line.layout = layoutOf(text + ellipsis);
-    line.number = 0;
-    line.offset = begin;
-    layOutFirstLine(*line.layout, QTextOption::NoWrap, unlimited);
-}
-
-QString TextLayout::beginningWithRoomForEllipsis(const QString& text) const {
-    const auto sign = layoutOf(ellipsis);
-    const double taken = layOutFirstLine(*sign, QTextOption::NoWrap, unlimited).naturalTextWidth();
-    const double room = std::min(options_.maximumWidth / unit_, unlimited) - taken;
-    const auto layout = layoutOf(text);
-    const auto line = layOutFirstLine(*layout, QTextOption::WrapAnywhere, std::max(0.0, room));
-    if (!line.isValid() || line.naturalTextWidth() > room)
-        return {};
-    return withoutTrailingSpaces(text.left(line.textLength()));
-}
-
-std::shared_ptr<QTextLayout> TextLayout::layoutOf(const QString& text) const {
-    auto font = FontFaces::font(style_);
-    if (hasJoinedLetters(text))
-        font.setLetterSpacing(QFont::AbsoluteSpacing, 0); // which would part them
-    return std::make_shared<QTextLayout>(text, font);
 }
 
 QSizeF TextLayout::size() const {
     double width = 0;
-    for (const auto& line : lines_)
+    for (const auto& line : lines())
         width = std::max(width, lineWidth(line));
     const double scale = options_.pixelScale;
-    const double height = static_cast<double>(lines_.size()) * style_.lineHeight();
+    const double height = static_cast<double>(lines().size()) * style_.lineHeight();
     return {std::ceil(width * scale) / scale, std::ceil(height * scale - roundingError) / scale};
 }
 
@@ -211,32 +97,32 @@ double TextLayout::baseline(std::size_t line) const {
 }
 
 QRectF TextLayout::lineRect(std::size_t line) const {
-    const auto& shown = lines_[line];
+    const auto& shown = lines()[line];
     return {left(shown), static_cast<double>(line) * style_.lineHeight(), lineWidth(shown),
             style_.lineHeight()};
 }
 
 QRectF TextLayout::caretRect(std::size_t index) const {
-    auto position = text_.position(index);
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text_.string());
+    auto position = text_->text().position(index);
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, string());
     finder.setPosition(position);
     if (!finder.isAtBoundary())
         position = finder.toPreviousBoundary();
     const auto number = lineOf(position);
-    const auto& line = lines_[number];
+    const auto& line = lines()[number];
     const auto within = static_cast<int>(std::min(position, line.end) - line.offset);
     const double x = left(line) + line.textLine().cursorToX(within) * unit_;
     return {x, static_cast<double>(number) * style_.lineHeight(), 0, style_.lineHeight()};
 }
 
 std::size_t TextLayout::indexAt(QPointF point) const {
-    const auto last = static_cast<double>(lines_.size() - 1);
+    const auto last = static_cast<double>(lines().size() - 1);
     const auto number = static_cast<std::size_t>(std::clamp(point.y() / style_.lineHeight(), 0.0, last));
-    const auto& line = lines_[number];
+    const auto& line = lines()[number];
     const auto shown = line.textLine();
     const double x = (point.x() - left(line)) / unit_;
     // Qt's own search goes wrong around characters that are drawn as several glyphs.
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text_.string());
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, string());
     finder.setPosition(line.offset + shown.textStart());
     auto nearest = finder.position();
     double least = std::numeric_limits<double>::infinity();
@@ -247,19 +133,19 @@ std::size_t TextLayout::indexAt(QPointF point) const {
             least = distance;
         }
     }
-    return text_.byteIndex(nearest);
+    return text_->text().byteIndex(nearest);
 }
 
 std::vector<QRectF> TextLayout::rangeRects(std::size_t begin, std::size_t end) const {
     std::vector<QRectF> characters;
-    const auto last = text_.position(end);
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text_.string());
-    finder.setPosition(text_.position(begin));
+    const auto last = text_->text().position(end);
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, string());
+    finder.setPosition(text_->text().position(begin));
     for (auto from = finder.position(); from < last; from = finder.position()) {
         const auto next = finder.toNextBoundary();
         if (next < 0)
             break;
-        if (from < lines_[lineOf(from)].end)
+        if (from < lines()[lineOf(from)].end)
             characters.push_back(characterRect(from, next));
     }
     return joined(std::move(characters));
@@ -267,7 +153,7 @@ std::vector<QRectF> TextLayout::rangeRects(std::size_t begin, std::size_t end) c
 
 QRectF TextLayout::characterRect(qsizetype begin, qsizetype end) const {
     const auto number = lineOf(begin);
-    const auto& line = lines_[number];
+    const auto& line = lines()[number];
     const auto shown = line.textLine();
     const auto first = static_cast<int>(begin - line.offset);
     const auto last = static_cast<int>(end - 1 - line.offset);
@@ -281,16 +167,16 @@ QRectF TextLayout::characterRect(qsizetype begin, qsizetype end) const {
 }
 
 std::size_t TextLayout::indexAfter(std::size_t index) const {
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text_.string());
-    finder.setPosition(text_.position(index));
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, string());
+    finder.setPosition(text_->text().position(index));
     const auto next = finder.toNextBoundary();
-    return text_.byteIndex(next < 0 ? text_.string().size() : next);
+    return text_->text().byteIndex(next < 0 ? string().size() : next);
 }
 
 std::size_t TextLayout::indexBefore(std::size_t index) const {
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text_.string());
-    finder.setPosition(text_.position(index));
-    return text_.byteIndex(std::max<qsizetype>(finder.toPreviousBoundary(), 0));
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, string());
+    finder.setPosition(text_->text().position(index));
+    return text_->text().byteIndex(std::max<qsizetype>(finder.toPreviousBoundary(), 0));
 }
 
 void TextLayout::paint(QPainter& painter, QPointF origin, const QColor& color) const {
@@ -316,7 +202,7 @@ void TextLayout::paint(QPainter& painter, QPointF origin, const QColor& color) c
     painter.resetTransform();
     const auto pixel = 1 / painter.device()->devicePixelRatioF();
     painter.scale(pixel, pixel);
-    drawBandByBand(painter, pixels.topLeft(), image);
+    PainterBands::draw(painter, pixels.topLeft(), image);
     painter.restore();
 }
 
@@ -325,20 +211,20 @@ void TextLayout::paintLines(QPainter& painter, QPointF origin, const QColor& col
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     painter.translate(origin);
     painter.scale(unit_, unit_);
-    for (std::size_t number = 0; number < lines_.size(); ++number) {
-        const auto line = lines_[number].textLine();
+    for (std::size_t number = 0; number < lines().size(); ++number) {
+        const auto line = lines()[number].textLine();
         line.draw(&painter,
-                  QPointF(left(lines_[number]), baseline(number)) / unit_ - QPointF(0, line.ascent()));
+                  QPointF(left(lines()[number]), baseline(number)) / unit_ - QPointF(0, line.ascent()));
     }
 }
 
 QRectF TextLayout::inkRect() const {
-    const auto height = static_cast<double>(lines_.size()) * style_.lineHeight();
+    const auto height = static_cast<double>(lines().size()) * style_.lineHeight();
     const auto beyond = style_.size / 2; // letters with marks above or below, and slanted ones
     return QRectF(0, 0, boxWidth(), height).adjusted(-beyond, -beyond, beyond, beyond);
 }
 
-double TextLayout::lineWidth(const Line& line) const {
+double TextLayout::lineWidth(const TextLines::Line& line) const {
     return std::min(line.textLine().naturalTextWidth() * unit_, options_.maximumWidth);
 }
 
@@ -346,7 +232,7 @@ double TextLayout::boxWidth() const {
     return std::isinf(options_.maximumWidth) ? size().width() : options_.maximumWidth;
 }
 
-double TextLayout::left(const Line& line) const {
+double TextLayout::left(const TextLines::Line& line) const {
     const double free = boxWidth() - lineWidth(line);
     switch (options_.alignment) {
     case HorizontalAlignment::Left:
@@ -360,9 +246,9 @@ double TextLayout::left(const Line& line) const {
 }
 
 std::size_t TextLayout::lineOf(qsizetype position) const {
-    const auto startsBehind = [&](const Line& line) {
+    const auto startsBehind = [&](const TextLines::Line& line) {
         return line.offset + line.textLine().textStart() > position;
     };
-    const auto behind = std::ranges::find_if(lines_, startsBehind);
-    return static_cast<std::size_t>(std::max<std::ptrdiff_t>(behind - lines_.begin() - 1, 0));
+    const auto behind = std::ranges::find_if(lines(), startsBehind);
+    return static_cast<std::size_t>(std::max<std::ptrdiff_t>(behind - lines().begin() - 1, 0));
 }

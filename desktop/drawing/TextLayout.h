@@ -1,13 +1,13 @@
 #pragma once
 
 #include "FontStyle.h"
-#include "Utf16Text.h"
+#include "TextLines.h"
 
 #include <QColor>
 #include <QPointF>
 #include <QRectF>
 #include <QSizeF>
-#include <QTextLayout>
+#include <QString>
 #include <cstddef>
 #include <limits>
 #include <memory>
@@ -38,10 +38,10 @@ public:
     /// The widest line by all lines, up to whole pixels. An empty text is one line high and has no width.
     [[nodiscard]] QSizeF size() const;
 
-    [[nodiscard]] std::size_t lineCount() const { return lines_.size(); }
+    [[nodiscard]] std::size_t lineCount() const { return lines().size(); }
 
     /// Whether there is text that is not shown.
-    [[nodiscard]] bool isTruncated() const { return isTruncated_; }
+    [[nodiscard]] bool isTruncated() const { return text_->isTruncated(); }
 
     /// From the top to a line's baseline.
     [[nodiscard]] double baseline(std::size_t line) const;
@@ -72,36 +72,21 @@ public:
     void paint(QPainter& painter, QPointF origin, const QColor& color) const;
 
 private:
-    struct Line {
-        std::shared_ptr<QTextLayout> layout; ///< of the paragraph, or of the line alone when it is cut short
-        int number = 0;                      ///< within the layout
-        qsizetype offset = 0;                ///< of the layout's text within the whole
-        qsizetype end = 0;                   ///< of what the line shows of the text
+    [[nodiscard]] const std::vector<TextLines::Line>& lines() const { return text_->lines(); }
 
-        [[nodiscard]] QTextLine textLine() const { return layout->lineAt(number); }
-    };
+    [[nodiscard]] const QString& string() const { return text_->text().string(); }
 
-    void breakIntoLines();
-    void breakParagraph(qsizetype begin, qsizetype end);
-
-    /// Lays the last line out again as one that goes on to the end of its paragraph, and is cut.
-    void cutLastLine(qsizetype paragraphEnd);
-
-    [[nodiscard]] QString beginningWithRoomForEllipsis(const QString& text) const;
-    [[nodiscard]] std::shared_ptr<QTextLayout> layoutOf(const QString& text) const;
-    [[nodiscard]] double lineWidth(const Line& line) const;
+    [[nodiscard]] double lineWidth(const TextLines::Line& line) const;
     [[nodiscard]] double boxWidth() const;
-    [[nodiscard]] double left(const Line& line) const;
+    [[nodiscard]] double left(const TextLines::Line& line) const;
     [[nodiscard]] std::size_t lineOf(qsizetype position) const;
     void paintLines(QPainter& painter, QPointF origin, const QColor& color) const;
     /// What letters may reach.
     [[nodiscard]] QRectF inkRect() const;
     [[nodiscard]] QRectF characterRect(qsizetype begin, qsizetype end) const;
 
-    Utf16Text text_;
     FontStyle style_;
     double unit_; ///< of Qt's layouts, in points
     TextLayoutOptions options_;
-    std::vector<Line> lines_;
-    bool isTruncated_ = false;
+    std::shared_ptr<const TextLines> text_;
 };

@@ -74,7 +74,7 @@ LayerLook LayerLook::of(const CALayerPeer& layer, const AffineTransform& toPixel
             .roundBottom = layer.roundBottom,
             .backdrop = layer.backdrop,
             .shadowPath = layer.shadowPath,
-            .contentVersion = layer.contentVersion(),
+            .contentVersion = hasContents ? layer.contentVersion() : 0,
             .traits = hasContents ? layer.delegate->layerTraits() : Traits()};
 }
 

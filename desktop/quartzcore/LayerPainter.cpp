@@ -5,6 +5,17 @@
 #include "PixelComponents.h"
 
 #include <algorithm>
+#include <climits>
+
+namespace {
+
+/// As long as the picture lives and is not painted.
+QImage partOf(const QImage& picture, const QRect& part) {
+    const auto* const begin = picture.constScanLine(part.top()) + part.left() * picture.depth() / CHAR_BIT;
+    return {begin, part.width(), part.height(), picture.bytesPerLine(), picture.format()};
+}
+
+} // namespace
 
 void LayerPainter::paint(const PaintList& list, const QRegion& damage, QImage& picture) {
     use(list);
@@ -46,8 +57,9 @@ const QImage& LayerPainter::smallerPictureOf(const PaintItem& item, int factor) 
 QImage LayerPainter::smallerPicture(const PaintItem& item, const QRect& part, QSize size) {
     const auto& list = *item.inner;
     if (!list.hasPictures())
-        return PixelComponents::reduced(pictureOf(item, part).copy(part), size).toImage();
+        return PixelComponents::reduced(partOf(pictureOf(item, part), part), size).toImage();
     QImage smaller(size, QImage::Format_ARGB32_Premultiplied);
+    smaller.fill(Qt::transparent); // what has soft edges leaves something of what was there
     const QRegion all(smaller.rect());
     Painting(list.reduced(list.items().size(), part, size), all, smaller, Qt::transparent, *this).paintAll();
     return smaller;
@@ -62,7 +74,7 @@ LayerPictures::Kept& LayerPainter::compare(const PaintItem& item) {
     if (kept.shown != nullptr && kept.picture.size() == item.inner->size()) {
         damage = damageBetween(*kept.shown, *item.inner);
     } else {
-        kept.picture = QImage(item.inner->size(), QImage::Format_ARGB32_Premultiplied);
+        kept.picture = pictures_.make(item.inner->size());
         kept.outdated = {}; // of the picture before, which may have been larger
     }
     if (!damage.isEmpty())

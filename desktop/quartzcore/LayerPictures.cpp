@@ -1,6 +1,15 @@
 #include "LayerPictures.h"
 
+#include "PicturePool.h"
+
 #include <algorithm>
+
+namespace {
+
+/// How much larger a picture may be than one that is made in its memory.
+constexpr double mostRoom = 1.125;
+
+} // namespace
 
 LayerPictures::Kept& LayerPictures::use(std::uint64_t identity) {
     auto& kept = kept_[identity];
@@ -10,6 +19,31 @@ LayerPictures::Kept& LayerPictures::use(std::uint64_t identity) {
 
 const QImage& LayerPictures::picture(std::uint64_t identity) const {
     return kept_.at(identity).picture;
+}
+
+QImage LayerPictures::make(QSize size) {
+    auto& pool = PicturePool::shared();
+    if (!pool.isReadyFor(size))
+        dropSpare(size);
+    return pool.make(size);
+}
+
+/// One of about that size, the longest unused.
+void LayerPictures::dropSpare(QSize size) {
+    const auto pixels = [](QSize of) { return static_cast<double>(of.width()) * of.height(); };
+    const auto needed = pixels(size);
+    const auto isSpare = [&](const Kept& kept) {
+        const auto has = pixels(kept.picture.size());
+        return kept.lastUse + paintingsSpare < painting_ && has >= needed && has <= needed * mostRoom;
+    };
+    auto spare = kept_.end();
+    for (auto entry = kept_.begin(); entry != kept_.end(); ++entry) {
+        const auto isFirst = spare == kept_.end() || entry->second.lastUse < spare->second.lastUse;
+        if (isFirst && isSpare(entry->second))
+            spare = entry;
+    }
+    if (spare != kept_.end())
+        kept_.erase(spare);
 }
 
 void LayerPictures::paintingEnded() {

@@ -13,10 +13,13 @@
 class LayerPictures {
 public:
     /// Bytes of pictures that are kept, but for those that the last painting showed.
-    static constexpr qsizetype capacity = qsizetype{48} << 20;
+    static constexpr qsizetype capacity = qsizetype{24} << 20;
 
     /// Paintings in a row that need not use a picture before it is dropped.
     static constexpr std::uint64_t paintingsUnused = 240;
+
+    /// From when on it gives its memory to another that is needed.
+    static constexpr std::uint64_t paintingsSpare = 60;
 
     struct Kept {
         std::shared_ptr<const PaintList> shown; ///< null until there is a picture
@@ -32,11 +35,17 @@ public:
     /// The same without that. \pre there is one
     [[nodiscard]] const QImage& picture(std::uint64_t identity) const;
 
+    /// A picture whose pixels may be anything, in memory that is there already if there is some: of one that
+    /// ended, or of one that has not been used for a while, which then is no more.
+    [[nodiscard]] QImage make(QSize size);
+
     /// A painting is over: drops what was not used for long, and beyond the capacity what this one did not
     /// use, the longest unused first.
     void paintingEnded();
 
 private:
+    void dropSpare(QSize size);
+
     std::unordered_map<std::uint64_t, Kept> kept_;
     std::uint64_t painting_ = 1;
 };

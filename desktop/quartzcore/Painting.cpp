@@ -2,6 +2,8 @@
 
 #include "LayerDelegate.h"
 #include "LayerPainter.h"
+#include "PainterBands.h"
+#include "PicturePool.h"
 #include "PixelRects.h"
 #include "ScaledPicture.h"
 #include "ShadowRenderer.h"
@@ -61,13 +63,7 @@ QRegion softEdges(const PaintItem& item) {
 /// The parts of a region that are painted one by one. They depend on nothing but all of it, since where a
 /// picture begins decides about the last digits of its pixels.
 std::vector<QRect> partsOf(const QRegion& region) {
-    constexpr auto rowsAtOnce = 64; // more are shared out to threads, which costs more than it saves
-    std::vector<QRect> parts;
-    for (const auto& rect : region) {
-        for (auto top = rect.top(); top <= rect.bottom(); top += rowsAtOnce)
-            parts.push_back(QRect(rect.left(), top, rect.width(), rowsAtOnce) & rect);
-    }
-    return parts;
+    return PainterBands::of(region);
 }
 
 /// A part of a picture in which a shape is filled.
@@ -280,6 +276,7 @@ BlurredBackdrop Painting::backdropOf(std::size_t index, const Backdrop& backdrop
     const QSize size(std::max(1, full.width() / factor), std::max(1, full.height() / factor));
     const auto list = list_.reduced(index, item.body, size);
     QImage behind(size, QImage::Format_ARGB32_Premultiplied);
+    behind.fill(color_); // what has soft edges leaves something of what was there
     const QRegion all(behind.rect());
     Painting(list, all, behind, color_, painter_).paintAll();
     const auto smaller = std::sqrt(static_cast<double>(size.width()) * size.height() /
@@ -342,8 +339,8 @@ void Painting::paintScaledPicture(const PaintItem& item, const QRegion& region, 
     if (const auto times = timesSmaller(item); times > 1) {
         surface.painter.resetTransform();
         surface.painter.setClipRegion(region);
-        surface.painter.drawImage(item.placeOfInner(item.partPaintedSmaller()),
-                                  painter_.smallerPictureOf(item, times));
+        PainterBands::draw(surface.painter, item.placeOfInner(item.partPaintedSmaller()),
+                           painter_.smallerPictureOf(item, times));
         return;
     }
     const auto& image = painter_.pictureOf(item, pixelsOfPicture(item, region));
@@ -351,7 +348,7 @@ void Painting::paintScaledPicture(const PaintItem& item, const QRegion& region, 
     for (const auto& rect : region& item.opaque)
         scaled.copyTo(surface.image, rect);
     for (const auto& rect : region - item.opaque) {
-        QImage part(rect.size(), QImage::Format_ARGB32_Premultiplied);
+        auto part = PicturePool::shared().make(rect.size());
         scaled.copyTo(part, rect, rect.topLeft());
         PixelRects::paintOver(surface.image, rect, part, rect.topLeft(), 1);
     }

@@ -1,11 +1,13 @@
 #include "ScratchImages.h"
 
+#include "PicturePool.h"
+
 QImage& ScratchImages::take(QSize size) {
     if (taken_ == images_.size())
         images_.emplace_back();
     auto& image = images_[taken_++];
     const auto needed = image.size().expandedTo(size);
     if (image.size() != needed)
-        image = QImage(needed, QImage::Format_ARGB32_Premultiplied);
+        image = PicturePool::shared().make(needed);
     return image;
 }

@@ -1,6 +1,7 @@
 #include "screen/Compositor.h"
 
 #include "PaintDamage.h"
+#include "PicturePool.h"
 #include "screen/Screen.h"
 #include "screen/UIWindow.h"
 
@@ -25,7 +26,7 @@ const QImage& Compositor::render() {
     if (picture_.size() == now.size()) {
         lastDamage_ = damageBetween(shown_, now);
     } else {
-        picture_ = QImage(now.size(), QImage::Format_ARGB32_Premultiplied);
+        picture_ = PicturePool::shared().make(now.size());
         lastDamage_ = picture_.rect();
     }
     if (!lastDamage_.isEmpty())

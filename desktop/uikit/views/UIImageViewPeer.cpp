@@ -68,6 +68,11 @@ std::optional<double> UIImageViewPeer::intrinsicHeight() const {
     return image_ ? std::optional(image_->size().height) : std::nullopt;
 }
 
+void UIImageViewPeer::tintColorDidChange() {
+    if (image_ && image_->isTemplate())
+        setNeedsDisplay();
+}
+
 PropertyList::Dictionary UIImageViewPeer::inspectedProperties() const {
     if (!image_)
         return {};

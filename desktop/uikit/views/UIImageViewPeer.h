@@ -26,6 +26,7 @@ public:
     [[nodiscard]] CGSize sizeThatFits(CGSize room) const override;
     [[nodiscard]] std::optional<double> intrinsicWidth() const override;
     [[nodiscard]] std::optional<double> intrinsicHeight() const override;
+    void tintColorDidChange() override;
     [[nodiscard]] PropertyList::Dictionary inspectedProperties() const override;
     void drawLayer(QPainter& painter, const CGRect& bounds, const Traits& traits) override;
     [[nodiscard]] CGRect contentsRect(const CGRect& bounds) const override;

@@ -143,8 +143,8 @@ public:
 
     void setTintColor(const Ref<UIColor>& color);
 
-    /// What `UIView::tintColorDidChange` does.
-    virtual void tintColorDidChange() { setNeedsDisplay(); }
+    /// What `UIView::tintColorDidChange` does. What shows the tint is painted again by whoever paints it.
+    virtual void tintColorDidChange() {}
 
     /// Whether this view and those within it are grey where they would be tinted, as what something modal
     /// covers is. Not so until it is told.

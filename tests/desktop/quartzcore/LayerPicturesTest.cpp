@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 namespace {
 
 constexpr auto half = LayerPictures::capacity / 2;
@@ -53,6 +55,26 @@ TEST(LayerPicturesTest, DropsWhatWasNotUsedForLong) {
         pictures.paintingEnded();
     }
     pictures.paintingEnded();
+    EXPECT_FALSE(pictures.use(1).picture.isNull());
+    EXPECT_TRUE(pictures.use(2).picture.isNull());
+}
+
+TEST(LayerPicturesTest, WhatIsNotUsedForAWhileGivesItsMemory) {
+    LayerPictures pictures;
+    pictures.use(1).picture = pictures.make({600, 600});
+    pictures.use(2).picture = pictures.make({600, 600});
+    std::vector<QImage> others;
+    const auto* const spare = pictures.picture(2).constBits();
+    for (auto painting = std::uint64_t{0}; painting <= LayerPictures::paintingsSpare; ++painting) {
+        static_cast<void>(pictures.use(1));
+        others.push_back(pictures.make({600, 590}));
+        EXPECT_NE(others.back().constBits(), spare);
+        EXPECT_FALSE(pictures.picture(2).isNull());
+        pictures.paintingEnded();
+    }
+    static_cast<void>(pictures.use(1));
+    const auto other = pictures.make({600, 590});
+    EXPECT_EQ(other.constBits(), spare);
     EXPECT_FALSE(pictures.use(1).picture.isNull());
     EXPECT_TRUE(pictures.use(2).picture.isNull());
 }

@@ -1,9 +1,12 @@
 #include "DesktopImage.h"
 #include "UIKit/UIImageView.h"
+#include "UIKit/UILabel.h"
 #include "screen/ShownScreen.h"
 #include "views/UIViewPeer.h"
 
 #include <gtest/gtest.h>
+
+#include <cstdint>
 
 namespace {
 
@@ -13,6 +16,18 @@ ColorComponents backgroundOf(const UIView& view) {
 
 ColorComponents resolved(const Ref<UIColor>& color) {
     return DesktopColor::resolve(color, Traits());
+}
+
+Ref<UIImageView> imageView(UIImageRenderingMode mode) {
+    QImage square(40, 40, QImage::Format_ARGB32);
+    square.fill(Qt::black);
+    auto view = make<UIImageView>();
+    view->setImage(make<DesktopImage>(square, 1.0)->imageWithRenderingMode(mode));
+    return view;
+}
+
+std::uint64_t contentVersion(const UIView& view) {
+    return view.layer().peer().contentVersion();
 }
 
 TEST(UIViewLooks, InheritsTraitsFromTheSuperview) {
@@ -85,16 +100,38 @@ TEST(UIViewLooks, HasTheNearestTint) {
 TEST(UIViewLooks, IsPaintedAgainInAnotherTintUnlessItHasItsOwn) {
     const TestDevice device;
     const auto outer = make<UIView>();
-    const auto plain = make<UIView>();
-    const auto tinted = make<UIView>();
+    const auto plain = imageView(UIImageRenderingMode::AlwaysTemplate);
+    const auto tinted = imageView(UIImageRenderingMode::AlwaysTemplate);
     outer->addSubview(plain);
     outer->addSubview(tinted);
     tinted->peer().setTintColor(DesktopColor::fixed(green));
-    const auto plainVersion = plain->layer().peer().contentVersion();
-    const auto tintedVersion = tinted->layer().peer().contentVersion();
+    const auto plainVersion = contentVersion(*plain);
+    const auto tintedVersion = contentVersion(*tinted);
     outer->peer().setTintColor(DesktopColor::fixed(red));
-    EXPECT_GT(plain->layer().peer().contentVersion(), plainVersion);
-    EXPECT_EQ(tinted->layer().peer().contentVersion(), tintedVersion);
+    EXPECT_GT(contentVersion(*plain), plainVersion);
+    EXPECT_EQ(contentVersion(*tinted), tintedVersion);
+}
+
+TEST(UIViewLooks, IsNotPaintedAgainInAnotherTintThatItDoesNotShow) {
+    ShownScreen shown;
+    const auto outer = shown.add(CGRectMake(0, 0, 40, 40), blue);
+    const auto original = imageView(UIImageRenderingMode::AlwaysOriginal);
+    original->setFrame(CGRectMake(0, 0, 20, 20));
+    const auto label = make<UILabel>();
+    label->setText("W");
+    label->setFrame(CGRectMake(20, 20, 20, 20));
+    const auto shape = imageView(UIImageRenderingMode::AlwaysTemplate);
+    shape->setFrame(CGRectMake(30, 0, 10, 10));
+    for (const auto& view : {Ref<UIView>(original), Ref<UIView>(label), Ref<UIView>(shape)})
+        outer->addSubview(view);
+    static_cast<void>(shown.compositor.render());
+    outer->setTintColor(DesktopColor::fixed(red));
+    EXPECT_EQ(shown.pixel(35, 5), QColor(Qt::red));
+    const auto& damage = shown.compositor.lastDamage();
+    EXPECT_TRUE(damage.contains(QPoint(35, 5)));
+    EXPECT_FALSE(damage.contains(QPoint(10, 10)));
+    EXPECT_FALSE(damage.contains(QPoint(30, 30)));
+    EXPECT_FALSE(damage.contains(QPoint(10, 30)));
 }
 
 TEST(UIViewLooks, TellsItsOwnTintFromTheOneAboveIt) {
@@ -112,12 +149,8 @@ TEST(UIViewLooks, PaintsTemplateImagesInTheNearestTint) {
     ShownScreen shown;
     const auto outer = shown.add(CGRectMake(0, 0, 40, 40), {.alpha = 0});
     const auto inner = ShownScreen::add(*outer, CGRectMake(0, 0, 40, 40), {.alpha = 0});
-    const auto image = make<UIImageView>();
+    const auto image = imageView(UIImageRenderingMode::AlwaysTemplate);
     image->setFrame(CGRectMake(0, 0, 40, 40));
-    QImage square(40, 40, QImage::Format_ARGB32);
-    square.fill(Qt::black);
-    const auto picture = make<DesktopImage>(square, 1.0);
-    image->setImage(picture->imageWithRenderingMode(UIImageRenderingMode::AlwaysTemplate));
     outer->setTintColor(DesktopColor::fixed(red));
     inner->addSubview(image);
     EXPECT_EQ(shown.pixel(20, 20), QColor(Qt::red));
@@ -137,16 +170,16 @@ TEST(UIViewLooks, IsGreyWhereItWouldBeTintedWhileItsTintIsDimmed) {
     const TestDevice device;
     const auto outer = make<UIView>();
     const auto plain = make<UIView>();
-    const auto tinted = make<UIView>();
+    const auto tinted = imageView(UIImageRenderingMode::AlwaysTemplate);
     outer->addSubview(plain);
     plain->addSubview(tinted);
     tinted->peer().setTintColor(DesktopColor::fixed(green));
     const auto grey = systemColor(SystemColor::Gray, Appearance::Light);
-    const auto version = tinted->layer().peer().contentVersion();
+    const auto version = contentVersion(*tinted);
     outer->peer().setTintDimmed(true);
     EXPECT_EQ(resolved(plain->peer().tintColor()), grey);
     EXPECT_EQ(resolved(tinted->peer().tintColor()), grey);
-    EXPECT_GT(tinted->layer().peer().contentVersion(), version);
+    EXPECT_GT(contentVersion(*tinted), version);
     outer->peer().setTintDimmed(false);
     EXPECT_EQ(resolved(plain->peer().tintColor()), systemColor(SystemColor::Blue, Appearance::Light));
     EXPECT_EQ(resolved(tinted->peer().tintColor()), green);

@@ -1,0 +1,73 @@
+#include "PicturePool.h"
+
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace {
+
+constexpr QSize large(1000, 1000);
+constexpr auto largeBytes = std::size_t{4} * 1000 * 1000;
+
+} // namespace
+
+TEST(PicturePoolTest, APictureIsOneAsAnyOther) {
+    PicturePool pool;
+    for (const auto size : {QSize(3, 5), QSize(300, 300), large, QSize(1000, 1)}) {
+        auto picture = pool.make(size);
+        EXPECT_EQ(picture.size(), size);
+        EXPECT_EQ(picture.format(), QImage::Format_ARGB32_Premultiplied);
+        picture.fill(Qt::red);
+        EXPECT_EQ(picture.pixelColor(size.width() - 1, size.height() - 1), QColor(Qt::red));
+        const auto copy = picture;
+        picture.fill(Qt::blue);
+        EXPECT_EQ(copy.pixelColor(0, 0), QColor(Qt::red));
+    }
+    EXPECT_TRUE(pool.make({}).isNull());
+}
+
+TEST(PicturePoolTest, MemoryGoesFromAPictureToTheNextOfAboutItsSize) {
+    PicturePool pool;
+    auto picture = std::optional(pool.make(large));
+    const auto* const memory = picture->constBits();
+    EXPECT_EQ(pool.keptBytes(), 0U);
+    picture.reset();
+    EXPECT_GE(pool.keptBytes(), largeBytes);
+    const auto muchSmaller = pool.make({500, 500});
+    EXPECT_NE(muchSmaller.constBits(), memory);
+    const auto larger = pool.make({1000, 1200});
+    EXPECT_NE(larger.constBits(), memory);
+    const auto next = pool.make({980, 1000});
+    EXPECT_EQ(next.constBits(), memory);
+    EXPECT_EQ(pool.keptBytes(), 0U);
+    EXPECT_NE(pool.make({980, 1000}).constBits(), memory);
+}
+
+TEST(PicturePoolTest, SmallPicturesAreNotKept) {
+    PicturePool pool;
+    static_cast<void>(pool.make({100, 100}));
+    EXPECT_EQ(pool.keptBytes(), 0U);
+}
+
+TEST(PicturePoolTest, NoMoreIsKeptThanItsCapacity) {
+    PicturePool pool;
+    std::vector<QImage> pictures;
+    for (std::size_t bytes = 0; bytes < 2 * PicturePool::capacity; bytes += largeBytes)
+        pictures.push_back(pool.make(large));
+    pictures.clear();
+    EXPECT_LE(pool.keptBytes(), PicturePool::capacity);
+    EXPECT_GT(pool.keptBytes(), PicturePool::capacity / 2);
+    static_cast<void>(pool.make({4000, 4000})); // which alone is larger
+    EXPECT_EQ(pool.keptBytes(), 0U);
+}
+
+TEST(PicturePoolTest, APictureMayOutliveThePool) {
+    auto pool = std::make_unique<PicturePool>();
+    auto picture = pool->make(large);
+    pool.reset();
+    picture.fill(Qt::green);
+    EXPECT_EQ(picture.pixelColor(999, 999), QColor(Qt::green));
+}
