@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <bit>
+#include <iterator>
+#include <ranges>
 #include <utility>
 
 namespace {
@@ -17,7 +19,7 @@ std::size_t bytesOf(QSize size) {
 /// What is made for a picture, so that it suits those that are a little larger, too.
 std::size_t sizeWithRoom(std::size_t size) {
     constexpr std::size_t parts = 8; // of the power of two below
-    const auto part = std::bit_floor(size) / parts;
+    const auto part = std::max<std::size_t>(std::bit_floor(size) / parts, 1);
     return (size / part + 1) * part;
 }
 
@@ -129,8 +131,8 @@ bool PicturePool::isReadyFor(QSize size) const {
 
 PicturePool::Block PicturePool::blockFor(std::size_t size) {
     auto& blocks = kept_->blocks;
-    const auto last = std::find_if(blocks.rbegin(), blocks.rend(),
-                                   [size](const Block& block) { return block.suits(size); });
+    const auto last = std::ranges::find_if(std::views::reverse(blocks),
+                                           [size](const Block& block) { return block.suits(size); });
     if (last == blocks.rend())
         return Block(sizeWithRoom(size));
     auto block = std::move(*last);

@@ -355,9 +355,9 @@ TEST_F(ProgramTest, DoesNotBeginWithoutTheFacesOfItsTexts) {
     const auto told = folder_.path() + "/told";
     std::ofstream(noFonts) << "<fontconfig></fontconfig>";
     for (const std::string mode : {"--drive ", ""}) {
-        const auto command = "QT_QPA_PLATFORM=offscreen FONTCONFIG_FILE=" + noFonts +
-                             " timeout 60 " PROGRAM " " + mode + "--device-root " + root_ + " </dev/null 2>" +
-                             told;
+        std::string command("QT_QPA_PLATFORM=offscreen FONTCONFIG_FILE=");
+        command.append(noFonts).append(" timeout 60 " PROGRAM " ").append(mode);
+        command.append("--device-root ").append(root_).append(" </dev/null 2>").append(told);
         EXPECT_EQ(exitCodeOf({"-c", command}, "/bin/sh"), 1) << mode;
         std::ifstream message(told);
         const std::string text(std::istreambuf_iterator<char>(message), {});
