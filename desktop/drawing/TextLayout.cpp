@@ -10,6 +10,7 @@
 #include <QPainter>
 #include <QRawFont>
 #include <QTextBoundaryFinder>
+#include <QTextLayout>
 #include <QTransform>
 #include <algorithm>
 #include <cmath>

@@ -2,6 +2,7 @@
 
 #include "FontFaces.h"
 
+#include <QTextLayout>
 #include <QTextOption>
 #include <algorithm>
 
@@ -63,6 +64,10 @@ QString withoutTrailingSpaces(QString text) {
 }
 
 } // namespace
+
+QTextLine TextLines::Line::textLine() const {
+    return layout->lineAt(number);
+}
 
 TextLines::TextLines(std::string_view text, const FontStyle& style, const Room& room)
     : text_(text),

@@ -4,12 +4,14 @@
 #include "Utf16Text.h"
 
 #include <QString>
-#include <QTextLayout>
 #include <cstddef>
 #include <limits>
 #include <memory>
 #include <string_view>
 #include <vector>
+
+class QTextLayout;
+class QTextLine;
 
 /// A text of one style that is broken into lines, whose glyphs are found and placed: what is dear of a text.
 /// Never changed once it is made, so that whoever measures and paints the same text shares it.
@@ -30,7 +32,7 @@ public:
         qsizetype offset = 0;                ///< of the layout's text within the whole
         qsizetype end = 0;                   ///< of what the line shows of the text
 
-        [[nodiscard]] QTextLine textLine() const { return layout->lineAt(number); }
+        [[nodiscard]] QTextLine textLine() const;
     };
 
     TextLines(std::string_view text, const FontStyle& style, const Room& room);

@@ -2,7 +2,8 @@
 
 #include <QImage>
 #include <cstddef>
-#include <deque>
+#include <memory>
+#include <vector>
 
 /// Pictures that are needed for a while within a painting. Keeps them for the next one.
 class ScratchImages {
@@ -15,6 +16,6 @@ public:
     void release() { --taken_; }
 
 private:
-    std::deque<QImage> images_;
+    std::vector<std::unique_ptr<QImage>> images_; ///< which stay where they are
     std::size_t taken_ = 0;
 };

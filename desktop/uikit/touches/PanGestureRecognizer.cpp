@@ -62,7 +62,7 @@ void PanGestureRecognizer::didReset() {
 }
 
 void PanGestureRecognizer::record(const DesktopTouch& touch) {
+    std::erase_if(samples_,
+                  [now = touch.time()](const Sample& sample) { return sample.time < now - speedWindow; });
     samples_.push_back({touch.place(), touch.time()});
-    while (samples_.front().time < touch.time() - speedWindow)
-        samples_.pop_front();
 }

@@ -3,7 +3,7 @@
 #include "touches/GestureRecognizer.h"
 
 #include <chrono>
-#include <deque>
+#include <vector>
 
 /// A finger that draws something along; begins once it has moved by `slop`. Made by whoever adds it to a
 /// view.
@@ -39,5 +39,5 @@ private:
 
     CGPoint start_;
     CGPoint slopUsed_; ///< the part of the movement that came before the gesture
-    std::deque<Sample> samples_;
+    std::vector<Sample> samples_; ///< a few
 };

@@ -6,6 +6,7 @@
 
 #include <QImage>
 #include <QPainter>
+#include <QTextLayout>
 #include <string>
 
 namespace {
