@@ -3,7 +3,7 @@
 #include "DesktopColor.h"
 #include "Device.h"
 #include "ObjectiveC/Class.h"
-#include "PSControlTableCellPeer.h"
+#include "cells/PSControlTableCellPeer.h"
 #include "cells/RowControl.h"
 #include "controls/UISliderPeer.h"
 #include "views/UILabelPeer.h"

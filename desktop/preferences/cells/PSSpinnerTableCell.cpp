@@ -2,7 +2,7 @@
 
 #include "DesktopColor.h"
 #include "ObjectiveC/Class.h"
-#include "PSTableCellPeer.h"
+#include "cells/PSTableCellPeer.h"
 
 #include <QPainter>
 #include <memory>

@@ -1,6 +1,6 @@
-#include "cells/RadioGroup.h"
+#include "specifiers/RadioGroup.h"
 
-#include "cells/SpecifierChoices.h"
+#include "specifiers/SpecifierChoices.h"
 
 bool isChoice(const DesktopSpecifier& row) {
     const auto group = row.group();

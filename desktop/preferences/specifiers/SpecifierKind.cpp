@@ -1,4 +1,4 @@
-#include "SpecifierKind.h"
+#include "specifiers/SpecifierKind.h"
 
 #include <algorithm>
 #include <array>

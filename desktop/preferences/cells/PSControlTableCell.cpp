@@ -1,7 +1,7 @@
 #include "Preferences/PSControlTableCell.h"
 
 #include "ObjectiveC/Class.h"
-#include "PSControlTableCellPeer.h"
+#include "cells/PSControlTableCellPeer.h"
 
 #include <utility>
 

@@ -1,4 +1,4 @@
-#include "DesktopSpecifier.h"
+#include "specifiers/DesktopSpecifier.h"
 
 #include "ObjectiveC/Class.h"
 #include "TestDevice.h"

@@ -1,7 +1,7 @@
 #include "Preferences/PSTableCell.h"
 
 #include "ObjectiveC/Class.h"
-#include "PSTableCellPeer.h"
+#include "cells/PSTableCellPeer.h"
 
 #include <utility>
 

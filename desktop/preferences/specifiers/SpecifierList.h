@@ -1,7 +1,7 @@
 #pragma once
 
 #include "DesktopBundle.h"
-#include "DesktopSpecifier.h"
+#include "specifiers/DesktopSpecifier.h"
 
 #include <string>
 #include <string_view>

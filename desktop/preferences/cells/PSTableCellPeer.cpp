@@ -1,9 +1,9 @@
-#include "PSTableCellPeer.h"
+#include "cells/PSTableCellPeer.h"
 
 #include "DesktopColor.h"
-#include "PSHeaderFooterView.h"
-#include "cells/RadioGroup.h"
-#include "cells/SpecifierChoices.h"
+#include "cells/PSHeaderFooterView.h"
+#include "specifiers/RadioGroup.h"
+#include "specifiers/SpecifierChoices.h"
 #include "views/UILabelPeer.h"
 
 namespace {

@@ -1,4 +1,4 @@
-#include "SpecifierSections.h"
+#include "specifiers/SpecifierSections.h"
 
 std::vector<SpecifierSection> sectionsOf(const std::vector<Ref<PSSpecifier>>& specifiers) {
     std::vector<SpecifierSection> sections;

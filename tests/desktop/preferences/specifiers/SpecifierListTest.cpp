@@ -1,4 +1,4 @@
-#include "SpecifierList.h"
+#include "specifiers/SpecifierList.h"
 
 #include "DesktopBundle.h"
 #include "DesktopImage.h"

@@ -1,9 +1,9 @@
 #include "DesktopColor.h"
 #include "ObjectiveC/Class.h"
-#include "PSControlTableCellPeer.h"
-#include "PSTableCellPeer.h"
 #include "PageFixture.h"
 #include "Preferences/PSSwitchTableCell.h"
+#include "cells/PSControlTableCellPeer.h"
+#include "cells/PSTableCellPeer.h"
 #include "controls/UISwitchPeer.h"
 #include "views/UILabelPeer.h"
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "DesktopSpecifier.h"
 #include "Preferences/PSListController.h"
 #include "Preferences/PSTableCell.h"
+#include "specifiers/DesktopSpecifier.h"
 #include "tables/UITableViewCellPeer.h"
 
 #include <optional>

@@ -1,4 +1,4 @@
-#include "DesktopSpecifier.h"
+#include "specifiers/DesktopSpecifier.h"
 
 #include "Foundation/NSLog.h"
 #include "ObjectiveC/Class.h"

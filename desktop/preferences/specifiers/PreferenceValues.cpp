@@ -1,4 +1,4 @@
-#include "PreferenceValues.h"
+#include "specifiers/PreferenceValues.h"
 
 #include "CoreFoundation/DarwinNotifyCenter.h"
 #include "Foundation/NSLog.h"

@@ -1,7 +1,7 @@
 #include "Preferences/PSSwitchTableCell.h"
 
 #include "ObjectiveC/Class.h"
-#include "PSControlTableCellPeer.h"
+#include "cells/PSControlTableCellPeer.h"
 #include "cells/RowControl.h"
 #include "controls/UISwitchPeer.h"
 

@@ -1,4 +1,4 @@
-#include "cells/SpecifierChoices.h"
+#include "specifiers/SpecifierChoices.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -1,4 +1,4 @@
-#include "DeviceCapabilities.h"
+#include "specifiers/DeviceCapabilities.h"
 
 #include <algorithm>
 #include <array>

@@ -1,4 +1,4 @@
-#include "SpecifierLocalizer.h"
+#include "specifiers/SpecifierLocalizer.h"
 
 #include <array>
 

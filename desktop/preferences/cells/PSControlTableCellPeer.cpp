@@ -1,4 +1,4 @@
-#include "PSControlTableCellPeer.h"
+#include "cells/PSControlTableCellPeer.h"
 
 void PSControlTableCellPeer::setControl(const Ref<UIControl>& control) {
     control_ = control;

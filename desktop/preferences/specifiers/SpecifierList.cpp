@@ -1,12 +1,12 @@
-#include "SpecifierList.h"
+#include "specifiers/SpecifierList.h"
 
 #include "DesktopImage.h"
-#include "DeviceCapabilities.h"
 #include "Foundation/NSDictionary.h"
 #include "Foundation/NSLog.h"
 #include "Foundation/NSString.h"
-#include "SpecifierLocalizer.h"
-#include "SpecifierProperties.h"
+#include "specifiers/DeviceCapabilities.h"
+#include "specifiers/SpecifierLocalizer.h"
+#include "specifiers/SpecifierProperties.h"
 
 #include <utility>
 

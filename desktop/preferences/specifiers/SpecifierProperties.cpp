@@ -1,6 +1,6 @@
-#include "SpecifierProperties.h"
+#include "specifiers/SpecifierProperties.h"
 
-#include "DesktopSpecifier.h"
+#include "specifiers/DesktopSpecifier.h"
 
 #include <array>
 #include <string_view>

@@ -1,7 +1,7 @@
 #include "CALayerPeer.h"
 #include "Foundation/NSUserDefaults.h"
-#include "PSControlTableCellPeer.h"
 #include "PageFixture.h"
+#include "cells/PSControlTableCellPeer.h"
 #include "controls/UISwitchPeer.h"
 #include "system/DarwinNotifications.h"
 

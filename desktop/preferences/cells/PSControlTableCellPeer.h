@@ -1,8 +1,8 @@
 #pragma once
 
-#include "PSTableCellPeer.h"
 #include "Preferences/PSControlTableCell.h"
 #include "UIKit/UIControl.h"
+#include "cells/PSTableCellPeer.h"
 
 /// The desktop's half of a row with a control. Made with the cell.
 class PSControlTableCellPeer : public PSTableCellPeer {

@@ -1,4 +1,4 @@
-#include "PSHeaderFooterView.h"
+#include "cells/PSHeaderFooterView.h"
 
 #include "ObjectiveC/Method.h"
 

@@ -3,8 +3,8 @@
 #include "Foundation/PropertyList.h"
 #include "ObjectiveC/Weak.h"
 #include "Preferences/PSSpecifier.h"
-#include "SpecifierKind.h"
 #include "UIKit/UIImage.h"
+#include "specifiers/SpecifierKind.h"
 
 #include <functional>
 #include <initializer_list>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "DesktopSpecifier.h"
+#include "specifiers/DesktopSpecifier.h"
 
 #include <optional>
 

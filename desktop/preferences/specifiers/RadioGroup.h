@@ -1,6 +1,6 @@
 #pragma once
 
-#include "DesktopSpecifier.h"
+#include "specifiers/DesktopSpecifier.h"
 
 /// Whether the row is one of a group of which one at a time is chosen: a "PSListItemCell" below a group with
 /// "isRadioGroup".
