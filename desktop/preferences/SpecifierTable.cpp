@@ -1,6 +1,7 @@
 #include "SpecifierTable.h"
 
 #include "DesktopColor.h"
+#include "RectGeometry.h"
 #include "SpecifierViews.h"
 #include "cells/PSHeaderFooterView.h"
 #include "cells/PSTableCellPeer.h"

@@ -7,6 +7,7 @@
 #include "EntryList.h"
 #include "HomeSwipeRecognizer.h"
 #include "ObjectiveC/Weak.h"
+#include "RectGeometry.h"
 #include "navigation/UINavigationControllerPeer.h"
 #include "screen/DesktopApplication.h"
 #include "screen/Screen.h"

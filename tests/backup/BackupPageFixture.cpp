@@ -9,6 +9,7 @@
 #include "LoadedBundles.h"
 #include "ObjectiveC/Class.h"
 #include "PreferenceStore.h"
+#include "RectGeometry.h"
 #include "accessibility/AccessibilityElement.h"
 #include "controllers/DesktopNavigationItem.h"
 #include "navigation/UINavigationControllerPeer.h"

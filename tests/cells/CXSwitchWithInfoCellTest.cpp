@@ -1,6 +1,7 @@
 #include "CXSwitchWithInfoCell.h"
 
 #include "CellFixture.h"
+#include "RectGeometry.h"
 #include "UIKit/UIAlertController.h"
 #include "accessibility/AccessibilityElement.h"
 #include "alerts/UIAlertControllerPeer.h"

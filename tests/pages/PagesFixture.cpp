@@ -4,6 +4,7 @@
 #include "Foundation/NSUserDefaults.h"
 #include "LoadedBundles.h"
 #include "ObjectiveC/Class.h"
+#include "RectGeometry.h"
 
 #include <algorithm>
 #include <array>

@@ -1,5 +1,6 @@
 #include "CoreFoundation/CFString.h"
 #include "PreferenceKeys.h"
+#include "RectGeometry.h"
 #include "RootPageFixture.h"
 #include "controllers/UIViewControllerPeer.h"
 #include "controls/UISwitchPeer.h"

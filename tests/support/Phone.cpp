@@ -1,5 +1,6 @@
 #include "Phone.h"
 
+#include "RectGeometry.h"
 #include "views/UIViewPeer.h"
 
 Phone::Phone(const Screen::Options& options, const TestDevice::Settings& settings)

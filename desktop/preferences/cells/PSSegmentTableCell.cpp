@@ -1,6 +1,7 @@
 #include "cells/PSSegmentTableCell.h"
 
 #include "ObjectiveC/Class.h"
+#include "RectGeometry.h"
 #include "cells/PSControlTableCellPeer.h"
 #include "cells/RowControl.h"
 #include "controls/UISegmentedControlPeer.h"

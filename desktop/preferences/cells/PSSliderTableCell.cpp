@@ -3,6 +3,7 @@
 #include "DesktopColor.h"
 #include "Device.h"
 #include "ObjectiveC/Class.h"
+#include "RectGeometry.h"
 #include "cells/PSControlTableCellPeer.h"
 #include "cells/RowControl.h"
 #include "controls/UISliderPeer.h"

@@ -2,6 +2,7 @@
 
 #include "DesktopColor.h"
 #include "ObjectiveC/Class.h"
+#include "RectGeometry.h"
 #include "cells/PSTableCellPeer.h"
 
 #include <QPainter>

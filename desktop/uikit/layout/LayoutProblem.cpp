@@ -2,6 +2,7 @@
 
 #include "Foundation/NSLog.h"
 #include "ObjectiveC/Class.h"
+#include "RectGeometry.h"
 #include "layout/NSLayoutConstraintPeer.h"
 #include "views/UIViewPeer.h"
 #include "views/ViewLayout.h"

@@ -3,6 +3,7 @@
 #include "DesktopBundle.h"
 #include "LoadedBundles.h"
 #include "ObjectiveC/Class.h"
+#include "RectGeometry.h"
 
 #include <algorithm>
 

@@ -1,6 +1,7 @@
 #include "CALayerPeer.h"
 #include "Foundation/NSUserDefaults.h"
 #include "PageFixture.h"
+#include "RectGeometry.h"
 #include "cells/PSControlTableCellPeer.h"
 #include "controls/UISwitchPeer.h"
 #include "system/DarwinNotifications.h"
