@@ -3,8 +3,10 @@
 #include "RectGeometry.h"
 #include "views/UIViewPeer.h"
 
+#include <chrono>
+
 Phone::Phone(const Screen::Options& options, const TestDevice::Settings& settings)
-    : device(settings),
+    : DeviceTest(settings),
       screen(options) {
     screen.addWindow(window);
 }
