@@ -1,6 +1,7 @@
 #include "DeviceInstaller.h"
 #include "DrivenShell.h"
 #include "ProcessorTime.h"
+#include "RectGeometry.h"
 #include "TestDevice.h"
 #include "controllers/DesktopNavigationItem.h"
 #include "controllers/UIViewControllerPeer.h"

@@ -26,10 +26,6 @@ bool LinearExpression::isFinite() const {
 }
 
 void LinearExpression::add(const LinearExpression& other, double factor) {
-    if (&other == this) {
-        *this *= 1 + factor;
-        return;
-    }
     constant_ += factor * other.constant_;
     for (const auto& term : other.terms_) {
         const auto own = std::ranges::find(terms_, term.variable, &Term::variable);
@@ -50,17 +46,7 @@ LinearExpression operator-(LinearExpression left, const LinearExpression& right)
     return left;
 }
 
-LinearExpression operator-(LinearExpression expression) {
-    expression *= -1;
-    return expression;
-}
-
 LinearExpression operator*(double factor, LinearExpression expression) {
-    expression *= factor;
-    return expression;
-}
-
-LinearExpression operator*(LinearExpression expression, double factor) {
     expression *= factor;
     return expression;
 }

@@ -37,6 +37,4 @@ private:
 
 [[nodiscard]] LinearExpression operator+(LinearExpression left, const LinearExpression& right);
 [[nodiscard]] LinearExpression operator-(LinearExpression left, const LinearExpression& right);
-[[nodiscard]] LinearExpression operator-(LinearExpression expression);
 [[nodiscard]] LinearExpression operator*(double factor, LinearExpression expression);
-[[nodiscard]] LinearExpression operator*(LinearExpression expression, double factor);

@@ -167,19 +167,6 @@ QRectF TextLayout::characterRect(qsizetype begin, qsizetype end) const {
             (sides.right - sides.left) * unit_, style_.lineHeight()};
 }
 
-std::size_t TextLayout::indexAfter(std::size_t index) const {
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, string());
-    finder.setPosition(text_->text().position(index));
-    const auto next = finder.toNextBoundary();
-    return text_->text().byteIndex(next < 0 ? string().size() : next);
-}
-
-std::size_t TextLayout::indexBefore(std::size_t index) const {
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, string());
-    finder.setPosition(text_->text().position(index));
-    return text_->text().byteIndex(std::max<qsizetype>(finder.toPreviousBoundary(), 0));
-}
-
 void TextLayout::paint(QPainter& painter, QPointF origin, const QColor& color) const {
     const auto pixels = pixelsIn(painter, inkRect().translated(origin));
     if (pixels.isEmpty())

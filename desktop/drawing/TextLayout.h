@@ -60,12 +60,6 @@ public:
     /// rectangle of the line's height for all that stand side by side. Those that are cut off are left out.
     [[nodiscard]] std::vector<QRectF> rangeRects(std::size_t begin, std::size_t end) const;
 
-    /// The index of the next character, or the end.
-    [[nodiscard]] std::size_t indexAfter(std::size_t index) const;
-
-    /// The index of the previous character, or 0.
-    [[nodiscard]] std::size_t indexBefore(std::size_t index) const;
-
     /// Covers as much of each pixel as the letters do, on every background: on an opaque one Qt would blend
     /// letters as if for another gamma, thinner in black and heavier in white.
     /// \param origin where the layout's upper left corner is painted

@@ -3,8 +3,8 @@
 #include "DrivenApplication.h"
 #include "JsonValues.h"
 #include "PSListControllerPeer.h"
-#include "cells/RadioGroup.h"
 #include "screen/Screen.h"
+#include "specifiers/RadioGroup.h"
 
 #include <QJsonObject>
 

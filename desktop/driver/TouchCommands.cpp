@@ -4,6 +4,7 @@
 #include "JsonValues.h"
 #include "NumberText.h"
 #include "ObjectiveC/Class.h"
+#include "RectGeometry.h"
 #include "accessibility/AccessibilityElement.h"
 #include "screen/Screen.h"
 #include "screen/TouchDispatcher.h"

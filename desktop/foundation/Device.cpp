@@ -5,6 +5,7 @@
 #include "Foundation/NSLog.h"
 #include "preferences/PreferenceDomains.h"
 #include "preferences/PreferenceFolder.h"
+#include "system/ApplicationSuspension.h"
 #include "system/ApplicationTermination.h"
 #include "system/DarwinNotifications.h"
 #include "system/SystemSounds.h"
@@ -49,6 +50,7 @@ Device::Device(Options options)
       notifications_(std::make_unique<DarwinNotifications>()),
       sounds_(std::make_unique<SystemSounds>()),
       urls_(std::make_unique<UrlOpener>()),
+      suspensions_(std::make_unique<ApplicationSuspension>()),
       terminations_(std::make_unique<ApplicationTermination>()) {
     if (currentDevice != nullptr)
         endProgram("a second device was made while there is one");

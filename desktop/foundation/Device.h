@@ -7,6 +7,7 @@
 #include <memory>
 #include <string>
 
+class ApplicationSuspension;
 class ApplicationTermination;
 class DarwinNotifications;
 class DesktopBundle;
@@ -58,6 +59,8 @@ public:
 
     [[nodiscard]] UrlOpener& urls() { return *urls_; }
 
+    [[nodiscard]] ApplicationSuspension& suspensions() { return *suspensions_; }
+
     [[nodiscard]] ApplicationTermination& terminations() { return *terminations_; }
 
     /// The user's folders, as device paths without a "/" at the end.
@@ -75,5 +78,6 @@ private:
     std::unique_ptr<DarwinNotifications> notifications_;
     std::unique_ptr<SystemSounds> sounds_;
     std::unique_ptr<UrlOpener> urls_;
+    std::unique_ptr<ApplicationSuspension> suspensions_;
     std::unique_ptr<ApplicationTermination> terminations_;
 };

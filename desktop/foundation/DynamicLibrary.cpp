@@ -41,8 +41,6 @@ DynamicLibrary::DynamicLibrary(std::unique_ptr<State> state) : state_(std::move(
 
 DynamicLibrary::DynamicLibrary(DynamicLibrary&& other) noexcept = default;
 
-DynamicLibrary& DynamicLibrary::operator=(DynamicLibrary&& other) noexcept = default;
-
 DynamicLibrary::~DynamicLibrary() = default;
 
 void* DynamicLibrary::symbol(const std::string& name) const {

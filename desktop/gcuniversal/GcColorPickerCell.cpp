@@ -5,8 +5,8 @@
 #include "GcColorPickerController.h"
 #include "ObjectiveC/Class.h"
 #include "PSListControllerPeer.h"
-#include "PSTableCellPeer.h"
 #include "UIKit/UINavigationController.h"
+#include "cells/PSTableCellPeer.h"
 
 #include <memory>
 

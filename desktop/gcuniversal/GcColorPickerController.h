@@ -1,8 +1,8 @@
 #pragma once
 
 #include "ColorComponents.h"
-#include "DesktopSpecifier.h"
 #include "UIKit/UIViewController.h"
+#include "specifiers/DesktopSpecifier.h"
 
 #include <functional>
 #include <string>

@@ -4,9 +4,9 @@
 #include "GcImagePickerController.h"
 #include "ObjectiveC/Class.h"
 #include "PSListControllerPeer.h"
-#include "PSTableCellPeer.h"
 #include "RowImage.h"
 #include "UIKit/UINavigationController.h"
+#include "cells/PSTableCellPeer.h"
 
 #include <memory>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "DesktopSpecifier.h"
 #include "UIKit/UIViewController.h"
+#include "specifiers/DesktopSpecifier.h"
 
 #include <functional>
 

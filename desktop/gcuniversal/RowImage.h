@@ -1,7 +1,7 @@
 #pragma once
 
-#include "DesktopSpecifier.h"
 #include "UIKit/UIImage.h"
+#include "specifiers/DesktopSpecifier.h"
 
 #include <expected>
 #include <string>

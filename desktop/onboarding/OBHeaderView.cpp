@@ -2,6 +2,7 @@
 
 #include "DesktopImage.h"
 #include "ObjectiveC/Class.h"
+#include "RectGeometry.h"
 #include "views/UILabelPeer.h"
 #include "views/WrappedLabel.h"
 

@@ -3,6 +3,7 @@
 #include "CALayerPeer.h"
 #include "DesktopColor.h"
 #include "ObjectiveC/Class.h"
+#include "RectGeometry.h"
 #include "scrolling/UIScrollViewPeer.h"
 
 #include <algorithm>

@@ -3,8 +3,8 @@
 #include "LoadedBundles.h"
 #include "ObjectiveC/Class.h"
 #include "PSListControllerPeer.h"
-#include "PreferenceValues.h"
-#include "SpecifierList.h"
+#include "specifiers/PreferenceValues.h"
+#include "specifiers/SpecifierList.h"
 
 #include <array>
 #include <span>

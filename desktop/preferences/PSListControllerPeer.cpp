@@ -5,7 +5,7 @@
 #include "PSListItemsController.h"
 #include "RowConfirmation.h"
 #include "UIKit/UINavigationController.h"
-#include "cells/RadioGroup.h"
+#include "specifiers/RadioGroup.h"
 
 #include <utility>
 

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "DesktopSpecifier.h"
 #include "ListRow.h"
 #include "Preferences/PSListController.h"
 #include "SpecifierTable.h"
 #include "controllers/UIViewControllerPeer.h"
+#include "specifiers/DesktopSpecifier.h"
 
 #include <cstddef>
 #include <memory>

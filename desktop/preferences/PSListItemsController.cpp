@@ -2,7 +2,7 @@
 
 #include "ObjectiveC/Class.h"
 #include "PSListControllerPeer.h"
-#include "cells/SpecifierChoices.h"
+#include "specifiers/SpecifierChoices.h"
 
 #include <utility>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "DesktopSpecifier.h"
 #include "Preferences/PSListController.h"
+#include "specifiers/DesktopSpecifier.h"
 
 #include <optional>
 

@@ -1,11 +1,12 @@
 #include "SpecifierTable.h"
 
 #include "DesktopColor.h"
-#include "PSHeaderFooterView.h"
-#include "PSTableCellPeer.h"
+#include "RectGeometry.h"
 #include "SpecifierViews.h"
-#include "cells/RadioGroup.h"
+#include "cells/PSHeaderFooterView.h"
+#include "cells/PSTableCellPeer.h"
 #include "screen/Screen.h"
+#include "specifiers/RadioGroup.h"
 #include "typing/TextInput.h"
 
 #include <algorithm>

@@ -2,8 +2,8 @@
 
 #include "Preferences/PSListController.h"
 #include "Preferences/PSTableCell.h"
-#include "SpecifierSections.h"
 #include "UIKit/UITableView.h"
+#include "specifiers/SpecifierSections.h"
 #include "tables/TableContent.h"
 #include "tables/UITableViewPeer.h"
 

@@ -2,13 +2,13 @@
 
 #include "Foundation/NSLog.h"
 #include "ObjectiveC/Class.h"
-#include "PSHeaderFooterView.h"
-#include "PSTableCellPeer.h"
 #include "Preferences/PSSwitchTableCell.h"
 #include "cells/PSEditableTableCell.h"
+#include "cells/PSHeaderFooterView.h"
 #include "cells/PSSegmentTableCell.h"
 #include "cells/PSSliderTableCell.h"
 #include "cells/PSSpinnerTableCell.h"
+#include "cells/PSTableCellPeer.h"
 
 namespace {
 

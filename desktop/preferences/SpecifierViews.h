@@ -1,7 +1,7 @@
 #pragma once
 
-#include "DesktopSpecifier.h"
 #include "Preferences/PSTableCell.h"
+#include "specifiers/DesktopSpecifier.h"
 
 #include <string>
 #include <string_view>

@@ -1,5 +1,7 @@
 #include "AffineTransform.h"
 
+#include "RectGeometry.h"
+
 #include <algorithm>
 #include <array>
 

@@ -2,6 +2,7 @@
 
 #include "LayerDelegate.h"
 #include "QuartzCore/CALayer.h"
+#include "RectGeometry.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,12 +1,12 @@
 #include "AboutPage.h"
 
-#include "DesktopSpecifier.h"
 #include "Device.h"
 #include "Foundation/Format.h"
 #include "ObjectiveC/Class.h"
 #include "SystemTexts.h"
 #include "controllers/UIViewControllerPeer.h"
 #include "screen/Screen.h"
+#include "specifiers/DesktopSpecifier.h"
 #include "texts/LanguageNames.h"
 
 #include <array>

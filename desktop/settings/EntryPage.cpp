@@ -2,7 +2,7 @@
 
 #include "DesktopBundle.h"
 #include "EntryList.h"
-#include "SpecifierList.h"
+#include "specifiers/SpecifierList.h"
 
 PSListController::Specifiers EntryPage::specifiers() {
     if (cachedSpecifiers().empty()) {

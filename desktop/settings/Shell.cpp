@@ -7,10 +7,11 @@
 #include "EntryList.h"
 #include "HomeSwipeRecognizer.h"
 #include "ObjectiveC/Weak.h"
+#include "RectGeometry.h"
 #include "navigation/UINavigationControllerPeer.h"
-#include "screen/DesktopApplication.h"
 #include "screen/Screen.h"
 #include "screen/TouchDispatcher.h"
+#include "system/ApplicationSuspension.h"
 #include "system/ApplicationTermination.h"
 #include "time/MainQueueScheduler.h"
 #include "views/UIViewPeer.h"
@@ -83,12 +84,12 @@ Shell::Shell() : homeWindow_(make<UIWindow>()), home_(make<HomeView>([this] { la
     homeWindow_->addSubview(home_);
     screen.addWindow(homeWindow_);
     makeIconWindow();
-    DesktopApplication::shared().setSuspendHandler([this] { goHome(); });
+    Device::current().suspensions().setHandler([this] { goHome(); });
     Device::current().terminations().setHandler([this](const auto& request) { end(request.identifier); });
 }
 
 Shell::~Shell() {
-    DesktopApplication::shared().setSuspendHandler({});
+    Device::current().suspensions().setHandler({});
     Device::current().terminations().setHandler({});
     endSettings();
     Screen::current().removeWindow(*homeWindow_);

@@ -4,6 +4,7 @@
 #include "DesktopClipboard.h"
 #include "DesktopFileDialog.h"
 #include "Device.h"
+#include "RectGeometry.h"
 #include "TextKeys.h"
 #include "WindowAccessibility.h"
 #include "controls/Adjustable.h"

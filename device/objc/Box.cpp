@@ -47,5 +47,5 @@ id makeBox(std::unique_ptr<BoxContent> content) {
 }
 
 BoxContent* boxContent(id object) {
-    return object != nullptr && object_getClass(object) == boxClass() ? contentOf(object) : nullptr;
+    return object_getClass(object) == boxClass() ? contentOf(object) : nullptr;
 }

@@ -27,7 +27,6 @@ std::optional<DynamicLibrary> DynamicLibrary::open(std::string_view path, Bindin
 DynamicLibrary::DynamicLibrary(std::unique_ptr<State> state) : state_(std::move(state)) {}
 
 DynamicLibrary::DynamicLibrary(DynamicLibrary&& other) noexcept = default;
-DynamicLibrary& DynamicLibrary::operator=(DynamicLibrary&& other) noexcept = default;
 DynamicLibrary::~DynamicLibrary() = default;
 
 void* DynamicLibrary::symbol(const std::string& name) const {

@@ -40,31 +40,3 @@ constexpr CGRect CGRectMake(double x, double y, double width, double height) {
 constexpr bool CGRectIsEmpty(const CGRect& rect) {
     return rect.size.width <= 0 || rect.size.height <= 0;
 }
-
-constexpr double CGRectGetMidX(const CGRect& rect) {
-    return rect.origin.x + rect.size.width / 2;
-}
-
-constexpr double CGRectGetMidY(const CGRect& rect) {
-    return rect.origin.y + rect.size.height / 2;
-}
-
-constexpr double CGRectGetMaxX(const CGRect& rect) {
-    return rect.origin.x + rect.size.width;
-}
-
-constexpr double CGRectGetMaxY(const CGRect& rect) {
-    return rect.origin.y + rect.size.height;
-}
-
-/// The left and top edges are inside, the right and bottom ones are not.
-constexpr bool CGRectContainsPoint(const CGRect& rect, CGPoint point) {
-    return point.x >= rect.origin.x && point.x < CGRectGetMaxX(rect) && point.y >= rect.origin.y &&
-           point.y < CGRectGetMaxY(rect);
-}
-
-/// The rectangle within the insets; negative insets grow it.
-constexpr CGRect UIEdgeInsetsInsetRect(const CGRect& rect, const UIEdgeInsets& insets) {
-    return {{rect.origin.x + insets.left, rect.origin.y + insets.top},
-            {rect.size.width - insets.left - insets.right, rect.size.height - insets.top - insets.bottom}};
-}

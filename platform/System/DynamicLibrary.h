@@ -17,7 +17,6 @@ public:
     [[nodiscard]] static std::optional<DynamicLibrary> open(std::string_view path, Binding binding);
 
     DynamicLibrary(DynamicLibrary&& other) noexcept;
-    DynamicLibrary& operator=(DynamicLibrary&& other) noexcept;
     ~DynamicLibrary();
 
     /// The address of an exported symbol; null when the library has none of that name, or is closed.

@@ -1,17 +1,12 @@
 #include "BackupPageFixture.h"
 
-#include "DesktopBundle.h"
 #include "Device.h"
-#include "Foundation/NSDictionary.h"
 #include "Foundation/NSFileManager.h"
 #include "Foundation/NSString.h"
 #include "LibArchive.h"
-#include "LoadedBundles.h"
-#include "ObjectiveC/Class.h"
-#include "PreferenceStore.h"
+#include "RectGeometry.h"
 #include "accessibility/AccessibilityElement.h"
 #include "controllers/DesktopNavigationItem.h"
-#include "navigation/UINavigationControllerPeer.h"
 #include "system/DarwinNotifications.h"
 #include "typing/EditedText.h"
 #include "typing/TextInput.h"
@@ -36,21 +31,9 @@ bool canBePressed(const AccessibilityElement& element) {
 
 } // namespace
 
-BackupPageFixture::BackupPageFixture(const Screen::Options& options) : Phone(options) {
-    device.write(std::string(bundlePath) + "/BackupRestore.plist", list);
-    LoadedBundles::shared().addClass(*NSClassFromString("cxBackupRestoreController"),
-                                     DesktopBundle::withPath(bundlePath));
+BackupPageFixture::BackupPageFixture(const Screen::Options& options)
+    : PanePage("cxBackupRestoreController", "BackupRestore", list, options) {
     page = make<cxBackupRestoreController>();
-}
-
-BackupPageFixture::~BackupPageFixture() {
-    LoadedBundles::shared().removeBundle(bundlePath);
-}
-
-void BackupPageFixture::show() {
-    Phone::show(navigation);
-    peerOf<UINavigationControllerPeer>(*navigation).push(page, false);
-    settle();
 }
 
 void BackupPageFixture::openAnew() {
@@ -136,18 +119,6 @@ void BackupPageFixture::chooseBackup(const std::string& title) {
     page->showBackupList();
     settle();
     tapOn(title);
-}
-
-void BackupPageFixture::store(const PropertyList& value, std::string_view key) {
-    const auto suite = PreferenceStore::open();
-    suite->setObject(value, key);
-    suite->synchronize();
-}
-
-std::optional<PropertyList> BackupPageFixture::stored(std::string_view key) {
-    const auto all = dictionaryWithContentsOfFile(preferencesFile).value_or(PropertyList::Dictionary());
-    const auto found = all.find(key);
-    return found != all.end() ? std::optional(found->second) : std::nullopt;
 }
 
 BackupPageFixture::Names BackupPageFixture::namesIn(std::string_view folder) {

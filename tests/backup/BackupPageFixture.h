@@ -1,12 +1,10 @@
 #pragma once
 
-#include "Phone.h"
-#include "UIKit/UINavigationController.h"
+#include "PanePage.h"
 #include "controllers/DesktopBarButtonItem.h"
 #include "cxBackupRestoreController.h"
 
 #include <map>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -14,26 +12,23 @@
 
 /// The page of backups on a device's screen, in a navigation controller, and what it does to the device's
 /// files.
-class BackupPageFixture : public Phone {
+class BackupPageFixture : public PanePage {
 protected:
-    using Log = std::vector<std::string>;
     using Names = std::vector<std::string>;
     using Files = std::map<std::string, std::string>;
     /// A message's title and text.
     using Message = std::pair<std::string, std::string>;
 
-    static constexpr auto bundlePath = "/var/jb/Library/PreferenceBundles/corvexPrefs.bundle";
     static constexpr auto backupsFolder = "/var/mobile/Documents/CorvexBackups";
     static constexpr auto temporaryFolder = "/var/mobile/tmp";
     static constexpr auto imageFolder = "/var/jb/var/mobile/Library/Preferences/com.orvel.corvexprefs";
-    static constexpr auto preferencesFile = "/var/mobile/Library/Preferences/com.orvel.corvexprefs.plist";
     static constexpr auto essentialPreferences =
         "<plist version=\"1.0\"><dict><key>kEnabled</key><true/></dict></plist>";
 
     explicit BackupPageFixture(const Screen::Options& options = {});
-    ~BackupPageFixture() override;
 
-    void show();
+    void show() { showPage(page); }
+
     /// The page that is shown is another one.
     void openAnew();
 
@@ -58,8 +53,6 @@ protected:
     void chooseBackup(const std::string& title);
 
     // What is on the device.
-    static void store(const PropertyList& value, std::string_view key);
-    [[nodiscard]] static std::optional<PropertyList> stored(std::string_view key);
     [[nodiscard]] static Names namesIn(std::string_view folder);
     [[nodiscard]] bool exists(std::string_view path) const;
     /// The files of an archive by name.
@@ -72,6 +65,5 @@ protected:
     void makeFile(const std::string& name);
     [[nodiscard]] static Names notifications();
 
-    Ref<UINavigationController> navigation = make<UINavigationController>();
     Ref<cxBackupRestoreController> page;
 };

@@ -1,6 +1,7 @@
 #include "BackupPageFixture.h"
 #include "DesktopColor.h"
 #include "ObjectiveC/AttachedValues.h"
+#include "RectGeometry.h"
 #include "UIKit/UITextField.h"
 #include "controllers/UIViewControllerPeer.h"
 #include "text/UITextFieldPeer.h"

@@ -1,10 +1,11 @@
 #include "CXSwitchWithInfoCell.h"
 
 #include "CellFixture.h"
-#include "PSControlTableCellPeer.h"
+#include "RectGeometry.h"
 #include "UIKit/UIAlertController.h"
 #include "accessibility/AccessibilityElement.h"
 #include "alerts/UIAlertControllerPeer.h"
+#include "cells/PSControlTableCellPeer.h"
 #include "views/UILabelPeer.h"
 
 #include <algorithm>

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "DesktopSpecifier.h"
 #include "Phone.h"
 #include "Preferences/PSListController.h"
 #include "Preferences/PSTableCell.h"
 #include "UIKit/UIControl.h"
 #include "UIKit/UINavigationController.h"
+#include "specifiers/DesktopSpecifier.h"
 
 #include <string>
 #include <vector>

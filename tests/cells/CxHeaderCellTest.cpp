@@ -9,6 +9,7 @@
 #include "ObjectiveC/Class.h"
 #include "PngFile.h"
 #include "QuartzCore/CAGradientLayer.h"
+#include "RectGeometry.h"
 #include "layout/UIStackViewPeer.h"
 #include "views/UIImageViewPeer.h"
 #include "views/UILabelPeer.h"

@@ -4,8 +4,8 @@
 #include "Foundation/NSUserDefaults.h"
 #include "LoadedBundles.h"
 #include "ObjectiveC/Class.h"
+#include "RectGeometry.h"
 
-#include <algorithm>
 #include <array>
 
 namespace {
@@ -71,19 +71,6 @@ void PagesFixture::flip(const std::string& id) {
     const auto frame = screenFrame(cell(id));
     constexpr auto switchMiddle = 40.0; // from the card's right edge
     tap(CGPoint{CGRectGetMaxX(frame) - switchMiddle, CGRectGetMidY(frame)});
-}
-
-DesktopSpecifier& PagesFixture::specifier(const std::string& id) const {
-    return dynamic_cast<DesktopSpecifier&>(*page->specifierForID(id));
-}
-
-ListRow PagesFixture::listRow(const std::string& id) const {
-    const auto rows = peer().rows();
-    return *std::ranges::find(rows, id, &ListRow::id);
-}
-
-UITableViewCell& PagesFixture::cell(const std::string& id) const {
-    return dynamic_cast<UITableViewCell&>(*listRow(id).view);
 }
 
 CGRect PagesFixture::shownFrame(const std::string& id) const {

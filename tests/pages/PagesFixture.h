@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ListRows.h"
 #include "PSListControllerPeer.h"
 #include "Phone.h"
 #include "UIKit/UINavigationController.h"
@@ -43,9 +44,11 @@ protected:
 
     [[nodiscard]] UITableViewPeer& table() const { return peer().table(); }
 
-    [[nodiscard]] DesktopSpecifier& specifier(const std::string& id) const;
-    [[nodiscard]] ListRow listRow(const std::string& id) const;
-    [[nodiscard]] UITableViewCell& cell(const std::string& id) const;
+    [[nodiscard]] DesktopSpecifier& specifier(const std::string& id) const { return specifierOf(*page, id); }
+
+    [[nodiscard]] ListRow listRow(const std::string& id) const { return rowOf(*page, id); }
+
+    [[nodiscard]] UITableViewCell& cell(const std::string& id) const { return cellOf(*page, id); }
 
     [[nodiscard]] double heightOf(const std::string& id) const { return listRow(id).height; }
 

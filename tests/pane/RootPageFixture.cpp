@@ -1,17 +1,10 @@
 #include "RootPageFixture.h"
 
-#include "DesktopBundle.h"
-#include "Device.h"
-#include "Foundation/NSDictionary.h"
-#include "LoadedBundles.h"
-#include "PreferenceStore.h"
 #include "controllers/UIViewControllerPeer.h"
-#include "navigation/UINavigationControllerPeer.h"
 #include "views/UIViewPeer.h"
 
 namespace {
 
-constexpr auto preferences = "/var/mobile/Library/Preferences/com.orvel.corvexprefs.plist";
 constexpr auto list =
     R"(<plist version="1.0"><dict><key>title</key><string>Corvex</string><key>items</key><array>
        <dict><key>cell</key><string>PSGroupCell</string></dict>
@@ -20,23 +13,10 @@ constexpr auto list =
 
 } // namespace
 
-RootPageFixture::RootPageFixture(bool knowsWhatIsNew) {
-    device.write(std::string(bundlePath) + "/Root.plist", list);
-    LoadedBundles::shared().addClass(*NSClassFromString("cxRootListController"),
-                                     DesktopBundle::withPath(bundlePath));
+RootPageFixture::RootPageFixture(bool knowsWhatIsNew) : PanePage("cxRootListController", "Root", list) {
     if (knowsWhatIsNew)
         store("3.0.1", "LastVersionPopupShown");
     page = make<cxRootListController>();
-}
-
-RootPageFixture::~RootPageFixture() {
-    LoadedBundles::shared().removeBundle(bundlePath);
-}
-
-void RootPageFixture::show() {
-    Phone::show(navigation);
-    peerOf<UINavigationControllerPeer>(*navigation).push(page, false);
-    settle();
 }
 
 DesktopNavigationItem& RootPageFixture::item() const {
@@ -53,18 +33,6 @@ const DesktopBarButtonItem& RootPageFixture::gear() const {
 
 const DesktopMenu& RootPageFixture::menu() const {
     return dynamic_cast<const DesktopMenu&>(*gear().content().menu);
-}
-
-void RootPageFixture::store(const PropertyList& value, std::string_view key) {
-    const auto suite = PreferenceStore::open();
-    suite->setObject(value, key);
-    suite->synchronize();
-}
-
-std::optional<PropertyList> RootPageFixture::stored(std::string_view key) {
-    const auto all = dictionaryWithContentsOfFile(preferences);
-    const auto found = all ? all->find(key) : PropertyList::Dictionary::const_iterator();
-    return all && found != all->end() ? std::optional(found->second) : std::nullopt;
 }
 
 void RootPageFixture::tapMasterSwitch() {

@@ -1,10 +1,11 @@
 #include "CoreFoundation/CFString.h"
 #include "PreferenceKeys.h"
+#include "RectGeometry.h"
 #include "RootPageFixture.h"
 #include "controllers/UIViewControllerPeer.h"
 #include "controls/UISwitchPeer.h"
 #include "menus/DesktopAction.h"
-#include "screen/DesktopApplication.h"
+#include "system/ApplicationSuspension.h"
 #include "system/ApplicationTermination.h"
 #include "system/DarwinNotifications.h"
 #include "system/LibraryFiles.h"
@@ -34,12 +35,10 @@ using Requests = std::vector<ApplicationTermination::Request>;
 class cxRootListControllerResetTest : public RootPageFixture {
 protected:
     cxRootListControllerResetTest() : RootPageFixture(true) {
-        DesktopApplication::shared().setSuspendHandler([this] { ++suspensions; });
+        Device::current().suspensions().setHandler([this] { ++suspensions; });
         Device::current().terminations().setHandler(
             [this](const auto& request) { requests.push_back(request); });
     }
-
-    ~cxRootListControllerResetTest() override { DesktopApplication::shared().setSuspendHandler({}); }
 
     /// The library of the system's that ends applications.
     void installServices(const std::string& builtFile) const {
@@ -152,7 +151,7 @@ TEST_F(cxRootListControllerResetTest, ConfirmSuspendsOnceEverythingIsGoneAndEnds
     show();
     writeFiles();
     bool isGone = false;
-    DesktopApplication::shared().setSuspendHandler([&] {
+    Device::current().suspensions().setHandler([&] {
         ++suspensions;
         isGone = !stored("LastVersionPopupShown") &&
                  std::filesystem::is_empty(device.hostPath(preferenceFolder + "com.orvel.corvexprefs"));

@@ -2,6 +2,7 @@
 
 #include "AllCommands.h"
 #include "DeviceInstaller.h"
+#include "RectGeometry.h"
 #include "views/UIViewPeer.h"
 
 #include <cstdio>

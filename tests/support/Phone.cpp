@@ -1,9 +1,12 @@
 #include "Phone.h"
 
+#include "RectGeometry.h"
 #include "views/UIViewPeer.h"
 
+#include <chrono>
+
 Phone::Phone(const Screen::Options& options, const TestDevice::Settings& settings)
-    : device(settings),
+    : DeviceTest(settings),
       screen(options) {
     screen.addWindow(window);
 }

@@ -1,17 +1,13 @@
 #pragma once
 
-#include "TestDevice.h"
+#include "DeviceTest.h"
 #include "screen/Screen.h"
 #include "screen/TouchDispatcher.h"
 #include "screen/UIWindow.h"
 
-#include <gtest/gtest.h>
-
-#include <chrono>
-
 /// A device with a screen, an application's window on it and a finger: a phone, unless a test asks for
 /// another. What the tests of all that is shown and touched begin with.
-class Phone : public testing::Test {
+class Phone : public DeviceTest {
 protected:
     explicit Phone(const Screen::Options& options = {}, const TestDevice::Settings& settings = {});
 
@@ -39,13 +35,8 @@ protected:
     /// Comes down and moves in steps, 16 ms each; it stays down.
     void drag(CGPoint from, CGPoint to, int steps = 10);
 
-    void advance(std::chrono::nanoseconds duration) { device.advance(duration); }
-
-    void settle() { device.settle(); }
-
     [[nodiscard]] static CGRect screenFrame(const UIView& view);
 
-    TestDevice device;
     Screen screen;
     Ref<UIWindow> window = make<UIWindow>();
     TouchDispatcher finger;

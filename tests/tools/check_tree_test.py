@@ -210,6 +210,22 @@ class CheckTreeTest(unittest.TestCase):
             ],
         )
 
+    def test_rows_know_nothing_of_cells_and_cells_nothing_of_pages(self):
+        self.write("desktop/preferences/specifiers/DesktopSpecifier.h")
+        self.write("desktop/preferences/cells/PSTableCellPeer.h", '#include "specifiers/DesktopSpecifier.h"\n')
+        self.write("desktop/preferences/SpecifierTable.h", '#include "cells/PSTableCellPeer.h"\n')
+        self.assertEqual(self.check(), [])
+        self.write("desktop/preferences/specifiers/RadioGroup.h", '#include "cells/PSTableCellPeer.h"\n')
+        self.write("desktop/preferences/cells/RowControl.h", '#include "SpecifierTable.h"\n')
+        self.assertEqual(
+            self.check(),
+            [
+                "desktop/preferences/cells/RowControl.h:1: desktop/preferences/cells/ may not include SpecifierTable.h",
+                "desktop/preferences/specifiers/RadioGroup.h:1: "
+                "desktop/preferences/specifiers/ may not include cells/PSTableCellPeer.h",
+            ],
+        )
+
     def test_what_lies_beside_the_subfolders_is_above_them_all(self):
         self.write("desktop/foundation/Device.h", '#include "time/Clock.h"\n')
         self.write("desktop/foundation/time/Clock.h")

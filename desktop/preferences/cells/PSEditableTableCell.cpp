@@ -1,9 +1,9 @@
 #include "cells/PSEditableTableCell.h"
 
 #include "ObjectiveC/Class.h"
-#include "PSControlTableCellPeer.h"
+#include "cells/PSControlTableCellPeer.h"
 #include "cells/RowControl.h"
-#include "cells/SpecifierChoices.h"
+#include "specifiers/SpecifierChoices.h"
 #include "text/UITextFieldPeer.h"
 
 #include <algorithm>

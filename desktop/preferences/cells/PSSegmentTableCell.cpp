@@ -1,10 +1,11 @@
 #include "cells/PSSegmentTableCell.h"
 
 #include "ObjectiveC/Class.h"
-#include "PSControlTableCellPeer.h"
+#include "RectGeometry.h"
+#include "cells/PSControlTableCellPeer.h"
 #include "cells/RowControl.h"
-#include "cells/SpecifierChoices.h"
 #include "controls/UISegmentedControlPeer.h"
+#include "specifiers/SpecifierChoices.h"
 
 #include <memory>
 #include <utility>

@@ -2,7 +2,8 @@
 
 #include "DesktopColor.h"
 #include "ObjectiveC/Class.h"
-#include "PSTableCellPeer.h"
+#include "RectGeometry.h"
+#include "cells/PSTableCellPeer.h"
 
 #include <QPainter>
 #include <memory>

@@ -1,5 +1,6 @@
 #include "accessibility/AccessibilityElement.h"
 
+#include "RectGeometry.h"
 #include "screen/Screen.h"
 #include "screen/UIWindow.h"
 #include "scrolling/UIScrollViewPeer.h"

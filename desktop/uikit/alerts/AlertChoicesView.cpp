@@ -1,6 +1,7 @@
 #include "alerts/AlertChoicesView.h"
 
 #include "ObjectiveC/Class.h"
+#include "RectGeometry.h"
 #include "views/UIViewPeer.h"
 
 #include <algorithm>

@@ -3,6 +3,7 @@
 #include "AnimationGroup.h"
 #include "DesktopColor.h"
 #include "DesktopImage.h"
+#include "RectGeometry.h"
 #include "SystemTexts.h"
 #include "views/UIImageViewPeer.h"
 #include "views/UILabelPeer.h"

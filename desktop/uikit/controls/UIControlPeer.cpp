@@ -1,5 +1,6 @@
 #include "controls/UIControlPeer.h"
 
+#include "RectGeometry.h"
 #include "UIKit/UIEvent.h"
 
 #include <utility>

@@ -2,6 +2,7 @@
 
 #include "AnimationGroup.h"
 #include "DesktopColor.h"
+#include "RectGeometry.h"
 #include "touches/DesktopTouch.h"
 #include "views/UILabelPeer.h"
 

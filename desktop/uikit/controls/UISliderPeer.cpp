@@ -1,6 +1,7 @@
 #include "controls/UISliderPeer.h"
 
 #include "DesktopColor.h"
+#include "RectGeometry.h"
 #include "touches/DesktopTouch.h"
 
 #include <QString>

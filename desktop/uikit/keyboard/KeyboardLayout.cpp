@@ -1,5 +1,7 @@
 #include "keyboard/KeyboardLayout.h"
 
+#include "RectGeometry.h"
+
 #include <QString>
 #include <algorithm>
 #include <initializer_list>

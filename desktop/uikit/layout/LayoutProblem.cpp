@@ -2,6 +2,7 @@
 
 #include "Foundation/NSLog.h"
 #include "ObjectiveC/Class.h"
+#include "RectGeometry.h"
 #include "layout/NSLayoutConstraintPeer.h"
 #include "views/UIViewPeer.h"
 #include "views/ViewLayout.h"
@@ -110,7 +111,7 @@ void LayoutProblem::addConstraints(const UIView& view) {
         const auto first = expression(terms.first);
         const auto second = terms.second ? expression(*terms.second) : LinearExpression();
         if (first && second)
-            add({*first, terms.relation, *second * terms.factor + terms.constant, terms.priority});
+            add({*first, terms.relation, terms.factor * *second + terms.constant, terms.priority});
     }
 }
 
@@ -188,13 +189,13 @@ std::optional<LinearExpression> LayoutProblem::expression(const LayoutAnchor& an
     switch (anchor.attribute) {
     case LayoutAttribute::Leading:
     case LayoutAttribute::Top:
-        return mirrored ? (found->begin + found->length) * -1.0 : found->begin;
+        return mirrored ? -1.0 * (found->begin + found->length) : found->begin;
     case LayoutAttribute::Trailing:
     case LayoutAttribute::Bottom:
-        return mirrored ? found->begin * -1.0 : found->begin + found->length;
+        return mirrored ? -1.0 * found->begin : found->begin + found->length;
     case LayoutAttribute::CenterX:
     case LayoutAttribute::CenterY:
-        return (found->begin + found->length * 0.5) * (mirrored ? -1.0 : 1.0);
+        return (mirrored ? -1.0 : 1.0) * (found->begin + 0.5 * found->length);
     case LayoutAttribute::Width:
     case LayoutAttribute::Height:
         break;

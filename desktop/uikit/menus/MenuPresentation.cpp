@@ -3,6 +3,7 @@
 #include "AnimationGroup.h"
 #include "DesktopImage.h"
 #include "ObjectiveC/Class.h"
+#include "RectGeometry.h"
 #include "controls/UIControlPeer.h"
 #include "screen/Screen.h"
 #include "screen/UIWindow.h"

@@ -1,6 +1,7 @@
 #include "menus/MenuRowsView.h"
 
 #include "ObjectiveC/Class.h"
+#include "RectGeometry.h"
 #include "views/UIViewPeer.h"
 
 namespace {

@@ -1,5 +1,7 @@
 #include "presentation/PopoverGeometry.h"
 
+#include "RectGeometry.h"
+
 #include <algorithm>
 #include <array>
 

@@ -6,6 +6,7 @@
 #include "ObjectiveC/Class.h"
 #include "screen/Screen.h"
 #include "screen/UIWindow.h"
+#include "system/ApplicationSuspension.h"
 #include "system/UrlOpener.h"
 #include "views/UIViewPeer.h"
 
@@ -53,6 +54,5 @@ Ref<UIWindow> DesktopApplication::keyWindow() const {
 }
 
 void DesktopApplication::suspend() {
-    if (const auto handler = suspendHandler_)
-        handler();
+    Device::current().suspensions().request();
 }

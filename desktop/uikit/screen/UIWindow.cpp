@@ -1,6 +1,7 @@
 #include "screen/UIWindow.h"
 
 #include "ObjectiveC/Class.h"
+#include "RectGeometry.h"
 #include "controllers/UIViewControllerPeer.h"
 #include "screen/Screen.h"
 #include "screen/TouchDispatcher.h"

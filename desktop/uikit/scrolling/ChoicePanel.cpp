@@ -1,5 +1,6 @@
 #include "scrolling/ChoicePanel.h"
 
+#include "RectGeometry.h"
 #include "scrolling/UIScrollViewPeer.h"
 
 ChoicePanel::ChoicePanel(const Ref<FollowingControl>& choices)

@@ -2,6 +2,7 @@
 
 #include "AnimationGroup.h"
 #include "DesktopColor.h"
+#include "RectGeometry.h"
 #include "scrolling/UIScrollViewPeer.h"
 
 #include <algorithm>

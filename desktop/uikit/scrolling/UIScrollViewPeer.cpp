@@ -1,5 +1,6 @@
 #include "scrolling/UIScrollViewPeer.h"
 
+#include "RectGeometry.h"
 #include "UIKit/UIControl.h"
 #include "scrolling/ScrollIndicators.h"
 

@@ -1,6 +1,7 @@
 #include "tables/UITableViewPeer.h"
 
 #include "AnimationGroup.h"
+#include "RectGeometry.h"
 #include "tables/UITableViewCellPeer.h"
 
 #include <algorithm>

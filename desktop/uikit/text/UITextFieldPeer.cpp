@@ -2,6 +2,7 @@
 
 #include "AnimationGroup.h"
 #include "DesktopColor.h"
+#include "RectGeometry.h"
 #include "screen/Screen.h"
 #include "text/TextFieldBorder.h"
 

@@ -1,6 +1,7 @@
 #include "touches/ScreenEdgePanGestureRecognizer.h"
 
 #include "ObjectiveC/Class.h"
+#include "RectGeometry.h"
 #include "views/UIViewPeer.h"
 
 #include <cmath>

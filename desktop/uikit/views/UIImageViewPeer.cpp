@@ -1,6 +1,7 @@
 #include "views/UIImageViewPeer.h"
 
 #include "DesktopColor.h"
+#include "RectGeometry.h"
 
 #include <algorithm>
 #include <cmath>

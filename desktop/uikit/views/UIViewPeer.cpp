@@ -2,6 +2,7 @@
 
 #include "AnimationGroup.h"
 #include "DesktopColor.h"
+#include "RectGeometry.h"
 #include "views/AttachedRecognizer.h"
 #include "views/ViewLayout.h"
 #include "views/ViewOwner.h"

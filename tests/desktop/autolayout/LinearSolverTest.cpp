@@ -86,7 +86,7 @@ TEST_F(LinearSolverTest, DividesIntoEqualSizes) {
 TEST_F(LinearSolverTest, KeepsProportions) {
     addContainer(375);
     add(x, equal, 0.4 * container.width - 10);
-    add(y, equal, x * (9.0 / 16));
+    add(y, equal, (9.0 / 16) * x);
     expectValue(x, 140);
     expectValue(y, 78.75);
 }
@@ -329,7 +329,7 @@ TEST_F(LinearSolverTest, FactorsThatRoundingLeftCountAsNone) {
 
 TEST_F(LinearSolverTest, RoundingOfRequiredConstraintsIsNoContradiction) {
     add(3 * x, equal, 1000);
-    add(y, equal, x * (1.0 / 7));
+    add(y, equal, (1.0 / 7) * x);
     add(21 * y, equal, 1000);
     expectValue(y, 1000.0 / 21);
 }

@@ -1,6 +1,7 @@
 #include "ElementSearch.h"
 
 #include "DriverFixture.h"
+#include "RectGeometry.h"
 #include "scrolling/UIScrollViewPeer.h"
 #include "views/UIViewPeer.h"
 

@@ -1,8 +1,6 @@
 #include "Dispatch/MainQueue.h"
 
-#include "TestDevice.h"
-
-#include <gtest/gtest.h>
+#include "DeviceTest.h"
 
 #include <string>
 
@@ -10,11 +8,8 @@ using namespace std::chrono_literals;
 
 namespace {
 
-class MainQueueTest : public testing::Test {
+class MainQueueTest : public DeviceTest {
 protected:
-    void advance(std::chrono::nanoseconds duration) { device.advance(duration); }
-
-    TestDevice device;
     std::string ran;
 };
 

@@ -1,6 +1,7 @@
 #include "ColorPickerView.h"
 
 #include "Phone.h"
+#include "RectGeometry.h"
 #include "views/UIViewPeer.h"
 
 #include <gmock/gmock.h>

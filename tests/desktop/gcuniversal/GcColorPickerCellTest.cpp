@@ -5,6 +5,7 @@
 #include "ColorPickerView.h"
 #include "ColorSwatch.h"
 #include "ObjectiveC/Class.h"
+#include "RectGeometry.h"
 #include "cells/RowsFixture.h"
 #include "controls/UISliderPeer.h"
 #include "screen/Presentations.h"

@@ -1,6 +1,7 @@
 #include "GcImagePickerCell.h"
 
 #include "DialogStandIn.h"
+#include "RectGeometry.h"
 #include "cells/RowsFixture.h"
 #include "screen/FilePicker.h"
 #include "screen/Presentations.h"

@@ -1,5 +1,6 @@
 #include "OBBulletedListItem.h"
 
+#include "RectGeometry.h"
 #include "WelcomeFixture.h"
 #include "touches/PanGestureRecognizer.h"
 

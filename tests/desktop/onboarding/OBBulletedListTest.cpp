@@ -1,5 +1,6 @@
 #include "OBBulletedList.h"
 
+#include "RectGeometry.h"
 #include "WelcomeFixture.h"
 
 namespace {

@@ -1,5 +1,6 @@
 #include "OBHeaderView.h"
 
+#include "RectGeometry.h"
 #include "WelcomeFixture.h"
 
 namespace {

@@ -1,5 +1,6 @@
 #include "WelcomeView.h"
 
+#include "RectGeometry.h"
 #include "UIKit/_UIBackdropView.h"
 #include "WelcomeFixture.h"
 #include "screen/TouchDispatcher.h"

@@ -1,6 +1,7 @@
 #include "CALayerPeer.h"
 #include "ObjectiveC/Class.h"
 #include "PageFixture.h"
+#include "RectGeometry.h"
 #include "navigation/UINavigationControllerPeer.h"
 #include "tables/UITableViewCellPeer.h"
 

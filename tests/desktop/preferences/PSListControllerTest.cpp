@@ -1,6 +1,7 @@
 #include "Foundation/NSDictionary.h"
 #include "Foundation/NSUserDefaults.h"
 #include "PageFixture.h"
+#include "RectGeometry.h"
 #include "preferences/PreferenceFolder.h"
 #include "system/DarwinNotifications.h"
 #include "views/UILabelPeer.h"

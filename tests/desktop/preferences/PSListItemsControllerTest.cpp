@@ -1,5 +1,6 @@
 #include "PSListItemsController.h"
 
+#include "RectGeometry.h"
 #include "cells/RowsFixture.h"
 #include "navigation/UINavigationControllerPeer.h"
 #include "system/DarwinNotifications.h"

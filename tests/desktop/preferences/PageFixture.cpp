@@ -3,8 +3,7 @@
 #include "DesktopBundle.h"
 #include "LoadedBundles.h"
 #include "ObjectiveC/Class.h"
-
-#include <algorithm>
+#include "RectGeometry.h"
 
 namespace {
 
@@ -113,17 +112,4 @@ void PageFixture::tap(const std::string& id) {
     const CGPoint middle{CGRectGetMidX(frame), CGRectGetMidY(frame)};
     Phone::tap(middle);
     advance(std::chrono::milliseconds(100));
-}
-
-DesktopSpecifier& PageFixture::specifier(const std::string& id) const {
-    return dynamic_cast<DesktopSpecifier&>(*page_->specifierForID(id));
-}
-
-ListRow PageFixture::listRow(const std::string& id) const {
-    const auto rows = peer().rows();
-    return *std::ranges::find(rows, id, &ListRow::id);
-}
-
-UITableViewCell& PageFixture::cell(const std::string& id) const {
-    return dynamic_cast<UITableViewCell&>(*listRow(id).view);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ListRows.h"
 #include "PSListControllerPeer.h"
 #include "Phone.h"
 #include "UIKit/UINavigationController.h"
@@ -62,9 +63,11 @@ protected:
 
     [[nodiscard]] PSListControllerPeer& peer() const { return peerOf<PSListControllerPeer>(*page_); }
 
-    [[nodiscard]] DesktopSpecifier& specifier(const std::string& id) const;
-    [[nodiscard]] ListRow listRow(const std::string& id) const;
-    [[nodiscard]] UITableViewCell& cell(const std::string& id) const;
+    [[nodiscard]] DesktopSpecifier& specifier(const std::string& id) const { return specifierOf(*page_, id); }
+
+    [[nodiscard]] ListRow listRow(const std::string& id) const { return rowOf(*page_, id); }
+
+    [[nodiscard]] UITableViewCell& cell(const std::string& id) const { return cellOf(*page_, id); }
 
     [[nodiscard]] UITableViewCellPeer& cellPeer(const std::string& id) const {
         return peerOf<UITableViewCellPeer>(cell(id));

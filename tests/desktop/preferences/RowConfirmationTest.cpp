@@ -1,6 +1,7 @@
 #include "RowConfirmation.h"
 
 #include "PageFixture.h"
+#include "RectGeometry.h"
 #include "alerts/UIAlertControllerPeer.h"
 #include "screen/Presentations.h"
 

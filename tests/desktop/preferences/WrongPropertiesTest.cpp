@@ -1,4 +1,5 @@
 #include "PageFixture.h"
+#include "RectGeometry.h"
 
 #include <array>
 

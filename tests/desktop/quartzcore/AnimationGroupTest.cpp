@@ -1,9 +1,7 @@
 #include "AnimationGroup.h"
 
 #include "CALayerPeer.h"
-#include "TestDevice.h"
-
-#include <gtest/gtest.h>
+#include "DeviceTest.h"
 
 #include <chrono>
 #include <vector>
@@ -12,10 +10,8 @@ namespace {
 
 using namespace std::chrono_literals;
 
-class AnimationGroupTest : public testing::Test {
+class AnimationGroupTest : public DeviceTest {
 protected:
-    void advance(std::chrono::nanoseconds duration) { device_.advance(duration); }
-
     [[nodiscard]] AnimationGroup::Completion note() {
         return [this](bool finished) { completions_.push_back(finished); };
     }
@@ -28,7 +24,6 @@ protected:
         AnimationGroup::run(course, [&] { setOpacity(opacity); }, note());
     }
 
-    TestDevice device_;
     Ref<CALayer> layer_ = make<CALayer>();
     std::vector<bool> completions_;
 };
@@ -127,7 +122,7 @@ TEST_F(AnimationGroupTest, IsNotFinishedWhenItsLayerIsGone) {
 
 TEST_F(AnimationGroupTest, IsFinishedWhenItsLayerGoesAfterTheEnd) {
     animateOpacity(0, {.duration = 1s});
-    device_.clock().moveTo(device_.clock().uptime() + 1s);
+    device.clock().moveTo(device.clock().uptime() + 1s);
     layer_ = nullptr;
     advance(0s);
     EXPECT_EQ(completions_, std::vector{true});

@@ -1,16 +1,14 @@
 #pragma once
 
-#include "TestDevice.h"
-
-#include <gtest/gtest.h>
+#include "DeviceTest.h"
 
 #include <string>
 #include <string_view>
 
 /// A device that bundles are installed on.
-class BundleFixture : public testing::Test {
+class BundleFixture : public DeviceTest {
 protected:
-    explicit BundleFixture(const TestDevice::Settings& settings = {}) : device(settings) {}
+    explicit BundleFixture(const TestDevice::Settings& settings = {}) : DeviceTest(settings) {}
 
     /// The bytes of the code that was built under that name.
     [[nodiscard]] static std::string builtCode(const std::string& name);
@@ -20,6 +18,4 @@ protected:
 
     /// The Info.plist alone, its dictionary as XML.
     void writeInfo(const std::string& bundle, const std::string& dictionary) const;
-
-    TestDevice device;
 };

@@ -3,8 +3,6 @@
 #include "EntryList.h"
 #include "PSListControllerPeer.h"
 
-#include <algorithm>
-
 void EntryFixture::writeEntry(const std::string& name, const std::string& dictionary) const {
     device.write(std::string(EntryList::folder) + "/" + name + ".plist",
                  "<plist version=\"1.0\"><dict>" + dictionary + "</dict></plist>");
@@ -37,11 +35,4 @@ std::vector<std::string> EntryFixture::labelsOf(const PSListController& page) {
             labels.push_back(row.label);
     }
     return labels;
-}
-
-ListRow EntryFixture::rowOf(const PSListController& page, const std::string& id) {
-    const auto rows = peerOf<PSListControllerPeer>(page).rows();
-    const auto found = std::ranges::find(rows, id, &ListRow::id);
-    EXPECT_NE(found, rows.end()) << id;
-    return found == rows.end() ? ListRow() : *found;
 }

@@ -1,11 +1,10 @@
 #pragma once
 
 #include "BundleFixture.h"
-#include "ListRow.h"
+#include "ListRows.h"
 #include "PaneEntry.h"
 #include "Preferences/PSListController.h"
 
-#include <chrono>
 #include <string>
 #include <vector>
 
@@ -26,7 +25,4 @@ protected:
 
     /// The labels of a page's rows, without the heads of groups.
     [[nodiscard]] static std::vector<std::string> labelsOf(const PSListController& page);
-    [[nodiscard]] static ListRow rowOf(const PSListController& page, const std::string& id);
-
-    void settle() { device.settle(); }
 };

@@ -4,6 +4,7 @@
 #include "EntryFixture.h"
 #include "PSListControllerPeer.h"
 #include "PreferenceBundle.h"
+#include "RectGeometry.h"
 #include "screen/Screen.h"
 #include "screen/TouchDispatcher.h"
 #include "screen/UIWindow.h"

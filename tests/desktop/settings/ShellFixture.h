@@ -5,7 +5,6 @@
 #include "screen/Screen.h"
 #include "screen/TouchDispatcher.h"
 
-#include <chrono>
 #include <optional>
 #include <string>
 #include <vector>
@@ -22,10 +21,6 @@ protected:
     void start(Idiom idiom);
     void writeEntry(const std::string& name, const std::string& bundle) const;
     void openPane(const std::string& name);
-
-    void settle() { device.settle(); }
-
-    void advance(std::chrono::milliseconds time) { device.advance(time); }
 
     /// The titles of the pages that panes are opened on, the first one first.
     [[nodiscard]] Titles titles() const;

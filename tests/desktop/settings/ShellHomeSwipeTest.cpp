@@ -1,5 +1,6 @@
 // The finger that draws Settings up from the screen's lower edge.
 
+#include "RectGeometry.h"
 #include "ShellFixture.h"
 #include "UIKit/UIButton.h"
 #include "views/UIViewPeer.h"

@@ -1,6 +1,7 @@
 // Menus and alerts for somebody at the keyboard.
 
 #include "DesktopImage.h"
+#include "RectGeometry.h"
 #include "UIKit/UIAlertController.h"
 #include "UIKit/UIBarButtonItem.h"
 #include "UIKit/UIMenu.h"

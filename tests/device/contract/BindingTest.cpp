@@ -1,3 +1,4 @@
+#include "Box.h"
 #include "ClassPublisher.h"
 #include "CountedView.h"
 #include "Framework.h"
@@ -181,6 +182,12 @@ TEST(BindingTest, AnObjectOfTheFrameworksHasOneCppObjectOfTheNearestKnownClass) 
     EXPECT_EQ(instance->isa().name(), "UISwitch");
     objc_release(object);
     EXPECT_EQ(aliveOf("CorvexBox"), boxes);
+}
+
+TEST(BindingTest, WhatIsNoBoxHoldsNothing) {
+    const AutoreleasePool pool;
+    EXPECT_EQ(boxContent(text("with a pointer where a box has its content")), nullptr);
+    EXPECT_EQ(boxContent(nullptr), nullptr);
 }
 
 TEST(BindingTest, AnObjectOfAnUnknownClassIsAPlainOne) {

@@ -9,7 +9,8 @@ set(DEVICE_PANE_TESTS
     ${CMAKE_CURRENT_LIST_DIR}/PublishedMethodsTest.cpp
     ${CMAKE_CURRENT_LIST_DIR}/RootPageTest.cpp
     ${CMAKE_CURRENT_LIST_DIR}/RulePageTest.cpp
-    ${CMAKE_CURRENT_LIST_DIR}/ScenarioTest.cpp)
+    ${CMAKE_CURRENT_LIST_DIR}/ScenarioTest.cpp
+    ${CMAKE_CURRENT_LIST_DIR}/WholePaneFixture.cpp)
 
 # What stands in for the frameworks and the system, and what the tests handle it with.
 set(DEVICE_STAND_INS

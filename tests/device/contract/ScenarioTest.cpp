@@ -6,10 +6,9 @@
 #include "Framework.h"
 #include "Journal.h"
 #include "SystemStandIns.h"
+#include "WholePaneFixture.h"
 
 #include <gtest/gtest.h>
-
-#include <unistd.h>
 
 #include <algorithm>
 #include <cstdlib>
@@ -24,21 +23,8 @@ namespace {
 
 namespace files = std::filesystem;
 
-class ScenarioTest : public testing::Test {
+class ScenarioTest : public WholePaneFixture {
 protected:
-    ScenarioTest() {
-        files::create_directories(folder_);
-        setDocumentsFolder(folder_.c_str());
-        setServicesLibrary(servicesLibrary());
-    }
-
-    ~ScenarioTest() override {
-        forgetSuites();
-        setServicesLibrary(nullptr);
-        setDocumentsFolder(nullptr);
-        files::remove_all(folder_);
-    }
-
     /// Does something, and keeps what it told the frameworks.
     template <class Step>
     void step(const std::string& name, Step act) {
@@ -53,14 +39,14 @@ protected:
             journal_.push_back(withoutPlaces(line));
     }
 
-    [[nodiscard]] std::string backup(const char* name) const { return folder_ + "/CorvexBackups/" + name; }
+    [[nodiscard]] std::string backup(const char* name) const { return folder + "/CorvexBackups/" + name; }
 
     [[nodiscard]] const std::vector<std::string>& journal() const { return journal_; }
 
 private:
     /// Without what differs from one run to the next.
     [[nodiscard]] std::string withoutPlaces(std::string line) const {
-        replace(line, folder_, "", "DOCUMENTS");
+        replace(line, folder, "", "DOCUMENTS");
         replace(line, folderOfCode(), "", "BUNDLE");
         replace(line, temporaryFolder(), "\" ", "TEMPORARY");
         if (line.contains("addBulletedListItem"))
@@ -77,8 +63,6 @@ private:
         }
     }
 
-    const std::string folder_ =
-        files::temp_directory_path() / ("corvex-scenario-" + std::to_string(getpid()));
     std::vector<std::string> journal_;
 };
 

@@ -5,19 +5,15 @@
 #include "Framework.h"
 #include "Journal.h"
 #include "SystemStandIns.h"
+#include "WholePaneFixture.h"
 
 #include <gtest/gtest.h>
 
-#include <unistd.h>
-
 #include <array>
 #include <cstddef>
-#include <filesystem>
 #include <string>
 
 namespace {
-
-namespace files = std::filesystem;
 
 /// Longer than what a text keeps in itself.
 constexpr auto longText = "a text that is kept in a block of its own";
@@ -29,20 +25,8 @@ constexpr std::array rowKeys{
     "rightIcon",    "rightLabel", "rightClass",  "iconColor",  "iconShadowColor", "fontColor",
     "renderingMode"};
 
-class MemoryTest : public testing::Test {
+class MemoryTest : public WholePaneFixture {
 protected:
-    MemoryTest() {
-        files::create_directories(folder_);
-        setDocumentsFolder(folder_.c_str());
-        setServicesLibrary(servicesLibrary());
-    }
-
-    ~MemoryTest() override {
-        setServicesLibrary(nullptr);
-        setDocumentsFolder(nullptr);
-        files::remove_all(folder_);
-    }
-
     /// Does something until what is kept for good is there, and then once more.
     /// \returns how many blocks that has left behind
     template <class Use>
@@ -60,9 +44,6 @@ protected:
         }
         return static_cast<std::ptrdiff_t>(blocksInUse()) - static_cast<std::ptrdiff_t>(before);
     }
-
-private:
-    const std::string folder_ = files::temp_directory_path() / ("corvex-memory-" + std::to_string(getpid()));
 };
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "cells/PSEditableTableCell.h"
 
+#include "RectGeometry.h"
 #include "cells/RowsFixture.h"
 #include "keyboard/Keyboard.h"
 #include "system/DarwinNotifications.h"

@@ -1,5 +1,6 @@
 #include "cells/PSSegmentTableCell.h"
 
+#include "RectGeometry.h"
 #include "cells/RowsFixture.h"
 #include "controls/UISegmentedControlPeer.h"
 #include "system/DarwinNotifications.h"

@@ -1,5 +1,6 @@
 #include "cells/PSSliderTableCell.h"
 
+#include "RectGeometry.h"
 #include "cells/RowsFixture.h"
 #include "controls/UISliderPeer.h"
 #include "system/DarwinNotifications.h"

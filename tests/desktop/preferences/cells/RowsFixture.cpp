@@ -1,5 +1,7 @@
 #include "cells/RowsFixture.h"
 
+#include "RectGeometry.h"
+
 std::optional<PropertyList> RowsFixture::written(const std::string& key) {
     const auto path = "/var/mobile/Library/Preferences/" + std::string(domain) + ".plist";
     const auto kept = dictionaryWithContentsOfFile(path).value_or(PropertyList::Dictionary());

@@ -1,6 +1,7 @@
 #include "CALayerPeer.h"
 #include "DesktopColor.h"
 #include "DesktopFont.h"
+#include "RectGeometry.h"
 #include "accessibility/AccessibilityElement.h"
 #include "alerts/AlertView.h"
 #include "alerts/UIAlertControllerPeer.h"

@@ -3,6 +3,7 @@
 #include "CALayerPeer.h"
 #include "DesktopImage.h"
 #include "Phone.h"
+#include "RectGeometry.h"
 #include "UIKit/UILabel.h"
 #include "controls/UIButtonPeer.h"
 #include "controls/UISegmentedControlPeer.h"

@@ -2,6 +2,7 @@
 
 #include "DesktopColor.h"
 #include "DesktopImage.h"
+#include "RectGeometry.h"
 #include "screen/TouchFixture.h"
 #include "views/UILabelPeer.h"
 

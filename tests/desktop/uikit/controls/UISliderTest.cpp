@@ -1,4 +1,5 @@
 #include "Phone.h"
+#include "RectGeometry.h"
 #include "controls/UISliderPeer.h"
 
 #include <vector>

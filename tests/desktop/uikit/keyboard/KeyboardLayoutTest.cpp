@@ -1,5 +1,7 @@
 #include "keyboard/KeyboardLayout.h"
 
+#include "RectGeometry.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>

@@ -1,6 +1,7 @@
 #include "keyboard/Keyboard.h"
 
 #include "PresentedStandIn.h"
+#include "RectGeometry.h"
 #include "text/TextFieldFixture.h"
 
 #include <algorithm>

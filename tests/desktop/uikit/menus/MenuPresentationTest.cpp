@@ -1,5 +1,6 @@
 #include "CALayerPeer.h"
 #include "DesktopImage.h"
+#include "RectGeometry.h"
 #include "accessibility/AccessibilityElement.h"
 #include "menus/MenuView.h"
 #include "navigation/NavigationFixture.h"

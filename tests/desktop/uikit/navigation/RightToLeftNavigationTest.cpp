@@ -2,6 +2,7 @@
 
 #include "CALayerPeer.h"
 #include "DesktopImage.h"
+#include "RectGeometry.h"
 #include "UIKit/UIAlertController.h"
 #include "accessibility/AccessibilityElement.h"
 #include "menus/MenuRowView.h"

@@ -1,6 +1,7 @@
 #include "CALayerPeer.h"
 #include "DesktopColor.h"
 #include "ObjectiveC/Class.h"
+#include "RectGeometry.h"
 #include "navigation/NavigationFixture.h"
 #include "scrolling/UIScrollViewPeer.h"
 #include "views/UILabelPeer.h"

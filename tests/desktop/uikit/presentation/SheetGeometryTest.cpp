@@ -1,5 +1,7 @@
 #include "presentation/SheetGeometry.h"
 
+#include "RectGeometry.h"
+
 #include <gtest/gtest.h>
 
 #include <ostream>

@@ -1,6 +1,7 @@
 #include "presentation/SheetPresentationView.h"
 
 #include "DesktopColor.h"
+#include "RectGeometry.h"
 #include "UIKit/UINavigationBar.h"
 #include "UIKit/UITextField.h"
 #include "presentation/PresentationFixture.h"

@@ -130,7 +130,7 @@ TEST_P(RandomChanges, PaintTheSamePixelsAsAWholePicture) {
     auto partialPictures = 0;
     for (auto step = 0; step < 25; ++step) {
         layers.change();
-        shown.advance(70ms);
+        shown.device.advance(70ms);
         const auto picture = shown.compositor.render().copy();
         partialPictures += shown.compositor.lastDamage() != QRegion(picture.rect()) ? 1 : 0;
         Compositor whole(shown.screen);

@@ -264,10 +264,10 @@ TEST_F(CompositorTest, ShowsAnimationsOnTheirWay) {
                                 [&] { view->setFrame(CGRectMake(20, 0, 10, 10)); }, {});
     EXPECT_EQ(shown_.pixel(5, 5), QColor(Qt::red));
     EXPECT_TRUE(shown_.compositor.isAnimating());
-    shown_.advance(500ms);
+    shown_.device.advance(500ms);
     EXPECT_EQ(shown_.pixel(5, 5), white);
     EXPECT_EQ(shown_.pixel(15, 5), QColor(Qt::red));
-    shown_.advance(500ms);
+    shown_.device.advance(500ms);
     EXPECT_EQ(shown_.pixel(25, 5), QColor(Qt::red));
     EXPECT_FALSE(shown_.compositor.isAnimating());
 }

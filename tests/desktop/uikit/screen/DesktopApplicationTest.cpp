@@ -3,6 +3,7 @@
 #include "ObjectiveC/Method.h"
 #include "UIKit/UIViewController.h"
 #include "screen/ShownScreen.h"
+#include "system/ApplicationSuspension.h"
 #include "system/UrlOpener.h"
 
 #include <gtest/gtest.h>
@@ -34,6 +35,21 @@ TEST(DesktopApplicationTest, TheKeyWindowAndItsControllerAreFoundByTheirNames) {
     EXPECT_EQ(window, shown.window);
     EXPECT_EQ(MessageTraits<Ref<NSObject>>::unpack(window->performSelector("rootViewController")),
               controller);
+}
+
+TEST(DesktopApplicationTest, ItsWishToSuspendEndsWithTheDevice) {
+    int suspensions = 0;
+    const auto suspend = [] { UIApplication::sharedApplication()->performSelector("suspend"); };
+    {
+        const ShownScreen shown;
+        suspend();
+        Device::current().suspensions().setHandler([&suspensions] { ++suspensions; });
+        suspend();
+        EXPECT_EQ(suspensions, 1);
+    }
+    const ShownScreen shown;
+    suspend();
+    EXPECT_EQ(suspensions, 1);
 }
 
 TEST(DesktopApplicationTest, AUrlIsOpenedAndWhoAskedIsToldLater) {

@@ -81,13 +81,13 @@ TEST(Screen, LaysOutWhatNeedsItFromTheMainQueue) {
     const auto view = make<LaidOutView>();
     shown.window->addSubview(view);
     EXPECT_EQ(view->layouts, 0);
-    shown.advance({});
+    shown.device.advance({});
     EXPECT_EQ(view->layouts, 1);
-    shown.advance({});
+    shown.device.advance({});
     shown.screen.layoutIfNeeded();
     EXPECT_EQ(view->layouts, 1);
     view->peer().setNeedsLayout();
-    shown.advance({});
+    shown.device.advance({});
     EXPECT_EQ(view->layouts, 2);
 }
 

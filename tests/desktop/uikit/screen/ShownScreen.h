@@ -8,7 +8,6 @@
 #include "views/UIViewPeer.h"
 
 #include <QColor>
-#include <chrono>
 
 /// A device with a small screen of one white window, and a compositor that paints it.
 struct ShownScreen {
@@ -46,9 +45,6 @@ struct ShownScreen {
 
     /// The colour of a pixel of the next picture.
     QColor pixel(int x, int y) { return compositor.render().pixelColor(x, y); }
-
-    /// Lets time pass, and runs what is due.
-    void advance(std::chrono::nanoseconds duration) { device.advance(duration); }
 
     TestDevice device;
     Screen screen;

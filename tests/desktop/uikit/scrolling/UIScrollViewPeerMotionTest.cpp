@@ -1,4 +1,5 @@
 #include "CALayerPeer.h"
+#include "RectGeometry.h"
 #include "scrolling/ScrollFixture.h"
 #include "scrolling/UIScrollViewPeer.h"
 #include "touches/TapGestureRecognizer.h"

@@ -1,6 +1,7 @@
 #include "UIKit/UIActivityViewController.h"
 
 #include "ObjectiveC/Weak.h"
+#include "RectGeometry.h"
 #include "documents/DocumentsFixture.h"
 #include "sharing/UIActivityViewControllerPeer.h"
 #include "system/UrlOpener.h"

@@ -1,5 +1,7 @@
 #include "tables/TableFixture.h"
 
+#include "RectGeometry.h"
+
 NotedContent::Section NotedContent::sectionOf(std::size_t count) {
     Section section;
     for (std::size_t row = 0; row < count; ++row)

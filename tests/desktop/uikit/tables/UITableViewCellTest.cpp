@@ -1,5 +1,6 @@
 #include "CALayerPeer.h"
 #include "DesktopImage.h"
+#include "RectGeometry.h"
 #include "TestDevice.h"
 #include "screen/Screen.h"
 #include "tables/UITableViewCellPeer.h"

@@ -1,4 +1,5 @@
 #include "CALayerPeer.h"
+#include "RectGeometry.h"
 #include "UIKit/NSLayoutDimension.h"
 #include "UIKit/NSLayoutXAxisAnchor.h"
 #include "UIKit/NSLayoutYAxisAnchor.h"

@@ -1,5 +1,7 @@
 #include "text/TextFieldFixture.h"
 
+#include "RectGeometry.h"
+
 TextFieldFixture::TextFieldFixture(const TestDevice::Settings& settings)
     : TouchFixture(Screen::Options(), settings) {
     field->setFrame(frame);

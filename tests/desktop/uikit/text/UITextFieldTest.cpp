@@ -1,4 +1,5 @@
 #include "CALayerPeer.h"
+#include "RectGeometry.h"
 #include "screen/Compositor.h"
 #include "text/TextFieldFixture.h"
 #include "time/MainQueueScheduler.h"

@@ -1,0 +1,6 @@
+#include "system/ApplicationSuspension.h"
+
+void ApplicationSuspension::request() const {
+    if (const auto handler = handler_)
+        handler();
+}

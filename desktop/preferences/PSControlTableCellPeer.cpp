@@ -1,6 +1,0 @@
-#include "PSControlTableCellPeer.h"
-
-void PSControlTableCellPeer::setControl(const Ref<UIControl>& control) {
-    control_ = control;
-    setAccessoryView(control);
-}
