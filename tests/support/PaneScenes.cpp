@@ -2,6 +2,7 @@
 
 #include "AllCommands.h"
 #include "DeviceInstaller.h"
+#include "PicturePool.h"
 #include "views/UIViewPeer.h"
 
 #include <cstdio>
@@ -44,8 +45,7 @@ void PaneScenes::play() {
 
 void PaneScenes::openPane() {
     command("tap Settings");
-    command("settle");
-    compositor_.render();
+    rest();
     begin("pane opens, its sheet comes");
     command("tap Corvex");
     watch();
@@ -137,8 +137,14 @@ void PaneScenes::begin(std::string_view name) {
 
 void PaneScenes::end() {
     sceneEnds();
+    rest();
+}
+
+void PaneScenes::rest() {
     device_.settle();
     compositor_.render();
+    while (PicturePool::shared().prepare()) {
+    }
 }
 
 void PaneScenes::command(const std::string& line) {

@@ -47,6 +47,8 @@ private:
 
     void begin(std::string_view name);
     void end();
+    /// What the program does while nothing moves.
+    void rest();
     void command(const std::string& line);
     void touch(TouchPhase phase, CGPoint place);
     /// The finger moves by equal steps, one each frame.
