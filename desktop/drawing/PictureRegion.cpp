@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <iterator>
 #include <memory>
+#include <utility>
 
 namespace {
 
@@ -85,24 +86,44 @@ std::size_t PictureRegion::readyBytes() const {
 }
 
 bool PictureRegion::prepare() {
-    const auto next = std::ranges::find(isThere_, false);
-    if (next == isThere_.end())
+    const auto longest = std::ranges::max_element(free_, {}, &Spans::value_type::second);
+    if (longest == free_.end())
         return false;
-    const auto index = static_cast<std::size_t>(std::distance(isThere_.begin(), next));
-    madvise(begin_ + index * portion, portion, MADV_POPULATE_WRITE); // older systems bring it later
-    *next = true;
-    return true;
+    const auto [first, end] = portionsWithin(*longest);
+    for (auto index = first; index < end; ++index) {
+        if (isThere_[index])
+            continue;
+        madvise(begin_ + index * portion, portion, MADV_POPULATE_WRITE); // older systems bring it later
+        isThere_[index] = true;
+        return true;
+    }
+    return false;
 }
 
+/// Those in the shortest spans first, which suit the fewest pictures.
 void PictureRegion::giveToSystem(std::size_t mostReady) {
     auto ready = readyBytes();
-    for (auto index = isThere_.size(); index-- > 0 && ready > mostReady;) {
-        if (!isThere_[index] || !isFree(index))
-            continue;
-        madvise(begin_ + index * portion, portion, MADV_DONTNEED);
-        isThere_[index] = false;
-        ready -= portion;
+    if (ready <= mostReady)
+        return;
+    std::vector<Span> spans(free_.begin(), free_.end());
+    std::ranges::sort(spans, {}, &Span::second);
+    for (const auto& span : spans) {
+        const auto [first, end] = portionsWithin(span);
+        for (auto index = end; index-- > first && ready > mostReady;) {
+            if (!isThere_[index])
+                continue;
+            madvise(begin_ + index * portion, portion, MADV_DONTNEED);
+            isThere_[index] = false;
+            ready -= portion;
+        }
     }
+}
+
+/// The first one that is wholly within a span, and the one after the last.
+std::pair<std::size_t, std::size_t> PictureRegion::portionsWithin(const Span& span) {
+    const auto [place, length] = span;
+    const auto first = (place + portion - 1) / portion;
+    return {first, std::max(first, (place + length) / portion)};
 }
 
 PictureRegion::Spans::const_iterator PictureRegion::spanFor(std::size_t bytes, bool ready) const {
@@ -121,12 +142,4 @@ bool PictureRegion::isThere(std::size_t place, std::size_t bytes) const {
             return false;
     }
     return true;
-}
-
-bool PictureRegion::isFree(std::size_t index) const {
-    const auto after = free_.upper_bound(index * portion);
-    if (after == free_.begin())
-        return false;
-    const auto& [place, length] = *std::prev(after);
-    return place + length >= (index + 1) * portion;
 }

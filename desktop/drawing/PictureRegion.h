@@ -3,6 +3,7 @@
 #include <QtGlobal>
 #include <cstddef>
 #include <map>
+#include <utility>
 #include <vector>
 
 /// The addresses that large pictures lie at, cut into blocks; what is given back joins its neighbours, so
@@ -32,7 +33,8 @@ public:
     /// The bytes of memory that are there and not taken.
     [[nodiscard]] std::size_t readyBytes() const;
 
-    /// Brings the memory of one more portion. \returns whether there was one
+    /// Brings the memory of one more portion, where it makes room for the largest pictures. \returns whether
+    /// there was one
     bool prepare();
 
     /// Gives portions that nothing is taken of back to the system until no more bytes than that are ready.
@@ -41,11 +43,12 @@ public:
 private:
     /// Places from the beginning and lengths in bytes, none next to another.
     using Spans = std::map<std::size_t, std::size_t>;
+    using Span = std::pair<std::size_t, std::size_t>;
 
     /// The shortest one that suits; the end when there is none.
     [[nodiscard]] Spans::const_iterator spanFor(std::size_t bytes, bool ready) const;
     [[nodiscard]] bool isThere(std::size_t place, std::size_t bytes) const;
-    [[nodiscard]] bool isFree(std::size_t index) const;
+    [[nodiscard]] static std::pair<std::size_t, std::size_t> portionsWithin(const Span& span);
 
     uchar* addresses_ = nullptr; ///< null when there are none
     std::size_t size_;           ///< of all addresses, in bytes
