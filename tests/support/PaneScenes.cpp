@@ -41,6 +41,8 @@ void PaneScenes::play() {
     slideRow();
     swipeBack();
     openMenu();
+    if (screen_.traits().idiom == Idiom::Phone)
+        openPaneAgain();
 }
 
 void PaneScenes::openPane() {
@@ -127,6 +129,15 @@ void PaneScenes::openMenu() {
     end();
     begin("alert leaves");
     command("tap Cancel");
+    watch();
+    end();
+}
+
+void PaneScenes::openPaneAgain() {
+    command("back");
+    rest();
+    begin("pane opens again");
+    command("tap Corvex");
     watch();
     end();
 }

@@ -43,6 +43,8 @@ private:
     void pushPage();
     void swipeBack();
     void openMenu();
+    /// Where it has left the screen: without what comes but once, such as its code.
+    void openPaneAgain();
     void slideRow();
 
     void begin(std::string_view name);
