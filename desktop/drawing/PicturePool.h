@@ -26,7 +26,7 @@ public:
     /// A picture of that size, ARGB32 premultiplied, whose pixels may be anything. It may outlive the pool.
     [[nodiscard]] QImage make(QSize size);
 
-    /// Whether a picture of that size would have memory that was one's before.
+    /// Whether a picture of that size would have memory that is there already.
     [[nodiscard]] bool isReadyFor(QSize size) const;
 
     /// How many bytes no picture uses.

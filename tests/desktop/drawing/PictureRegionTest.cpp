@@ -101,6 +101,21 @@ TEST_F(PictureRegionTest, IsReadyForWhatWasPrepared) {
     EXPECT_EQ(region_.readyBytes(), 0U);
 }
 
+TEST_F(PictureRegionTest, KeepsAndPreparesWhatALargePictureHasRoomIn) {
+    const auto* const shorter = region_.take(portion);
+    static_cast<void>(region_.take(portion));
+    const auto* const longer = region_.take(2 * portion);
+    region_.giveBack(shorter, portion);
+    region_.giveBack(longer, 2 * portion);
+    region_.giveToSystem(2 * portion);
+    EXPECT_TRUE(region_.isReadyFor(2 * portion));
+    region_.giveToSystem(0);
+    EXPECT_FALSE(region_.isReadyFor(1));
+    EXPECT_TRUE(region_.prepare());
+    EXPECT_TRUE(region_.prepare());
+    EXPECT_TRUE(region_.isReadyFor(2 * portion));
+}
+
 TEST_F(PictureRegionTest, GivesWhatIsTooMuchToTheSystem) {
     auto* const first = takeFilled(portion / 2, 1);
     auto* const second = takeFilled(2 * portion, 2);
