@@ -17,7 +17,7 @@ constexpr std::size_t page = 4096;
 /// Whether the system has brought the page that begins there.
 bool hasMemory(uchar* place) {
     unsigned char resident = 0;
-    return mincore(place, page, &resident) == 0 && (resident & 1) == 1;
+    return mincore(place, page, &resident) == 0 && (resident & 1U) != 0;
 }
 
 class PictureRegionTest : public testing::Test {
@@ -40,6 +40,7 @@ TEST_F(PictureRegionTest, BlocksLieApart) {
     EXPECT_EQ(first[part], 1);
     EXPECT_EQ(second[0], 2);
     EXPECT_EQ(second[part - 1], 2);
+    EXPECT_EQ(second - first, part + page); // each begins a page
 }
 
 TEST_F(PictureRegionTest, NothingIsTakenBeyondItsEnd) {
