@@ -1,6 +1,7 @@
 #include "PaneScenes.h"
 #include "PictureMemory.h"
 #include "ProcessorTime.h"
+#include "SceneFrames.h"
 
 #include <QGuiApplication>
 #include <QImage>
@@ -15,29 +16,18 @@
 /// frame takes from its touch or its moment on until its picture is there, in processor time of all
 /// threads, and how many pixels it painted. Prints, for each scene, the first frame, the median,
 /// the 95th percentile, and the median as so many times what a copy of the whole picture takes in the same
-/// run. Fails when a scene painted nothing, or when its median is far above what is wanted (15 copies).
+/// run. Fails when a scene is not good (`SceneFrames`).
 
 namespace {
-
-using Milliseconds = std::vector<double>;
-
-constexpr auto mostCopies =
-    25.0; ///< generous, since other work slows a copy down less than what has branches
 
 double now() {
     return processorTime().count();
 }
 
-/// The value that a part of all is not above. \pre there are some
-double quantile(std::vector<double> values, double part) {
-    std::ranges::sort(values);
-    return values[static_cast<std::size_t>(part * static_cast<double>(values.size() - 1))];
-}
-
 double timeOfCopy(const QImage& picture) {
     constexpr auto turns = 101;
     QImage copy(picture.size(), picture.format());
-    Milliseconds times;
+    std::vector<double> times; // in milliseconds
     for (auto turn = 0; turn < turns; ++turn) {
         const auto begin = now();
         std::memcpy(copy.bits(), picture.constBits(), static_cast<std::size_t>(picture.sizeInBytes()));
@@ -58,15 +48,13 @@ public:
         std::printf("  %-28s %6s %8s %8s %8s %8s %10s\n", "", "frames", "first", "median", "95th", "copies",
                     "pixels");
         for (const auto& scene : scenes_)
-            print(scene, copy);
-        return std::ranges::all_of(scenes_, [copy](const auto& scene) {
-            return !scene.times.empty() && quantile(scene.times, 0.5) <= mostCopies * copy;
-        });
+            scene.print(copy);
+        return std::ranges::all_of(scenes_, [copy](const auto& scene) { return scene.isGood(copy); });
     }
 
 protected:
     void sceneBegins(std::string_view name) override {
-        scenes_.push_back({std::string(name), {}, {}});
+        scenes_.emplace_back(std::string(name));
         isPlaying_ = true;
         begin_ = now();
     }
@@ -77,34 +65,15 @@ protected:
         auto pixels = 0.0;
         for (const auto& rect : compositor().lastDamage())
             pixels += static_cast<double>(rect.width()) * rect.height();
-        if (isPlaying_ && pixels > 0) {
-            scenes_.back().times.push_back(end - begin_);
-            scenes_.back().pixels.push_back(pixels);
-        }
+        if (isPlaying_)
+            scenes_.back().add(end - begin_, pixels);
         begin_ = now();
     }
 
     void sceneEnds() override { isPlaying_ = false; }
 
 private:
-    struct Scene {
-        std::string name;
-        Milliseconds times;
-        std::vector<double> pixels;
-    };
-
-    static void print(const Scene& scene, double copy) {
-        if (scene.times.empty()) {
-            std::printf("  %-28s painted nothing\n", scene.name.c_str());
-            return;
-        }
-        const auto median = quantile(scene.times, 0.5);
-        std::printf("  %-28s %6zu %8.2f %8.2f %8.2f %8.1f %10.0f\n", scene.name.c_str(), scene.times.size(),
-                    scene.times.front(), median, quantile(scene.times, 0.95), median / copy,
-                    quantile(scene.pixels, 0.5));
-    }
-
-    std::vector<Scene> scenes_;
+    std::vector<SceneFrames> scenes_;
     bool isPlaying_ = false;
     double begin_ = 0;
 };

@@ -3,6 +3,7 @@
 #include "DeviceInstaller.h"
 #include "DrivenShell.h"
 #include "PictureMemory.h"
+#include "PicturePool.h"
 #include "ProcessorTime.h"
 #include "Shell.h"
 #include "TestDevice.h"
@@ -94,6 +95,8 @@ private:
         show(line);
         show("advance 0.2");
         show("settle");
+        while (PicturePool::shared().prepare()) { // as the window does while nothing moves
+        }
     }
 
     Screen screen_{{.idiom = Idiom::Phone, .style = UserInterfaceStyle::Light, .scale = 3, .size = {}}};

@@ -21,8 +21,9 @@ struct Shadow {
 /// One for each window.
 class ShadowRenderer {
 public:
-    /// Bytes of images that are kept, but for the last one, which may be larger alone.
-    static constexpr qsizetype capacity = qsizetype{64} << 20;
+    /// Bytes of images that are kept, but for the last one, which may be larger alone: of what is seen at
+    /// once, since what grows has another shadow in each frame.
+    static constexpr qsizetype capacity = qsizetype{16} << 20;
 
     /// Paints the shadow of a filled shape; what casts it is painted over it afterwards. Follows the
     /// painter's transformation and pixel ratio.

@@ -4,6 +4,7 @@
 #include "DesktopClipboard.h"
 #include "DesktopFileDialog.h"
 #include "Device.h"
+#include "PicturePool.h"
 #include "RectGeometry.h"
 #include "TextKeys.h"
 #include "WindowAccessibility.h"
@@ -150,7 +151,8 @@ void DeviceWindow::refresh() {
         update(changed);
         tellAssistivePrograms();
     }
-    scheduleRefresh();
+    const auto moves = !changed.isEmpty() || compositor_.isAnimating();
+    scheduleRefresh(moves || PicturePool::shared().prepare());
 }
 
 /// What nobody sees changing has not changed for them either.
@@ -163,9 +165,9 @@ void DeviceWindow::tellAssistivePrograms() {
         told->tell(news);
 }
 
-void DeviceWindow::scheduleRefresh() {
+void DeviceWindow::scheduleRefresh(bool asNextFrame) {
     auto& device = Device::current();
-    auto wait = compositor_.isAnimating() ? frameTime : untilNextMinute(device.clock());
+    auto wait = asNextFrame ? frameTime : untilNextMinute(device.clock());
     if (const auto due = device.mainQueue().nextDue()) {
         const auto untilDue = std::max(*due - device.clock().uptime(), std::chrono::nanoseconds::zero());
         wait = std::min(wait, std::chrono::ceil<std::chrono::milliseconds>(untilDue));

@@ -77,7 +77,8 @@ private:
     void place();
     void followAppearance();
     void refresh();
-    void scheduleRefresh();
+    /// \param asNextFrame or when something is due
+    void scheduleRefresh(bool asNextFrame);
     void touch(TouchPhase phase, QPointF place);
     void moveFocus(bool forward);
     bool adjust(const QKeyEvent& event);

@@ -2,6 +2,7 @@
 
 #include "AllCommands.h"
 #include "DeviceInstaller.h"
+#include "PicturePool.h"
 #include "RectGeometry.h"
 #include "views/UIViewPeer.h"
 
@@ -41,12 +42,13 @@ void PaneScenes::play() {
     slideRow();
     swipeBack();
     openMenu();
+    if (screen_.traits().idiom == Idiom::Phone)
+        openPaneAgain();
 }
 
 void PaneScenes::openPane() {
     command("tap Settings");
-    command("settle");
-    compositor_.render();
+    rest();
     begin("pane opens, its sheet comes");
     command("tap Corvex");
     watch();
@@ -132,14 +134,29 @@ void PaneScenes::openMenu() {
     end();
 }
 
+void PaneScenes::openPaneAgain() {
+    command("back");
+    rest();
+    begin("pane opens again");
+    command("tap Corvex");
+    watch();
+    end();
+}
+
 void PaneScenes::begin(std::string_view name) {
     sceneBegins(name);
 }
 
 void PaneScenes::end() {
     sceneEnds();
+    rest();
+}
+
+void PaneScenes::rest() {
     device_.settle();
     compositor_.render();
+    while (PicturePool::shared().prepare()) {
+    }
 }
 
 void PaneScenes::command(const std::string& line) {

@@ -43,10 +43,14 @@ private:
     void pushPage();
     void swipeBack();
     void openMenu();
+    /// Where it has left the screen: without what comes but once, such as its code.
+    void openPaneAgain();
     void slideRow();
 
     void begin(std::string_view name);
     void end();
+    /// What the program does while nothing moves.
+    void rest();
     void command(const std::string& line);
     void touch(TouchPhase phase, CGPoint place);
     /// The finger moves by equal steps, one each frame.

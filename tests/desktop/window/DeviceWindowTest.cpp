@@ -1,3 +1,4 @@
+#include "PicturePool.h"
 #include "PresentedStandIn.h"
 #include "WindowFixture.h"
 #include "controls/UISliderPeer.h"
@@ -5,10 +6,13 @@
 #include "time/MainQueueScheduler.h"
 
 #include <QGuiApplication>
+#include <QImage>
 #include <QMimeData>
 #include <QPalette>
 #include <QUrl>
 #include <QWheelEvent>
+#include <cstddef>
+#include <vector>
 
 namespace {
 
@@ -36,6 +40,19 @@ TEST_F(DeviceWindowTest, HandsTheMouseOnAsAFinger) {
     EXPECT_EQ(secondPresses_, 1);
     click({60, 180});
     EXPECT_EQ(firstPresses_ + secondPresses_, 2);
+}
+
+TEST_F(DeviceWindowTest, PreparesMemoryForPicturesWhileNothingChanges) {
+    auto& pool = PicturePool::shared();
+    std::vector<QImage> pictures; // so that none is ready
+    while (pool.keptBytes() >= PicturePool::smallest)
+        pictures.push_back(pool.make({256, 128}));
+    constexpr auto portions = PicturePool::prepared / PictureRegion::portion;
+    for (std::size_t portion = 0; portion <= portions; ++portion) {
+        shown.wake();
+        run();
+    }
+    EXPECT_GE(pool.keptBytes(), PicturePool::prepared);
 }
 
 TEST_F(DeviceWindowTest, IgnoresTheOtherButtonsOfTheMouse) {

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <malloc.h>
+
 #include <chrono>
 #include <string>
 
@@ -137,6 +139,55 @@ TEST_P(RandomChanges, PaintTheSamePixelsAsAWholePicture) {
         ASSERT_EQ(difference(picture, whole.render()), "") << "at step " << step;
     }
     EXPECT_GT(partialPictures, 0);
+}
+
+constexpr auto oneByte = 0xEE;
+constexpr auto otherByte = 0x11;
+
+/// The picture of a screen, painted in memory that holds that byte everywhere.
+QImage pictureInMemoryOf(int byte, Screen& screen) {
+    mallopt(M_PERTURB, byte);
+    Compositor whole(screen);
+    auto picture = whole.render().copy();
+    mallopt(M_PERTURB, 0);
+    return picture;
+}
+
+/// A page that keeps a picture, with rows that keep theirs, behind a backdrop.
+TEST(CompositorDamage, ABackdropShowsNothingOfWhatWasInTheMemory) {
+    ShownScreen shown({120, 160}, 3);
+    const auto page = shown.add(CGRectMake(0, 0, 120, 160), green);
+    page->layer().peer().keepsPicture = true;
+    page->setClipsToBounds(true);
+    page->layer().setCornerRadius(30);
+    const auto row = ShownScreen::add(*page, CGRectMake(0, 80, 120, 81), green);
+    row->layer().peer().keepsPicture = true;
+    row->setClipsToBounds(true);
+    row->layer().setCornerRadius(20);
+    const auto panel = make<UIView>();
+    panel->setFrame(CGRectMake(0, 0, 120, 160));
+    panel->layer().peer().backdrop = Backdrop{.blurRadius = 20, .saturation = 1};
+    shown.window->addSubview(panel);
+    for (const auto scale : {1.0, 0.93, 0.71}) {
+        page->peer().setTransform(AffineTransform::scale(scale));
+        EXPECT_EQ(
+            difference(pictureInMemoryOf(oneByte, shown.screen), pictureInMemoryOf(otherByte, shown.screen)),
+            "")
+            << "at " << scale;
+    }
+}
+
+TEST_P(RandomChanges, ShowNothingOfWhatWasInTheMemory) {
+    ShownScreen shown({80, 80}, GetParam() % 2 == 0 ? 3 : 2);
+    RandomLayers layers(*shown.window, GetParam());
+    for (auto step = 0; step < 12; ++step) {
+        layers.change();
+        shown.advance(70ms);
+        ASSERT_EQ(
+            difference(pictureInMemoryOf(oneByte, shown.screen), pictureInMemoryOf(otherByte, shown.screen)),
+            "")
+            << "at step " << step;
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Seeds, RandomChanges, testing::Range(1U, 41U));

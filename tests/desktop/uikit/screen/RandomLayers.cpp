@@ -144,7 +144,7 @@ void RandomLayers::setLook(UIView& view) {
         layer.hidden = &view != &root_ && chance(0.2);
         return;
     case 9:
-        layer.backdrop = chance(0.5) ? std::nullopt : std::optional(Backdrop{number(0, 6), number(0.5, 2)});
+        layer.backdrop = chance(0.5) ? std::nullopt : std::optional(Backdrop{number(0, 24), number(0.5, 2)});
         return;
     case 10:
         layer.keepsPicture = &view != &root_ && chance(0.5);

@@ -1,0 +1,30 @@
+#include "SceneFrames.h"
+
+#include <algorithm>
+#include <cstdio>
+
+void SceneFrames::add(double time, double pixels) {
+    if (pixels <= 0)
+        return;
+    times_.push_back(time);
+    pixels_.push_back(pixels);
+}
+
+bool SceneFrames::isGood(double copy) const {
+    return !times_.empty() && quantile(times_, 0.5) <= mostCopies * copy;
+}
+
+void SceneFrames::print(double copy) const {
+    if (times_.empty()) {
+        std::printf("  %-28s painted nothing\n", name_.c_str());
+        return;
+    }
+    const auto median = quantile(times_, 0.5);
+    std::printf("  %-28s %6zu %8.2f %8.2f %8.2f %8.1f %10.0f\n", name_.c_str(), times_.size(), times_.front(),
+                median, quantile(times_, 0.95), median / copy, quantile(pixels_, 0.5));
+}
+
+double quantile(std::vector<double> values, double part) {
+    std::ranges::sort(values);
+    return values[static_cast<std::size_t>(part * static_cast<double>(values.size() - 1))];
+}

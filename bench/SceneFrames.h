@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <utility>
+#include <vector>
+
+/// What the frames of one scene took, and whether that is good enough.
+class SceneFrames {
+public:
+    /// Of the median, so many times what a copy of the whole picture takes; above what is wanted (15), since
+    /// other work on the machine slows a copy down less than what has branches.
+    static constexpr double mostCopies = 20;
+
+    explicit SceneFrames(std::string name) : name_(std::move(name)) {}
+
+    /// \param time in milliseconds \param pixels that were painted; a frame without any does not count
+    void add(double time, double pixels);
+
+    /// Whether something was painted, and fast enough. \param copy what a copy of the picture takes, in
+    /// milliseconds
+    [[nodiscard]] bool isGood(double copy) const;
+
+    /// A line for people.
+    void print(double copy) const;
+
+private:
+    std::string name_;
+    std::vector<double> times_;
+    std::vector<double> pixels_;
+};
+
+/// The value that a part of all is not above. \pre there are some
+[[nodiscard]] double quantile(std::vector<double> values, double part);
