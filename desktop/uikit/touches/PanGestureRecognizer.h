@@ -38,6 +38,6 @@ private:
     void record(const DesktopTouch& touch);
 
     CGPoint start_;
-    CGPoint slopUsed_; ///< the part of the movement that came before the gesture
+    CGPoint slopUsed_;            ///< the part of the movement that came before the gesture
     std::vector<Sample> samples_; ///< a few
 };

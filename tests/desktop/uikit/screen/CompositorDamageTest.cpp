@@ -182,7 +182,7 @@ TEST_P(RandomChanges, ShowNothingOfWhatWasInTheMemory) {
     RandomLayers layers(*shown.window, GetParam());
     for (auto step = 0; step < 12; ++step) {
         layers.change();
-        shown.advance(70ms);
+        shown.device.advance(70ms);
         ASSERT_EQ(
             difference(pictureInMemoryOf(oneByte, shown.screen), pictureInMemoryOf(otherByte, shown.screen)),
             "")
