@@ -2,6 +2,8 @@
 
 #include <sys/mman.h>
 
+#include <sanitizer/asan_interface.h>
+
 #include <algorithm>
 #include <iterator>
 #include <memory>
@@ -35,8 +37,8 @@ PictureRegion::~PictureRegion() {
         munmap(addresses_, size_);
 }
 
-uchar* PictureRegion::take(std::size_t bytes) {
-    bytes = wholePages(bytes);
+uchar* PictureRegion::take(std::size_t asked) {
+    const auto bytes = wholePages(asked);
     auto span = spanFor(bytes, true);
     if (span == free_.end())
         span = spanFor(bytes, false);
@@ -48,12 +50,16 @@ uchar* PictureRegion::take(std::size_t bytes) {
         free_.emplace(place + bytes, length - bytes);
     for (auto index = place / portion; index * portion < place + bytes; ++index)
         isThere_[index] = true;
+    // As the allocator would, where the address sanitizer watches.
+    ASAN_UNPOISON_MEMORY_REGION(begin_ + place, asked);
+    ASAN_POISON_MEMORY_REGION(begin_ + place + asked, bytes - asked);
     return begin_ + place;
 }
 
 void PictureRegion::giveBack(const uchar* block, std::size_t bytes) {
     auto place = static_cast<std::size_t>(block - begin_);
     auto length = wholePages(bytes);
+    ASAN_POISON_MEMORY_REGION(block, length);
     auto next = free_.upper_bound(place);
     if (next != free_.end() && next->first == place + length) {
         length += next->second;

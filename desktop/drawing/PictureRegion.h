@@ -20,9 +20,10 @@ public:
     PictureRegion(const PictureRegion&) = delete;
     PictureRegion& operator=(const PictureRegion&) = delete;
 
-    /// A block of so many bytes with any content, in memory that is there already if possible. \returns null
-    /// when there is no room
-    [[nodiscard]] uchar* take(std::size_t bytes);
+    /// A block with any content, in memory that is there already if possible. The address sanitizer notices
+    /// who writes beyond it, or after it was given back. \param asked bytes \returns null when there is no
+    /// room
+    [[nodiscard]] uchar* take(std::size_t asked);
 
     /// What was taken, with as many bytes.
     void giveBack(const uchar* block, std::size_t bytes);

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 #include <sys/mman.h>
 
+#include <sanitizer/asan_interface.h>
+
 #include <array>
 #include <cstddef>
 #include <cstring>
@@ -42,6 +44,17 @@ TEST_F(PictureRegionTest, BlocksLieApart) {
     EXPECT_EQ(second[part - 1], 2);
     EXPECT_EQ(second - first, part + page); // each begins a page
 }
+
+#ifdef __SANITIZE_ADDRESS__
+TEST_F(PictureRegionTest, TheAddressSanitizerNoticesWhoWritesBeyondABlockOrTooLate) {
+    const auto* const block = takeFilled(part + 1, 1);
+    EXPECT_FALSE(__asan_address_is_poisoned(block + part));
+    EXPECT_TRUE(__asan_address_is_poisoned(block + part + 1));
+    region_.giveBack(block, part + 1);
+    EXPECT_TRUE(__asan_address_is_poisoned(block));
+    EXPECT_EQ(takeFilled(part, 2), block);
+}
+#endif
 
 TEST_F(PictureRegionTest, NothingIsTakenBeyondItsEnd) {
     EXPECT_EQ(region_.take(portions * portion + 1), nullptr);
