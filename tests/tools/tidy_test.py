@@ -8,12 +8,14 @@ import tempfile
 import unittest
 from pathlib import Path
 
+# Without what a Python looks for on its machine, which is most of the time that it takes to start.
+PYTHON = f"#!{sys.executable} -IS\n"
+
 TIDY = Path(__file__).resolve().parents[2] / "tools" / "tidy"
 
 # Notes which source it is given with which command, or for several at once their names with the settings that hold
 # there, and finds the word BAD, and CLASH where it stands twice.
-CLANG_TIDY = """#!/usr/bin/env python3
-import json, os, pathlib, sys
+CLANG_TIDY = """import json, os, pathlib, sys
 if sys.argv[1:] == ["--version"]:
     print(os.environ["TIDY_VERSION"])
     sys.exit()
@@ -39,8 +41,7 @@ sys.exit(1 if "BAD" in text or "CRASH" in text or text.count("CLASH") > 1 else 0
 """
 
 # Every source includes the header of its name and those that it names, and is at its end there.
-SCAN = """#!/usr/bin/env python3
-import json, pathlib, sys
+SCAN = """import json, pathlib, sys
 for entry in json.loads(pathlib.Path(sys.argv[sys.argv.index("-compilation-database") + 1]).read_text()):
     source = pathlib.Path(entry["file"])
     if "UNREADABLE" not in source.read_text():
@@ -59,7 +60,7 @@ class TidyTest(unittest.TestCase):
         self.log = self.programs / "log"
         self.version = "version 1"
         for name, text in [("clang-tidy", CLANG_TIDY), ("scan", SCAN)]:
-            (self.programs / name).write_text(text)
+            (self.programs / name).write_text(PYTHON + text)
             (self.programs / name).chmod(0o755)
 
     def tearDown(self):
