@@ -6,6 +6,8 @@
 #include "system/DarwinNotifications.h"
 #include "views/UILabelPeer.h"
 
+#include <QImage>
+
 namespace {
 
 using Texts = std::vector<std::string>;
