@@ -42,8 +42,6 @@ void PaneScenes::play() {
     slideRow();
     swipeBack();
     openMenu();
-    if (screen_.traits().idiom == Idiom::Phone)
-        openPaneAgain();
 }
 
 void PaneScenes::openPane() {
@@ -134,7 +132,7 @@ void PaneScenes::openMenu() {
     end();
 }
 
-void PaneScenes::openPaneAgain() {
+void PaneScenes::playOpeningAgain() {
     command("back");
     rest();
     begin("pane opens again");

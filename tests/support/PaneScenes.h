@@ -26,6 +26,10 @@ public:
     /// message when one cannot be played.
     void play();
 
+    /// After them, the first one once more: without what comes but once, such as the pane's code. \pre a
+    /// phone, where the pane leaves the screen
+    void playOpeningAgain();
+
 protected:
     /// What follows, up to the next scene, is this one.
     virtual void sceneBegins(std::string_view name) = 0;
@@ -43,8 +47,6 @@ private:
     void pushPage();
     void swipeBack();
     void openMenu();
-    /// Where it has left the screen: without what comes but once, such as its code.
-    void openPaneAgain();
     void slideRow();
 
     void begin(std::string_view name);
