@@ -11,11 +11,14 @@ set(PRECOMPILED_PICTURES <QGuiApplication> <QImage> <QJsonArray> <QJsonObject> <
 set(PRECOMPILED_PROGRAM_TRAITS corvex_portable corvex_unoptimised GTest::gtest Qt6::Core Qt6::Gui Qt6::Widgets)
 set(PRECOMPILED_LIBRARY_TRAITS corvex_portable Qt6::Gui Qt6::Widgets)
 
-# With clang the tree's own headers too that most come to include. To g++, which compiles what one works on, they are no
-# gain.
+# With clang the tree's own headers too that most come to include. To g++ they are no gain.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
     file(GLOB PRECOMPILED_CONTRACT CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/platform/*/*.h)
-    set(PRECOMPILED_VIEWS ${PROJECT_SOURCE_DIR}/tests/support/Phone.h)
+    set(PRECOMPILED_VIEWS
+        ${PROJECT_SOURCE_DIR}/tests/support/Phone.h
+        ${PROJECT_SOURCE_DIR}/desktop/quartzcore/LayerPainter.h
+        ${PROJECT_SOURCE_DIR}/desktop/uikit/scrolling/UIScrollViewPeer.h
+        ${PROJECT_SOURCE_DIR}/desktop/uikit/views/UIViewPeer.h)
     list(APPEND PRECOMPILED_PROGRAM_TRAITS contract phone_support)
     list(APPEND PRECOMPILED_LIBRARY_TRAITS contract)
 endif()

@@ -4,14 +4,9 @@ import json
 import os
 import subprocess
 import sys
-import tempfile
 import unittest
-from pathlib import Path
 
-# Without what a Python looks for on its machine, which is most of the time that it takes to start.
-PYTHON = f"#!{sys.executable} -IS\n"
-
-TIDY = Path(__file__).resolve().parents[2] / "tools" / "tidy"
+from checked_tree import TOOLS, CheckedTree
 
 # Notes which source it is given with which command, or for several at once their names with the settings that hold
 # there, and finds the word BAD, and CLASH where it stands twice.
@@ -40,46 +35,11 @@ if "CRASH" in text:
 sys.exit(1 if "BAD" in text or "CRASH" in text or text.count("CLASH") > 1 else 0)
 """
 
-# Every source includes the header of its name and those that it names, and is at its end there.
-SCAN = """import json, pathlib, sys
-for entry in json.loads(pathlib.Path(sys.argv[sys.argv.index("-compilation-database") + 1]).read_text()):
-    source = pathlib.Path(entry["file"])
-    if "UNREADABLE" not in source.read_text():
-        others = [line.split()[2] for line in source.read_text().splitlines() if line.startswith("// INCLUDES ")]
-        files = [source, source.with_suffix(".h"), *[source.with_name(name) for name in others]]
-        print(f"{source.stem}.o: \\\\\\n  " + " \\\\\\n  ".join(str(file) for file in files if file.exists()) + "\\n")
-"""
-
-
-class TidyTest(unittest.TestCase):
+class TidyTest(CheckedTree):
     def setUp(self):
-        self.folder = tempfile.TemporaryDirectory()
-        self.root = Path(self.folder.name).resolve() / "tree"
-        self.root.mkdir()
-        self.programs = self.root.parent
-        self.log = self.programs / "log"
+        super().setUp()
         self.version = "version 1"
-        for name, text in [("clang-tidy", CLANG_TIDY), ("scan", SCAN)]:
-            (self.programs / name).write_text(PYTHON + text)
-            (self.programs / name).chmod(0o755)
-
-    def tearDown(self):
-        self.folder.cleanup()
-
-    def write(self, path, content=""):
-        target = self.root / path
-        target.parent.mkdir(parents=True, exist_ok=True)
-        target.write_text(content)
-
-    def database(self, build, *commands, compiler="c++"):
-        """The database of a build, of (source, arguments)."""
-        folder = self.root / "build" / build
-        entries = [
-            {"directory": str(folder), "file": str(self.root / source), "command": f"{compiler} {arguments} {self.root / source}"}
-            for source, arguments in commands
-        ]
-        self.write(f"build/{build}/compile_commands.json", json.dumps(entries))
-        return folder / "compile_commands.json"
+        self.program("clang-tidy", CLANG_TIDY)
 
     def tidy(self, *databases, clean=True):
         """What clang-tidy was started for: names with arguments."""
@@ -92,7 +52,7 @@ class TidyTest(unittest.TestCase):
             "TIDY_VERSION": self.version,
         }
         done = subprocess.run(
-            [sys.executable, TIDY, self.root, self.root / "build" / "tidy", *databases],
+            [sys.executable, TOOLS / "tidy", self.root, self.root / "build" / "tidy", *databases],
             capture_output=True, text=True, check=False, env=environment,
         )
         self.assertEqual(done.returncode, 0 if clean else 1, done.stdout + done.stderr)
@@ -189,16 +149,10 @@ class TidyTest(unittest.TestCase):
         self.assertIn("core/B.cpp is not clean:\nerror: it uses what map declares", self.output)
         self.assertNotIn("core/A.cpp is not clean", self.output)
 
-    def several(self, **texts):
-        """A database of core/NAME.cpp for each text, all compiled alike."""
-        for name, text in texts.items():
-            self.write(f"core/{name}.cpp", text)
-            self.write(f"core/{name}.h")
-        return self.database("desktop", *[(f"core/{name}.cpp", "-O2") for name in texts])
-
     def test_sources_that_are_compiled_alike_are_looked_at_as_one(self):
         database = self.several(A="// a\n", B="// b\n", C="// c\n")
         self.assertEqual(self.looked_at(database), ["core/A.cpp core/B.cpp core/C.cpp"])
+        self.assertIn("-Wno-shadow", self.arguments_of_all())
         self.assertIn("3 sources looked at", self.output)
         self.assertEqual(self.looked_at(database), [])
 
