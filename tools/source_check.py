@@ -27,7 +27,7 @@ import batches
 SCAN_DEPENDENCIES = os.environ.get("CLANG_SCAN_DEPS", "clang-scan-deps-22")
 JOBS = 2
 # Enough that the system's headers no longer count; the more, the longer is waited for the last.
-BATCH = 24
+BATCH = 48
 
 # Precompiled headers are the building compiler's own, and would hide what a source forgets to include.
 PRECOMPILED = re.compile(r"(^|/)cmake_pch[^/]*$")
@@ -49,6 +49,14 @@ def plain_command(command, foreign_options):
         else:
             kept.append(argument)
     return [argument for argument in kept if not foreign_options.match(argument)]
+
+
+def without_output(arguments):
+    """A command's arguments without where its object is put."""
+    if "-o" not in arguments:
+        return arguments
+    at = arguments.index("-o")
+    return [*arguments[:at], *arguments[at + 2 :]]
 
 
 def definitions(command):
@@ -200,10 +208,7 @@ class SourceCheck:
         """What a source is compiled with, but for its name and its object's."""
         entry = self.entries[source]
         command = [argument for argument in entry["arguments"] if argument != str(source)]
-        if "-o" in command:
-            at = command.index("-o")
-            del command[at : at + 2]
-        return (entry["directory"], *command)
+        return (entry["directory"], *without_output(command))
 
     def command_for_all(self, sources):
         """A compile command for the sources as one text."""

@@ -171,9 +171,9 @@ class TidyTest(CheckedTree):
         self.assertEqual(self.looked_at(together), ["A.cpp", "core/A.cpp core/B.cpp core/C.cpp", "core/B.cpp core/C.cpp"])
         self.assertEqual(self.looked_at(together), [])
 
-    def test_at_most_twenty_four_are_one(self):
-        database = self.several(**{f"S{number:02}": "" for number in range(49)})
-        self.assertEqual(sorted(len(names.split()) for names in self.looked_at(database)), [16, 16, 17])
+    def test_at_most_forty_eight_are_one(self):
+        database = self.several(**{f"S{number:02}": "" for number in range(97)})
+        self.assertEqual(sorted(len(names.split()) for names in self.looked_at(database)), [32, 32, 33])
 
     def test_sources_that_are_compiled_differently_are_looked_at_alone(self):
         self.several(A="", B="")
