@@ -12,7 +12,7 @@ set(DEVICE_CODE_OPTIONS -fno-exceptions -fblocks -fvisibility=hidden -fvisibilit
     -ffile-prefix-map=${CMAKE_SOURCE_DIR}=.)
 add_compile_options(${DEVICE_CODE_OPTIONS})
 
-# The tools run here, so another compiler makes them.
+# The tools run here, so they have a build of their own.
 set(ARM64E ${CMAKE_BINARY_DIR}/tools/corvex-arm64e)
 ExternalProject_Add(device_tools
     SOURCE_DIR ${CMAKE_SOURCE_DIR}/device/tools
