@@ -1,8 +1,37 @@
 #include "PixelRows.h"
 
+#include <sanitizer/asan_interface.h>
+
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <type_traits>
+
+namespace {
+
+/// Has the address sanitizer notice when not all of a row may be touched.
+template <class Component>
+void watchRow([[maybe_unused]] std::span<Component> row) {
+#ifdef __SANITIZE_ADDRESS__
+    auto* const begin = const_cast<std::remove_const_t<Component>*>(row.data());
+    if (const auto* const wrong = __asan_region_is_poisoned(begin, row.size_bytes()))
+        static_cast<void>(*static_cast<const volatile char*>(wrong));
+#endif
+}
+
+/// The same for so many components of each row.
+void watch(std::size_t size, auto... rows) {
+    (watchRow(rows.first(size)), ...);
+}
+
+} // namespace
+
+// The sanitizers see rows as a whole. Byte by byte, in the loops, they would take most of the time of all
+// that paints.
+#ifdef __SANITIZE_ADDRESS__
+#pragma clang attribute push(                                                                                \
+    __attribute__((no_sanitize("address", "alignment", "null", "pointer-overflow"))), apply_to = function)
+#endif
 
 namespace {
 
@@ -59,13 +88,15 @@ void bringPixelsBack(std::uint8_t* __restrict out, const std::uint8_t* __restric
 
 void PixelRows::mix(std::span<const Fine> first, std::span<const Fine> second, int share,
                     std::span<std::uint8_t> mixed) {
+    const auto size = mixed.size();
+    watch(size, first, second, mixed);
     constexpr auto whole = fineSteps * fullFineShare;
-    const auto secondShare = static_cast<Fine>(share);
-    const auto firstShare = static_cast<Fine>(fullFineShare - share);
+    const auto secondShare = static_cast<unsigned>(share);
+    const auto firstShare = static_cast<unsigned>(fullFineShare - share);
     const auto* __restrict one = first.data();
     const auto* __restrict other = second.data();
     auto* __restrict out = mixed.data();
-    for (std::size_t index = 0; index < mixed.size(); ++index) {
+    for (std::size_t index = 0; index < size; ++index) {
         const auto sum = static_cast<Fine>(one[index] * firstShare + other[index] * secondShare + whole / 2);
         out[index] = static_cast<std::uint8_t>(sum / whole);
     }
@@ -73,12 +104,14 @@ void PixelRows::mix(std::span<const Fine> first, std::span<const Fine> second, i
 
 void PixelRows::mix(std::span<const std::uint8_t> first, std::span<const std::uint8_t> second, int share,
                     std::span<std::uint8_t> mixed) {
+    const auto size = mixed.size();
+    watch(size, first, second, mixed);
     const auto secondShare = static_cast<std::uint16_t>(share);
     const auto firstShare = static_cast<std::uint16_t>(fullShare - share);
     const auto* __restrict one = first.data();
     const auto* __restrict other = second.data();
     auto* __restrict out = mixed.data();
-    for (std::size_t index = 0; index < mixed.size(); ++index) {
+    for (std::size_t index = 0; index < size; ++index) {
         const auto sum =
             static_cast<std::uint16_t>(one[index] * firstShare + other[index] * secondShare + fullShare / 2);
         out[index] = static_cast<std::uint8_t>(sum / fullShare);
@@ -87,10 +120,13 @@ void PixelRows::mix(std::span<const std::uint8_t> first, std::span<const std::ui
 
 void PixelRows::mixWithNext(std::span<const std::uint8_t> row, std::span<const std::uint8_t> shares,
                             std::span<std::uint8_t> mixed) {
+    const auto size = mixed.size();
+    watch(size + pixelSize, row);
+    watch(size, shares, mixed);
     const auto* __restrict from = row.data();
     const auto* __restrict shareOf = shares.data();
     auto* __restrict out = mixed.data();
-    for (std::size_t index = 0; index < mixed.size(); ++index) {
+    for (std::size_t index = 0; index < size; ++index) {
         const auto share = static_cast<std::uint16_t>(shareOf[index]);
         const auto rest = static_cast<std::uint16_t>(fullShare - share);
         const auto sum =
@@ -101,6 +137,7 @@ void PixelRows::mixWithNext(std::span<const std::uint8_t> row, std::span<const s
 
 void PixelRows::paintOver(std::span<std::uint8_t> row, std::span<const std::uint8_t> over,
                           std::uint8_t opacity) {
+    watch(row.size(), row, over);
     constexpr std::uint8_t full = 255;
     Alphas alphas;
     std::array<std::uint8_t, blockPixels * pixelSize> faded{};
@@ -119,6 +156,7 @@ void PixelRows::paintOver(std::span<std::uint8_t> row, std::span<const std::uint
 
 void PixelRows::bringBack(std::span<std::uint8_t> row, std::span<const std::uint8_t> before,
                           std::span<const std::uint8_t> mask) {
+    watch(row.size(), row, before, mask);
     Alphas alphas;
     for (std::size_t start = 0; start < row.size(); start += blockPixels * pixelSize) {
         const auto size = std::min(blockPixels * pixelSize, row.size() - start);
@@ -130,16 +168,24 @@ void PixelRows::bringBack(std::span<std::uint8_t> row, std::span<const std::uint
 
 void PixelRows::paintColorOver(std::span<std::uint8_t> row, std::span<const std::uint8_t> color,
                                std::uint8_t rest) {
+    const auto size = row.size();
+    watch(size, row, color);
     const auto* __restrict added = color.data();
     auto* __restrict out = row.data();
-    for (std::size_t index = 0; index < row.size(); ++index)
+    for (std::size_t index = 0; index < size; ++index)
         out[index] = static_cast<std::uint8_t>(dividedBy255(static_cast<std::uint16_t>(out[index] * rest)) +
                                                added[index]);
 }
 
 void PixelRows::add(std::span<const std::uint8_t> row, std::span<std::uint16_t> sums) {
+    const auto size = row.size();
+    watch(size, row, sums);
     const auto* __restrict from = row.data();
     auto* __restrict to = sums.data();
-    for (std::size_t index = 0; index < row.size(); ++index)
+    for (std::size_t index = 0; index < size; ++index)
         to[index] = static_cast<std::uint16_t>(to[index] + from[index]);
 }
+
+#ifdef __SANITIZE_ADDRESS__
+#pragma clang attribute pop
+#endif

@@ -7,6 +7,7 @@
 #include <malloc.h>
 
 #include <algorithm>
+#include <cstring>
 #include <map>
 #include <random>
 #include <string>
@@ -49,9 +50,12 @@ private:
 
     void expectSame(const QImage& picture, const QImage& whole) const {
         ASSERT_EQ(picture.size(), whole.size());
+        const auto rowBytes = static_cast<std::size_t>(picture.width()) * sizeof(QRgb);
         for (auto y = 0; y < picture.height(); ++y) {
             const auto* const left = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
             const auto* const right = reinterpret_cast<const QRgb*>(whole.constScanLine(y));
+            if (std::memcmp(left, right, rowBytes) == 0)
+                continue; // at once, where pixel by pixel it would take a tenth of the scenes' time
             const auto* const differs = std::mismatch(left, left + picture.width(), right).first;
             ASSERT_EQ(differs, left + picture.width())
                 << scene_ << ": pixel " << differs - left << ", " << y << " is " << std::hex << *differs
