@@ -28,7 +28,7 @@ void watch(std::size_t size, auto... rows) {
 
 // The sanitizers see rows as a whole. Byte by byte, in the loops, they would take most of the time of all
 // that paints.
-#ifdef __SANITIZE_ADDRESS__
+#if defined(__SANITIZE_ADDRESS__) && defined(__clang__)
 #pragma clang attribute push(                                                                                \
     __attribute__((no_sanitize("address", "alignment", "null", "pointer-overflow"))), apply_to = function)
 #endif
@@ -186,6 +186,6 @@ void PixelRows::add(std::span<const std::uint8_t> row, std::span<std::uint16_t> 
         to[index] = static_cast<std::uint16_t>(to[index] + from[index]);
 }
 
-#ifdef __SANITIZE_ADDRESS__
+#if defined(__SANITIZE_ADDRESS__) && defined(__clang__)
 #pragma clang attribute pop
 #endif
