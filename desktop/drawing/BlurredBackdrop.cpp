@@ -1,9 +1,11 @@
 #include "BlurredBackdrop.h"
 
 #include "GaussianBlur.h"
+#include "PixelRows.h"
 
 #include <QSysInfo>
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <span>
 
@@ -30,6 +32,19 @@ PixelComponents saturated(PixelComponents pixels, float factor) {
     return pixels;
 }
 
+PixelComponents tinted(PixelComponents pixels, const QColor& tint) {
+    constexpr float full = 255;
+    const auto alpha = tint.alphaF();
+    std::array<float, PixelRows::pixelSize> over{};
+    over[alphaPlace] = alpha * full;
+    over[redPlace] = tint.redF() * alpha * full;
+    over[greenPlace] = tint.greenF() * alpha * full;
+    over[bluePlace] = tint.blueF() * alpha * full;
+    for (std::size_t index = 0; index < pixels.values.size(); ++index)
+        pixels.values[index] = over[index % over.size()] + pixels.values[index] * (1 - alpha);
+    return pixels;
+}
+
 bool areOpaque(const PixelComponents& pixels) {
     constexpr float leastOpaque = 254.5F;
     for (auto place = alphaPlace; place < pixels.values.size(); place += pixels.channels) {
@@ -41,10 +56,12 @@ bool areOpaque(const PixelComponents& pixels) {
 
 } // namespace
 
-BlurredBackdrop::BlurredBackdrop(const QImage& behind, double sigma, double saturation, QSize size)
-    : BlurredBackdrop(
-          saturated(blurredComponents(behind, sigma, BlurEdges::Extended), static_cast<float>(saturation)),
-          size) {}
+BlurredBackdrop::BlurredBackdrop(const QImage& behind, double sigma, double saturation, const QColor& tint,
+                                 QSize size)
+    : BlurredBackdrop(tinted(saturated(blurredComponents(behind, sigma, BlurEdges::Extended),
+                                       static_cast<float>(saturation)),
+                             tint),
+                      size) {}
 
 BlurredBackdrop::BlurredBackdrop(const PixelComponents& pixels, QSize size)
     : isOpaque_(areOpaque(pixels)),

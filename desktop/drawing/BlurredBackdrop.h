@@ -2,20 +2,21 @@
 
 #include "EnlargedPixels.h"
 
+#include <QColor>
 #include <QImage>
 #include <QPoint>
 #include <QRect>
 #include <QSize>
 
 /// What is seen through a backdrop of what lies behind it: blurred, its edges extended, then each colour
-/// moved away from the gray of its brightness. A value.
+/// moved away from the gray of its brightness, and a tint over all of it. A value.
 class BlurredBackdrop {
 public:
     /// \param behind what lies behind, at any fraction of its size; ARGB32 premultiplied, not empty
     /// \param sigma the blur's standard deviation in pixels of that image; 0 leaves it as it is
     /// \param saturation 1 leaves colours as they are, 1.8 is that of the platform's backdrops
-    /// \param size that it is seen at
-    BlurredBackdrop(const QImage& behind, double sigma, double saturation, QSize size);
+    /// \param tint transparent for none \param size that it is seen at
+    BlurredBackdrop(const QImage& behind, double sigma, double saturation, const QColor& tint, QSize size);
 
     /// Whether nothing shines through it.
     [[nodiscard]] bool isOpaque() const { return isOpaque_; }

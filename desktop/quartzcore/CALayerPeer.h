@@ -16,7 +16,7 @@
 
 class LayerDelegate;
 
-/// How a layer shows what lies behind it instead of a background of its own.
+/// How a layer shows what lies behind it, through its background.
 struct Backdrop {
     double blurRadius; ///< points
     double saturation; ///< 1 leaves colours as they are

@@ -205,8 +205,10 @@ void Painting::paintLayer(std::size_t index, Surface& surface) {
 void Painting::paintInside(std::size_t index, Surface& surface) {
     const auto& item = items_[index];
     if (!seen_[index].isEmpty()) {
-        paintBackdrop(index, surface);
-        paintBackground(index, surface);
+        if (item.look.backdrop)
+            paintBackdrop(index, surface);
+        else
+            paintBackground(index, surface);
         paintContents(item, surface);
         paintPicture(index, surface);
     }
@@ -247,9 +249,9 @@ void Painting::paintShadow(const PaintItem& item, Surface& surface) {
 
 void Painting::paintBackdrop(std::size_t index, Surface& surface) {
     const auto& item = items_[index];
-    if (!item.look.backdrop || !damage_.intersects(item.body))
+    if (!damage_.intersects(item.body))
         return;
-    const auto seen = backdropOf(index, *item.look.backdrop);
+    const auto seen = backdropOf(index);
     const auto region = seen_[index] & item.body & item.innerClip;
     const auto inside = seen.isOpaque() ? item.filled : QRect();
     for (const auto& rect : region& inside)
@@ -268,8 +270,9 @@ void Painting::paintBackdrop(std::size_t index, Surface& surface) {
 }
 
 /// What lies behind is painted smaller, as finely as is needed for its blur.
-BlurredBackdrop Painting::backdropOf(std::size_t index, const Backdrop& backdrop) const {
+BlurredBackdrop Painting::backdropOf(std::size_t index) const {
     const auto& item = items_[index];
+    const auto& backdrop = *item.look.backdrop;
     const auto sigma = backdrop.blurRadius * pixelsPerPoint(item.look);
     const auto& full = item.body.size();
     const auto factor = timesSmaller(sigma);
@@ -281,7 +284,7 @@ BlurredBackdrop Painting::backdropOf(std::size_t index, const Backdrop& backdrop
     Painting(list, all, behind, color_, painter_).paintAll();
     const auto smaller = std::sqrt(static_cast<double>(size.width()) * size.height() /
                                    (static_cast<double>(full.width()) * full.height()));
-    return {behind, sigma * smaller, backdrop.saturation, full};
+    return {behind, sigma * smaller, backdrop.saturation, asColor(item.look.background), full};
 }
 
 void Painting::paintBackground(std::size_t index, Surface& surface, double opacity) {

@@ -23,18 +23,15 @@ AlertView::AlertView(const std::string& title, const std::optional<std::string>&
                      const Ref<AlertChoicesView>& choices)
     : ChoicePanel(choices),
       blur_(make<UIView>()),
-      tint_(make<UIView>()),
       texts_(make<AlertTextView>(title, message)),
       choices_(choices) {
     setClipsToBounds(true);
     layer().setCornerRadius(cornerRadius);
     layer().peer().continuousCorners = true;
     blur_->layer().peer().backdrop = material;
-    tint_->setBackgroundColor(DesktopColor::system(SystemColor::AlertPanel));
-    for (const auto& view : {blur_, tint_}) {
-        view->setUserInteractionEnabled(false);
-        addSubview(view);
-    }
+    blur_->setBackgroundColor(DesktopColor::system(SystemColor::AlertPanel));
+    blur_->setUserInteractionEnabled(false);
+    addSubview(blur_);
     addSubview(texts_);
     addSubview(scroll());
 }
@@ -59,7 +56,6 @@ void AlertView::layoutSubviews() {
     const auto choices = choicesHeight(height);
     const auto texts = texts_->fullHeight(AlertLayout::width);
     blur_->setFrame(bounds());
-    tint_->setFrame(bounds());
     texts_->setFrame(CGRectMake(0, 0, AlertLayout::width, height - choices));
     texts_->setUserInteractionEnabled(texts > height - choices);
     choices_->setBelowTexts(texts > 0);

@@ -39,7 +39,6 @@ private:
     [[nodiscard]] double choicesHeight(double height) const;
 
     Ref<UIView> blur_;
-    Ref<UIView> tint_;
     Ref<AlertTextView> texts_;
     Ref<AlertChoicesView> choices_;
 };

@@ -28,7 +28,6 @@ MenuView::MenuView(const DesktopMenu& menu, const Ref<MenuRowsView>& rows)
     : ChoicePanel(rows),
       panel_(make<UIView>()),
       blur_(make<UIView>()),
-      tint_(make<UIView>()),
       rows_(rows) {
     layer().setShadowRadius(shadowRadius);
     layer().setShadowOpacity(shadowOpacity);
@@ -37,10 +36,9 @@ MenuView::MenuView(const DesktopMenu& menu, const Ref<MenuRowsView>& rows)
     panel_->layer().setCornerRadius(cornerRadius);
     panel_->layer().peer().continuousCorners = true;
     blur_->layer().peer().backdrop = material;
-    tint_->setBackgroundColor(DesktopColor::system(SystemColor::MenuPanel));
+    blur_->setBackgroundColor(DesktopColor::system(SystemColor::MenuPanel));
     addSubview(panel_);
     panel_->addSubview(blur_);
-    panel_->addSubview(tint_);
     if (!menu.title().empty())
         addTitle(menu.title());
     panel_->addSubview(scroll());
@@ -65,7 +63,7 @@ double MenuView::fullHeight() const {
 void MenuView::layoutSubviews() {
     ChoicePanel::layoutSubviews();
     const auto& size = bounds().size;
-    for (const auto& view : {panel_, blur_, tint_})
+    for (const auto& view : {panel_, blur_})
         view->setFrame(bounds());
     if (title_)
         title_->setFrame(CGRectMake(titleMargin, 0, size.width - 2 * titleMargin, titleHeight));

@@ -34,7 +34,6 @@ private:
 
     Ref<UIView> panel_; ///< cuts the rows off at the round corners, which the shadow around is not
     Ref<UIView> blur_;
-    Ref<UIView> tint_;
     Ref<UILabel> title_; ///< empty without one
     Ref<MenuRowsView> rows_;
 };

@@ -13,19 +13,14 @@ constexpr Backdrop material{.blurRadius = 20, .saturation = 1.8};
 
 } // namespace
 
-BarBackgroundView::BarBackgroundView()
-    : blur_(make<UIView>()),
-      tint_(make<UIView>()),
-      hairline_(make<UIView>()) {
+BarBackgroundView::BarBackgroundView() : blur_(make<UIView>()), hairline_(make<UIView>()) {
     setUserInteractionEnabled(false);
     blur_->layer().peer().backdrop = material;
-    tint_->setBackgroundColor(DesktopColor::system(SystemColor::BarBackground));
+    blur_->setBackgroundColor(DesktopColor::system(SystemColor::BarBackground));
     hairline_->setBackgroundColor(DesktopColor::system(SystemColor::BarHairline));
     // Masks, so that the parts keep up with an animated width.
-    for (const auto& view : {blur_, tint_}) {
-        view->setAutoresizingMask(UIViewAutoresizing::FlexibleWidth | UIViewAutoresizing::FlexibleHeight);
-        addSubview(view);
-    }
+    blur_->setAutoresizingMask(UIViewAutoresizing::FlexibleWidth | UIViewAutoresizing::FlexibleHeight);
+    addSubview(blur_);
     hairline_->setAutoresizingMask(UIViewAutoresizing::FlexibleWidth | UIViewAutoresizing::FlexibleTopMargin);
     addSubview(hairline_);
 }
@@ -34,6 +29,5 @@ void BarBackgroundView::layoutSubviews() {
     UIView::layoutSubviews();
     const auto& size = bounds().size;
     blur_->setFrame(bounds());
-    tint_->setFrame(bounds());
     hairline_->setFrame(CGRectMake(0, size.height, size.width, 1 / peer().traits().displayScale));
 }

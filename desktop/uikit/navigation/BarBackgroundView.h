@@ -13,6 +13,5 @@ public:
 
 private:
     Ref<UIView> blur_;
-    Ref<UIView> tint_;
     Ref<UIView> hairline_;
 };

@@ -10,11 +10,7 @@ void BackdropViewPeer::setSettings(const Ref<DesktopBackdropSettings>& settings)
     if (!settings)
         return;
     layer().peer().backdrop = settings->blur();
-    const auto tint = makeWith<UIView>(&UIView::initWithFrame, view().bounds());
-    tint->setBackgroundColor(settings->tint());
-    tint->setUserInteractionEnabled(false);
-    tint->setAutoresizingMask(followsSuperview);
-    insertSubview(tint, 0);
+    setBackgroundColor(settings->tint());
 }
 
 void BackdropViewPeer::didMoveToSuperview() {

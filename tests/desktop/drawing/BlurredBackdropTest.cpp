@@ -9,7 +9,7 @@ namespace {
 /// The whole of what is seen of an image through a backdrop of its size.
 QImage seenThrough(const QImage& image, double sigma, double saturation) {
     QImage seen(image.size(), QImage::Format_ARGB32_Premultiplied);
-    BlurredBackdrop(image.convertToFormat(seen.format()), sigma, saturation, image.size())
+    BlurredBackdrop(image.convertToFormat(seen.format()), sigma, saturation, Qt::transparent, image.size())
         .copyTo(seen, seen.rect());
     return seen;
 }
@@ -69,6 +69,21 @@ TEST(BlurredBackdropTest, AWideBackdropHasItsMeanInTheMiddle) {
         EXPECT_GE(seen.pixelColor(x, 150).red(), seen.pixelColor(x - 1, 150).red());
 }
 
+TEST(BlurredBackdropTest, ATintLiesOverAllOfIt) {
+    QImage image(30, 30, QImage::Format_ARGB32_Premultiplied);
+    image.fill(QColor(200, 100, 40));
+    const QColor tint(10, 250, 120, 51);
+    QImage seen(90, 90, image.format());
+    const auto look = [&](const QColor& over) {
+        BlurredBackdrop(image, 4, 1, over, seen.size()).copyTo(seen, seen.rect());
+        return *reinterpret_cast<const QRgb*>(seen.constScanLine(40));
+    };
+    EXPECT_EQ(look(tint), qRgb(162, 130, 56));
+    EXPECT_EQ(look(Qt::transparent), qRgb(200, 100, 40));
+    image.fill(Qt::transparent);
+    EXPECT_EQ(look(tint), qRgba(2, 50, 24, 51));
+}
+
 TEST(BlurredBackdropTest, APartIsThatOfTheWhole) {
     QImage image(40, 30, QImage::Format_ARGB32_Premultiplied);
     for (auto y = 0; y < image.height(); ++y) {
@@ -76,7 +91,7 @@ TEST(BlurredBackdropTest, APartIsThatOfTheWhole) {
             image.setPixelColor(x, y, QColor(x * 6, y * 8, (x * y) % 256));
     }
     const QSize size(320, 240);
-    const BlurredBackdrop backdrop(image, 7, 1.8, size);
+    const BlurredBackdrop backdrop(image, 7, 1.8, Qt::transparent, size);
     QImage whole(size, QImage::Format_ARGB32_Premultiplied);
     backdrop.copyTo(whole, whole.rect());
     const QRect rect(33, 21, 150, 97);
@@ -90,7 +105,7 @@ TEST(BlurredBackdropTest, APartIsThatOfTheWhole) {
 TEST(BlurredBackdropTest, IsOpaqueWhereAllBehindItIs) {
     QImage image(30, 30, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::white);
-    EXPECT_TRUE(BlurredBackdrop(image, 8, 1.8, {90, 90}).isOpaque());
+    EXPECT_TRUE(BlurredBackdrop(image, 8, 1.8, Qt::transparent, {90, 90}).isOpaque());
     image.setPixel(15, 15, qRgba(0, 0, 0, 0));
-    EXPECT_FALSE(BlurredBackdrop(image, 2, 1.8, {90, 90}).isOpaque());
+    EXPECT_FALSE(BlurredBackdrop(image, 2, 1.8, Qt::transparent, {90, 90}).isOpaque());
 }

@@ -273,7 +273,7 @@ TEST_F(UIAlertControllerTest, longTextsScrollWithinTheScreen) {
     EXPECT_GE(frame.origin.y, 47 + 20);
     EXPECT_LE(CGRectGetMaxY(frame), 844 - 34 - 20);
     EXPECT_NEAR(CGRectGetMaxY(top()->actions()[0].frame), CGRectGetMaxY(frame), 1e-6);
-    const auto& texts = dynamic_cast<UIScrollView&>(*top()->shownView().peer().subviews()[2]);
+    const auto& texts = dynamic_cast<UIScrollView&>(*top()->shownView().peer().subviews()[1]);
     EXPECT_DOUBLE_EQ(peerOf<UIScrollViewPeer>(texts).contentOffset().y, 0);
     drag({195, 500}, {195, 300});
     up({195, 300});
