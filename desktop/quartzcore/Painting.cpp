@@ -205,8 +205,8 @@ void Painting::paintLayer(std::size_t index, Surface& surface) {
 void Painting::paintInside(std::size_t index, Surface& surface) {
     const auto& item = items_[index];
     if (!seen_[index].isEmpty()) {
-        if (item.look.backdrop)
-            paintBackdrop(index, surface);
+        if (const auto& backdrop = item.look.backdrop)
+            paintBackdrop(index, *backdrop, surface);
         else
             paintBackground(index, surface);
         paintContents(item, surface);
@@ -247,11 +247,11 @@ void Painting::paintShadow(const PaintItem& item, Surface& surface) {
     painter_.shadows().paint(readied(surface, item, item.extent), look.shadowShape(), shadow);
 }
 
-void Painting::paintBackdrop(std::size_t index, Surface& surface) {
+void Painting::paintBackdrop(std::size_t index, const Backdrop& backdrop, Surface& surface) {
     const auto& item = items_[index];
     if (!damage_.intersects(item.body))
         return;
-    const auto seen = backdropOf(index);
+    const auto seen = backdropOf(index, backdrop);
     const auto region = seen_[index] & item.body & item.innerClip;
     const auto inside = seen.isOpaque() ? item.filled : QRect();
     for (const auto& rect : region& inside)
@@ -270,9 +270,8 @@ void Painting::paintBackdrop(std::size_t index, Surface& surface) {
 }
 
 /// What lies behind is painted smaller, as finely as is needed for its blur.
-BlurredBackdrop Painting::backdropOf(std::size_t index) const {
+BlurredBackdrop Painting::backdropOf(std::size_t index, const Backdrop& backdrop) const {
     const auto& item = items_[index];
-    const auto& backdrop = *item.look.backdrop;
     const auto sigma = backdrop.blurRadius * pixelsPerPoint(item.look);
     const auto& full = item.body.size();
     const auto factor = timesSmaller(sigma);

@@ -35,7 +35,7 @@ private:
     void findSeen();
     /// The same for a part of an item with all within it.
     [[nodiscard]] QRegion seenWithin(const PaintItem& item, const QRegion& part) const;
-    [[nodiscard]] BlurredBackdrop backdropOf(std::size_t index) const;
+    [[nodiscard]] BlurredBackdrop backdropOf(std::size_t index, const Backdrop& backdrop) const;
     void paintItems(std::size_t first, std::size_t end, Surface& surface);
     void paintItem(std::size_t index, Surface& surface);
     void paintGroup(std::size_t index, Surface& surface);
@@ -43,8 +43,8 @@ private:
     void paintInside(std::size_t index, Surface& surface);
     void paintMasked(std::size_t index, Surface& surface);
     void paintShadow(const PaintItem& item, Surface& surface);
-    /// Of a layer that has one, with its background.
-    void paintBackdrop(std::size_t index, Surface& surface);
+    /// With the layer's background.
+    void paintBackdrop(std::size_t index, const Backdrop& backdrop, Surface& surface);
     /// \param opacity of a group that has nothing else
     void paintBackground(std::size_t index, Surface& surface, double opacity = 1);
     void paintContents(const PaintItem& item, Surface& surface);
