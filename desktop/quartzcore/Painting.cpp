@@ -28,7 +28,7 @@ double pixelsPerPoint(const LayerLook& look) {
 /// How many times smaller what is blurred may be painted.
 int timesSmaller(double sigma) {
     constexpr double leastSigma = 6; ///< of the smaller picture; what is finer could be told
-    return static_cast<int>(std::bit_floor(static_cast<unsigned>(std::max(1.0, sigma / leastSigma))));
+    return static_cast<int>(std::bit_floor(std::max(1U, static_cast<unsigned>(sigma / leastSigma))));
 }
 
 /// How many times smaller a picture is taken to be painted at a place.
