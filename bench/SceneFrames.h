@@ -8,9 +8,8 @@
 /// What the frames of one scene took, and whether that is good enough.
 class SceneFrames {
 public:
-    /// Of the median, so many times what a copy of the whole picture takes; above what is wanted (15), since
-    /// other work on the machine slows a copy down less than what has branches.
-    static constexpr double mostCopies = 20;
+    /// Of the median, so many times what a copy of the whole picture takes.
+    static constexpr double mostCopies = 15;
 
     explicit SceneFrames(std::string name) : name_(std::move(name)) {}
 
