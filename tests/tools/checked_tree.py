@@ -1,6 +1,8 @@
 """A tree of sources with compile databases, for the tests of what checks them, with stand-ins for LLVM's programs."""
 
 import json
+import os
+import subprocess
 import sys
 import tempfile
 import unittest
@@ -23,13 +25,21 @@ for entry in json.loads(pathlib.Path(sys.argv[sys.argv.index("-compilation-datab
 
 
 class CheckedTree(unittest.TestCase):
+    # A check in the folder of tools, and the name of the environment's variable that says what program it starts.
+    tool = ""
+    variable = ""
+    # A stand-in for that program, which appends a line of JSON to the file $LOG for each source, and has $VERSION.
+    stand_in = ""
+
     def setUp(self):
         self.folder = tempfile.TemporaryDirectory()
         self.root = Path(self.folder.name).resolve() / "tree"
         self.root.mkdir()
         self.programs = self.root.parent
         self.log = self.programs / "log"
+        self.version = "version 1"
         self.program("scan", SCAN)
+        self.program("stand-in", self.stand_in)
 
     def tearDown(self):
         self.folder.cleanup()
@@ -59,3 +69,21 @@ class CheckedTree(unittest.TestCase):
             self.write(f"core/{name}.cpp", text)
             self.write(f"core/{name}.h")
         return self.database("desktop", *[(f"core/{name}.cpp", "-O2") for name in texts])
+
+    def check(self, *databases, clean=True):
+        """What the stand-in noted. What the check printed is the output."""
+        self.log.write_text("")
+        environment = {
+            **os.environ,
+            self.variable: str(self.programs / "stand-in"),
+            "CLANG_SCAN_DEPS": str(self.programs / "scan"),
+            "LOG": str(self.log),
+            "VERSION": self.version,
+        }
+        done = subprocess.run(
+            [sys.executable, TOOLS / self.tool, self.root, self.root / "build" / self.tool, *databases],
+            capture_output=True, text=True, check=False, env=environment,
+        )
+        self.assertEqual(done.returncode, 0 if clean else 1, done.stdout + done.stderr)
+        self.output = done.stdout
+        return [json.loads(line) for line in self.log.read_text().splitlines()]

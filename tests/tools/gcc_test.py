@@ -1,20 +1,16 @@
 """What tools/gcc starts its compiler for, and what it makes of the answer, with a stand-in for it."""
 
-import json
-import os
-import subprocess
-import sys
 import unittest
 
-from checked_tree import TOOLS, CheckedTree
+from checked_tree import CheckedTree
 
 # Notes in which folder and with what it is started, complains of the word LOUD and refuses the word BAD.
 GCC = """import json, os, pathlib, sys
 if sys.argv[1:] == ["--version"]:
-    print(os.environ["GCC_VERSION"])
+    print(os.environ["VERSION"])
     sys.exit()
 (source,) = [argument for argument in sys.argv if argument.endswith(".cpp")]
-with open(os.environ["GCC_LOG"], "a") as log:
+with open(os.environ["LOG"], "a") as log:
     log.write(json.dumps([os.getcwd(), sys.argv[1:]]) + "\\n")
 text = pathlib.Path(source).read_text()
 for word in ["BAD", "LOUD"]:
@@ -25,33 +21,17 @@ sys.exit(1 if "BAD" in text else 0)
 
 
 class GccTest(CheckedTree):
+    tool = "gcc"
+    variable = "GCC"
+    stand_in = GCC
+
     def setUp(self):
         super().setUp()
-        self.version = "version 1"
-        self.program("gcc", GCC)
         (self.root / "build" / "desktop").mkdir(parents=True)
-
-    def check(self, database, clean=True):
-        """The folders and arguments that the compiler was started with."""
-        self.log.write_text("")
-        environment = {
-            **os.environ,
-            "GCC": str(self.programs / "gcc"),
-            "CLANG_SCAN_DEPS": str(self.programs / "scan"),
-            "GCC_LOG": str(self.log),
-            "GCC_VERSION": self.version,
-        }
-        done = subprocess.run(
-            [sys.executable, TOOLS / "gcc", self.root, self.root / "build" / "gcc", database],
-            capture_output=True, text=True, check=False, env=environment,
-        )
-        self.assertEqual(done.returncode, 0 if clean else 1, done.stdout + done.stderr)
-        self.output = done.stdout
-        return [json.loads(line) for line in self.log.read_text().splitlines()]
 
     def looked_at(self, database, clean=True):
         """How many times the compiler was started."""
-        return len(self.check(database, clean))
+        return len(self.check(database, clean=clean))
 
     def test_a_source_is_compiled_as_its_build_compiles_it_and_nothing_is_kept(self):
         self.several(A="// a\n")

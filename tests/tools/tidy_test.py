@@ -1,18 +1,15 @@
 """Which sources tools/tidy looks at, and which it knows to be clean, with stand-ins for LLVM's programs."""
 
 import json
-import os
-import subprocess
-import sys
 import unittest
 
-from checked_tree import TOOLS, CheckedTree
+from checked_tree import CheckedTree
 
 # Notes which source it is given with which command, or for several at once their names with the settings that hold
 # there, and finds the word BAD, and CLASH where it stands twice.
 CLANG_TIDY = """import json, os, pathlib, sys
 if sys.argv[1:] == ["--version"]:
-    print(os.environ["TIDY_VERSION"])
+    print(os.environ["VERSION"])
     sys.exit()
 quiet, option, folder, source = sys.argv[1:]
 assert (quiet, option) == ("-quiet", "-p")
@@ -24,7 +21,7 @@ if name == "batch.cpp":
     name = " ".join(line[3:] for line in text.splitlines() if line.startswith("// ") and line.endswith(".cpp"))
     settings = [folder / ".clang-tidy" for folder in pathlib.Path(source).parents]
     note = next((path.read_text() for path in settings if path.exists()), "")
-with open(os.environ["TIDY_LOG"], "a") as log:
+with open(os.environ["LOG"], "a") as log:
     log.write(json.dumps([name, note]) + "\\n")
 if "BAD" in text:
     print(f"{source}:1:1: error: BAD")
@@ -35,29 +32,15 @@ if "CRASH" in text:
 sys.exit(1 if "BAD" in text or "CRASH" in text or text.count("CLASH") > 1 else 0)
 """
 
+
 class TidyTest(CheckedTree):
-    def setUp(self):
-        super().setUp()
-        self.version = "version 1"
-        self.program("clang-tidy", CLANG_TIDY)
+    tool = "tidy"
+    variable = "CLANG_TIDY"
+    stand_in = CLANG_TIDY
 
     def tidy(self, *databases, clean=True):
         """What clang-tidy was started for: names with arguments."""
-        self.log.write_text("")
-        environment = {
-            **os.environ,
-            "CLANG_TIDY": str(self.programs / "clang-tidy"),
-            "CLANG_SCAN_DEPS": str(self.programs / "scan"),
-            "TIDY_LOG": str(self.log),
-            "TIDY_VERSION": self.version,
-        }
-        done = subprocess.run(
-            [sys.executable, TOOLS / "tidy", self.root, self.root / "build" / "tidy", *databases],
-            capture_output=True, text=True, check=False, env=environment,
-        )
-        self.assertEqual(done.returncode, 0 if clean else 1, done.stdout + done.stderr)
-        self.output = done.stdout
-        return dict(json.loads(line) for line in self.log.read_text().splitlines())
+        return dict(self.check(*databases, clean=clean))
 
     def looked_at(self, *databases, clean=True):
         return sorted(self.tidy(*databases, clean=clean))
