@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <span>
 #include <tuple>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -89,17 +90,12 @@ TEST_P(PixelRowsTest, MixesWithNothingBeyondTheNextPixel) {
 }
 
 TEST_P(PixelRowsTest, PaintsOverNothingBeyondARow) {
-    const auto row = bytes(200);
-    const auto over = bytes(100);
-    PixelRows::paintOver(row.row(), over.row(), 255);
-    EXPECT_TRUE(row.isAll(222));
-}
-
-TEST_P(PixelRowsTest, PaintsFadedOverNothingBeyondARow) {
-    const auto row = bytes(200);
-    const auto over = bytes(100);
-    PixelRows::paintOver(row.row(), over.row(), 128);
-    EXPECT_TRUE(row.isAll(211));
+    for (const auto& [opacity, painted] : {std::pair{255, 222}, std::pair{128, 211}}) {
+        const auto row = bytes(200);
+        const auto over = bytes(100);
+        PixelRows::paintOver(row.row(), over.row(), static_cast<std::uint8_t>(opacity));
+        EXPECT_TRUE(row.isAll(static_cast<std::uint8_t>(painted)));
+    }
 }
 
 TEST_P(PixelRowsTest, BringsNothingBackBeyondARow) {
