@@ -178,7 +178,7 @@ std::vector<Presentation::Completion> Presentation::finish() {
 void Presentation::abandon() {
     if (phase_ == Phase::Over)
         return;
-    const auto kept = shared_from_this();
+    const auto kept = weak_from_this().lock(); // windows end with this, so that it must not throw
     const auto presented = presented_;
     if (const auto above = presented->peer().ownPresentation())
         above->abandon();
