@@ -4,6 +4,7 @@
 #include "DesktopImage.h"
 #include "OBWelcomeControllerPeer.h"
 #include "Phone.h"
+#include "PrimaryColors.h"
 #include "screen/Compositor.h"
 #include "scrolling/UIScrollViewPeer.h"
 #include "touches/TapGestureRecognizer.h"
@@ -13,10 +14,6 @@
 #include <functional>
 #include <string>
 #include <vector>
-
-inline constexpr ColorComponents red{.red = 1};
-inline constexpr ColorComponents green{.green = 1};
-inline constexpr ColorComponents blue{.blue = 1};
 
 /// A screen of a sheet's size with a welcome page that fills it, and shorthand for the page's parts.
 class WelcomeFixture : public Phone {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "DesktopColor.h"
+#include "PrimaryColors.h"
 #include "TestDevice.h"
 #include "screen/Compositor.h"
 #include "screen/Screen.h"
@@ -51,7 +52,3 @@ struct ShownScreen {
     Ref<UIWindow> window;
     Compositor compositor;
 };
-
-inline constexpr ColorComponents red{.red = 1};
-inline constexpr ColorComponents green{.green = 1};
-inline constexpr ColorComponents blue{.blue = 1};
