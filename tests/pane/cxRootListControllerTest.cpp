@@ -115,17 +115,16 @@ TEST_F(cxRootListControllerTest, ItsSwitchStandsInTheBarWithItsColours) {
     const auto shown = masterSwitch();
     ASSERT_TRUE(shown);
     EXPECT_EQ(shown->bounds().size, (CGSize{50, 30}));
-    const auto expect = [](const Ref<UIColor>& color, double red, double green, double blue, double alpha) {
-        EXPECT_EQ(DesktopColor::resolve(color, Traits()),
-                  (ColorComponents{.red = red, .green = green, .blue = blue, .alpha = alpha}));
+    const auto expect = [](const Ref<UIColor>& color, const ColorComponents& components) {
+        EXPECT_EQ(DesktopColor::resolve(color, Traits()), components);
     };
-    expect(shown->thumbTintColor(), 0.19, 0.23, 0.33, 1);
-    expect(shown->onThumbTintColor(), 0.19, 0.23, 0.33, 1);
-    expect(shown->activeColor(), 0.07, 0.09, 0.11, 1);
-    expect(shown->inactiveColor(), 0.07, 0.09, 0.11, 1);
-    expect(shown->onTintColor(), 0.45, 0.58, 0.67, 1);
-    expect(shown->borderColor(), 0, 0, 0, 0);
-    expect(shown->shadowColor(), 0, 0, 0, 1);
+    expect(shown->thumbTintColor(), {0.19, 0.23, 0.33, 1});
+    expect(shown->onThumbTintColor(), {0.19, 0.23, 0.33, 1});
+    expect(shown->activeColor(), {0.07, 0.09, 0.11, 1});
+    expect(shown->inactiveColor(), {0.07, 0.09, 0.11, 1});
+    expect(shown->onTintColor(), {0.45, 0.58, 0.67, 1});
+    expect(shown->borderColor(), {0, 0, 0, 0});
+    expect(shown->shadowColor(), {0, 0, 0, 1});
     EXPECT_FALSE(shown->onImage());
     EXPECT_FALSE(peerOf<UILabelPeer>(*shown->onLabel()).text());
 }

@@ -21,11 +21,13 @@ class OwnNamesTest(unittest.TestCase):
         self.assertEqual(self.names("class Page final : public Base {\n    int rows;\n};"), {"Page"})
         self.assertEqual(self.names("enum class Kind { Switch };\nusing Rows = std::vector<Row>;"), {"Kind", "Rows"})
         self.assertEqual(self.names("template <typename T> struct Box {};"), {"Box"})
+        self.assertEqual(self.names("struct alignas(std::max_align_t) Head {\n    int size;\n};"), {"Head"})
 
     def test_functions_and_variables(self):
         self.assertEqual(self.names("std::function<void(int)> handler(double width) {\n    return {};\n}"), {"handler"})
         self.assertEqual(self.names("constexpr double gap = 4;\nconst Insets none{};\nint rows[2];"), {"gap", "none", "rows"})
         self.assertEqual(self.names('const FrameworkClass\n    frameworkClass("UIView");'), {"frameworkClass"})
+        self.assertEqual(self.names('[[gnu::visibility("default")]] int rows(int count);'), {"rows"})
 
     def test_what_declares_nothing(self):
         self.assertEqual(self.names("using std::string;\nusing enum Kind;\nusing namespace std::chrono_literals;"), set())
@@ -36,6 +38,26 @@ class OwnNamesTest(unittest.TestCase):
 
     def test_names_outside_are_not_its_own(self):
         self.assertEqual(batches.own_names("void shown() {}\n" + unnamed("int kept = 1;") + "int after = 2;\n"), {"kept"})
+
+
+class MembersTest(unittest.TestCase):
+    def test_what_classes_declare(self):
+        body = "public:\n    [[nodiscard]] int rows() const;\n    int gap_ = 4;\n"
+        self.assertEqual(batches.members(f"class Page final : public Base {{\n{body}}};\n"), {"rows", "gap_"})
+
+    def test_classes_within_others(self):
+        text = "struct Page {\n    struct alignas(8) Row {\n        int gap;\n    };\n    int count;\n};\n"
+        self.assertEqual(batches.members(text), {"Row", "gap", "count"})
+
+    def test_what_is_defined_for_a_class_that_is_declared_elsewhere(self):
+        self.assertEqual(batches.members("int Page::rows() const {\n    return Rows::count(2);\n}\n"), {"rows"})
+
+    def test_a_constructor_is_none(self):
+        text = "struct Page {\n    explicit Page(int rows);\n    int rows;\n};\n"
+        self.assertEqual(batches.members(text), {"rows"})
+
+    def test_what_stands_within_functions_is_none(self):
+        self.assertEqual(batches.members("int rows() {\n    int gap = 4;\n    return gap;\n}\n"), set())
 
 
 class JoinedTest(unittest.TestCase):
@@ -51,16 +73,14 @@ class JoinedTest(unittest.TestCase):
         self.assertIn("return gapIn0;", both)
         self.assertIn("int gapIn1 = 5;", both)
 
-    def test_a_name_that_another_source_only_uses_is_told_apart(self):
-        both = self.joined(unnamed("int gap = 4;"), "int b(int gap) { return gap; }\n")
+    def test_a_name_that_others_may_have_from_their_headers_is_told_apart(self):
+        both = self.joined(unnamed("int gap = 4;"), '#include "gap.h"\nint b(int gap) { return gap; }\n')
         self.assertIn("int gapIn0 = 4;", both)
         self.assertIn("int b(int gap) { return gap; }", both)
 
-    def test_a_name_that_no_other_source_knows_stays(self):
-        self.assertIn("int gap = 4;", self.joined(unnamed("int gap = 4;"), "int b;\n"))
-
     def test_only_the_name_itself_is_told_apart(self):
-        text = '#include "gap.h"\n' + unnamed("int gap = 4;\nint wide_gap = gap; // the gap\nauto text = \"gap\";")
+        uses = "int wide_gap = gap; // the gap\nauto text = \"gap\";\n"
+        text = '#include "gap.h"\n' + unnamed("int gap = 4;") + uses
         both = self.joined(text, unnamed("int gap = 5;"))
         self.assertIn('#include "gap.h"', both)
         self.assertIn("int wide_gap = gapIn0; // the gap", both)
@@ -73,9 +93,14 @@ class JoinedTest(unittest.TestCase):
         self.assertIn('R"x(" gap)x"', both)
         self.assertIn("1'000'000, gap", both.replace("gapIn0", "gap"))
 
-    def test_what_may_be_a_member_stays(self):
-        text = unnamed("int gap(const Piece& piece) { return piece.gap; }")
-        self.assertIn(text, self.joined(text, "int b(int gap);\n"))
+    def test_the_like_named_member_of_something_else_stays(self):
+        text = unnamed("int gap(const Piece& piece) { return piece.gap + Piece::gap + offsetof(Piece, gap); }")
+        self.assertIn("int gapIn0(const Piece& piece) { return piece.gap + Piece::gap + offsetof(Piece, gap); }",
+                      self.joined(text))
+
+    def test_what_a_class_of_the_source_has_as_well_stays(self):
+        text = unnamed("struct Piece {\n    int gap;\n};\n\nint gap(const Piece& piece) { return piece.gap; }")
+        self.assertIn("int gap(const PieceIn0& piece) { return piece.gap; }", self.joined(text))
 
     def test_what_is_included_before_is_left_out(self):
         both = self.joined('#include "A.h"\n#include <map>\n', '#include "B.h"\n#include <map> // again\n')

@@ -19,12 +19,12 @@ SignalListener::~SignalListener() {
 }
 
 std::optional<std::string> SignalListener::next() {
-    using Clock = std::chrono::steady_clock;
-    for (const auto deadline = Clock::now() + std::chrono::seconds(10); heard_.empty();) {
+    using SteadyClock = std::chrono::steady_clock;
+    for (const auto deadline = SteadyClock::now() + std::chrono::seconds(10); heard_.empty();) {
         const int processed = sd_bus_process(bus_, nullptr);
         if (processed > 0)
             continue;
-        if (processed < 0 || Clock::now() > deadline || sd_bus_wait(bus_, 100'000) < 0)
+        if (processed < 0 || SteadyClock::now() > deadline || sd_bus_wait(bus_, 100'000) < 0)
             return std::nullopt;
     }
     auto name = heard_.front();

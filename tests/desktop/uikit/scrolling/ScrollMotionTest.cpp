@@ -34,8 +34,8 @@ TEST(ScrollMotionTest, GlideToAnEdgePassesItAndIsDrawnBack) {
     EXPECT_NEAR(before, after, 0.1) << "the speed does not jump";
     EXPECT_FALSE(motion.isOverAt(atEdge)) << "it passes the edge";
     auto farthest = 0.0;
-    for (auto milliseconds = 0; milliseconds < 1000; ++milliseconds) {
-        const auto time = atEdge + milliseconds * 0.001;
+    for (auto millisecond = 0; millisecond < 1000; ++millisecond) {
+        const auto time = atEdge + millisecond * 0.001;
         farthest = std::max(farthest, motion.at(time));
         EXPECT_GE(motion.at(time), 400 - 1e-6) << "it does not swing";
     }
