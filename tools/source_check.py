@@ -32,6 +32,8 @@ BATCH = 48
 # Precompiled headers are the building compiler's own, and would hide what a source forgets to include.
 PRECOMPILED = re.compile(r"(^|/)cmake_pch[^/]*$")
 COMPILER = re.compile(r"(^|/)(g|c|clang)\+\+[-\d.]*$")
+# How much is optimised, and for which place code is made.
+LAST_OF_WHICH_HOLDS = (re.compile(r"-O\w*$"), re.compile(r"-f(?:PIC|PIE)$"))
 # A source that is compiled for several processors at once is looked at for the first.
 FURTHER_ARCHITECTURES = re.compile(r"( -arch \S+)((?: -arch \S+)+)(?: -fuse-lipo=\S+)?")
 
@@ -48,7 +50,19 @@ def plain_command(command, foreign_options):
                 kept.pop()
         else:
             kept.append(argument)
-    return [argument for argument in kept if not foreign_options.match(argument)]
+    return without_replaced([argument for argument in kept if not foreign_options.match(argument)])
+
+
+def without_replaced(arguments):
+    """The arguments without options that a later one takes the place of."""
+    last = {kind_of(argument): index for index, argument in enumerate(arguments)}
+    kept = (not kind_of(argument) or last[kind_of(argument)] == index for index, argument in enumerate(arguments))
+    return list(itertools.compress(arguments, kept))
+
+
+def kind_of(argument):
+    """What an option decides alone, as the last of its kind; None for other arguments."""
+    return next((kind for kind in LAST_OF_WHICH_HOLDS if kind.match(argument)), None)
 
 
 def without_output(arguments):

@@ -172,6 +172,14 @@ class TidyTest(CheckedTree):
         (entry,) = json.loads((self.root / "build/tidy/batches/0/compile_commands.json").read_text())
         return entry["arguments"]
 
+    def test_options_that_later_ones_replace_make_no_difference(self):
+        self.several(A="", B="")
+        alike = ("core/A.cpp", "-O2 -fPIC -Wall -O0 -fPIC"), ("core/B.cpp", "-O3 -fPIE -Wall -O0 -fPIC")
+        self.assertEqual(self.looked_at(self.database("desktop", *alike)), ["core/A.cpp core/B.cpp"])
+        self.assertEqual(self.arguments_of_all()[1:4], ["-Wall", "-O0", "-fPIC"])
+        others = ("core/A.cpp", "-O0 -fPIC -Wall -O2"), ("core/B.cpp", "-O2 -fPIC -Wall -O0")
+        self.assertEqual(self.looked_at(self.database("desktop", *others)), ["A.cpp", "B.cpp"])
+
     def test_where_headers_are_is_put_together(self):
         self.several(A="", B="")
         database = self.database(
