@@ -315,10 +315,10 @@ void UITextFieldPeer::drawText(QPainter& painter, const Traits& traits) const {
     }
     const auto color = DesktopColor::resolve(DesktopColor::system(SystemColor::Label), traits).toQColor();
     layout().paint(painter, {textLeft(), top}, isEnabled() ? color : withOpacity(color, disabledOpacity));
-    for (const auto& rect : rectsOf(text_.composed())) {
-        const auto y = top + layout().baseline(0) + underlineDistance;
+    const auto scale = traits.displayScale;
+    const auto y = std::round((top + layout().baseline(0) + underlineDistance) * scale) / scale;
+    for (const auto& rect : rectsOf(text_.composed()))
         painter.fillRect(QRectF(rect.x(), y, rect.width(), underlineWidth), color);
-    }
 }
 
 void UITextFieldPeer::drawPlaceholder(QPainter& painter, const Traits& traits) const {
