@@ -7,11 +7,11 @@
 /// Work on rows of pixels, in loops that compilers turn into vector instructions.
 namespace PixelRows {
 
-/// A component of a pixel with a fraction: 4 are one step of 255. Mixed with 64 shares, they fit into 16
-/// bits.
+/// A component of a pixel with a fraction: 16 are one step of 255, so that the edges between two values of a
+/// slow slope are where they belong. Mixed with 16 shares, they fit into 16 bits.
 using Fine = std::uint16_t;
-inline constexpr int fineSteps = 4;
-inline constexpr int fullFineShare = 64;
+inline constexpr int fineSteps = 16;
+inline constexpr int fullFineShare = 16;
 
 /// Of a mix's second part, all of it.
 inline constexpr int fullShare = 128;

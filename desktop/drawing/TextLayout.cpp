@@ -97,6 +97,11 @@ double TextLayout::baseline(std::size_t line) const {
     return static_cast<double>(line) * style_.lineHeight() + style_.ascent();
 }
 
+double TextLayout::topWithin(double height) const {
+    const double scale = options_.pixelScale;
+    return std::floor((height - size().height()) / 2 * scale) / scale;
+}
+
 QRectF TextLayout::lineRect(std::size_t line) const {
     const auto& shown = lines()[line];
     return {left(shown), static_cast<double>(line) * style_.lineHeight(), lineWidth(shown),

@@ -46,6 +46,10 @@ public:
     /// From the top to a line's baseline.
     [[nodiscard]] double baseline(std::size_t line) const;
 
+    /// Where it starts to be in the middle of a height, at a whole pixel: what stands beside another text in
+    /// the same height has the same baseline. Negative when it is higher.
+    [[nodiscard]] double topWithin(double height) const;
+
     /// A line's ink and side bearings by its full height. Lines are aligned within the maximum width, or
     /// within the width of `size` where that has no limit.
     [[nodiscard]] QRectF lineRect(std::size_t line) const;

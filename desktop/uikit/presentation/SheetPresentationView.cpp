@@ -144,8 +144,16 @@ void SheetPresentationView::place() {
     if (!covered || backing_->peer().superview() == nullptr)
         return;
     covered->peer().setTransform(places.steppedBack(covered->layer().peer().untransformedFrame(), openness_));
-    covered->layer().setCornerRadius(coveredCorner_ +
-                                     openness_ * (SheetGeometry::cornerRadius - coveredCorner_));
+    const auto corner = cornerWhileClosed();
+    covered->layer().setCornerRadius(corner + openness_ * (SheetGeometry::cornerRadius - corner));
+}
+
+/// What fills the screen looks as round as the glass, which cuts its corners off.
+double SheetPresentationView::cornerWhileClosed() const {
+    const auto covered = beneath();
+    const auto fillsScreen =
+        covered && covered->layer().peer().untransformedFrame() == Screen::current().bounds();
+    return fillsScreen ? std::max(coveredCorner_, Screen::current().cornerRadius()) : coveredCorner_;
 }
 
 AnimationGroup::Course SheetPresentationView::openingCourse() const {

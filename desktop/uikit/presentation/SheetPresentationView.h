@@ -71,6 +71,7 @@ private:
     void setOpenness(double openness);
     void placeCard();
     void place();
+    [[nodiscard]] double cornerWhileClosed() const;
 
     Ref<UIView> backing_; ///< behind everything, where what is covered has stepped back
     /// Beneath the card, in what is behind everything: a card that blurs what it covers is not to take in the

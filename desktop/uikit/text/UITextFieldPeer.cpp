@@ -181,6 +181,11 @@ double UITextFieldPeer::textLeft() const {
     return room.origin.x + std::max(0.0, free) - scrolled_;
 }
 
+double UITextFieldPeer::textTop() const {
+    const auto room = textRect();
+    return room.origin.y + layout().topWithin(room.size.height);
+}
+
 std::size_t UITextFieldPeer::byteIndex(qsizetype position) const {
     return static_cast<std::size_t>(QStringView(readableText()).left(position).toUtf8().size());
 }
@@ -189,8 +194,8 @@ CGRect UITextFieldPeer::caretRect(qsizetype position) const {
     const auto room = textRect();
     const auto caret = layout().caretRect(byteIndex(position));
     const auto last = std::max(room.origin.x, CGRectGetMaxX(room) - caretWidth);
-    return CGRectMake(std::clamp(textLeft() + caret.x(), room.origin.x, last),
-                      CGRectGetMidY(room) - caret.height() / 2, caretWidth, caret.height());
+    return CGRectMake(std::clamp(textLeft() + caret.x(), room.origin.x, last), textTop(), caretWidth,
+                      caret.height());
 }
 
 CGRect UITextFieldPeer::caretOnScreen() const {
@@ -204,10 +209,9 @@ qsizetype UITextFieldPeer::positionAt(const DesktopTouch& touch) const {
 }
 
 std::vector<QRectF> UITextFieldPeer::rectsOf(EditedText::Range range) const {
-    const auto room = textRect();
     auto rects = layout().rangeRects(byteIndex(range.begin), byteIndex(range.end));
     for (auto& rect : rects)
-        rect.translate(textLeft(), CGRectGetMidY(room) - rect.height() / 2);
+        rect.translate(textLeft(), textTop());
     return rects;
 }
 
@@ -304,18 +308,17 @@ void UITextFieldPeer::drawLayer(QPainter& painter, const CGRect& bounds, const T
 
 void UITextFieldPeer::drawText(QPainter& painter, const Traits& traits) const {
     const auto tint = DesktopColor::resolve(tintColor(), traits).toQColor();
-    const auto room = textRect();
-    const auto top = CGRectGetMidY(room) - layout().lineRect(0).height() / 2;
+    const auto top = textTop();
     if (isFirstResponder_) {
         for (const auto& rect : rectsOf(text_.selection()))
             painter.fillRect(rect, withOpacity(tint, selectionOpacity));
     }
     const auto color = DesktopColor::resolve(DesktopColor::system(SystemColor::Label), traits).toQColor();
     layout().paint(painter, {textLeft(), top}, isEnabled() ? color : withOpacity(color, disabledOpacity));
-    for (const auto& rect : rectsOf(text_.composed())) {
-        const auto y = top + layout().baseline(0) + underlineDistance;
+    const auto scale = traits.displayScale;
+    const auto y = std::round((top + layout().baseline(0) + underlineDistance) * scale) / scale;
+    for (const auto& rect : rectsOf(text_.composed()))
         painter.fillRect(QRectF(rect.x(), y, rect.width(), underlineWidth), color);
-    }
 }
 
 void UITextFieldPeer::drawPlaceholder(QPainter& painter, const Traits& traits) const {
@@ -326,6 +329,6 @@ void UITextFieldPeer::drawPlaceholder(QPainter& painter, const Traits& traits) c
                                   .alignment = alignment(),
                                   .pixelScale = traits.displayScale});
     const auto color = DesktopColor::resolve(DesktopColor::system(SystemColor::PlaceholderText), traits);
-    placeholder.paint(painter, {room.origin.x, CGRectGetMidY(room) - placeholder.lineRect(0).height() / 2},
+    placeholder.paint(painter, {room.origin.x, room.origin.y + placeholder.topWithin(room.size.height)},
                       color.toQColor());
 }

@@ -130,6 +130,7 @@ private:
     [[nodiscard]] HorizontalAlignment alignment() const;
     /// Where the layout stands, as far as it is scrolled.
     [[nodiscard]] double textLeft() const;
+    [[nodiscard]] double textTop() const;
     [[nodiscard]] std::vector<QRectF> rectsOf(EditedText::Range range) const;
     [[nodiscard]] std::size_t byteIndex(qsizetype position) const;
     [[nodiscard]] qsizetype positionAt(const DesktopTouch& touch) const;

@@ -200,10 +200,6 @@ const TextLayout& UILabelPeer::layoutFor(CGSize size, double scale) const {
     return laid_->layout;
 }
 
-double UILabelPeer::top(const TextLayout& layout, double height, double scale) {
-    return std::floor((height - layout.size().height()) / 2 * scale) / scale;
-}
-
 bool UILabelPeer::isTruncated() const {
     return layoutFor(view().bounds().size, traits().displayScale).isTruncated();
 }
@@ -244,8 +240,7 @@ void UILabelPeer::drawLayer(QPainter& painter, const CGRect& bounds, const Trait
     if (CGRectIsEmpty(bounds))
         return;
     const auto& layout = layoutFor(bounds.size, traits.displayScale);
-    const QPointF origin(bounds.origin.x,
-                         bounds.origin.y + top(layout, bounds.size.height, traits.displayScale));
+    const QPointF origin(bounds.origin.x, bounds.origin.y + layout.topWithin(bounds.size.height));
     if (shadowColor_)
         layout.paint(painter, origin + QPointF(shadowOffset_.width, shadowOffset_.height),
                      DesktopColor::resolve(shadowColor_, traits).toQColor());

@@ -91,7 +91,6 @@ private:
     [[nodiscard]] FontStyle styleFittingLine(double width, double scale) const;
     [[nodiscard]] FontStyle styleFittingLines(CGSize size, double scale) const;
     [[nodiscard]] const TextLayout& layoutFor(CGSize size, double scale) const;
-    [[nodiscard]] static double top(const TextLayout& layout, double height, double scale);
 
     std::optional<std::string> text_;
     FontStyle fontStyle_;

@@ -39,6 +39,18 @@ TEST(AboutPageTest, TellsOfAPhoneInTheDevicesLanguage) {
                                      {"Zeitzone", "Europe/Berlin"}}));
 }
 
+TEST(AboutPageTest, TellsOfEachDeviceInLanguagesThatAreReadFromTheRight) {
+    const auto deviceIn = [](const char* locale, Idiom idiom) {
+        const TestDevice device({.locale = locale, .timeZone = "UTC"});
+        const Screen screen({.idiom = idiom});
+        return shownBy(*make<AboutPage>());
+    };
+    EXPECT_EQ(deviceIn("ar_EG", Idiom::Phone).at("الجهاز"), "هاتف على سطح المكتب");
+    EXPECT_EQ(deviceIn("ar_EG", Idiom::Pad).at("الجهاز"), "جهاز لوحي على سطح المكتب");
+    EXPECT_EQ(deviceIn("he_IL", Idiom::Phone).at("מכשיר"), "טלפון על שולחן העבודה");
+    EXPECT_EQ(deviceIn("he_IL", Idiom::Pad).at("מכשיר"), "טאבלט על שולחן העבודה");
+}
+
 TEST(AboutPageTest, TellsOfATabletInTheDark) {
     const TestDevice device;
     const Screen screen({.idiom = Idiom::Pad, .style = UserInterfaceStyle::Dark, .scale = 2});

@@ -34,6 +34,22 @@ protected:
         std::erase_if(lines, [](const std::string& line) { return !line.contains("symbolName:]"); });
         return lines;
     }
+
+    /// The beginnings and ends of access to a file while it is imported.
+    [[nodiscard]] Lines accessTo(const std::string& name) const {
+        takeJournal();
+        importFile(name);
+        Lines lines = takeJournal();
+        std::erase_if(lines, [](const std::string& line) { return !line.contains("AccessingSecurity"); });
+        for (auto& line : lines)
+            line = line.substr(line.find(' ') + 1);
+        return lines;
+    }
+
+    /// One of them. \param what "start" or "stop"
+    [[nodiscard]] std::string accessLine(const std::string& what, const std::string& name) const {
+        return what + "AccessingSecurityScopedResource] " + folder + "/" + name;
+    }
 };
 
 constexpr auto sheetMade = "-[OBWelcomeController initWithTitle:detailText:symbolName:] ";
@@ -191,27 +207,32 @@ TEST_F(BackupMethodsTest, WhatFailsIsToldInItsOwnWords) {
 
 // That it goes on where the name is taken is meant.
 TEST_F(BackupMethodsTest, AccessToWhatIsImportedEndsUnlessItsNameIsTaken) {
-    const auto accessTo = [this](const std::string& name) {
-        takeJournal();
-        importFile(name);
-        Lines lines = takeJournal();
-        std::erase_if(lines, [](const std::string& line) { return !line.contains("AccessingSecurity"); });
-        for (auto& line : lines)
-            line = line.substr(line.find(' ') + 1);
-        return lines;
-    };
-    const auto line = [this](const std::string& what, const std::string& name) {
-        return what + "AccessingSecurityScopedResource] " + folder + "/" + name;
-    };
     std::ofstream(folder + "/broken.tar.gz") << std::string(2000, 'x');
     EXPECT_EQ(accessTo("broken.tar.gz"),
-              (Lines{line("start", "broken.tar.gz"), line("stop", "broken.tar.gz")}));
+              (Lines{accessLine("start", "broken.tar.gz"), accessLine("stop", "broken.tar.gz")}));
     storeValue(boolean(true), "kEnabled");
     save("a");
     files::copy_file(backup("a.tar.gz"), folder + "/a.tar.gz");
-    EXPECT_EQ(accessTo("a.tar.gz"), Lines{line("start", "a.tar.gz")});
+    EXPECT_EQ(accessTo("a.tar.gz"), Lines{accessLine("start", "a.tar.gz")});
     files::rename(folder + "/a.tar.gz", folder + "/b.tar.gz");
-    EXPECT_EQ(accessTo("b.tar.gz"), (Lines{line("start", "b.tar.gz"), line("stop", "b.tar.gz")}));
+    EXPECT_EQ(accessTo("b.tar.gz"), (Lines{accessLine("start", "b.tar.gz"), accessLine("stop", "b.tar.gz")}));
+}
+
+TEST_F(BackupMethodsTest, AccessThatWasRefusedIsNotEnded) {
+    std::ofstream(folder + "/broken.tar.gz") << std::string(2000, 'x');
+    refuseAccess(true);
+    const auto lines = accessTo("broken.tar.gz");
+    refuseAccess(false);
+    EXPECT_EQ(lines, Lines{accessLine("start", "broken.tar.gz")});
+}
+
+TEST_F(BackupMethodsTest, APageThatEndsIsTakenFromTheObservers) {
+    auto* const other = newByName("cxBackupRestoreController");
+    countRemovalsOf(other);
+    objc_release(other);
+    EXPECT_EQ(aliveOf("cxBackupRestoreController"), 1);
+    EXPECT_EQ(countedRemovals(), 1U);
+    countRemovalsOf(nullptr);
 }
 
 TEST_F(BackupMethodsTest, AnArchiveMayBeNamedInCapitals) {

@@ -159,8 +159,9 @@ TEST_F(CellsTest, ARowWithoutTextsIsExplainedWithoutATitle) {
 TEST_F(CellsTest, AHeaderIsBuiltFromTheBackToTheFront) {
     auto* const cell =
         newCell("CxHeaderCell", 0, nullptr, row({{"title", text("Corvex")}, {"description", text("Text")}}));
-    const auto lines = journalOf({"setBackgroundColor", "CAGradientLayer", "Effect", "Sublayer", "addSubview",
-                                  "Arranged", "imageNamed", "setText:", "setAlpha", "animate"});
+    const auto lines =
+        journalOf({"setBackgroundColor", "CAGradientLayer", "Effect", "Sublayer", "addSubview", "Arranged",
+                   "imageNamed", "setText:", "UIStackView bottomAnchor", "setAlpha", "animate"});
     EXPECT_EQ(lines, (Lines{"-[UIView setBackgroundColor:] clear",
                             "-[CAGradientLayer setColors:] [white(0.1, 0.3), white(0.2, 0.3)]",
                             "-[CAGradientLayer setStartPoint:] {0, 0}",
@@ -186,6 +187,7 @@ TEST_F(CellsTest, AHeaderIsBuiltFromTheBackToTheFront) {
                             "-[UIStackView addArrangedSubview:] UILabel",
                             "-[UILabel setText:] \"Text\"",
                             "-[UIStackView addArrangedSubview:] UILabel",
+                            "-[UIStackView bottomAnchor]",
                             "-[UIView setAlpha:] 0",
                             "+[UIView animateWithDuration:delay:options:animations:completion:] 0.3 0 0",
                             "-[UIView setAlpha:] 1"}));
@@ -259,6 +261,27 @@ TEST_F(CellsTest, ARowOfButtonsIsBuiltEachTimeItComesIntoASuperview) {
     EXPECT_EQ(
         journalOf({"imageNamed"}).front(),
         "+[UIImage imageNamed:] \"/var/jb/Library/PreferenceBundles/corvexPrefs.bundle/Assets/one.png\"");
+    objc_release(cell);
+    objc_release(table);
+}
+
+TEST_F(CellsTest, TheRowsColumnsAreHeldAtItsEdgesAndInItsMiddle) {
+    auto* const cell = newCell("TweakCustomCell", 0, nullptr, row({}));
+    auto* const table = newByName("UIView");
+    takeJournal();
+    moveView(cell, table);
+    EXPECT_EQ(journalOf({"-[TweakCustomCell top", "-[TweakCustomCell bottom", "-[TweakCustomCell leading",
+                         "-[TweakCustomCell trailing", "-[TweakCustomCell center", "AxisAnchor"}),
+              (Lines{"-[TweakCustomCell topAnchor]",
+                     "-[NSLayoutYAxisAnchor constraintEqualToAnchor:constant:] NSLayoutYAxisAnchor 20",
+                     "-[TweakCustomCell bottomAnchor]",
+                     "-[NSLayoutYAxisAnchor constraintEqualToAnchor:constant:] NSLayoutYAxisAnchor -20",
+                     "-[TweakCustomCell leadingAnchor]",
+                     "-[NSLayoutXAxisAnchor constraintEqualToAnchor:constant:] NSLayoutXAxisAnchor 20",
+                     "-[TweakCustomCell trailingAnchor]",
+                     "-[NSLayoutXAxisAnchor constraintEqualToAnchor:constant:] NSLayoutXAxisAnchor -20",
+                     "-[TweakCustomCell centerXAnchor]",
+                     "-[NSLayoutXAxisAnchor constraintEqualToAnchor:constant:] NSLayoutXAxisAnchor 0"}));
     objc_release(cell);
     objc_release(table);
 }

@@ -76,10 +76,14 @@ void pickDocument(UIDocumentPickerViewController *picker, const char *path) {
     [picker->delegate documentPicker:picker didPickDocumentsAtURLs:[NSArray arrayWithObject:url]];
 }
 
+static bool accessIsRefused;
+
+void refuseAccess(bool refused) { accessIsRefused = refused; }
+
 @implementation NSURL (StandIn)
 - (BOOL)startAccessingSecurityScopedResource {
     record(self, _cmd, @"%@", [self path]);
-    return YES;
+    return !accessIsRefused;
 }
 - (void)stopAccessingSecurityScopedResource { record(self, _cmd, @"%@", [self path]); }
 @end
@@ -95,3 +99,27 @@ void observe(id observer, const char *name) {
 void postNotification(const char *name) {
     [[NSNotificationCenter defaultCenter] postNotificationName:[NSString stringWithUTF8String:name] object:nil];
 }
+
+static id watchedObserver; // not owned
+static unsigned removals;
+
+@implementation NSNotificationCenter (StandIn)
+// The original once the two have changed places.
+- (void)countAndRemoveObserver:(id)observer {
+    removals += observer == watchedObserver;
+    [self countAndRemoveObserver:observer];
+}
+@end
+
+void countRemovalsOf(id observer) {
+    static bool isCounted;
+    Class centre = [NSNotificationCenter class];
+    if (!isCounted)
+        method_exchangeImplementations(class_getInstanceMethod(centre, @selector(removeObserver:)),
+                                       class_getInstanceMethod(centre, @selector(countAndRemoveObserver:)));
+    isCounted = true;
+    watchedObserver = observer;
+    removals = 0;
+}
+
+unsigned countedRemovals(void) { return removals; }

@@ -65,9 +65,14 @@ void answerAlertOf(id controller, unsigned index);
 
 /// The user chooses a file in a document picker.
 void pickDocument(id picker, const char* path);
+/// Whether URLs refuse from now on that access to them begins.
+void refuseAccess(bool refused);
 /// From now on the object is sent "noticed:" for notifications of that name.
 void observe(id observer, const char* name);
 void postNotification(const char* name);
+/// Counts from now on how often the object is taken from the observers, whether or not it was one.
+void countRemovalsOf(id observer);
+unsigned countedRemovals(void);
 
 /// Runs the completions of animations.
 void finishAnimations();

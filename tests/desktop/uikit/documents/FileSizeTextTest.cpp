@@ -23,3 +23,13 @@ TEST(FileSizeTextTest, IsInTheDevicesLocale) {
     EXPECT_EQ(fileSizeText(1'234'567), "1,2 MB");
     EXPECT_EQ(fileSizeText(7), "7 Byte");
 }
+
+TEST(FileSizeTextTest, IsInLanguagesThatAreReadFromTheRight) {
+    const auto bytesIn = [](const char* locale, std::uint64_t bytes) {
+        const TestDevice device({.locale = locale});
+        return fileSizeText(bytes);
+    };
+    EXPECT_EQ(bytesIn("ar_EG", 515), "٥١٥ بايت");
+    EXPECT_EQ(bytesIn("he_IL", 515), "515 בתים");
+    EXPECT_EQ(bytesIn("he_IL", 1), "1 בית");
+}

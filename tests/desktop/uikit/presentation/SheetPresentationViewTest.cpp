@@ -110,6 +110,27 @@ TEST_F(SheetPresentationViewTest, risesFromBelowTheScreenAlongTheSystemsCurve) {
     }
 }
 
+TEST_F(SheetPresentationViewTest, thePresentersCornersAreTheScreensOnesUntilItStepsBack) {
+    const auto sheet = page("B");
+    const auto corner = [this] {
+        return navigation->view().layer().peer().shownValue(LayerProperty::CornerRadius).front();
+    };
+    present(sheet, true);
+    auto last = 0;
+    for (const auto time : {0, 100, 250, 500}) {
+        advance(milliseconds(time - std::exchange(last, time)));
+        const auto part = AnimationCurve::system().progress(time / 500.0);
+        EXPECT_NEAR(corner(), 47.3 + part * (10 - 47.3), 1e-6) << time;
+    }
+    sheetOf(sheet).drag(787 / 2.0);
+    EXPECT_NEAR(corner(), (47.3 + 10) / 2, 1e-6);
+    sheetOf(sheet).drag(0);
+    const auto second = page("C");
+    presentOn(*sheet, second);
+    sheetOf(second).drag(787);
+    EXPECT_DOUBLE_EQ(sheetOf(sheet).shownView().layer().cornerRadius(), 10);
+}
+
 TEST_F(SheetPresentationViewTest, aSecondOneMovesTheFirstUp) {
     const auto first = presented();
     const auto second = page("C");
