@@ -1,5 +1,6 @@
 #include "PicturePool.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -21,7 +22,9 @@ struct PicturePool::Lease {
     static void end(void* picture) {
         const std::unique_ptr<Lease> lease(static_cast<Lease*>(picture));
         lease->region->giveBack(lease->block, lease->bytes);
-        lease->region->giveToSystem(capacity);
+        auto& kept = *lease->region;
+        const auto used = kept.bytesThere() - kept.readyBytes();
+        kept.giveToSystem(std::max(capacity, usual - std::min(usual, used)));
     }
 };
 
@@ -48,5 +51,5 @@ bool PicturePool::isReadyFor(QSize size) const {
 }
 
 bool PicturePool::prepare() {
-    return keptBytes() < prepared && region_->prepare();
+    return (keptBytes() < prepared || allBytes() < usual) && region_->prepare();
 }

@@ -91,6 +91,10 @@ std::size_t PictureRegion::readyBytes() const {
     return bytes;
 }
 
+std::size_t PictureRegion::bytesThere() const {
+    return static_cast<std::size_t>(std::ranges::count(isThere_, true)) * portion;
+}
+
 bool PictureRegion::prepare() {
     const auto longest = std::ranges::max_element(free_, {}, &Spans::value_type::second);
     if (longest == free_.end())

@@ -34,6 +34,9 @@ public:
     /// The bytes of memory that are there and not taken.
     [[nodiscard]] std::size_t readyBytes() const;
 
+    /// The same with those that are taken, in whole portions.
+    [[nodiscard]] std::size_t bytesThere() const;
+
     /// Brings the memory of one more portion, where it makes room for the largest pictures. \returns whether
     /// there was one
     bool prepare();

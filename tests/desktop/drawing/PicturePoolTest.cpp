@@ -14,6 +14,14 @@ namespace {
 constexpr QSize large(1000, 1000);
 constexpr auto largeBytes = std::size_t{4} * 1000 * 1000;
 
+/// At least as many bytes of pictures.
+std::vector<QImage> picturesOf(std::size_t bytes, PicturePool& pool) {
+    std::vector<QImage> pictures;
+    for (std::size_t made = 0; made < bytes; made += largeBytes)
+        pictures.push_back(pool.make(large));
+    return pictures;
+}
+
 } // namespace
 
 TEST(PicturePoolTest, APictureIsOneAsAnyOther) {
@@ -56,11 +64,21 @@ TEST(PicturePoolTest, SmallerPicturesShareTheMemoryOfALargeOne) {
     EXPECT_LT(pool.keptBytes(), kept - largeBytes / 10 * 9);
 }
 
-TEST(PicturePoolTest, PreparesBitByBitWhatAPageNeeds) {
+TEST(PicturePoolTest, PreparesBitByBitWhatIsUsual) {
     PicturePool pool;
     EXPECT_TRUE(pool.prepare());
     EXPECT_LT(pool.keptBytes(), PicturePool::prepared / 2);
     EXPECT_FALSE(pool.isReadyFor({1170, 2532}));
+    while (pool.prepare()) {
+    }
+    EXPECT_GE(pool.keptBytes(), PicturePool::usual);
+    EXPECT_LT(pool.keptBytes(), PicturePool::usual + PictureRegion::portion);
+    EXPECT_TRUE(pool.isReadyFor({1170, 2532}));
+}
+
+TEST(PicturePoolTest, PreparesWhatAPageNeedsHoweverMuchIsUsed) {
+    PicturePool pool;
+    const auto pictures = picturesOf(PicturePool::usual, pool);
     while (pool.prepare()) {
     }
     EXPECT_GE(pool.keptBytes(), PicturePool::prepared);
@@ -74,16 +92,22 @@ TEST(PicturePoolTest, SmallPicturesAreNotKept) {
     EXPECT_EQ(pool.keptBytes(), 0U);
 }
 
-TEST(PicturePoolTest, NoMoreIsKeptThanItsCapacity) {
+TEST(PicturePoolTest, WhatIsUsualIsKept) {
     PicturePool pool;
-    std::vector<QImage> pictures;
-    for (std::size_t bytes = 0; bytes < 2 * PicturePool::capacity; bytes += largeBytes)
-        pictures.push_back(pool.make(large));
-    pictures.clear();
+    picturesOf(2 * PicturePool::usual, pool).clear();
+    EXPECT_LE(pool.keptBytes(), PicturePool::usual);
+    EXPECT_GT(pool.keptBytes(), PicturePool::usual - 2 * PictureRegion::portion);
+    EXPECT_EQ(pool.allBytes(), PicturePool::usual);
+    static_cast<void>(pool.make({6000, 6000})); // which alone is larger
+    EXPECT_LE(pool.keptBytes(), PicturePool::usual);
+}
+
+TEST(PicturePoolTest, WhileMuchIsUsedNoMoreIsKeptThanItsCapacity) {
+    PicturePool pool;
+    const auto used = picturesOf(PicturePool::usual, pool);
+    picturesOf(2 * PicturePool::capacity, pool).clear();
     EXPECT_LE(pool.keptBytes(), PicturePool::capacity);
     EXPECT_GT(pool.keptBytes(), PicturePool::capacity / 2);
-    static_cast<void>(pool.make({4000, 4000})); // which alone is larger
-    EXPECT_LE(pool.keptBytes(), PicturePool::capacity);
 }
 
 TEST(PicturePoolTest, WhatHasNoRoomIsStillAPicture) {
