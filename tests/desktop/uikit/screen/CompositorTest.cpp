@@ -6,12 +6,31 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <memory>
 
 namespace {
 
 using namespace std::chrono_literals;
 
 const QColor white = Qt::white;
+
+/// Counts how often it is painted, by way of a picture that it keeps.
+class CountedView final : public UIView {
+public:
+    CountedView() : UIView(std::make_unique<Peer>()) { layer().peer().keepsPicture = true; }
+
+    [[nodiscard]] int paintings() const { return dynamic_cast<const Peer&>(peer()).paintings; }
+
+private:
+    struct Peer final : public UIViewPeer {
+        // UIViewPeer:
+        void drawLayer(QPainter& /*painter*/, const CGRect& /*bounds*/, const Traits& /*traits*/) override {
+            ++paintings;
+        }
+
+        int paintings = 0;
+    };
+};
 
 class CompositorTest : public testing::Test {
 protected:
@@ -438,6 +457,31 @@ TEST_F(CompositorTest, WhatIsCoveredIsSeenThroughABackdropBesideIt) {
     shown_.put(CGRectMake(0, 0, 20, 40), green);
     EXPECT_EQ(shown_.pixel(22, 20).red(), blurred);
     EXPECT_EQ(shown_.pixel(10, 20), QColor(Qt::green));
+}
+
+TEST_F(CompositorTest, ABackdropHasOnlyThatPaintedWhichItShows) {
+    const auto page = shown_.add(CGRectMake(0, 0, 40, 40), green);
+    page->layer().peer().keepsPicture = true;
+    const auto upper = make<CountedView>();
+    upper->setFrame(CGRectMake(0, 0, 40, 10));
+    page->addSubview(upper);
+    const auto lower = make<CountedView>();
+    lower->setFrame(CGRectMake(0, 30, 40, 10));
+    page->addSubview(lower);
+    const auto cover = shown_.add(CGRectMake(0, 0, 40, 40), blue);
+    const auto panel = make<UIView>();
+    panel->setFrame(CGRectMake(0, 28, 40, 12));
+    panel->layer().peer().backdrop = Backdrop{.blurRadius = 20, .saturation = 1};
+    shown_.window->addSubview(panel);
+    cover->setFrame(CGRectMake(0, 0, 40, 28));
+    shown_.compositor.render();
+    EXPECT_EQ(upper->paintings(), 0);
+    EXPECT_EQ(lower->paintings(), 1);
+    cover->peer().removeFromSuperview();
+    panel->setFrame(CGRectMake(0, 0, 40, 40));
+    shown_.compositor.render();
+    EXPECT_EQ(upper->paintings(), 1);
+    EXPECT_EQ(lower->paintings(), 1);
 }
 
 TEST_F(CompositorTest, AScaledPictureLetsThroughWhatIsBehindItsEdges) {
