@@ -17,6 +17,14 @@ QImage partOf(const QImage& picture, const QRect& part) {
     return {begin, part.width(), part.height(), picture.bytesPerLine(), picture.format()};
 }
 
+/// The bands of a picture of that size that hold a part of it.
+QRect bandsAround(const QRect& part, QSize size) {
+    constexpr auto rowsAtOnce = 256;
+    const auto top = part.top() / rowsAtOnce * rowsAtOnce;
+    const auto end = (part.bottom() / rowsAtOnce + 1) * rowsAtOnce;
+    return {0, top, size.width(), end - top};
+}
+
 /// How large something is so many times smaller.
 QSize reducedSize(QSize size, int factor) {
     const auto part = [factor](int length) { return std::max(1, (length + factor / 2) / factor); };
@@ -55,8 +63,9 @@ const QImage& LayerPainter::pictureOf(const PaintItem& item, const QRegion& part
     auto& kept = compare(item);
     if (!kept.outdated.intersects(part))
         return pictures_.picture(item.identity);
-    // What is within pictures is painted bit by bit as it comes to be seen, but texts are not.
-    const auto damage = item.inner->hasPictures() ? kept.outdated & part : kept.outdated;
+    // What is within pictures is painted bit by bit as it comes to be seen, texts in bands of many rows.
+    const auto seen = item.inner->hasPictures() ? part : bandsAround(part.boundingRect(), item.inner->size());
+    const auto damage = kept.outdated & seen;
     kept.outdated -= damage;
     Painting(*item.inner, damage, kept.picture, Qt::transparent, *this).paintAll();
     return pictures_.picture(item.identity);

@@ -5,8 +5,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <chrono>
 #include <memory>
+#include <vector>
 
 namespace {
 
@@ -482,6 +484,32 @@ TEST_F(CompositorTest, ABackdropHasOnlyThatPaintedWhichItShows) {
     shown_.compositor.render();
     EXPECT_EQ(upper->paintings(), 1);
     EXPECT_EQ(lower->paintings(), 1);
+}
+
+TEST(Compositor, APictureOfTextsIsPaintedInBandsAsTheyComeToBeSeen) {
+    ShownScreen shown({40, 400}, 3);
+    const auto page = shown.add(CGRectMake(0, 390, 40, 400), green);
+    page->layer().peer().keepsPicture = true;
+    std::vector<Ref<CountedView>> texts;
+    for (const auto top : {0, 60, 120, 180}) {
+        texts.push_back(make<CountedView>());
+        texts.back()->layer().peer().keepsPicture = false;
+        texts.back()->setFrame(CGRectMake(0, top, 40, 20));
+        page->addSubview(texts.back());
+    }
+    const auto expectPaintings = [&](const std::vector<int>& expected) {
+        shown.compositor.render();
+        std::vector<int> paintings(texts.size());
+        std::ranges::transform(texts, paintings.begin(), [](const auto& text) { return text->paintings(); });
+        EXPECT_EQ(paintings, expected);
+    };
+    expectPaintings({1, 1, 0, 0});
+    page->setFrame(CGRectMake(0, 320, 40, 400)); // up to the end of the first 256 pixels
+    expectPaintings({1, 1, 0, 0});
+    page->setFrame(CGRectMake(0, 310, 40, 400));
+    expectPaintings({1, 1, 1, 0});
+    page->setFrame(CGRectMake(0, 0, 40, 400));
+    expectPaintings({1, 1, 1, 1});
 }
 
 TEST_F(CompositorTest, AScaledPictureLetsThroughWhatIsBehindItsEdges) {
