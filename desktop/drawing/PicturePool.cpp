@@ -22,11 +22,14 @@ struct PicturePool::Lease {
     static void end(void* picture) {
         const std::unique_ptr<Lease> lease(static_cast<Lease*>(picture));
         lease->region->giveBack(lease->block, lease->bytes);
-        auto& kept = *lease->region;
-        const auto used = kept.bytesThere() - kept.readyBytes();
-        kept.giveToSystem(std::max(capacity, usual - std::min(usual, used)));
+        lease->region->giveToSystem(mostReady(*lease->region));
     }
 };
+
+std::size_t PicturePool::mostReady(const PictureRegion& region) {
+    const auto used = region.bytesThere() - region.readyBytes();
+    return std::max(capacity, usual - std::min(usual, used));
+}
 
 PicturePool& PicturePool::shared() {
     static PicturePool pool;
@@ -51,5 +54,6 @@ bool PicturePool::isReadyFor(QSize size) const {
 }
 
 bool PicturePool::prepare() {
-    return (keptBytes() < prepared || allBytes() < usual) && region_->prepare();
+    const auto isReady = region_->isReadyFor(prepared) && allBytes() >= usual;
+    return !isReady && region_->prepare(mostReady(*region_));
 }

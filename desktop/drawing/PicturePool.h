@@ -13,9 +13,9 @@
 class PicturePool {
 public:
     /// Bytes that are kept while no picture uses them.
-    static constexpr std::size_t capacity = std::size_t{36} << 20;
+    static constexpr std::size_t capacity = std::size_t{30} << 20;
 
-    /// Bytes that are prepared: a page's picture with its rows'.
+    /// Bytes that are prepared in one piece: a page's picture with its rows'.
     static constexpr std::size_t prepared = std::size_t{24} << 20;
 
     /// Bytes that are prepared and kept together with those that pictures use, whatever is left over: what
@@ -45,6 +45,9 @@ public:
 
 private:
     struct Lease;
+
+    /// How many bytes that no picture uses may stay.
+    [[nodiscard]] static std::size_t mostReady(const PictureRegion& region);
 
     /// Bytes; more than any screen's pictures take. What finds no room there is left to the allocator.
     static constexpr std::size_t addresses = std::size_t{512} << 20;

@@ -86,6 +86,24 @@ TEST(PicturePoolTest, PreparesWhatAPageNeedsHoweverMuchIsUsed) {
     EXPECT_TRUE(pool.isReadyFor({1170, 2532}));
 }
 
+TEST(PicturePoolTest, WhatIsPreparedIsInOnePieceWhateverIsLeftOverElsewhere) {
+    PicturePool pool;
+    constexpr std::size_t gaps = 4;
+    std::vector<QImage> pictures(2 * gaps);
+    for (auto& picture : pictures)
+        picture = pool.make({2000, 1500});
+    for (std::size_t index = 0; index < pictures.size(); index += 2)
+        pictures[index] = {};
+    EXPECT_GE(pool.keptBytes(), PicturePool::prepared);
+    constexpr QSize twoPages(1170, 2 * 2532);
+    EXPECT_FALSE(pool.isReadyFor(twoPages));
+    while (pool.prepare()) {
+    }
+    EXPECT_TRUE(pool.isReadyFor(twoPages));
+    constexpr auto sharedAtMost = 2 * PictureRegion::portion; // at the ends of a gap, with pictures beside it
+    EXPECT_LE(pool.keptBytes(), PicturePool::prepared + gaps * sharedAtMost);
+}
+
 TEST(PicturePoolTest, SmallPicturesAreNotKept) {
     PicturePool pool;
     static_cast<void>(pool.make({100, 100}));
