@@ -2,8 +2,8 @@
 #include "CommandTable.h"
 #include "DeviceInstaller.h"
 #include "DrivenShell.h"
+#include "IdlePreparation.h"
 #include "PictureMemory.h"
-#include "PicturePool.h"
 #include "ProcessorTime.h"
 #include "Shell.h"
 #include "TestDevice.h"
@@ -95,7 +95,7 @@ private:
         show(line);
         show("advance 0.2");
         show("settle");
-        while (PicturePool::shared().prepare()) { // as the window does while nothing moves
+        while (prepareWhileIdle()) { // as the window does while nothing moves
         }
     }
 

@@ -1,5 +1,6 @@
 #include "PicturePool.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -21,9 +22,14 @@ struct PicturePool::Lease {
     static void end(void* picture) {
         const std::unique_ptr<Lease> lease(static_cast<Lease*>(picture));
         lease->region->giveBack(lease->block, lease->bytes);
-        lease->region->giveToSystem(capacity);
+        lease->region->giveToSystem(mostReady(*lease->region));
     }
 };
+
+std::size_t PicturePool::mostReady(const PictureRegion& region) {
+    const auto used = region.bytesThere() - region.readyBytes();
+    return std::max(capacity, usual - std::min(usual, used));
+}
 
 PicturePool& PicturePool::shared() {
     static PicturePool pool;
@@ -48,5 +54,6 @@ bool PicturePool::isReadyFor(QSize size) const {
 }
 
 bool PicturePool::prepare() {
-    return keptBytes() < prepared && region_->prepare();
+    const auto isReady = region_->isReadyFor(prepared) && allBytes() >= usual;
+    return !isReady && region_->prepare(mostReady(*region_));
 }

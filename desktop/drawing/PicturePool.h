@@ -13,10 +13,14 @@
 class PicturePool {
 public:
     /// Bytes that are kept while no picture uses them.
-    static constexpr std::size_t capacity = std::size_t{36} << 20;
+    static constexpr std::size_t capacity = std::size_t{30} << 20;
 
-    /// Bytes that are prepared: a page's picture with its rows'.
+    /// Bytes that are prepared in one piece: a page's picture with its rows'.
     static constexpr std::size_t prepared = std::size_t{24} << 20;
+
+    /// Bytes that are prepared and kept together with those that pictures use, whatever is left over: what
+    /// it comes to before long in any case.
+    static constexpr std::size_t usual = std::size_t{72} << 20;
 
     /// Pictures of fewer bytes are left to the allocator.
     static constexpr std::size_t smallest = std::size_t{128} << 10;
@@ -32,12 +36,18 @@ public:
     /// How many bytes no picture uses.
     [[nodiscard]] std::size_t keptBytes() const { return region_->readyBytes(); }
 
+    /// How many there are with those that pictures use.
+    [[nodiscard]] std::size_t allBytes() const { return region_->bytesThere(); }
+
     /// Prepares a little of what is not there yet, within about a millisecond. \returns whether there is
     /// more to be done
     bool prepare();
 
 private:
     struct Lease;
+
+    /// How many bytes that no picture uses may stay.
+    [[nodiscard]] static std::size_t mostReady(const PictureRegion& region);
 
     /// Bytes; more than any screen's pictures take. What finds no room there is left to the allocator.
     static constexpr std::size_t addresses = std::size_t{512} << 20;

@@ -91,28 +91,35 @@ std::size_t PictureRegion::readyBytes() const {
     return bytes;
 }
 
-bool PictureRegion::prepare() {
-    const auto longest = std::ranges::max_element(free_, {}, &Spans::value_type::second);
-    if (longest == free_.end())
+std::size_t PictureRegion::bytesThere() const {
+    return static_cast<std::size_t>(std::ranges::count(isThere_, true)) * portion;
+}
+
+bool PictureRegion::prepare(std::size_t mostReady) {
+    auto spans = spansByLength();
+    if (spans.empty())
         return false;
-    const auto [first, end] = portionsWithin(*longest);
+    const auto [first, end] = portionsWithin(spans.back());
+    spans.pop_back();
     for (auto index = first; index < end; ++index) {
         if (isThere_[index])
             continue;
         madvise(begin_ + index * portion, portion, MADV_POPULATE_WRITE); // older systems bring it later
         isThere_[index] = true;
+        giveToSystem(spans, mostReady);
         return true;
     }
     return false;
 }
 
-/// Those in the shortest spans first, which suit the fewest pictures.
-void PictureRegion::giveToSystem(std::size_t mostReady) {
-    auto ready = readyBytes();
-    if (ready <= mostReady)
-        return;
+std::vector<PictureRegion::Span> PictureRegion::spansByLength() const {
     std::vector<Span> spans(free_.begin(), free_.end());
     std::ranges::sort(spans, {}, &Span::second);
+    return spans;
+}
+
+void PictureRegion::giveToSystem(const std::vector<Span>& spans, std::size_t mostReady) {
+    auto ready = readyBytes();
     for (const auto& span : spans) {
         const auto [first, end] = portionsWithin(span);
         for (auto index = end; index-- > first && ready > mostReady;) {

@@ -34,18 +34,25 @@ public:
     /// The bytes of memory that are there and not taken.
     [[nodiscard]] std::size_t readyBytes() const;
 
-    /// Brings the memory of one more portion, where it makes room for the largest pictures. \returns whether
-    /// there was one
-    bool prepare();
+    /// The same with those that are taken, in whole portions.
+    [[nodiscard]] std::size_t bytesThere() const;
+
+    /// Brings the memory of one more portion, where it makes room for the largest pictures. Where more bytes
+    /// than that are ready then, as many go back to the system from elsewhere. \returns whether there was one
+    bool prepare(std::size_t mostReady);
 
     /// Gives portions that nothing is taken of back to the system until no more bytes than that are ready.
-    void giveToSystem(std::size_t mostReady);
+    void giveToSystem(std::size_t mostReady) { giveToSystem(spansByLength(), mostReady); }
 
 private:
     /// Places from the beginning and lengths in bytes, none next to another.
     using Spans = std::map<std::size_t, std::size_t>;
     using Span = std::pair<std::size_t, std::size_t>;
 
+    /// The shortest first, which suit the fewest pictures.
+    [[nodiscard]] std::vector<Span> spansByLength() const;
+    /// From these, as they come.
+    void giveToSystem(const std::vector<Span>& spans, std::size_t mostReady);
     /// The shortest one that suits; the end when there is none.
     [[nodiscard]] Spans::const_iterator spanFor(std::size_t bytes, bool ready) const;
     [[nodiscard]] bool isThere(std::size_t place, std::size_t bytes) const;

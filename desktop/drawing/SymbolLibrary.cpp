@@ -112,6 +112,15 @@ std::optional<SymbolOutline> SymbolLibrary::symbol(std::string_view name) {
     return known->second;
 }
 
+bool SymbolLibrary::prepare() {
+    const auto* const badge =
+        std::ranges::find_if(badges, [this](const Badge& made) { return !known_.contains(made.name); });
+    if (badge == badges.end())
+        return false;
+    static_cast<void>(symbol(badge->name));
+    return true;
+}
+
 std::optional<SymbolOutline> SymbolLibrary::make(std::string_view name) const {
     const auto* const badge = std::ranges::find(badges, name, &Badge::name);
     if (badge != badges.end())

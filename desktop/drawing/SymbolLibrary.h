@@ -9,18 +9,25 @@
 #include <string_view>
 
 /// The symbols that the platform draws by name ("checkmark.circle.fill"), from a font that the program
-/// carries. Needs a QGuiApplication; for its thread.
+/// carries. Needs a QGuiApplication; for its thread. Is not moved.
 class SymbolLibrary {
 public:
+    SymbolLibrary() = default;
+    SymbolLibrary(const SymbolLibrary&) = delete;
+    SymbolLibrary& operator=(const SymbolLibrary&) = delete;
+    ~SymbolLibrary() = default;
+
     /// The process's library, made at first use.
     [[nodiscard]] static SymbolLibrary& shared();
 
     /// \returns nothing for a name that no symbol has
     [[nodiscard]] std::optional<SymbolOutline> symbol(std::string_view name);
 
-private:
-    SymbolLibrary() = default;
+    /// Makes one of the symbols that are put together of others, which takes long, unless all are known.
+    /// \returns whether there was one
+    bool prepare();
 
+private:
     [[nodiscard]] std::optional<SymbolOutline> make(std::string_view name) const;
 
     SymbolFont font_;

@@ -3,9 +3,11 @@
 #include "PaintDamage.h"
 #include "Painting.h"
 #include "PixelComponents.h"
+#include "PixelRects.h"
 
 #include <algorithm>
 #include <climits>
+#include <cmath>
 
 namespace {
 
@@ -13,6 +15,30 @@ namespace {
 QImage partOf(const QImage& picture, const QRect& part) {
     const auto* const begin = picture.constScanLine(part.top()) + part.left() * picture.depth() / CHAR_BIT;
     return {begin, part.width(), part.height(), picture.bytesPerLine(), picture.format()};
+}
+
+/// The bands of a picture of that size that hold a part of it.
+QRect bandsAround(const QRect& part, QSize size) {
+    constexpr auto rowsAtOnce = 256;
+    const auto top = part.top() / rowsAtOnce * rowsAtOnce;
+    const auto end = (part.bottom() / rowsAtOnce + 1) * rowsAtOnce;
+    return {0, top, size.width(), end - top};
+}
+
+/// How large something is so many times smaller.
+QSize reducedSize(QSize size, int factor) {
+    const auto part = [factor](int length) { return std::max(1, (length + factor / 2) / factor); };
+    return {part(size.width()), part(size.height())};
+}
+
+/// Those of a picture of that size that a part of its place is painted of. Whole rows, since a painter mixes
+/// the same pixels in a row only if it begins where it did.
+QRect rowsPainted(const QRect& part, const QRectF& place, QSize size) {
+    constexpr auto mixed = 2; // neighbours, and what rounding adds
+    const auto scale = size.height() / place.height();
+    const auto top = static_cast<int>(std::floor((part.top() - place.top()) * scale)) - mixed;
+    const auto end = static_cast<int>(std::ceil((part.bottom() + 1 - place.top()) * scale)) + mixed;
+    return QRect(0, top, size.width(), end - top) & QRect({}, size);
 }
 
 } // namespace
@@ -37,32 +63,43 @@ const QImage& LayerPainter::pictureOf(const PaintItem& item, const QRegion& part
     auto& kept = compare(item);
     if (!kept.outdated.intersects(part))
         return pictures_.picture(item.identity);
-    // What is within pictures is painted bit by bit as it comes to be seen, but texts are not.
-    const auto damage = item.inner->hasPictures() ? kept.outdated & part : kept.outdated;
+    // What is within pictures is painted bit by bit as it comes to be seen, texts in bands of many rows.
+    const auto seen = item.inner->hasPictures() ? part : bandsAround(part.boundingRect(), item.inner->size());
+    const auto damage = kept.outdated & seen;
     kept.outdated -= damage;
     Painting(*item.inner, damage, kept.picture, Qt::transparent, *this).paintAll();
     return pictures_.picture(item.identity);
 }
 
-const QImage& LayerPainter::smallerPictureOf(const PaintItem& item, int factor) {
+const QImage& LayerPainter::smallerPictureOf(const PaintItem& item, int factor, const QRect& part) {
     auto& smaller = compare(item).smaller[factor];
-    if (smaller.isNull()) {
-        const auto part = [factor](int size) { return std::max(1, (size + factor / 2) / factor); };
-        const auto whole = item.partPaintedSmaller();
-        smaller = smallerPicture(item, whole, {part(whole.width()), part(whole.height())});
+    const auto whole = item.partPaintedSmaller();
+    const auto size = reducedSize(whole.size(), factor);
+    if (smaller.picture.size() != size) {
+        smaller.picture = QImage(size, QImage::Format_ARGB32_Premultiplied);
+        smaller.outdated = smaller.picture.rect();
     }
-    return smaller;
+    const auto rows = rowsPainted(part, item.placeOfInner(whole), size);
+    if (smaller.outdated.intersects(rows))
+        paintSmaller(item, rows, smaller);
+    return smaller.picture;
 }
 
-QImage LayerPainter::smallerPicture(const PaintItem& item, const QRect& part, QSize size) {
+void LayerPainter::paintSmaller(const PaintItem& item, const QRect& rows, LayerPictures::Smaller& smaller) {
     const auto& list = *item.inner;
-    if (!list.hasPictures())
-        return PixelComponents::reduced(partOf(pictureOf(item, part), part), size).toImage();
-    QImage smaller(size, QImage::Format_ARGB32_Premultiplied);
-    smaller.fill(Qt::transparent); // what has soft edges leaves something of what was there
-    const QRegion all(smaller.rect());
-    Painting(list.reduced(list.items().size(), part, size), all, smaller, Qt::transparent, *this).paintAll();
-    return smaller;
+    const auto part = item.partPaintedSmaller();
+    const auto size = smaller.picture.size();
+    if (!list.hasPictures()) {
+        smaller.outdated = {};
+        smaller.picture = PixelComponents::reduced(partOf(pictureOf(item, part), part), size).toImage();
+        return;
+    }
+    const auto damage = smaller.outdated & rows;
+    smaller.outdated -= damage;
+    // What has soft edges leaves something of what was there.
+    PixelRects::fill(smaller.picture, damage, Qt::transparent);
+    const auto reduced = list.reduced(list.items().size(), part, size);
+    Painting(reduced, damage, smaller.picture, Qt::transparent, *this).paintAll();
 }
 
 /// Finds out what of a layer's picture is to be painted again once it is seen.
@@ -77,8 +114,10 @@ LayerPictures::Kept& LayerPainter::compare(const PaintItem& item) {
         kept.picture = pictures_.make(item.inner->size());
         kept.outdated = {}; // of the picture before, which may have been larger
     }
-    if (!damage.isEmpty())
-        kept.smaller.clear();
+    if (!damage.isEmpty()) {
+        for (auto& [factor, smaller] : kept.smaller)
+            smaller.outdated = smaller.picture.rect();
+    }
     kept.outdated |= damage;
     kept.shown = item.inner;
     return kept;

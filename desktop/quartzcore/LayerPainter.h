@@ -20,10 +20,10 @@ public:
     /// ends.
     [[nodiscard]] const QImage& pictureOf(const PaintItem& item, const QRegion& part);
 
-    /// What is painted smaller of that, so many times smaller; pictures within it are painted so from the
-    /// start.
+    /// What is painted smaller of that, so many times smaller, brought up to date in the rows that a part of
+    /// the layer's place is painted of; pictures within it are painted so from the start.
     /// \param factor 2, 4 and so on
-    [[nodiscard]] const QImage& smallerPictureOf(const PaintItem& item, int factor);
+    [[nodiscard]] const QImage& smallerPictureOf(const PaintItem& item, int factor, const QRect& part);
 
     [[nodiscard]] ScratchImages& scratch() { return scratch_; }
 
@@ -32,7 +32,7 @@ public:
 private:
     void use(const PaintList& list);
     LayerPictures::Kept& compare(const PaintItem& item);
-    [[nodiscard]] QImage smallerPicture(const PaintItem& item, const QRect& part, QSize size);
+    void paintSmaller(const PaintItem& item, const QRect& rows, LayerPictures::Smaller& smaller);
 
     ScratchImages scratch_;
     ShadowRenderer shadows_;

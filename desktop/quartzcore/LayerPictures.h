@@ -21,11 +21,17 @@ public:
     /// From when on it gives its memory to another that is needed.
     static constexpr std::uint64_t paintingsSpare = 60;
 
+    /// A picture so many times smaller than it is kept.
+    struct Smaller {
+        QImage picture;
+        QRegion outdated; ///< where it is not what is shown, in its pixels
+    };
+
     struct Kept {
         std::shared_ptr<const PaintList> shown; ///< null until there is a picture
         QImage picture;                         ///< of what is shown, ARGB32 premultiplied
         QRegion outdated;                       ///< where the picture is not that
-        std::map<int, QImage> smaller;          ///< the same so many times smaller, up to date
+        std::map<int, Smaller> smaller;         ///< by how many times smaller they are
         std::uint64_t lastUse = 0;
     };
 

@@ -342,7 +342,7 @@ void Painting::paintScaledPicture(const PaintItem& item, const QRegion& region, 
         surface.painter.resetTransform();
         surface.painter.setClipRegion(region);
         PainterBands::draw(surface.painter, item.placeOfInner(item.partPaintedSmaller()),
-                           painter_.smallerPictureOf(item, times));
+                           painter_.smallerPictureOf(item, times, region.boundingRect()));
         return;
     }
     const auto& image = painter_.pictureOf(item, pixelsOfPicture(item, region));

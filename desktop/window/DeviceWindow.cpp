@@ -4,7 +4,7 @@
 #include "DesktopClipboard.h"
 #include "DesktopFileDialog.h"
 #include "Device.h"
-#include "PicturePool.h"
+#include "IdlePreparation.h"
 #include "RectGeometry.h"
 #include "TextKeys.h"
 #include "WindowAccessibility.h"
@@ -152,7 +152,7 @@ void DeviceWindow::refresh() {
         tellAssistivePrograms();
     }
     const auto moves = !changed.isEmpty() || compositor_.isAnimating();
-    scheduleRefresh(moves || PicturePool::shared().prepare());
+    scheduleRefresh(moves || prepareWhileIdle());
 }
 
 /// What nobody sees changing has not changed for them either.

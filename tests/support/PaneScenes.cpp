@@ -2,7 +2,7 @@
 
 #include "AllCommands.h"
 #include "DeviceInstaller.h"
-#include "PicturePool.h"
+#include "IdlePreparation.h"
 #include "RectGeometry.h"
 #include "views/UIViewPeer.h"
 
@@ -153,7 +153,7 @@ void PaneScenes::end() {
 void PaneScenes::rest() {
     device_.settle();
     compositor_.render();
-    while (PicturePool::shared().prepare()) {
+    while (prepareWhileIdle()) {
     }
 }
 

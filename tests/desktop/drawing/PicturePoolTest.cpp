@@ -14,6 +14,14 @@ namespace {
 constexpr QSize large(1000, 1000);
 constexpr auto largeBytes = std::size_t{4} * 1000 * 1000;
 
+/// At least as many bytes of pictures.
+std::vector<QImage> picturesOf(std::size_t bytes, PicturePool& pool) {
+    std::vector<QImage> pictures;
+    for (std::size_t made = 0; made < bytes; made += largeBytes)
+        pictures.push_back(pool.make(large));
+    return pictures;
+}
+
 } // namespace
 
 TEST(PicturePoolTest, APictureIsOneAsAnyOther) {
@@ -56,16 +64,44 @@ TEST(PicturePoolTest, SmallerPicturesShareTheMemoryOfALargeOne) {
     EXPECT_LT(pool.keptBytes(), kept - largeBytes / 10 * 9);
 }
 
-TEST(PicturePoolTest, PreparesBitByBitWhatAPageNeeds) {
+TEST(PicturePoolTest, PreparesBitByBitWhatIsUsual) {
     PicturePool pool;
     EXPECT_TRUE(pool.prepare());
     EXPECT_LT(pool.keptBytes(), PicturePool::prepared / 2);
     EXPECT_FALSE(pool.isReadyFor({1170, 2532}));
     while (pool.prepare()) {
     }
+    EXPECT_GE(pool.keptBytes(), PicturePool::usual);
+    EXPECT_LT(pool.keptBytes(), PicturePool::usual + PictureRegion::portion);
+    EXPECT_TRUE(pool.isReadyFor({1170, 2532}));
+}
+
+TEST(PicturePoolTest, PreparesWhatAPageNeedsHoweverMuchIsUsed) {
+    PicturePool pool;
+    const auto pictures = picturesOf(PicturePool::usual, pool);
+    while (pool.prepare()) {
+    }
     EXPECT_GE(pool.keptBytes(), PicturePool::prepared);
     EXPECT_LT(pool.keptBytes(), PicturePool::prepared + PictureRegion::portion);
     EXPECT_TRUE(pool.isReadyFor({1170, 2532}));
+}
+
+TEST(PicturePoolTest, WhatIsPreparedIsInOnePieceWhateverIsLeftOverElsewhere) {
+    PicturePool pool;
+    constexpr std::size_t gaps = 4;
+    std::vector<QImage> pictures(2 * gaps);
+    for (auto& picture : pictures)
+        picture = pool.make({2000, 1500});
+    for (std::size_t index = 0; index < pictures.size(); index += 2)
+        pictures[index] = {};
+    EXPECT_GE(pool.keptBytes(), PicturePool::prepared);
+    constexpr QSize twoPages(1170, 2 * 2532);
+    EXPECT_FALSE(pool.isReadyFor(twoPages));
+    while (pool.prepare()) {
+    }
+    EXPECT_TRUE(pool.isReadyFor(twoPages));
+    constexpr auto sharedAtMost = 2 * PictureRegion::portion; // at the ends of a gap, with pictures beside it
+    EXPECT_LE(pool.keptBytes(), PicturePool::prepared + gaps * sharedAtMost);
 }
 
 TEST(PicturePoolTest, SmallPicturesAreNotKept) {
@@ -74,16 +110,22 @@ TEST(PicturePoolTest, SmallPicturesAreNotKept) {
     EXPECT_EQ(pool.keptBytes(), 0U);
 }
 
-TEST(PicturePoolTest, NoMoreIsKeptThanItsCapacity) {
+TEST(PicturePoolTest, WhatIsUsualIsKept) {
     PicturePool pool;
-    std::vector<QImage> pictures;
-    for (std::size_t bytes = 0; bytes < 2 * PicturePool::capacity; bytes += largeBytes)
-        pictures.push_back(pool.make(large));
-    pictures.clear();
+    picturesOf(2 * PicturePool::usual, pool).clear();
+    EXPECT_LE(pool.keptBytes(), PicturePool::usual);
+    EXPECT_GT(pool.keptBytes(), PicturePool::usual - 2 * PictureRegion::portion);
+    EXPECT_EQ(pool.allBytes(), PicturePool::usual);
+    static_cast<void>(pool.make({6000, 6000})); // which alone is larger
+    EXPECT_LE(pool.keptBytes(), PicturePool::usual);
+}
+
+TEST(PicturePoolTest, WhileMuchIsUsedNoMoreIsKeptThanItsCapacity) {
+    PicturePool pool;
+    const auto used = picturesOf(PicturePool::usual, pool);
+    picturesOf(2 * PicturePool::capacity, pool).clear();
     EXPECT_LE(pool.keptBytes(), PicturePool::capacity);
     EXPECT_GT(pool.keptBytes(), PicturePool::capacity / 2);
-    static_cast<void>(pool.make({4000, 4000})); // which alone is larger
-    EXPECT_LE(pool.keptBytes(), PicturePool::capacity);
 }
 
 TEST(PicturePoolTest, WhatHasNoRoomIsStillAPicture) {

@@ -15,6 +15,7 @@ constexpr auto portion = PictureRegion::portion;
 constexpr std::size_t portions = 4;
 constexpr auto part = portion / 4;
 constexpr std::size_t page = 4096;
+constexpr auto everything = portions * portion;
 
 /// Whether the system has brought the page that begins there.
 bool hasMemory(uchar* place) {
@@ -62,7 +63,7 @@ TEST_F(PictureRegionTest, NothingIsTakenBeyondItsEnd) {
     EXPECT_NE(all, nullptr);
     EXPECT_EQ(region_.take(1), nullptr);
     EXPECT_EQ(region_.readyBytes(), 0U);
-    EXPECT_FALSE(region_.prepare());
+    EXPECT_FALSE(region_.prepare(everything));
     region_.giveBack(all, portions * portion);
     EXPECT_EQ(region_.take(portions * portion), all);
 }
@@ -103,11 +104,11 @@ TEST_F(PictureRegionTest, TakesMemoryThatIsThereBeforeAddressesThatFitBetter) {
 
 TEST_F(PictureRegionTest, IsReadyForWhatWasPrepared) {
     EXPECT_FALSE(region_.isReadyFor(1));
-    EXPECT_TRUE(region_.prepare());
+    EXPECT_TRUE(region_.prepare(everything));
     EXPECT_TRUE(region_.isReadyFor(portion));
     EXPECT_FALSE(region_.isReadyFor(portion + 1));
     EXPECT_EQ(region_.readyBytes(), portion);
-    EXPECT_TRUE(region_.prepare());
+    EXPECT_TRUE(region_.prepare(everything));
     EXPECT_TRUE(region_.isReadyFor(2 * portion));
     auto* const block = region_.take(2 * portion);
     EXPECT_TRUE(hasMemory(block));
@@ -125,9 +126,26 @@ TEST_F(PictureRegionTest, KeepsAndPreparesWhatALargePictureHasRoomIn) {
     EXPECT_TRUE(region_.isReadyFor(2 * portion));
     region_.giveToSystem(0);
     EXPECT_FALSE(region_.isReadyFor(1));
-    EXPECT_TRUE(region_.prepare());
-    EXPECT_TRUE(region_.prepare());
+    EXPECT_TRUE(region_.prepare(everything));
+    EXPECT_TRUE(region_.prepare(everything));
     EXPECT_TRUE(region_.isReadyFor(2 * portion));
+}
+
+TEST_F(PictureRegionTest, WhatIsPreparedTakesTheMemoryOfShorterSpans) {
+    auto* const shorter = takeFilled(portion, 1);
+    auto* const used = takeFilled(portion, 2);
+    region_.giveBack(shorter, portion);
+    EXPECT_TRUE(region_.prepare(2 * portion));
+    EXPECT_TRUE(hasMemory(shorter));
+    EXPECT_EQ(region_.bytesThere(), 3 * portion);
+    EXPECT_TRUE(region_.prepare(2 * portion));
+    EXPECT_FALSE(hasMemory(shorter));
+    EXPECT_TRUE(region_.isReadyFor(2 * portion));
+    EXPECT_EQ(region_.readyBytes(), 2 * portion);
+    EXPECT_EQ(region_.bytesThere(), 3 * portion);
+    EXPECT_EQ(used[0], 2);
+    EXPECT_FALSE(region_.prepare(0));
+    EXPECT_EQ(region_.readyBytes(), 2 * portion);
 }
 
 TEST_F(PictureRegionTest, GivesWhatIsTooMuchToTheSystem) {

@@ -211,6 +211,23 @@ TEST(SymbolLibraryTest, ASymbolAskedForAgainIsTheSame) {
     EXPECT_EQ(pathOf("gear"), pathOf("gear"));
 }
 
+TEST(SymbolLibraryTest, PreparesWhatIsPutTogetherOneByOne) {
+    SymbolLibrary library;
+    EXPECT_TRUE(library.prepare());
+    EXPECT_TRUE(library.prepare());
+    EXPECT_TRUE(library.prepare());
+    EXPECT_FALSE(library.prepare());
+}
+
+TEST(SymbolLibraryTest, PreparesNothingThatIsKnown) {
+    SymbolLibrary library;
+    EXPECT_TRUE(library.symbol("gear.badge"));
+    EXPECT_TRUE(library.symbol("gear.badge.xmark"));
+    EXPECT_TRUE(library.prepare());
+    EXPECT_FALSE(library.prepare());
+    EXPECT_EQ(library.symbol("gear.badge.checkmark")->path(100), pathOf("gear.badge.checkmark"));
+}
+
 TEST(SymbolLibraryTest, OfNoToothBesideABadgeIsOnlyASliver) {
     for (const auto* const name : {"gear.badge", "gear.badge.checkmark", "gear.badge.xmark"})
         EXPECT_LT(areaOfThinParts(name, 1.2), 9.6) << name;

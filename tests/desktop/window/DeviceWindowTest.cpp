@@ -42,17 +42,45 @@ TEST_F(DeviceWindowTest, HandsTheMouseOnAsAFinger) {
     EXPECT_EQ(firstPresses_ + secondPresses_, 2);
 }
 
-TEST_F(DeviceWindowTest, PreparesMemoryForPicturesWhileNothingChanges) {
+/// So many pictures that no memory for one is ready.
+std::vector<QImage> picturesInAllMemory() {
     auto& pool = PicturePool::shared();
-    std::vector<QImage> pictures; // so that none is ready
+    std::vector<QImage> pictures;
     while (pool.keptBytes() >= PicturePool::smallest)
         pictures.push_back(pool.make({256, 128}));
-    constexpr auto portions = PicturePool::prepared / PictureRegion::portion;
-    for (std::size_t portion = 0; portion <= portions; ++portion) {
+    return pictures;
+}
+
+constexpr auto portionsPrepared = PicturePool::prepared / PictureRegion::portion;
+constexpr auto leftOver = 2 * PictureRegion::portion; ///< at most, of those that a picture is painted in
+
+TEST_F(DeviceWindowTest, PreparesMemoryForPicturesWhileNothingChanges) {
+    const auto pictures = picturesInAllMemory();
+    for (std::size_t portion = 0; portion <= portionsPrepared; ++portion) {
         shown.wake();
         run();
     }
-    EXPECT_GE(pool.keptBytes(), PicturePool::prepared);
+    EXPECT_GE(PicturePool::shared().keptBytes(), PicturePool::prepared);
+}
+
+TEST_F(DeviceWindowTest, PreparesNothingInAFrameThatShowsSomethingNew) {
+    const auto pictures = picturesInAllMemory();
+    for (std::size_t portion = 0; portion <= portionsPrepared; ++portion) {
+        first_->setAlpha(portion % 2 == 0 ? 0.5 : 1);
+        shown.wake();
+        run();
+    }
+    EXPECT_LT(PicturePool::shared().keptBytes(), leftOver);
+}
+
+TEST_F(DeviceWindowTest, PreparesNothingWhileSomethingMoves) {
+    const auto pictures = picturesInAllMemory();
+    UIView::animateWithDuration(1, 0, UIViewAnimationOptions::None, [this] { first_->setAlpha(0.5); }, {});
+    for (std::size_t portion = 0; portion <= portionsPrepared; ++portion) {
+        shown.wake(); // at the same moment, so that it looks the same
+        run();
+    }
+    EXPECT_LT(PicturePool::shared().keptBytes(), leftOver);
 }
 
 TEST_F(DeviceWindowTest, IgnoresTheOtherButtonsOfTheMouse) {

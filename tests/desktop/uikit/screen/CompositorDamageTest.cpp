@@ -7,7 +7,9 @@
 #include <malloc.h>
 
 #include <chrono>
+#include <cstddef>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -139,6 +141,31 @@ TEST_P(RandomChanges, PaintTheSamePixelsAsAWholePicture) {
         ASSERT_EQ(difference(picture, whole.render()), "") << "at step " << step;
     }
     EXPECT_GT(partialPictures, 0);
+}
+
+/// A panel that shows what is behind it blurred comes over a page with rows, all of which keep pictures.
+TEST(CompositorDamage, APageIsPaintedSmallerBitByBitAsItIsPaintedWhole) {
+    ShownScreen shown({120, 160}, 3);
+    const auto page = shown.add(CGRectMake(0, 0, 120, 160), green);
+    page->layer().peer().keepsPicture = true;
+    std::vector<Ref<UIView>> rows;
+    for (auto top = 4; top < 160; top += 13) {
+        rows.push_back(ShownScreen::add(*page, CGRectMake(7, top, 100, 11), top % 2 == 0 ? red : blue));
+        rows.back()->layer().peer().keepsPicture = true;
+        rows.back()->layer().setCornerRadius(4);
+    }
+    const auto panel = make<UIView>();
+    panel->layer().peer().backdrop = Backdrop{.blurRadius = 20, .saturation = 1};
+    shown.window->addSubview(panel);
+    std::size_t changed = 0;
+    for (const auto top : {159, 150, 120, 121, 60, 90, 30, 0}) {
+        panel->setFrame(CGRectMake(0, top, 120, 160 - top));
+        rows[++changed]->setBackgroundColor(UIColor::whiteColor());
+        const auto picture = shown.compositor.render().copy();
+        Compositor whole(shown.screen);
+        EXPECT_EQ(difference(picture, whole.render()), "") << "from " << top;
+        page->peer().setTransform(AffineTransform::translation(0, -static_cast<double>(changed)));
+    }
 }
 
 constexpr auto oneByte = 0xEE;

@@ -5,13 +5,34 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <chrono>
+#include <memory>
+#include <vector>
 
 namespace {
 
 using namespace std::chrono_literals;
 
 const QColor white = Qt::white;
+
+/// Counts how often it is painted, by way of a picture that it keeps.
+class CountedView final : public UIView {
+public:
+    CountedView() : UIView(std::make_unique<Peer>()) { layer().peer().keepsPicture = true; }
+
+    [[nodiscard]] int paintings() const { return dynamic_cast<const Peer&>(peer()).paintings; }
+
+private:
+    struct Peer final : public UIViewPeer {
+        // UIViewPeer:
+        void drawLayer(QPainter& /*painter*/, const CGRect& /*bounds*/, const Traits& /*traits*/) override {
+            ++paintings;
+        }
+
+        int paintings = 0;
+    };
+};
 
 class CompositorTest : public testing::Test {
 protected:
@@ -438,6 +459,57 @@ TEST_F(CompositorTest, WhatIsCoveredIsSeenThroughABackdropBesideIt) {
     shown_.put(CGRectMake(0, 0, 20, 40), green);
     EXPECT_EQ(shown_.pixel(22, 20).red(), blurred);
     EXPECT_EQ(shown_.pixel(10, 20), QColor(Qt::green));
+}
+
+TEST_F(CompositorTest, ABackdropHasOnlyThatPaintedWhichItShows) {
+    const auto page = shown_.add(CGRectMake(0, 0, 40, 40), green);
+    page->layer().peer().keepsPicture = true;
+    const auto upper = make<CountedView>();
+    upper->setFrame(CGRectMake(0, 0, 40, 10));
+    page->addSubview(upper);
+    const auto lower = make<CountedView>();
+    lower->setFrame(CGRectMake(0, 30, 40, 10));
+    page->addSubview(lower);
+    const auto cover = shown_.add(CGRectMake(0, 0, 40, 40), blue);
+    const auto panel = make<UIView>();
+    panel->setFrame(CGRectMake(0, 28, 40, 12));
+    panel->layer().peer().backdrop = Backdrop{.blurRadius = 20, .saturation = 1};
+    shown_.window->addSubview(panel);
+    cover->setFrame(CGRectMake(0, 0, 40, 28));
+    shown_.compositor.render();
+    EXPECT_EQ(upper->paintings(), 0);
+    EXPECT_EQ(lower->paintings(), 1);
+    cover->peer().removeFromSuperview();
+    panel->setFrame(CGRectMake(0, 0, 40, 40));
+    shown_.compositor.render();
+    EXPECT_EQ(upper->paintings(), 1);
+    EXPECT_EQ(lower->paintings(), 1);
+}
+
+TEST(Compositor, APictureOfTextsIsPaintedInBandsAsTheyComeToBeSeen) {
+    ShownScreen shown({40, 400}, 3);
+    const auto page = shown.add(CGRectMake(0, 390, 40, 400), green);
+    page->layer().peer().keepsPicture = true;
+    std::vector<Ref<CountedView>> texts;
+    for (const auto top : {0, 60, 120, 180}) {
+        texts.push_back(make<CountedView>());
+        texts.back()->layer().peer().keepsPicture = false;
+        texts.back()->setFrame(CGRectMake(0, top, 40, 20));
+        page->addSubview(texts.back());
+    }
+    const auto expectPaintings = [&](const std::vector<int>& expected) {
+        shown.compositor.render();
+        std::vector<int> paintings(texts.size());
+        std::ranges::transform(texts, paintings.begin(), [](const auto& text) { return text->paintings(); });
+        EXPECT_EQ(paintings, expected);
+    };
+    expectPaintings({1, 1, 0, 0});
+    page->setFrame(CGRectMake(0, 320, 40, 400)); // up to the end of the first 256 pixels
+    expectPaintings({1, 1, 0, 0});
+    page->setFrame(CGRectMake(0, 310, 40, 400));
+    expectPaintings({1, 1, 1, 0});
+    page->setFrame(CGRectMake(0, 0, 40, 400));
+    expectPaintings({1, 1, 1, 1});
 }
 
 TEST_F(CompositorTest, AScaledPictureLetsThroughWhatIsBehindItsEdges) {

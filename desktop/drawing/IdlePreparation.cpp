@@ -1,0 +1,8 @@
+#include "IdlePreparation.h"
+
+#include "PicturePool.h"
+#include "SymbolLibrary.h"
+
+bool prepareWhileIdle() {
+    return PicturePool::shared().prepare() || SymbolLibrary::shared().prepare();
+}
