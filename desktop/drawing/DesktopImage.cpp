@@ -4,7 +4,7 @@
 #include "Foundation/NSFileManager.h"
 #include "ObjectiveC/Class.h"
 #include "PainterBands.h"
-#include "SymbolLibrary.h"
+#include "symbols/SymbolLibrary.h"
 
 #include <QBuffer>
 #include <QImageReader>

@@ -2,8 +2,8 @@
 
 #include "ColorComponents.h"
 #include "CoreGraphics/CGGeometry.h"
-#include "SymbolOutline.h"
 #include "UIKit/UIImage.h"
+#include "symbols/SymbolOutline.h"
 
 #include <QImage>
 #include <QPainterPath>

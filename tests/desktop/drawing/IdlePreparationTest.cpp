@@ -1,7 +1,7 @@
 #include "IdlePreparation.h"
 
 #include "PicturePool.h"
-#include "SymbolLibrary.h"
+#include "symbols/SymbolLibrary.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "SymbolFont.h"
-#include "SymbolOutline.h"
+#include "symbols/SymbolFont.h"
+#include "symbols/SymbolOutline.h"
 
 #include <map>
 #include <optional>

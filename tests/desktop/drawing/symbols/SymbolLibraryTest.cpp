@@ -1,4 +1,4 @@
-#include "SymbolLibrary.h"
+#include "symbols/SymbolLibrary.h"
 
 #include "Ink.h"
 

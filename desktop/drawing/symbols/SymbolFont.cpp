@@ -1,4 +1,4 @@
-#include "SymbolFont.h"
+#include "symbols/SymbolFont.h"
 
 #include <QFontDatabase>
 #include <QGlyphRun>

@@ -1,4 +1,4 @@
-#include "SymbolShapes.h"
+#include "symbols/SymbolShapes.h"
 
 #include <QPainterPathStroker>
 #include <vector>

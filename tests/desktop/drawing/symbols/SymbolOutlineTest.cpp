@@ -1,4 +1,4 @@
-#include "SymbolOutline.h"
+#include "symbols/SymbolOutline.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
-#include "SymbolOutline.h"
+#include "symbols/SymbolOutline.h"
 
-#include "SymbolFont.h"
+#include "symbols/SymbolFont.h"
 
 #include <QTransform>
 #include <utility>

@@ -1,6 +1,6 @@
-#include "SymbolLibrary.h"
+#include "symbols/SymbolLibrary.h"
 
-#include "SymbolShapes.h"
+#include "symbols/SymbolShapes.h"
 
 #include <QTransform>
 #include <algorithm>
