@@ -2,12 +2,12 @@
 #include "CommandTable.h"
 #include "DeviceInstaller.h"
 #include "DrivenShell.h"
-#include "IdlePreparation.h"
 #include "PictureMemory.h"
 #include "ProcessorTime.h"
 #include "Shell.h"
 #include "TestDevice.h"
 #include "screen/Compositor.h"
+#include "screen/IdlePreparation.h"
 #include "screen/Screen.h"
 #include "screen/TouchDispatcher.h"
 

@@ -2,8 +2,8 @@
 
 #include "AllCommands.h"
 #include "DeviceInstaller.h"
-#include "IdlePreparation.h"
 #include "RectGeometry.h"
+#include "screen/IdlePreparation.h"
 #include "views/UIViewPeer.h"
 
 #include <cstdio>

@@ -98,6 +98,21 @@ TEST(CompositorDamage, IsOnlyTheChangedPartOfAFadedView) {
     EXPECT_FALSE(damage(shown).contains(QPoint(2, 2)));
 }
 
+/// Elsewhere a pixel around what changed is painted with it, which makes up for one that is left out.
+TEST(CompositorDamage, WithinAPictureIsAllThatIsLeftWhereItIsCutOffAtWholePixels) {
+    ShownScreen shown;
+    const auto page = shown.add(CGRectMake(5, 5, 30, 30), green);
+    page->layer().peer().keepsPicture = true;
+    const auto frame = ShownScreen::add(*page, CGRectMake(3, 3, 10, 10), green);
+    frame->setClipsToBounds(true);
+    const auto content = ShownScreen::add(*frame, CGRectMake(-5, -5, 20, 20), red);
+    shown.compositor.render();
+    content->setBackgroundColor(DesktopColor::fixed(blue));
+    EXPECT_EQ(damage(shown), QRegion(8, 8, 10, 10));
+    EXPECT_EQ(shown.pixel(8, 8), QColor(Qt::blue));
+    EXPECT_EQ(shown.pixel(17, 17), QColor(Qt::blue));
+}
+
 TEST(CompositorDamage, GrowsToTheBackdropThatShowsItBlurred) {
     ShownScreen shown;
     const auto view = shown.add(CGRectMake(0, 0, 5, 5), red);

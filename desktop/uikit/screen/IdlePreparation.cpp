@@ -1,4 +1,4 @@
-#include "IdlePreparation.h"
+#include "screen/IdlePreparation.h"
 
 #include "PicturePool.h"
 #include "symbols/SymbolLibrary.h"
