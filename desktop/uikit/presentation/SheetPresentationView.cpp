@@ -13,6 +13,7 @@
 #include "scrolling/ScrollMotion.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -66,6 +67,7 @@ void SheetPresentationView::didCover() {
     window.peer().insertSubview(backing_, 0);
     coveredCorner_ = covered->layer().cornerRadius();
     coveredClips_ = covered->layer().peer().masksToBounds;
+    coveredRoundsBottom_ = std::exchange(covered->layer().peer().roundBottom, false); // that the card covers
     covered->setClipsToBounds(true);
     covered->layer().peer().continuousCorners = true;
     covered->layer().peer().keepsPicture = true;
@@ -79,6 +81,7 @@ void SheetPresentationView::willUncover() {
     AnimationGroup::runWithoutAnimation([&] {
         covered->peer().setTransform({});
         covered->layer().setCornerRadius(coveredCorner_);
+        covered->layer().peer().roundBottom = coveredRoundsBottom_;
         covered->setClipsToBounds(coveredClips_);
         covered->layer().peer().keepsPicture = false;
     });

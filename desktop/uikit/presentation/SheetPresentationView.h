@@ -83,5 +83,6 @@ private:
     double openness_ = 0;
     double stretch_ = 0;       ///< by how much the card is drawn up
     double coveredCorner_ = 0; ///< of what is covered, as it was found
+    bool coveredRoundsBottom_ = true;
     bool coveredClips_ = false;
 };

@@ -82,6 +82,7 @@ TEST_F(SheetPresentationViewTest, isACardWhosePresenterStepsBack) {
     EXPECT_NEAR(root().origin.y, 47, 1e-9);
     EXPECT_NEAR(root().size.width, 370, 1e-9);
     EXPECT_DOUBLE_EQ(navigation->view().layer().cornerRadius(), 10);
+    EXPECT_FALSE(navigation->view().layer().peer().roundBottom) << "would shine through the card";
     EXPECT_EQ(sheet->view().peer().safeAreaInsets(),
               (UIEdgeInsets{.top = 0, .left = 0, .bottom = 34, .right = 0}));
     EXPECT_TRUE(sheet->view().peer().traits().elevated);
@@ -95,6 +96,7 @@ TEST_F(SheetPresentationViewTest, leavesThePresenterAsItWasFound) {
     EXPECT_EQ(root(), window->bounds());
     EXPECT_DOUBLE_EQ(navigation->view().layer().cornerRadius(), 0);
     EXPECT_FALSE(navigation->view().layer().peer().masksToBounds);
+    EXPECT_TRUE(navigation->view().layer().peer().roundBottom);
     EXPECT_EQ(navigation->view().peer().safeAreaInsets().top, 47);
 }
 
