@@ -10,18 +10,19 @@ void SceneFrames::add(double time, double pixels) {
     pixels_.push_back(pixels);
 }
 
-bool SceneFrames::isGood(double copy) const {
-    return !times_.empty() && quantile(times_, 0.5) <= mostCopies * copy;
+bool SceneFrames::isGood() const {
+    return !times_.empty() && quantile(times_, 0.5) <= mostCopies * timeOfCopy_;
 }
 
-void SceneFrames::print(double copy) const {
+void SceneFrames::print() const {
     if (times_.empty()) {
         std::printf("  %-28s painted nothing\n", name_.c_str());
         return;
     }
     const auto median = quantile(times_, 0.5);
-    std::printf("  %-28s %6zu %8.2f %8.2f %8.2f %8.1f %10.0f\n", name_.c_str(), times_.size(), times_.front(),
-                median, quantile(times_, 0.95), median / copy, quantile(pixels_, 0.5));
+    std::printf("  %-28s %6zu %8.2f %8.2f %8.2f %8.2f %8.1f %10.0f\n", name_.c_str(), times_.size(),
+                times_.front(), median, quantile(times_, 0.95), timeOfCopy_, median / timeOfCopy_,
+                quantile(pixels_, 0.5));
 }
 
 double quantile(std::vector<double> values, double part) {

@@ -16,17 +16,21 @@ public:
     /// \param time in milliseconds \param pixels that were painted; a frame without any does not count
     void add(double time, double pixels);
 
-    /// Whether something was painted, and fast enough. \param copy what a copy of the picture takes, in
-    /// milliseconds
-    [[nodiscard]] bool isGood(double copy) const;
+    /// \param time what a copy of the whole picture took close to the frames, since the machine may be faster
+    /// or slower at other times; in milliseconds
+    void setTimeOfCopy(double time) { timeOfCopy_ = time; }
+
+    /// Whether something was painted, and fast enough.
+    [[nodiscard]] bool isGood() const;
 
     /// A line for people.
-    void print(double copy) const;
+    void print() const;
 
 private:
     std::string name_;
     std::vector<double> times_;
     std::vector<double> pixels_;
+    double timeOfCopy_ = 0;
 };
 
 /// The value that a part of all is not above. \pre there are some

@@ -8,30 +8,37 @@ constexpr double copy = 0.5;
 constexpr double most = SceneFrames::mostCopies * copy;
 constexpr double somePixels = 1000;
 
-TEST(SceneFramesTest, AMedianWithinTheLimitIsGood) {
+SceneFrames framesBesideCopies() {
     SceneFrames frames("scene");
+    frames.setTimeOfCopy(copy);
+    return frames;
+}
+
+TEST(SceneFramesTest, AMedianWithinTheLimitIsGood) {
+    auto frames = framesBesideCopies();
     for (const auto time : {10 * most, most, 10 * most})
         frames.add(time, somePixels);
-    EXPECT_FALSE(frames.isGood(copy));
+    EXPECT_FALSE(frames.isGood());
     frames.add(most, somePixels);
     frames.add(0.1 * most, somePixels);
-    EXPECT_TRUE(frames.isGood(copy));
+    EXPECT_TRUE(frames.isGood());
 }
 
 TEST(SceneFramesTest, TheLimitIsToldInCopies) {
-    SceneFrames frames("scene");
+    auto frames = framesBesideCopies();
     frames.add(most, somePixels);
-    EXPECT_TRUE(frames.isGood(copy));
-    EXPECT_FALSE(frames.isGood(0.99 * copy));
+    EXPECT_TRUE(frames.isGood());
+    frames.setTimeOfCopy(0.99 * copy);
+    EXPECT_FALSE(frames.isGood());
 }
 
 TEST(SceneFramesTest, ASceneThatPaintedNothingIsNotGood) {
-    SceneFrames frames("scene");
-    EXPECT_FALSE(frames.isGood(copy));
+    auto frames = framesBesideCopies();
+    EXPECT_FALSE(frames.isGood());
     frames.add(0.1 * most, 0);
-    EXPECT_FALSE(frames.isGood(copy));
+    EXPECT_FALSE(frames.isGood());
     frames.add(0.1 * most, somePixels);
-    EXPECT_TRUE(frames.isGood(copy));
+    EXPECT_TRUE(frames.isGood());
 }
 
 TEST(SceneFramesTest, AQuantileIsOneOfTheValues) {
