@@ -53,8 +53,9 @@ class MembersTest(unittest.TestCase):
         self.assertEqual(batches.members("int Page::rows() const {\n    return Rows::count(2);\n}\n"), {"rows"})
 
     def test_a_constructor_is_none(self):
-        text = "struct Page {\n    explicit Page(int rows);\n    int rows;\n};\n"
-        self.assertEqual(batches.members(text), {"rows"})
+        for alignment in ("", "alignas(8) "):
+            text = f"struct {alignment}Page {{\n    explicit Page(int rows);\n    int rows;\n}};\n"
+            self.assertEqual(batches.members(text), {"rows"})
 
     def test_what_stands_within_functions_is_none(self):
         self.assertEqual(batches.members("int rows() {\n    int gap = 4;\n    return gap;\n}\n"), set())
@@ -101,6 +102,10 @@ class JoinedTest(unittest.TestCase):
     def test_what_a_class_of_the_source_has_as_well_stays(self):
         text = unnamed("struct Piece {\n    int gap;\n};\n\nint gap(const Piece& piece) { return piece.gap; }")
         self.assertIn("int gap(const PieceIn0& piece) { return piece.gap; }", self.joined(text))
+
+    def test_what_is_found_by_its_name_stays(self):
+        text = unnamed("void PrintTo(const Piece& piece, std::ostream* out);")
+        self.assertIn(text, self.joined(text))
 
     def test_what_is_included_before_is_left_out(self):
         both = self.joined('#include "A.h"\n#include <map>\n', '#include "B.h"\n#include <map> // again\n')
