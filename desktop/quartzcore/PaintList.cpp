@@ -137,6 +137,12 @@ QRect filledRect(const LayerLook& look) {
     return rect.isValid() ? rect : QRect();
 }
 
+bool paintsBackgroundOnly(const PaintItem& item) {
+    const auto& look = item.look;
+    return item.delegate == nullptr && item.inner == nullptr && !look.backdrop && !look.castsShadow() &&
+           !item.hasSoftMask() && (look.borderWidth == 0 || look.borderColor.alpha == 0);
+}
+
 /// Where the picture of a layer lets nothing through.
 QRect opaqueOfPicture(const PaintItem& item) {
     const auto inside = item.inner->opaque();
@@ -275,7 +281,9 @@ void PaintList::addItem(const CALayer& layer, const LayerLook& look, double opac
     item.delegate = peer.delegate != nullptr && peer.delegate->hasContents() ? peer.delegate : nullptr;
     place(item, around);
     addSublayers(layer, index, fades);
-    items_[index].end = items_.size();
+    auto& added = items_[index];
+    added.end = items_.size();
+    added.isBackgroundOnly = added.end == index + 1 && paintsBackgroundOnly(added);
 }
 
 bool PaintList::addPicture(const CALayer& layer, const LayerLook& look, double opacity,

@@ -97,14 +97,6 @@ QRect insideOf(const LayerLook& look, double inset) {
     return look.wholePixelsWithin(edge, edge + look.cornerPixels());
 }
 
-/// Whether nothing of an item is painted but its background, so that a group needs no picture of its own.
-bool isBackgroundOnly(const PaintItem& item, std::size_t index) {
-    const auto& look = item.look;
-    return item.end == index + 1 && item.delegate == nullptr && item.inner == nullptr && !look.backdrop &&
-           !look.castsShadow() && !item.hasSoftMask() &&
-           (look.borderWidth == 0 || look.borderColor.alpha == 0);
-}
-
 /// Whether an item is a picture that is painted as it is kept, so that it can be painted faded.
 bool isPictureOnly(const PaintItem& item) {
     return item.inner != nullptr && !item.hasSoftMask() && !item.isInnerScaled();
@@ -173,7 +165,7 @@ void Painting::paintItem(std::size_t index, Surface& surface) {
 
 void Painting::paintGroup(std::size_t index, Surface& surface) {
     const auto& item = items_[index];
-    if (isBackgroundOnly(item, index)) {
+    if (item.isBackgroundOnly) {
         paintBackground(index, surface, item.opacity);
         return;
     }
