@@ -137,6 +137,19 @@ QRect filledRect(const LayerLook& look) {
     return rect.isValid() ? rect : QRect();
 }
 
+/// With another beside it, above or below, if that is a rectangle again; the first if not.
+QRect joined(const QRect& rect, const QRect& other) {
+    const auto isAsHigh = other.top() <= rect.top() && other.bottom() >= rect.bottom();
+    if (isAsHigh && other.left() <= rect.right() + 1 && other.right() >= rect.left() - 1)
+        return {QPoint(std::min(rect.left(), other.left()), rect.top()),
+                QPoint(std::max(rect.right(), other.right()), rect.bottom())};
+    const auto isAsWide = other.left() <= rect.left() && other.right() >= rect.right();
+    if (isAsWide && other.top() <= rect.bottom() + 1 && other.bottom() >= rect.top() - 1)
+        return {QPoint(rect.left(), std::min(rect.top(), other.top())),
+                QPoint(rect.right(), std::max(rect.bottom(), other.bottom()))};
+    return rect;
+}
+
 bool paintsBackgroundOnly(const PaintItem& item) {
     const auto& look = item.look;
     return item.delegate == nullptr && item.inner == nullptr && !look.backdrop && !look.castsShadow() &&
@@ -189,6 +202,8 @@ QRect PaintList::opaque() const {
         if (area(item.opaque) > area(largest))
             largest = item.opaque;
     }
+    for (const auto& item : items_)
+        largest = joined(largest, item.opaque);
     return largest & QRect({}, size_);
 }
 

@@ -245,7 +245,7 @@ void Painting::paintBackdrop(std::size_t index, const Backdrop& backdrop, Surfac
         return;
     const auto seen = backdropOf(index, backdrop);
     const auto region = seen_[index] & item.body & item.innerClip;
-    const auto inside = seen.isOpaque() ? item.filled : QRect();
+    const auto inside = seen.isOpaque() ? insideOf(item.look, 0) & item.body : QRect();
     for (const auto& rect : region& inside)
         seen.copyTo(surface.image, rect.translated(-item.body.topLeft()), item.body.topLeft());
     const auto shape = item.look.transform().map(shapeOf(item, 0));
@@ -341,7 +341,7 @@ void Painting::paintScaledPicture(const PaintItem& item, const QRegion& region, 
     const ScaledPicture scaled(image, item.placeOfInner());
     for (const auto& rect : region& item.opaque)
         scaled.copyTo(surface.image, rect);
-    for (const auto& rect : region - item.opaque) {
+    for (const auto& rect : PainterBands::of(region - item.opaque)) {
         auto part = PicturePool::shared().make(rect.size());
         scaled.copyTo(part, rect, rect.topLeft());
         PixelRects::paintOver(surface.image, rect, part, rect.topLeft(), 1);
