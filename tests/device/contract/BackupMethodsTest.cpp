@@ -111,6 +111,19 @@ TEST_F(BackupMethodsTest, AnArchiveIsSharedFromTheMiddleOfATablet) {
                         "UIActivityViewController 1");
 }
 
+TEST_F(BackupMethodsTest, OnAPhoneAnArchiveIsSharedFromNowhere) {
+    save("a");
+    setDeviceIdiom(0);
+    perform(page, "shareBackup:", text("a.tar.gz"));
+    setDeviceIdiom(1);
+    auto lines = takeJournal();
+    std::erase_if(lines, [](const std::string& line) {
+        return !line.contains("opover") && !line.contains("presentViewController");
+    });
+    EXPECT_EQ(lines, Lines{("-[cxBackupRestoreController presentViewController:animated:completion:] "
+                            "UIActivityViewController 1")});
+}
+
 TEST_F(BackupMethodsTest, WithoutTheSheetThatSharesNothingIsShown) {
     save("a");
     refuseInitialisersOf("UIActivityViewController");

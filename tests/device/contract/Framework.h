@@ -67,6 +67,8 @@ void answerAlertOf(id controller, unsigned index);
 void pickDocument(id picker, const char* path);
 /// Whether URLs refuse from now on that access to them begins.
 void refuseAccess(bool refused);
+/// What the device says that it is from now on: 0 is a phone, 1 a tablet, which it is at first.
+void setDeviceIdiom(long idiom);
 /// From now on the object is sent "noticed:" for notifications of that name.
 void observe(id observer, const char* name);
 void postNotification(const char* name);
