@@ -51,6 +51,7 @@ constexpr std::array texts{
     Text{"Copy", "Kopieren", "نسخ", "העתקה"},
     Text{"Dark", "Dunkel", "داكن", "כהה"},
     Text{"Device", "Gerät", "الجهاز", "מכשיר"},
+    Text{"Documents", "Dokumente", "المستندات", "מסמכים"},
     Text{"Done", "Fertig", "تم", "סיום"},
     Text{"Drop a PNG, JPEG or HEIC file on the window, or type its path.",
          "Lege eine PNG-, JPEG- oder HEIC-Datei auf dem Fenster ab oder gib ihren Pfad ein.",
