@@ -4,10 +4,12 @@
 #include "TestDevice.h"
 #include "UIKit/UIAlertController.h"
 #include "screen/Screen.h"
+#include "views/UILabelPeer.h"
 #include "views/UIViewPeer.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <optional>
 #include <ostream>
 
@@ -70,6 +72,17 @@ TEST(SystemBarsTest, showTheTimeAsOfTheLastRefresh) {
     EXPECT_EQ(bars.statusBar().time(), "3:12");
     bars.refresh();
     EXPECT_EQ(bars.statusBar().time(), "3:21");
+}
+
+TEST(SystemBarsTest, writeATabletsChargeAsTheLocaleDoes) {
+    const TestDevice device({.locale = "de_DE"});
+    const Screen screen({.idiom = Idiom::Pad});
+    const SystemBars bars;
+    const auto& parts = bars.statusBar().peer().subviews();
+    EXPECT_TRUE(std::ranges::any_of(parts, [](const auto& part) {
+        auto* const label = dynamic_cast<UILabel*>(part.get());
+        return label != nullptr && peerOf<UILabelPeer>(*label).text() == "100\u00a0%";
+    }));
 }
 
 TEST(SystemBarsTest, areAtTheEdgesOfAPhone) {
