@@ -64,7 +64,7 @@ Ref<UIStackView> createVerticalStackView() {
     return stack;
 }
 
-Ref<UILabel> createLabel(const std::optional<std::string>& title, const Ref<UIColor>& color) {
+Ref<UILabel> createLabelWithTitle(const std::optional<std::string>& title, const Ref<UIColor>& color) {
     auto label = make<UILabel>();
     label->setText(title);
     label->setFont(UIFont::systemFontOfSize(captionFontSize, UIFontWeightMedium));
@@ -154,45 +154,53 @@ void TweakCustomCell::configureButtons(UIStackView& stack) {
     const auto row = specifier();
     const auto number = row ? row->propertyForKey("iconInset") : std::nullopt;
     const auto inset = static_cast<float>(number ? number->doubleValue() : 0);
-    addColumn(stack, {leftIconImage_, textOf(specifier(), "leftLabel"), textOf(specifier(), "leftClass")},
-              colors, inset);
-    addColumn(stack,
-              {middleIconImage_, textOf(specifier(), "middleLabel"), textOf(specifier(), "middleClass")},
-              colors, inset);
-    addColumn(stack, {rightIconImage_, textOf(specifier(), "rightLabel"), textOf(specifier(), "rightClass")},
-              colors, inset);
+    addButtonToStack(stack,
+                     {leftIconImage_, textOf(specifier(), "leftLabel"), textOf(specifier(), "leftClass")},
+                     colors, inset);
+    addButtonToStack(
+        stack, {middleIconImage_, textOf(specifier(), "middleLabel"), textOf(specifier(), "middleClass")},
+        colors, inset);
+    addButtonToStack(stack,
+                     {rightIconImage_, textOf(specifier(), "rightLabel"), textOf(specifier(), "rightClass")},
+                     colors, inset);
 }
 
-void TweakCustomCell::addColumn(UIStackView& stack, const Column& column, const Colors& colors,
-                                double iconInset) {
+void TweakCustomCell::addButtonToStack(UIStackView& stack, const Column& column, const Colors& colors,
+                                       double iconInset) {
     const auto vertical = createVerticalStackView();
-    vertical->addArrangedSubview(createButton(column, colors, iconInset));
-    vertical->addArrangedSubview(createLabel(column.title, colors.font));
+    vertical->addArrangedSubview(createButtonWithIcon(column, colors, iconInset));
+    vertical->addArrangedSubview(createLabelWithTitle(column.title, colors.font));
     vertical->addArrangedSubview(createSpacer());
     stack.addArrangedSubview(vertical);
 }
 
-Ref<UIView> TweakCustomCell::createButton(const Column& column, const Colors& colors, double iconInset) {
+Ref<UIView> TweakCustomCell::createButtonWithIcon(const Column& column, const Colors& colors,
+                                                  double iconInset) {
     auto button =
         makeWith<TweakButton>(&TweakButton::initWithFrame, CGRectMake(0, 0, buttonSide, buttonSide));
-    button->setTintColor(colors.tint);
-    button->setImage(column.icon, UIControlState::Normal);
-    button->setContentHorizontalAlignment(UIControlContentHorizontalAlignment::Fill);
-    button->setContentVerticalAlignment(UIControlContentVerticalAlignment::Fill);
-    button->setClipsToBounds(true);
-    button->imageView().setContentMode(UIViewContentMode::ScaleAspectFit);
-    auto& layer = button->layer();
+    configureButton(*button, column, colors, iconInset);
+    return button;
+}
+
+void TweakCustomCell::configureButton(TweakButton& button, const Column& column, const Colors& colors,
+                                      double iconInset) {
+    button.setTintColor(colors.tint);
+    button.setImage(column.icon, UIControlState::Normal);
+    button.setContentHorizontalAlignment(UIControlContentHorizontalAlignment::Fill);
+    button.setContentVerticalAlignment(UIControlContentVerticalAlignment::Fill);
+    button.setClipsToBounds(true);
+    button.imageView().setContentMode(UIViewContentMode::ScaleAspectFit);
+    auto& layer = button.layer();
     layer.setShadowColor(colors.shadow);
     layer.setShadowRadius(5.0);
     layer.setShadowOffset({1.0, 1.0});
     layer.setShadowOpacity(0.5);
-    button->setIdentifier(column.className);
-    button->setImageEdgeInsets({iconInset, iconInset, iconInset, iconInset});
-    button->setAccessibilityLabel(column.title);
+    button.setIdentifier(column.className);
+    button.setImageEdgeInsets({iconInset, iconInset, iconInset, iconInset});
+    button.setAccessibilityLabel(column.title);
     if (const auto row = specifier(); row && row->target())
-        button->addTarget(*row->target(), "openController:", UIControlEvents::TouchUpInside);
-    fixSize(*button, buttonSide, buttonSide);
-    return button;
+        button.addTarget(*row->target(), "openController:", UIControlEvents::TouchUpInside);
+    fixSize(button, buttonSide, buttonSide);
 }
 
 void TweakCustomCell::setupConstraints(const UIStackView& stack) {

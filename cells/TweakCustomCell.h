@@ -8,7 +8,8 @@
 
 #include <optional>
 #include <string>
-#include <string_view>
+
+class TweakButton;
 
 /// A tall row of three icon buttons side by side, each with a caption below it, that open pages: a tap sends
 /// the button to `openController:` of the row's target. All that it shows is among the row's properties. Made
@@ -72,8 +73,11 @@ private:
 
     [[nodiscard]] Ref<UIStackView> createMainStackView();
     void configureButtons(UIStackView& stack);
-    void addColumn(UIStackView& stack, const Column& column, const Colors& colors, double iconInset);
-    [[nodiscard]] Ref<UIView> createButton(const Column& column, const Colors& colors, double iconInset);
+    /// A column: the button, its caption below it, and what is left.
+    void addButtonToStack(UIStackView& stack, const Column& column, const Colors& colors, double iconInset);
+    [[nodiscard]] Ref<UIView> createButtonWithIcon(const Column& column, const Colors& colors,
+                                                   double iconInset);
+    void configureButton(TweakButton& button, const Column& column, const Colors& colors, double iconInset);
     void setupConstraints(const UIStackView& stack);
 
     Ref<UIImage> leftIconImage_;

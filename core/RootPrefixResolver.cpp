@@ -14,8 +14,7 @@
 namespace {
 
 constexpr auto librootPath = "@rpath/libroot.dylib";
-constexpr std::size_t pathBufferSize =
-    1024; // the terminator included; the size that libroot's callers hand it
+constexpr std::size_t pathBufferSize = 1024; ///< with the terminator; what libroot's callers hand it
 
 using PrefixFunction = const char*();
 using PathFunction = char*(const char* path, char* buffer);

@@ -23,8 +23,7 @@ public:
     /// absolute path and leaves a relative one as it is.
     ///
     /// \param path a null path gives null
-    /// \param buffer 1024 bytes for the result, or null: then the result is a block of 1024 bytes from
-    /// `malloc`
+    /// \param buffer 1024 bytes for the result, or null: then the result is a block of as many from `malloc`
     ///     that the caller frees. A result of more than 1023 bytes is cut off there.
     [[nodiscard]] static char* libroot_jbrootpath(const char* path, char* buffer);
 

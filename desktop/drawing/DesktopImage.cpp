@@ -2,12 +2,11 @@
 
 #include "Foundation/NSData.h"
 #include "Foundation/NSFileManager.h"
+#include "KnownPictures.h"
 #include "ObjectiveC/Class.h"
 #include "PainterBands.h"
 #include "symbols/SymbolLibrary.h"
 
-#include <QBuffer>
-#include <QImageReader>
 #include <QPainter>
 #include <algorithm>
 #include <array>
@@ -57,21 +56,11 @@ std::array<std::string_view, 3> suffixesFor(double displayScale) {
     return {"", "@2x", "@3x"};
 }
 
-QImage decoded(const NSData& data) {
-    auto bytes = QByteArray::fromRawData(reinterpret_cast<const char*>(data.bytes.data()),
-                                         static_cast<qsizetype>(data.bytes.size()));
-    QBuffer buffer(&bytes);
-    QImageReader reader(&buffer);
-    reader.setDecideFormatFromContent(true);
-    reader.setAutoTransform(true);
-    return reader.read();
-}
-
 Ref<DesktopImage> pictureInFile(std::string_view path) {
     const auto data = NSData::dataWithContentsOfFile(path);
     if (!data)
         return nullptr;
-    const auto picture = decoded(*data);
+    const auto picture = KnownPictures::shared().picture(*data);
     return picture.isNull() ? nullptr : make<DesktopImage>(picture, scaleOf(path));
 }
 

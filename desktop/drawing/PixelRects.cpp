@@ -42,6 +42,8 @@ void PixelRects::paintOver(QImage& picture, const QRegion& region, const QColor&
         fill(picture, region, color);
         return;
     }
+    if (color.alpha() == 0)
+        return;
     const std::vector pixels(static_cast<std::size_t>(region.boundingRect().width()), premultiplied(color));
     const auto* const bytes = reinterpret_cast<const uchar*>(pixels.data());
     const auto rest = static_cast<std::uint8_t>(opaque - color.alpha());

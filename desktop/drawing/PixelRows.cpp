@@ -26,6 +26,13 @@ void watch(std::size_t size, auto... rows) {
 
 } // namespace
 
+// The loops are compiled twice, and those with the wider vectors run where the processor has them.
+#ifdef __x86_64__
+#define CORVEX_WIDE_VECTORS [[gnu::target_clones("avx2", "default")]]
+#else
+#define CORVEX_WIDE_VECTORS
+#endif
+
 // The sanitizers see rows as a whole. Byte by byte, in the loops, they would take most of the time of all
 // that paints.
 #if defined(__SANITIZE_ADDRESS__) && defined(__clang__)
@@ -49,20 +56,27 @@ constexpr std::uint8_t dividedBy255(std::uint16_t product) {
 
 /// As many pixels as are worked on at once.
 constexpr std::size_t blockPixels = 64;
+constexpr std::uint32_t opaquePixel = 0xFF000000U;     ///< its alpha
 using Alphas = std::array<std::uint32_t, blockPixels>; ///< of each pixel, for each of its bytes
 
-/// \returns whether no pixel has any
-bool findAlphas(const std::uint8_t* pixels, std::size_t count, std::uint32_t* alphas) {
+/// What the pixels of a block let through.
+enum class Block { Clear, Mixed, Opaque };
+
+Block findAlphas(const std::uint8_t* pixels, std::size_t count, std::uint32_t* alphas) {
     std::uint32_t any = 0;
+    auto all = opaquePixel;
     for (std::size_t index = 0; index < count; ++index) {
         std::uint32_t pixel = 0;
         std::memcpy(&pixel, pixels + index * PixelRows::pixelSize, PixelRows::pixelSize);
         any |= pixel;
+        all &= pixel;
         const auto alpha = pixel >> 24U;
         const auto twice = alpha | alpha << 8U;
         alphas[index] = twice | twice << 16U;
     }
-    return any == 0;
+    if (any == 0)
+        return Block::Clear;
+    return all == opaquePixel ? Block::Opaque : Block::Mixed;
 }
 
 void fade(const std::uint8_t* __restrict pixels, std::uint16_t opacity, std::uint8_t* __restrict faded,
@@ -91,6 +105,7 @@ void bringPixelsBack(std::uint8_t* __restrict out, const std::uint8_t* __restric
 
 } // namespace
 
+CORVEX_WIDE_VECTORS
 void PixelRows::mix(std::span<const Fine> first, std::span<const Fine> second, int share,
                     std::span<std::uint8_t> mixed) {
     const auto size = mixed.size();
@@ -108,6 +123,7 @@ void PixelRows::mix(std::span<const Fine> first, std::span<const Fine> second, i
     }
 }
 
+CORVEX_WIDE_VECTORS
 void PixelRows::mix(std::span<const std::uint8_t> first, std::span<const std::uint8_t> second, int share,
                     std::span<std::uint8_t> mixed) {
     const auto size = mixed.size();
@@ -124,6 +140,7 @@ void PixelRows::mix(std::span<const std::uint8_t> first, std::span<const std::ui
     }
 }
 
+CORVEX_WIDE_VECTORS
 void PixelRows::mixWithNext(std::span<const std::uint8_t> row, std::span<const std::uint8_t> shares,
                             std::span<std::uint8_t> mixed) {
     const auto size = mixed.size();
@@ -141,6 +158,7 @@ void PixelRows::mixWithNext(std::span<const std::uint8_t> row, std::span<const s
     }
 }
 
+CORVEX_WIDE_VECTORS
 void PixelRows::paintOver(std::span<std::uint8_t> row, std::span<const std::uint8_t> over,
                           std::uint8_t opacity) {
     watch(row.size(), row, over);
@@ -154,12 +172,16 @@ void PixelRows::paintOver(std::span<std::uint8_t> row, std::span<const std::uint
             fade(pixels, opacity, faded.data(), size);
             pixels = faded.data();
         }
-        if (!findAlphas(pixels, size / pixelSize, alphas.data()))
+        const auto block = findAlphas(pixels, size / pixelSize, alphas.data());
+        if (block == Block::Opaque)
+            std::memcpy(row.data() + start, pixels, size);
+        else if (block == Block::Mixed)
             paintPixelsOver(row.data() + start, pixels, reinterpret_cast<const std::uint8_t*>(alphas.data()),
                             size);
     }
 }
 
+CORVEX_WIDE_VECTORS
 void PixelRows::bringBack(std::span<std::uint8_t> row, std::span<const std::uint8_t> before,
                           std::span<const std::uint8_t> mask) {
     watch(row.size(), row, before, mask);
@@ -172,6 +194,7 @@ void PixelRows::bringBack(std::span<std::uint8_t> row, std::span<const std::uint
     }
 }
 
+CORVEX_WIDE_VECTORS
 void PixelRows::paintColorOver(std::span<std::uint8_t> row, std::span<const std::uint8_t> color,
                                std::uint8_t rest) {
     const auto size = row.size();
@@ -183,6 +206,7 @@ void PixelRows::paintColorOver(std::span<std::uint8_t> row, std::span<const std:
                                                added[index]);
 }
 
+CORVEX_WIDE_VECTORS
 void PixelRows::add(std::span<const std::uint8_t> row, std::span<std::uint16_t> sums) {
     const auto size = row.size();
     watch(size, row, sums);

@@ -86,10 +86,13 @@ Answer tap(TouchDispatcher& touches, const CommandTable::Arguments& arguments) {
     return tapOn(*view, touches);
 }
 
-/// Whether it can be drawn down, whatever it shows.
-bool isCard(const Presented& presented) {
-    const auto details = presented.details();
-    return details && (details->style == "pageSheet" || details->style == "formSheet");
+/// Why what is presented on top, if anything, cannot be drawn down; empty when it can.
+std::string obstacleToDrawing(const Presented* presented) {
+    const auto details = presented != nullptr ? presented->details() : std::nullopt;
+    if (details && details->style == "popover")
+        return "a popover is presented: it is no sheet, a touch beside it takes it away";
+    const auto isCard = details && (details->style == "pageSheet" || details->style == "formSheet");
+    return isCard ? "" : "no sheet is presented";
 }
 
 /// A finger would scroll back first what is scrolled where it comes down.
@@ -110,8 +113,8 @@ Answer swipeDown(TouchDispatcher& touches) {
     constexpr auto steps = 10;
     Screen::current().layoutIfNeeded();
     const auto* const sheet = Screen::current().presentations().top();
-    if (sheet == nullptr || !isCard(*sheet))
-        return std::unexpected("no sheet is presented");
+    if (auto obstacle = obstacleToDrawing(sheet); !obstacle.empty())
+        return std::unexpected(std::move(obstacle));
     const auto& card = sheet->shownView();
     const auto frame = card.peer().convertToScreen(card.bounds());
     const CGPoint from{CGRectGetMidX(frame), frame.origin.y + grip};

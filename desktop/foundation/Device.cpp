@@ -14,6 +14,7 @@
 
 #include <unicode/timezone.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <initializer_list>
@@ -63,6 +64,12 @@ Device::Device(Options options)
 
 Device::~Device() {
     currentDevice = nullptr;
+}
+
+NSDate Device::momentOfCreation() {
+    constexpr auto tick = 1e-6;
+    lastCreation_ = std::max(clock_->date().timeIntervalSinceReferenceDate, lastCreation_ + tick);
+    return {lastCreation_};
 }
 
 Device& Device::current() {

@@ -4,6 +4,7 @@
 #include "files/DeviceRoot.h"
 #include "time/Clock.h"
 
+#include <limits>
 #include <memory>
 #include <string>
 
@@ -41,6 +42,10 @@ public:
 
     [[nodiscard]] const Clock& clock() const { return *clock_; }
 
+    /// The present moment, for what is made now: each a little later than the one before, also while time
+    /// stands still, so that they are in the order in which they were made.
+    [[nodiscard]] NSDate momentOfCreation();
+
     [[nodiscard]] const std::string& locale() const { return locale_; }
 
     [[nodiscard]] const std::string& timeZone() const { return timeZone_; }
@@ -70,6 +75,8 @@ public:
 private:
     std::shared_ptr<const DeviceRoot> root_; ///< preference domains keep it when they outlive the device
     std::unique_ptr<Clock> clock_;
+    double lastCreation_ =
+        std::numeric_limits<double>::lowest(); ///< as a time interval since the reference date
     std::string locale_;
     std::string timeZone_;
     Ref<DesktopBundle> mainBundle_;

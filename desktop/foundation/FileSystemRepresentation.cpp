@@ -1,5 +1,6 @@
 #include "System/FileSystemRepresentation.h"
 
+#include "CreationNote.h"
 #include "Device.h"
 #include "files/RegularFile.h"
 
@@ -25,6 +26,10 @@ std::optional<FileSystemRepresentation> FileSystemRepresentation::ofFileForReadi
 }
 
 std::optional<FileSystemRepresentation> FileSystemRepresentation::ofFileForWriting(std::string_view path) {
+    const CreationNote note(path);
     const auto file = opened(path, O_WRONLY | O_CREAT);
-    return file ? std::optional(FileSystemRepresentation(file->openPath(), file)) : std::nullopt;
+    if (!file)
+        return std::nullopt;
+    note.made();
+    return FileSystemRepresentation(file->openPath(), file);
 }

@@ -1,5 +1,6 @@
 #include "Foundation/NSFileManager.h"
 
+#include "CreationNote.h"
 #include "Device.h"
 #include "Foundation/NSString.h"
 #include "files/FileErrors.h"
@@ -35,8 +36,10 @@ std::expected<void, int> makeFolder(std::string_view path) {
     const auto place = root().locate(path);
     if (!place)
         return std::unexpected(place.error());
+    const CreationNote note(path);
     if (mkdirat(place->folder.get(), place->name.c_str(), newFolderMode) != 0)
         return std::unexpected(errno);
+    note.made();
     return {};
 }
 
@@ -57,9 +60,11 @@ std::expected<void, int> ensureFolderAndItsParents(std::string_view path) {
 }
 
 std::expected<void, int> writeFile(std::string_view path, std::span<const std::byte> bytes) {
+    const CreationNote note(path);
     auto file = RegularFile::open(root(), path, O_WRONLY | O_CREAT | O_TRUNC, newFileMode);
     if (!file)
         return std::unexpected(file.error());
+    note.made();
     return file->write(bytes);
 }
 
@@ -99,11 +104,9 @@ NSFileType typeOf(mode_t mode) {
     }
 }
 
-NSFileAttributes attributesOf(const struct statx& status) {
+NSDate creationDateOnHost(const struct statx& status) {
     const bool tellsItsCreation = (status.stx_mask & STATX_BTIME) != 0;
-    return {.fileType = typeOf(status.stx_mode),
-            .fileSize = status.stx_size,
-            .fileCreationDate = dateOf(tellsItsCreation ? status.stx_btime : status.stx_mtime)};
+    return dateOf(tellsItsCreation ? status.stx_btime : status.stx_mtime);
 }
 
 } // namespace
@@ -148,9 +151,11 @@ Result<void> NSFileManager::copyItemAtPath(std::string_view path, std::string_vi
     const auto target = root().locate(toPath);
     if (!target)
         return failure(target.error());
+    const CreationNote note(toPath);
     TreeCopy copy(target->folder.get(), target->name);
     if (const auto copied = TreeWalk(original->folder.get(), copy).walk(original->name); !copied)
         return failure(copied.error());
+    note.made();
     return {};
 }
 
@@ -177,7 +182,10 @@ Result<NSFileAttributes> NSFileManager::attributesOfItemAtPath(std::string_view 
     const auto status = place ? statusOf(*place) : std::unexpected(place.error());
     if (!status)
         return std::unexpected(fileError(FileOperation::Read, status.error(), path));
-    return attributesOf(*status);
+    const auto noted = CreationNote::of(*place);
+    return NSFileAttributes{.fileType = typeOf(status->stx_mode),
+                            .fileSize = status->stx_size,
+                            .fileCreationDate = noted ? *noted : creationDateOnHost(*status)};
 }
 
 std::vector<Ref<NSURL>> NSFileManager::URLsForDirectory(NSSearchPathDirectory directory) const {

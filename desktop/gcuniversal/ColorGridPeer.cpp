@@ -1,6 +1,7 @@
 #include "ColorGridPeer.h"
 
 #include "ColorCode.h"
+#include "SystemTexts.h"
 #include "touches/DesktopTouch.h"
 
 #include <QPainter>
@@ -87,7 +88,7 @@ void ColorGridPeer::adjust(bool up) {
 
 Accessibility ColorGridPeer::accessibility() const {
     auto told = UIControlPeer::accessibility();
-    told.label = "Grid";
+    told.label = systemText("Grid");
     told.value = chosen_ ? rgb(colorAtPlace(*chosen_)) : std::string();
     told.role = AccessibilityRole::Slider;
     return told;

@@ -4,11 +4,13 @@
 #include "ColorGridPeer.h"
 #include "DesktopColor.h"
 #include "ObjectiveC/Class.h"
+#include "SystemTexts.h"
 #include "controls/UISliderPeer.h"
 #include "scrolling/UIScrollViewPeer.h"
 #include "text/UITextFieldPeer.h"
 #include "views/UILabelPeer.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -19,7 +21,7 @@ constexpr double margin = 16;
 constexpr double rowHeight = 44;
 constexpr double swatchWidth = 72;
 constexpr double gap = 12;
-constexpr double labelWidth = 76;
+constexpr double leastLabelWidth = 64;
 constexpr double cellHeight = 26;
 
 } // namespace
@@ -29,17 +31,17 @@ ColorPickerView::ColorPickerView(bool hasOpacity)
       swatch_(make<ColorSwatch>()),
       field_(make<UITextField>()),
       grid_(make<ColorGrid>()),
-      parts_{{{"Red", &ColorComponents::red, {}, {}},
-              {"Green", &ColorComponents::green, {}, {}},
-              {"Blue", &ColorComponents::blue, {}, {}},
-              {"Opacity", &ColorComponents::alpha, {}, {}}}} {
+      parts_{{{systemText("Red"), &ColorComponents::red, {}, {}},
+              {systemText("Green"), &ColorComponents::green, {}, {}},
+              {systemText("Blue"), &ColorComponents::blue, {}, {}},
+              {systemText("Opacity"), &ColorComponents::alpha, {}, {}}}} {
     setBackgroundColor(DesktopColor::system(SystemColor::GroupedBackground));
     addSubview(swatch_);
     addSubview(field_);
     addSubview(grid_);
     auto& field = peerOf<UITextFieldPeer>(*field_);
     field.setBorderStyle(UITextBorderStyle::RoundedRect);
-    field.setPlaceholder("Hex Color");
+    field.setPlaceholder(systemText("Hex Color"));
     field.setTextInputTraits({.capitals = TextInputTraits::Capitals::None});
     field.setEndsOnReturn(true);
     field.setEndHandler([this] { readField(); });
@@ -109,15 +111,25 @@ void ColorPickerView::layoutSubviews() {
     y += rowHeight + margin;
     grid_->setFrame(CGRectMake(margin, y, width, cellHeight * ColorGridPeer::lines));
     y += cellHeight * ColorGridPeer::lines + margin;
+    const auto labelWidth = widestLabel();
     for (const auto& part : parts_) {
-        layOutPart(part, y);
+        layOutPart(part, y, labelWidth);
         y += rowHeight;
     }
     peerOf<UIScrollViewPeer>(*this).setContentSize({bounds().size.width, y + margin});
 }
 
-void ColorPickerView::layOutPart(const Part& part, double y) {
-    const auto start = margin + labelWidth;
+/// Of those that are shown, so that all sliders begin where the longest name leaves them room.
+double ColorPickerView::widestLabel() const {
+    auto width = leastLabelWidth;
+    for (const auto& part : parts_)
+        if (!part.label->peer().isHidden())
+            width = std::max(width, part.label->peer().sizeThatFits({}).width);
+    return width;
+}
+
+void ColorPickerView::layOutPart(const Part& part, double y, double labelWidth) {
+    const auto start = margin + labelWidth + gap;
     peer().place(*part.label, CGRectMake(margin, y, labelWidth, rowHeight));
     peer().place(*part.slider, CGRectMake(start, y + (rowHeight - UISliderPeer::height) / 2,
                                           bounds().size.width - start - margin, UISliderPeer::height));

@@ -10,6 +10,7 @@
 
 #include <array>
 #include <functional>
+#include <string>
 
 /// What the sheet of colours shows: the colour, its hex digits, a grid and a slider for each part of it.
 class ColorPickerView final : public UIScrollView {
@@ -30,7 +31,7 @@ public:
 
 private:
     struct Part {
-        const char* name;
+        std::string name;
         double ColorComponents::* value;
         Ref<UILabel> label;
         Ref<UISlider> slider;
@@ -39,7 +40,8 @@ private:
     void addParts();
     void choose(const ColorComponents& color);
     void readField();
-    void layOutPart(const Part& part, double y);
+    [[nodiscard]] double widestLabel() const;
+    void layOutPart(const Part& part, double y, double labelWidth);
 
     bool hasOpacity_;
     ColorComponents color_;

@@ -53,7 +53,7 @@ void GcColorPickerControllerPeer::viewDidLoad() {
         save();
         kept->dismissViewControllerAnimated(true, {});
     };
-    setTitle("Colors");
+    setTitle(systemText("Colors"));
     navigationItem().setRightBarButtonItem(
         make<DesktopBarButtonItem>(DesktopBarButtonItem::Content{.title = systemText("Done"),
                                                                  .image = {},

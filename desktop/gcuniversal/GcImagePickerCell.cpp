@@ -5,6 +5,7 @@
 #include "ObjectiveC/Class.h"
 #include "PSListControllerPeer.h"
 #include "RowImage.h"
+#include "SystemTexts.h"
 #include "UIKit/UINavigationController.h"
 #include "cells/PSTableCellPeer.h"
 
@@ -50,7 +51,7 @@ void GcImagePickerCellPeer::refresh() {
     preview_->setImage(kept.image());
     detailTextLabel().setText({});
     setAccessibility({.label = {},
-                      .value = kept.exists() ? "image" : "no image",
+                      .value = systemText(kept.exists() ? "image" : "no image"),
                       .role = AccessibilityRole::None,
                       .isElement = false});
 }

@@ -45,13 +45,13 @@ public:
 
 ImagePickerView::ImagePickerView() {
     setBackgroundColor(DesktopColor::system(SystemColor::GroupedBackground));
-    text->setText(explanation);
+    text->setText(systemText(explanation));
     text->setTextColor(DesktopColor::system(SystemColor::SecondaryLabel));
     peerOf<UILabelPeer>(*text).setNumberOfLines(0);
     preview->setContentMode(UIViewContentMode::ScaleAspectFit);
     auto& path = peerOf<UITextFieldPeer>(*field);
     path.setBorderStyle(UITextBorderStyle::RoundedRect);
-    path.setPlaceholder("Path of a File");
+    path.setPlaceholder(systemText("Path of a File"));
     path.setTextInputTraits({.capitals = TextInputTraits::Capitals::None});
     path.setEndsOnReturn(true);
     auto& browse = peerOf<UIButtonPeer>(*browser);
@@ -59,7 +59,7 @@ ImagePickerView::ImagePickerView() {
     browse.setFontStyle({.size = 17});
     browse.setHidden(Screen::current().fileDialog() == nullptr);
     auto& button = peerOf<UIButtonPeer>(*remover);
-    button.setTitle("Remove Image");
+    button.setTitle(systemText("Remove Image"));
     button.setFontStyle({.size = 17});
     button.setTitleColor(DesktopColor::system(SystemColor::Red));
     for (const auto& view : {Ref<UIView>(text), Ref<UIView>(field), Ref<UIView>(browser),
@@ -126,7 +126,7 @@ Ref<UIView> GcImagePickerControllerPeer::makeView() {
 }
 
 void GcImagePickerControllerPeer::viewDidLoad() {
-    setTitle("Image");
+    setTitle(systemText("Image"));
     const auto cancel = [weak = Weak<UIViewController>(&controller()), this] {
         if (const auto kept = weak.strong())
             cancelPicking();
@@ -155,11 +155,12 @@ void GcImagePickerControllerPeer::pickTyped() {
 
 std::expected<void, std::string>
 GcImagePickerControllerPeer::pickFiles(const std::vector<std::string>& hostPaths) {
-    const auto kept = hostPaths.size() == 1
-                          ? RowImage(*row_).keep(hostPaths.front())
-                          : std::expected<void, std::string>(std::unexpected("One image is wanted."));
+    const auto kept =
+        hostPaths.size() == 1
+            ? RowImage(*row_).keep(hostPaths.front())
+            : std::expected<void, std::string>(std::unexpected(systemText("One image is wanted.")));
     if (!kept) {
-        complain(controller(), "The Image Cannot Be Used", kept.error());
+        complain(controller(), systemText("The Image Cannot Be Used"), kept.error());
         return kept;
     }
     changed_();

@@ -6,6 +6,7 @@
 #include "Foundation/NSFileManager.h"
 #include "Foundation/NSString.h"
 #include "HeifPicture.h"
+#include "SystemTexts.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -49,9 +50,9 @@ std::expected<QByteArray, std::string> contentOf(const std::string& hostPath) {
     const auto name = QString::fromStdString(hostPath);
     QFile file(name);
     if (!QFileInfo(name).isFile() || !file.open(QIODevice::ReadOnly))
-        return std::unexpected("The file could not be opened.");
+        return std::unexpected(systemText("The file could not be opened."));
     if (file.size() > greatestSize)
-        return std::unexpected("The file is too large.");
+        return std::unexpected(systemText("The file is too large."));
     return file.readAll();
 }
 
@@ -80,18 +81,19 @@ Ref<UIImage> RowImage::image() const {
 
 std::expected<void, std::string> RowImage::keep(const std::string& hostPath) const {
     if (path().empty())
-        return std::unexpected("The row names no place for an image.");
+        return std::unexpected(systemText("The row names no place for an image."));
     const auto content = contentOf(hostPath);
     if (!content)
         return std::unexpected(content.error());
     if (!decoded(*content))
-        return std::unexpected("The file is no image that can be used. Choose a PNG, JPEG or HEIC file.");
+        return std::unexpected(
+            systemText("The file is no image that can be used. Choose a PNG, JPEG or HEIC file."));
     auto& files = NSFileManager::defaultManager();
     const auto folder = stringByDeletingLastPathComponent(path());
     const std::string_view bytes(content->data(), static_cast<std::size_t>(content->size()));
     if (!files.createDirectoryAtPath(folder, true) ||
         !files.createFileAtPath(path(), NSData::dataWithBytes(bytes)))
-        return std::unexpected("The image could not be saved.");
+        return std::unexpected(systemText("The image could not be saved."));
     post();
     return {};
 }

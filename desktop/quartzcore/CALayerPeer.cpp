@@ -230,3 +230,10 @@ AffineTransform CALayerPeer::shownToSuperlayer() const {
     return mapOf(shownBounds(), anchorPoint, {position[0], position[1]},
                  asTransform(shownValue(LayerProperty::Transform)));
 }
+
+CGRect CALayerPeer::shownFrameOnScreen() const {
+    auto toScreen = shownToSuperlayer();
+    for (const auto* layer = superlayer(); layer != nullptr; layer = layer->peer().superlayer())
+        toScreen = layer->peer().shownToSuperlayer().after(toScreen);
+    return toScreen(shownBounds());
+}

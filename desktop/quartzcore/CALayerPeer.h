@@ -83,6 +83,9 @@ public:
     /// From the layer's bounds to its superlayer's, as set and as shown.
     [[nodiscard]] AffineTransform toSuperlayer() const;
     [[nodiscard]] AffineTransform shownToSuperlayer() const;
+
+    /// Where it is shown in the outermost layer's superlayer, which is the screen for what is in a window.
+    [[nodiscard]] CGRect shownFrameOnScreen() const;
     [[nodiscard]] CGRect shownBounds() const;
 
     // What is not animated.

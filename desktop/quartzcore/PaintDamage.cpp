@@ -14,8 +14,10 @@ using Items = std::vector<PaintItem>;
 /// More rectangles than these cost more than the pixels between them.
 constexpr int rectanglesAtMost = 12;
 
+/// Whether it is faded as much, and in the same way: what is painted apart may differ in a last digit.
 bool isFadedAlike(const PaintItem& before, const PaintItem& after) {
-    return before.opacity == after.opacity && before.enclosing == after.enclosing;
+    const auto isPaintedAlike = !after.isGroup() || before.isBackgroundOnly == after.isBackgroundOnly;
+    return isPaintedAlike && before.opacity == after.opacity && before.enclosing == after.enclosing;
 }
 
 bool looksAlike(const PaintItem& before, const PaintItem& after) {

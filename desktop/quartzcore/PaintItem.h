@@ -19,6 +19,8 @@ struct PaintItem {
     std::size_t end = 0;         ///< the index of the first item that is not within it
     LayerDelegate* delegate = nullptr;      ///< paints the contents; may be null
     std::shared_ptr<const PaintList> inner; ///< what the layer's own picture shows; null when it keeps none
+    /// Whether nothing of it and within it is painted but its background, which can be painted faded.
+    bool isBackgroundOnly = false;
     QPoint innerPlace; ///< of that picture's corner from the origin of the bounds, in its pixels
     QRect clip;        ///< what the layers around it leave of the picture
     QRect innerClip;   ///< what is left for what is within it

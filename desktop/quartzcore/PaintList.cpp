@@ -137,6 +137,25 @@ QRect filledRect(const LayerLook& look) {
     return rect.isValid() ? rect : QRect();
 }
 
+/// With another beside it, above or below, if that is a rectangle again; the first if not.
+QRect joined(const QRect& rect, const QRect& other) {
+    const auto isAsHigh = other.top() <= rect.top() && other.bottom() >= rect.bottom();
+    if (isAsHigh && other.left() <= rect.right() + 1 && other.right() >= rect.left() - 1)
+        return {QPoint(std::min(rect.left(), other.left()), rect.top()),
+                QPoint(std::max(rect.right(), other.right()), rect.bottom())};
+    const auto isAsWide = other.left() <= rect.left() && other.right() >= rect.right();
+    if (isAsWide && other.top() <= rect.bottom() + 1 && other.bottom() >= rect.top() - 1)
+        return {QPoint(rect.left(), std::min(rect.top(), other.top())),
+                QPoint(rect.right(), std::max(rect.bottom(), other.bottom()))};
+    return rect;
+}
+
+bool paintsBackgroundOnly(const PaintItem& item) {
+    const auto& look = item.look;
+    return item.delegate == nullptr && item.inner == nullptr && !look.backdrop && !look.castsShadow() &&
+           !item.hasSoftMask() && (look.borderWidth == 0 || look.borderColor.alpha == 0);
+}
+
 /// Where the picture of a layer lets nothing through.
 QRect opaqueOfPicture(const PaintItem& item) {
     const auto inside = item.inner->opaque();
@@ -183,6 +202,8 @@ QRect PaintList::opaque() const {
         if (area(item.opaque) > area(largest))
             largest = item.opaque;
     }
+    for (const auto& item : items_)
+        largest = joined(largest, item.opaque);
     return largest & QRect({}, size_);
 }
 
@@ -275,7 +296,9 @@ void PaintList::addItem(const CALayer& layer, const LayerLook& look, double opac
     item.delegate = peer.delegate != nullptr && peer.delegate->hasContents() ? peer.delegate : nullptr;
     place(item, around);
     addSublayers(layer, index, fades);
-    items_[index].end = items_.size();
+    auto& added = items_[index];
+    added.end = items_.size();
+    added.isBackgroundOnly = added.end == index + 1 && paintsBackgroundOnly(added);
 }
 
 bool PaintList::addPicture(const CALayer& layer, const LayerLook& look, double opacity,

@@ -27,7 +27,8 @@ public:
     /// Of the picture, in pixels for a point.
     [[nodiscard]] double scale() const { return scale_; }
 
-    /// A part of the picture that lets nothing through, the largest that one layer fills; may be empty.
+    /// A part of the picture that lets nothing through: the largest that one layer fills, with others that
+    /// adjoin it; may be empty.
     [[nodiscard]] QRect opaque() const;
 
     /// What the first items show in a part of the picture, larger or smaller. \param size that it comes out

@@ -97,14 +97,6 @@ QRect insideOf(const LayerLook& look, double inset) {
     return look.wholePixelsWithin(edge, edge + look.cornerPixels());
 }
 
-/// Whether nothing of an item is painted but its background, so that a group needs no picture of its own.
-bool isBackgroundOnly(const PaintItem& item, std::size_t index) {
-    const auto& look = item.look;
-    return item.end == index + 1 && item.delegate == nullptr && item.inner == nullptr && !look.backdrop &&
-           !look.castsShadow() && !item.hasSoftMask() &&
-           (look.borderWidth == 0 || look.borderColor.alpha == 0);
-}
-
 /// Whether an item is a picture that is painted as it is kept, so that it can be painted faded.
 bool isPictureOnly(const PaintItem& item) {
     return item.inner != nullptr && !item.hasSoftMask() && !item.isInnerScaled();
@@ -173,7 +165,7 @@ void Painting::paintItem(std::size_t index, Surface& surface) {
 
 void Painting::paintGroup(std::size_t index, Surface& surface) {
     const auto& item = items_[index];
-    if (isBackgroundOnly(item, index)) {
+    if (item.isBackgroundOnly) {
         paintBackground(index, surface, item.opacity);
         return;
     }
@@ -253,7 +245,7 @@ void Painting::paintBackdrop(std::size_t index, const Backdrop& backdrop, Surfac
         return;
     const auto seen = backdropOf(index, backdrop);
     const auto region = seen_[index] & item.body & item.innerClip;
-    const auto inside = seen.isOpaque() ? item.filled : QRect();
+    const auto inside = seen.isOpaque() ? insideOf(item.look, 0) & item.body : QRect();
     for (const auto& rect : region& inside)
         seen.copyTo(surface.image, rect.translated(-item.body.topLeft()), item.body.topLeft());
     const auto shape = item.look.transform().map(shapeOf(item, 0));
@@ -349,7 +341,7 @@ void Painting::paintScaledPicture(const PaintItem& item, const QRegion& region, 
     const ScaledPicture scaled(image, item.placeOfInner());
     for (const auto& rect : region& item.opaque)
         scaled.copyTo(surface.image, rect);
-    for (const auto& rect : region - item.opaque) {
+    for (const auto& rect : PainterBands::of(region - item.opaque)) {
         auto part = PicturePool::shared().make(rect.size());
         scaled.copyTo(part, rect, rect.topLeft());
         PixelRects::paintOver(surface.image, rect, part, rect.topLeft(), 1);

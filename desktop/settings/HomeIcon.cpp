@@ -51,6 +51,10 @@ void HomeIcon::setIconShown(bool shown) {
     image_->peer().setHidden(!shown);
 }
 
+void HomeIcon::setNameShown(bool shown) {
+    label_->setAlpha(shown ? 1 : 0);
+}
+
 double HomeIcon::side() const {
     return peer().traits().idiom == Idiom::Phone ? phoneSide : padSide;
 }

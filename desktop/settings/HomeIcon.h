@@ -18,8 +18,8 @@ public:
 
     [[nodiscard]] Ref<UIImage> image() const { return image_->image(); }
 
-    /// Whether the icon is there, or only its name.
     void setIconShown(bool shown);
+    void setNameShown(bool shown);
 
     /// The icon's rectangle in this view; square and at the top.
     [[nodiscard]] CGRect iconFrame() const;

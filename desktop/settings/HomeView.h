@@ -16,8 +16,11 @@ public:
 
     [[nodiscard]] Ref<UIImage> settingsIcon() const { return settings_->image(); }
 
-    /// Whether the icon of Settings is in its place; its name always is.
+    /// Whether the icon of Settings is in its place.
     void setSettingsIconShown(bool shown) { settings_->setIconShown(shown); }
+
+    /// Whether its name is; may be animated.
+    void setSettingsNameShown(bool shown) { settings_->setNameShown(shown); }
 
     /// Shows the wallpaper of the present appearance.
     void updateWallpaper();

@@ -4,6 +4,7 @@
 #include "DesktopImage.h"
 #include "Device.h"
 #include "Foundation/NSString.h"
+#include "KnownPictures.h"
 #include "ObjectiveC/Class.h"
 #include "PSListControllerPeer.h"
 #include "SystemTexts.h"
@@ -36,6 +37,10 @@ SettingsRootPage::SettingsRootPage() {
     peer().setTitle(systemText("Settings"));
 }
 
+SettingsRootPage::~SettingsRootPage() {
+    KnownPictures::shared().expectNothing();
+}
+
 PSListController::Specifiers SettingsRootPage::specifiers() {
     if (!cachedSpecifiers().empty())
         return cachedSpecifiers();
@@ -43,6 +48,7 @@ PSListController::Specifiers SettingsRootPage::specifiers() {
                                iconIn(Device::current().mainBundle()->path(), "About.png"));
     Specifiers specifiers{makeGroup(), about};
     entries_ = EntryList::read();
+    expectPictures();
     if (!entries_.empty())
         specifiers.emplace_back(makeGroup());
     for (const auto& entry : entries_)
@@ -51,6 +57,18 @@ PSListController::Specifiers SettingsRootPage::specifiers() {
                     iconIn(entry.folder, entry.icon)));
     setCachedSpecifiers(specifiers);
     return specifiers;
+}
+
+void SettingsRootPage::expectPictures() const {
+    auto& pictures = KnownPictures::shared();
+    pictures.expectNothing();
+    for (const auto& entry : entries_) {
+        if (entry.bundle.empty())
+            continue;
+        pictures.expect(entry.folder, "@3x.png");
+        if (Screen::current().traits().displayScale < iconScale)
+            pictures.expect(entry.folder, "@2x.png");
+    }
 }
 
 Ref<PSSpecifier> SettingsRootPage::makeRow(PropertyList::Dictionary properties, const Ref<UIImage>& icon) {

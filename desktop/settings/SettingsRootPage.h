@@ -21,6 +21,9 @@ public:
     };
 
     SettingsRootPage();
+    ~SettingsRootPage() override;
+    SettingsRootPage(const SettingsRootPage&) = delete;
+    SettingsRootPage& operator=(const SettingsRootPage&) = delete;
 
     /// With none set the rows do nothing.
     void setOpeners(Openers openers) { openers_ = std::move(openers); }
@@ -37,6 +40,8 @@ public:
     void openEntry(const Ref<PSSpecifier>& specifier);
 
 private:
+    /// Those of the bundles, before a bundle is opened.
+    void expectPictures() const;
     [[nodiscard]] Ref<PSSpecifier> makeRow(PropertyList::Dictionary properties, const Ref<UIImage>& icon);
 
     Openers openers_;

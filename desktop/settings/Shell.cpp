@@ -44,28 +44,24 @@ AnimationGroup::Course fade(milliseconds delay, milliseconds duration) {
 }
 
 /// On a course on which one is opaque as long as the other is not, so that nothing shines through both: the
-/// lower one has come before the upper one goes, and goes after that has come.
+/// lower one has come before the upper one goes, and goes after that has come. The icon's name is there only
+/// while the window is about as small as the icon, so that it is never seen beside it.
 struct Exchange {
     AnimationGroup::Course window;
     AnimationGroup::Course icon;
+    AnimationGroup::Course name;
 };
 
 Exchange launching() {
-    return {.window = fade({}, milliseconds(30)), .icon = fade(milliseconds(30), milliseconds(130))};
+    return {.window = fade({}, milliseconds(30)),
+            .icon = fade(milliseconds(30), milliseconds(130)),
+            .name = fade({}, milliseconds(30))};
 }
 
 Exchange leaving() {
     return {.window = fade(milliseconds(200), milliseconds(30)),
-            .icon = fade(milliseconds(70), milliseconds(130))};
-}
-
-// When a window that zooms has come over the status bar, and when it has left it.
-AnimationGroup::Course barsComing() {
-    return fade(milliseconds(120), milliseconds(80));
-}
-
-AnimationGroup::Course barsGoing() {
-    return fade(milliseconds(40), milliseconds(60));
+            .icon = fade(milliseconds(70), milliseconds(130)),
+            .name = fade(milliseconds(300), milliseconds(150))};
 }
 
 CGPoint middleOf(const CGRect& rect) {
@@ -79,7 +75,7 @@ Shell::Shell() : homeWindow_(make<UIWindow>()), home_(make<HomeView>([this] { la
     homeWindow_->setWindowLevel(homeLevel);
     homeWindow_->setFrame(screen.bounds());
     home_->setFrame(homeWindow_->bounds());
-    bars_.setBehind(SystemBars::Behind::Wallpaper, {});
+    bars_.setWallpaperDepth([this] { return wallpaperDepth(); });
     home_->setAutoresizingMask(UIViewAutoresizing::FlexibleWidth | UIViewAutoresizing::FlexibleHeight);
     homeWindow_->addSubview(home_);
     screen.addWindow(homeWindow_);
@@ -129,7 +125,6 @@ void Shell::goHome() {
     Screen::current().presentations().dismissTransient();
     TouchDispatcher::cancelTouchesIn(*settingsWindow_);
     settingsWindow_->setUserInteractionEnabled(false);
-    bars_.setBehind(SystemBars::Behind::Wallpaper, barsGoing());
     setCorners(Screen::current().cornerRadius());
     AnimationGroup::run(
         zoom(), [this] { shrinkToIcon(); },
@@ -161,7 +156,6 @@ void Shell::terminateSettings() {
     Device::current().mainQueue().forgetAll();
     Screen::current().applicationHasEnded();
     loader_.unloadBundles();
-    bars_.setBehind(SystemBars::Behind::Wallpaper, {});
 }
 
 void Shell::relaunch() {
@@ -221,6 +215,7 @@ void Shell::showSettings(bool shown) {
     iconWindow_->peer().setHidden(false);
     AnimationGroup::run(courses.window, [this, shown] { settingsWindow_->setAlpha(shown ? 1 : 0); }, {});
     AnimationGroup::run(courses.icon, [this, shown] { iconWindow_->setAlpha(shown ? 0 : 1); }, {});
+    AnimationGroup::run(courses.name, [this, shown] { home_->setSettingsNameShown(!shown); }, {});
 }
 
 void Shell::endSettings() {
@@ -232,6 +227,13 @@ void Shell::endSettings() {
     settings_.reset();
     iconWindow_->peer().setHidden(true);
     home_->setSettingsIconShown(true);
+    AnimationGroup::run(fade({}, milliseconds(150)), [this] { home_->setSettingsNameShown(true); }, {});
+}
+
+double Shell::wallpaperDepth() const {
+    if (!settingsWindow_ || settingsWindow_->peer().isHidden())
+        return Screen::current().bounds().size.height;
+    return settingsWindow_->layer().peer().shownFrameOnScreen().origin.y;
 }
 
 void Shell::shrinkToIcon() {
@@ -260,7 +262,6 @@ void Shell::setCorners(double radius) {
 
 /// The corners are those of the screen all the way; at its end they are the screen's own.
 void Shell::springBack() {
-    bars_.setBehind(SystemBars::Behind::Application, barsComing());
     AnimationGroup::run(
         zoom(), [this] { fillScreen(); },
         [this, window = Weak<UIWindow>(settingsWindow_)](bool finished) {
@@ -284,7 +285,4 @@ void Shell::followFinger(CGPoint translation) {
     placeSettings(AffineTransform::translation(translation.x, lowerEdge - height * scale / 2)
                       .after(AffineTransform::scale(scale)));
     setCorners(Screen::current().cornerRadius());
-    const auto top = height * (1 - way - scale);
-    const auto leavesBar = top > Screen::current().safeAreaInsets().top / 2;
-    bars_.setBehind(leavesBar ? SystemBars::Behind::Wallpaper : SystemBars::Behind::Application, {});
 }

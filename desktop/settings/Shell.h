@@ -63,6 +63,8 @@ private:
     void placeSettings(const AffineTransform& transform);
     void showSettings(bool shown);
     void setCorners(double radius);
+    /// How far down from its upper edge the screen shows the home screen.
+    [[nodiscard]] double wallpaperDepth() const;
     /// The finger that draws Settings up has come so far.
     void followFinger(CGPoint translation);
     void fingerGone(bool goesHome);

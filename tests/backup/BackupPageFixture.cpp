@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <stdexcept>
 
 namespace {
 
@@ -47,7 +48,10 @@ bool BackupPageFixture::isPresenting() const {
 }
 
 const Presented& BackupPageFixture::presented() {
-    return *screen.presentations().top();
+    const auto* const top = screen.presentations().top();
+    if (top == nullptr)
+        throw std::runtime_error("nothing is presented");
+    return *top;
 }
 
 Presented::Details BackupPageFixture::details() {

@@ -34,6 +34,7 @@ protected:
 
     // What is presented topmost.
     [[nodiscard]] bool isPresenting() const;
+    /// Throws where nothing is.
     [[nodiscard]] const Presented& presented();
     [[nodiscard]] Presented::Details details();
     [[nodiscard]] Message message();

@@ -47,6 +47,16 @@ TEST_F(cxBackupRestoreControllerListTest, WithoutBackupsItSaysSo) {
     EXPECT_EQ(screen.presentations().all().size(), 1U);
 }
 
+TEST_F(cxBackupRestoreControllerListTest, AListingThatFindsNoneLeavesWhatTheLastOneFound) {
+    makeBackup("a.tar.gz");
+    showList();
+    tapOn("Done");
+    EXPECT_TRUE(NSFileManager::defaultManager().removeItemAtPath(std::string(backupsFolder) + "/a.tar.gz"));
+    showList();
+    EXPECT_EQ(message(), none);
+    EXPECT_EQ(page->currentBackupsList(), Names{"a.tar.gz"});
+}
+
 TEST_F(cxBackupRestoreControllerListTest, OtherFilesAreNoBackups) {
     for (const auto* const name : {"notes.txt", "a.gz", "a.tgz", "a.tar", "tar.gz"})
         makeFile(name);

@@ -62,6 +62,12 @@ TEST_F(cxBackupRestoreControllerSaveTest, TheTimeIsTheLocalOneOfADayOf24Hours) {
     EXPECT_EQ(namesIn(backupsFolder), Names{"Backup_20261116-1512.tar.gz"});
 }
 
+TEST_F(cxBackupRestoreControllerSaveTest, TheYearIsThatOfTheDayAndNotOfItsWeek) {
+    advance(std::chrono::days(45)); // to the last day of the year, whose week is the first of the next
+    EXPECT_EQ(save(std::nullopt), success);
+    EXPECT_EQ(namesIn(backupsFolder), Names{"Backup_20261231-0312.tar.gz"});
+}
+
 TEST_F(cxBackupRestoreControllerSaveTest, AnyNameIsTakenAsItStands) {
     for (const auto* const name :
          {"My Settings", " ", "...", ".hidden", "Grüße 🎨", "a\nb", "a.tar.gz", "%@", "~"}) {

@@ -30,6 +30,12 @@ TEST_F(cxBackupRestoreControllerTest, ItsFolderIsInTheDocumentsAndMadeWithThePag
     EXPECT_EQ(device.log().take(), Log());
 }
 
+TEST_F(cxBackupRestoreControllerTest, TheFoldersAboveItAreMadeToo) {
+    EXPECT_TRUE(NSFileManager::defaultManager().removeItemAtPath("/var/mobile/Documents"));
+    page = make<cxBackupRestoreController>();
+    EXPECT_TRUE(NSFileManager::defaultManager().fileExistsAtPath(backupsFolder));
+}
+
 TEST_F(cxBackupRestoreControllerTest, AFolderThatIsThereIsKeptWithWhatIsInIt) {
     makeFile("a.tar.gz");
     page = make<cxBackupRestoreController>();

@@ -147,7 +147,24 @@ TEST_F(SpecifierListsTest, TheFirstListLeadsToEveryPage) {
     EXPECT_EQ(pages, (Texts{"cxBannerController", "cxOrganizeController", "cxLabelController",
                             "cxGeneralController", "cxExtraController", "cxColorController",
                             "cxBackgroundController", "cxBackupRestoreController"}));
-    EXPECT_EQ(textIn(rowsOf("Root").at(0), "cellClass"), "CxHeaderCell");
+    const auto header = rowsOf("Root").at(0);
+    EXPECT_EQ(textIn(header, "cellClass"), "CxHeaderCell");
+    EXPECT_EQ(textIn(header, "title"), "Corvex");
+    EXPECT_NE(textIn(header, "description"), "");
+}
+
+TEST_F(SpecifierListsTest, TheBackupsListHasAButtonForEachOfThreeThings) {
+    const auto bundle = PreferenceBundle::load("corvexPrefs");
+    ASSERT_TRUE(bundle) << bundle.error();
+    const auto page = NSClassFromString("cxBackupRestoreController")->create();
+    Texts actions;
+    for (const auto& row : rowsOf("BackupRestore")) {
+        if (textIn(row, "cell") != "PSButtonCell")
+            continue;
+        EXPECT_TRUE(page->respondsToSelector(textIn(row, "action"))) << textIn(row, "label");
+        actions.insert(textIn(row, "action"));
+    }
+    EXPECT_EQ(actions, (Texts{"createBackup", "importBackup", "showBackupList"}));
 }
 
 TEST_F(SpecifierListsTest, EveryListHasATitleAndGroupsThatExplain) {

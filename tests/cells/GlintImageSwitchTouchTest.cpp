@@ -64,6 +64,21 @@ TEST_F(GlintImageSwitchTouchTest, APressLeavesBorderAndContentsAsTheyAre) {
     expectTrackContents(true);
 }
 
+TEST_F(GlintImageSwitchTouchTest, APressLeavesTheBorderToWhatIsShown) {
+    control->showOnAnimated(false); // while its value is off
+    down(10);
+    EXPECT_TRUE(borderIs(control->onTintColor()));
+}
+
+TEST_F(GlintImageSwitchTouchTest, ATouchBeginsFromTheValueWhateverIsShown) {
+    control->showOnAnimated(false);
+    down(10);
+    move(12);
+    up(12);
+    EXPECT_TRUE(control->isOn()) << "it never crossed the middle, so it was a tap";
+    EXPECT_EQ(events->count, 1);
+}
+
 TEST_F(GlintImageSwitchTouchTest, EveryMoveShowsTheFingersSideAnew) {
     for (const auto x : {40.0, 10.0}) {
         down(x);

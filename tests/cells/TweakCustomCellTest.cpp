@@ -256,6 +256,14 @@ TEST_F(TweakCustomCellTest, OnlyTheExactTextTrueMakesTheIconsTemplates) {
     EXPECT_FALSE(isTemplate(absent));
 }
 
+TEST_F(TweakCustomCellTest, AnIconsNameMayBeLongerThanAPathThatIsConverted) {
+    const std::string folder(250, 'f');
+    const auto name = folder + "/" + folder + "/" + folder + "/" + folder + "/one";
+    device.write(assets + name + ".png", pngFile(40, 40));
+    const auto cell = shown(fullRow());
+    EXPECT_TRUE(cell->loadImageNamed(name, static_cast<long>(UIImageRenderingMode::AlwaysOriginal)));
+}
+
 TEST_F(TweakCustomCellTest, TheIconsComeFromTheAssetsUnderTheJailbreaksRoot) {
     device.write("/Library/PreferenceBundles/corvexPrefs.bundle/Assets/other.png", pngFile(40, 40));
     const auto cell = dynamicCast<TweakCustomCell>(cellFor(fullRow()));

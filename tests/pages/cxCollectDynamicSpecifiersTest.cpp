@@ -144,6 +144,8 @@ TEST_F(cxCollectDynamicSpecifiersTest, ARuleOfTwoOrFourPartsIsIgnored) {
     EXPECT_FALSE(rules().hasDynamicSpecifiers());
     EXPECT_EQ(heightOf("two"), 44);
     EXPECT_EQ(heightOf("four"), 44);
+    for (const auto* const id : {"two", "four"})
+        EXPECT_TRUE(isHidden(id)) << "whoever asks for one row alone has its parts not counted";
 }
 
 TEST_F(cxCollectDynamicSpecifiersTest, ARuleWithACommaWithoutASpaceIsIgnored) {
@@ -268,6 +270,21 @@ TEST_F(cxCollectDynamicSpecifiersTest, ItsMethodsAnswerBySelector) {
     page->performSelector("setHasDynamicSpecifiers:", {PropertyList(false)});
     EXPECT_FALSE(rules().dynamicSpecifiers());
     EXPECT_FALSE(rules().hasDynamicSpecifiers());
+}
+
+TEST_F(cxCollectDynamicSpecifiersTest, ToldThatThereAreNoRulesItHeedsNoneThatItKeeps) {
+    store(true, "master");
+    auto& noted = openNoted({switchRow("master"), ruledRow("detail", "master, a, b")});
+    noted.setHasDynamicSpecifiers(false);
+    flip("master");
+    settle();
+    EXPECT_EQ(stored("master"), PropertyList(false));
+    EXPECT_TRUE(noted.answers.empty()) << "the heights are not asked anew";
+    constexpr NSIndexPath ofDetail{.section = 0, .row = 1};
+    ASSERT_EQ(noted.specifierAtIndexPath(ofDetail).get(), &specifier("detail"));
+    EXPECT_EQ(noted.heightForRowAtIndexPath(*noted.table(), ofDetail), UITableViewAutomaticDimension);
+    noted.setHasDynamicSpecifiers(true);
+    EXPECT_EQ(noted.heightForRowAtIndexPath(*noted.table(), ofDetail), 0);
 }
 
 TEST_F(cxCollectDynamicSpecifiersTest, RowsWithoutADictionaryAreLeftAlone) {

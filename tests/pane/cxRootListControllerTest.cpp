@@ -32,10 +32,23 @@ private:
     std::optional<std::string> identifier_;
 };
 
+/// A button that keeps what was heard until it was asked for the page that it names.
+class ListeningButton final : public UIControl {
+public:
+    [[nodiscard]] std::optional<std::string> identifier() {
+        heard = Device::current().sounds().take();
+        return "OpenedPage";
+    }
+
+    std::vector<std::uint32_t> heard;
+};
+
 class OpenedPage final : public UIViewController {};
 
 const Class buttonClass =
     Class::define<PageButton, UIControl>("PageButton", {method<"identifier", &PageButton::identifier>()});
+const Class listeningClass = Class::define<ListeningButton, UIControl>(
+    "ListeningButton", {method<"identifier", &ListeningButton::identifier>()});
 const Class pageClass = Class::define<OpenedPage, UIViewController>("OpenedPage");
 
 Ref<PageButton> buttonFor(std::optional<std::string> identifier) {
@@ -232,6 +245,14 @@ TEST_F(cxRootListControllerTest, AButtonOpensThePageThatItNames) {
     EXPECT_TRUE(dynamicCast<OpenedPage>(peerOf<UINavigationControllerPeer>(*navigation).top()));
     EXPECT_EQ(Device::current().sounds().take(), Sounds{1519});
     EXPECT_EQ(device.log().take(), Log());
+}
+
+TEST_F(cxRootListControllerTest, TheTapIsHeardBeforeAnythingElse) {
+    show();
+    const auto button = make<ListeningButton>();
+    page->openController(button);
+    EXPECT_EQ(button->heard, Sounds{1519});
+    settle();
 }
 
 TEST_F(cxRootListControllerTest, AButtonThatNamesNoPageTapsAndLogsOnce) {

@@ -25,7 +25,7 @@ public:
 
     [[nodiscard]] bool isTransient() const override { return transient; }
 
-    [[nodiscard]] bool blackensStatusBar() const override { return false; }
+    [[nodiscard]] double blackDepth() const override { return 0; }
 
     void keyboardHeightDidChange() override { keyboardHeights.push_back(Screen::current().keyboardHeight()); }
 

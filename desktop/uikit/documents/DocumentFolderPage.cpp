@@ -2,6 +2,7 @@
 
 #include "DesktopColor.h"
 #include "DesktopImage.h"
+#include "Device.h"
 #include "Foundation/NSDateFormatter.h"
 #include "Foundation/NSString.h"
 #include "ObjectiveC/Class.h"
@@ -44,7 +45,7 @@ public:
         : path_(std::move(path)),
           rules_(std::move(rules)),
           entries_(documentsIn(path_)) {
-        setTitle(lastPathComponent(path_));
+        setTitle(path_ == Device::documentsPath ? systemText("Documents") : lastPathComponent(path_));
     }
 
     ~DocumentFolderPagePeer() override { table().setContent(nullptr); }

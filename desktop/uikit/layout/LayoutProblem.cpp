@@ -27,8 +27,11 @@ UIEdgeInsets insetsOf(const UIView& view, LayoutGuide guide) {
     return {};
 }
 
+/// In the middle between two pixels both edges of a view go the same way, whatever the reckoning has left of
+/// them, so that what is whole pixels wide stays as wide.
 double toPixel(double value, double scale) {
-    return std::round(value * scale) / scale;
+    constexpr auto slack = 1e-6;
+    return std::floor(value * scale + 0.5 + slack) / scale;
 }
 
 } // namespace

@@ -35,7 +35,7 @@ public:
 
     [[nodiscard]] bool isTransient() const override { return true; }
 
-    [[nodiscard]] bool blackensStatusBar() const override { return false; }
+    [[nodiscard]] double blackDepth() const override { return 0; }
 
     void keyboardHeightDidChange() override {}
 

@@ -41,7 +41,7 @@ public:
 
     [[nodiscard]] UIView& shownView() const override { return *panel_; }
 
-    [[nodiscard]] bool blackensStatusBar() const override { return false; }
+    [[nodiscard]] double blackDepth() const override { return 0; }
 
     void dismissPresented() override;
 

@@ -87,13 +87,12 @@ void SheetPresentationView::willUncover() {
     });
 }
 
-/// From when on the upper edge of what steps back is seen below the middle of the bar.
-bool SheetPresentationView::blackensStatusBar() const {
+/// What steps back leaves black above itself.
+double SheetPresentationView::blackDepth() const {
     const auto covered = beneath();
     if (!covered || backing_->peer().superview() == nullptr)
-        return false;
-    const auto& layer = covered->layer().peer();
-    return layer.shownToSuperlayer()(layer.shownBounds()).origin.y > peer().safeAreaInsets().top / 2;
+        return 0;
+    return covered->layer().peer().shownFrameOnScreen().origin.y;
 }
 
 // Where everything is.

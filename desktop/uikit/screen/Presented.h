@@ -76,8 +76,8 @@ public:
     /// Whether it goes when the application is left. Sheets and alerts are still there on the way back.
     [[nodiscard]] virtual bool isTransient() const = 0;
 
-    /// Whether there is black behind the status bar.
-    [[nodiscard]] virtual bool blackensStatusBar() const = 0;
+    /// How far down the screen is black from its upper edge on, in points.
+    [[nodiscard]] virtual double blackDepth() const = 0;
 
     /// The keyboard covers another height of the screen. Runs among the changes that the keyboard animates.
     virtual void keyboardHeightDidChange() = 0;

@@ -7,6 +7,7 @@
 #include "Device.h"
 #include "ObjectiveC/Class.h"
 #include "screen/StatusGlyphs.h"
+#include "texts/PercentText.h"
 #include "time/UnixTime.h"
 #include "views/UILabelPeer.h"
 #include "views/UIViewPeer.h"
@@ -26,6 +27,7 @@ constexpr auto phoneMiddle = 26.0;     ///< of time and glyphs, from the screen'
 constexpr auto phoneTimeCenter = 57.0; ///< from the leading edge
 constexpr auto phoneTrailing = 27.0;   ///< from the glyphs to the trailing edge
 constexpr auto padTextSize = 12.0;
+constexpr auto padMiddle = 12.0; ///< of all, from the screen's upper edge
 constexpr auto padMargin = 20.0;
 constexpr auto padSpacing = 6.0;
 constexpr auto outlineOpacity = 0.35;
@@ -82,7 +84,7 @@ StatusBarView::StatusBarView()
     setUserInteractionEnabled(false);
     layer().peer().keepsPicture = true; // much is painted again beneath it
     time_->setTextAlignment(NSTextAlignment::Center);
-    charge_->setText("100%");
+    charge_->setText(percentText(1, Device::current().locale()));
     for (const auto& view : std::initializer_list<Ref<UIView>>{time_, date_, charge_, glyphs_})
         addSubview(view);
     refresh();
@@ -108,6 +110,13 @@ void StatusBarView::refresh() {
     peer().setNeedsLayout();
 }
 
+StatusBarView::Extent StatusBarView::textExtent() const {
+    const auto isPhone = peer().traits().idiom == Idiom::Phone;
+    const auto middle = isPhone ? phoneMiddle : padMiddle;
+    const auto half = (isPhone ? phoneTextSize : padTextSize) / 2;
+    return {.top = middle - half, .bottom = middle + half};
+}
+
 void StatusBarView::layoutSubviews() {
     UIView::layoutSubviews();
     const auto isPhone = peer().traits().idiom == Idiom::Phone;
@@ -131,10 +140,9 @@ void StatusBarView::layoutPhone() {
 }
 
 void StatusBarView::layoutPad() {
-    const auto middle = bounds().size.height / 2;
-    const auto place = [this, middle](UILabel& label, double x) {
+    const auto place = [this](UILabel& label, double x) {
         const auto size = label.peer().sizeThatFits({});
-        peer().place(label, CGRectMake(x, middle - size.height / 2, size.width, size.height));
+        peer().place(label, CGRectMake(x, padMiddle - size.height / 2, size.width, size.height));
         return x + size.width;
     };
     place(*date_, place(*time_, padMargin) + padSpacing);
@@ -143,6 +151,6 @@ void StatusBarView::layoutPad() {
     const auto chargeLeft = batteryLeft - StatusGlyphs::spacing - chargeWidth;
     place(*charge_, chargeLeft);
     const auto glyphsLeft = chargeLeft - padSpacing - StatusGlyphs::wirelessWidth;
-    peer().place(*glyphs_, CGRectMake(glyphsLeft, middle - StatusGlyphs::height / 2,
+    peer().place(*glyphs_, CGRectMake(glyphsLeft, padMiddle - StatusGlyphs::height / 2,
                                       bounds().size.width - padMargin - glyphsLeft, StatusGlyphs::height));
 }

@@ -18,6 +18,14 @@ public:
     /// The time as it is shown: without a word for the half of the day.
     [[nodiscard]] std::string time() const;
 
+    /// What its texts and glyphs take of its height.
+    struct Extent {
+        double top;
+        double bottom;
+    };
+
+    [[nodiscard]] Extent textExtent() const;
+
     // UIView:
     void layoutSubviews() override;
 

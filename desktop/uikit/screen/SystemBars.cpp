@@ -1,15 +1,25 @@
 #include "screen/SystemBars.h"
 
-#include "ObjectiveC/Weak.h"
+#include "AnimationGroup.h"
 #include "screen/Screen.h"
 #include "views/UIViewPeer.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace {
 
 constexpr auto windowLevel = 1000.0;
+constexpr auto fadeDistance = 6.0; ///< within which an edge that comes near makes a bar fade
+
+/// From 0 to 1 while the edge moves from there on by the distance of a fade.
+double passedBy(double edge, double start) {
+    return std::clamp((edge - start) / fadeDistance, 0.0, 1.0);
+}
+
+void show(UIView& bar, double alpha) {
+    bar.setAlpha(alpha);
+    bar.peer().setHidden(alpha <= 0);
+}
 
 } // namespace
 
@@ -26,14 +36,11 @@ SystemBars::~SystemBars() {
 }
 
 void SystemBars::refresh() {
-    const auto presented = Screen::current().presentations().all();
-    const auto isOnBlack = std::ranges::any_of(presented, &Presented::blackensStatusBar);
-    if (std::exchange(isOnBlack_, isOnBlack) != isOnBlack)
-        statusBar().peer().setTraitOverride([isOnBlack](Traits& traits) {
-            if (isOnBlack)
-                traits.style = UserInterfaceStyle::Dark;
-        });
-    bars_->refresh();
+    const auto wallpaper = wallpaperDepth_();
+    auto dark = wallpaper;
+    for (const auto* const presented : Screen::current().presentations().all())
+        dark = std::max(dark, presented->blackDepth());
+    AnimationGroup::runWithoutAnimation([&] { bars_->refresh(wallpaper, dark); });
 }
 
 SystemBars::BarsView::BarsView()
@@ -49,27 +56,15 @@ SystemBars::BarsView::BarsView()
     addSubview(homeIndicator_);
 }
 
-void SystemBars::BarsView::refresh() {
+void SystemBars::BarsView::refresh(double wallpaperDepth, double darkDepth) {
     statusBar_->refresh();
     whiteStatusBar_->refresh();
-}
-
-void SystemBars::BarsView::setBehind(Behind behind, const AnimationGroup::Course& course) {
-    behind_ = behind;
-    const auto isApplication = behind == Behind::Application;
-    // The white bar stays beneath the other one while that fades, so that neither is ever seen through.
-    whiteStatusBar_->peer().setHidden(false);
-    AnimationGroup::run(
-        course, [this, isApplication] { showApplicationBars(isApplication); },
-        [self = Weak<BarsView>(this)](bool /*finished*/) {
-            if (const auto bars = self.strong())
-                bars->whiteStatusBar_->peer().setHidden(bars->behind_ == Behind::Application);
-        });
-}
-
-void SystemBars::BarsView::showApplicationBars(bool shown) {
-    statusBar_->setAlpha(shown ? 1 : 0);
-    homeIndicator_->setAlpha(shown ? 1 : 0);
+    // In dark appearance the application's bar is white itself, so that no edge makes a difference.
+    const auto edge = peer().traits().style == UserInterfaceStyle::Light ? darkDepth : 0;
+    const auto [top, bottom] = statusBar_->textExtent();
+    show(*statusBar_, 1 - passedBy(edge, top - fadeDistance));
+    show(*whiteStatusBar_, passedBy(edge, bottom));
+    show(*homeIndicator_, 1 - passedBy(wallpaperDepth, 0));
 }
 
 void SystemBars::BarsView::layoutSubviews() {

@@ -1,9 +1,10 @@
 #pragma once
 
-#include "AnimationGroup.h"
 #include "screen/HomeIndicatorView.h"
 #include "screen/StatusBarView.h"
 #include "screen/UIWindow.h"
+
+#include <functional>
 
 /// The status bars and the home indicator, in a window in front of all others that takes no touches. Made by
 /// the host program, on the screen that there is; gone from it with this object.
@@ -14,23 +15,18 @@ public:
     SystemBars(const SystemBars&) = delete;
     SystemBars& operator=(const SystemBars&) = delete;
 
-    /// What is seen behind the bars.
-    enum class Behind {
-        Application, ///< the bars are in the colour of its texts
-        Wallpaper    ///< the status bar is white, and there is no indicator
-    };
+    /// How far down from its upper edge the screen shows the wallpaper, in points, asked at each refresh. At
+    /// first the application is seen all over.
+    void setWallpaperDepth(std::function<double()> depth) { wallpaperDepth_ = std::move(depth); }
 
-    /// Suits the bars to what is behind them from now on, at first an application.
-    void setBehind(Behind behind, const AnimationGroup::Course& course) { bars_->setBehind(behind, course); }
-
-    /// Shows the device's present time, in white where a sheet has left black behind it; for before each
-    /// picture.
+    /// Shows the device's present time, in a colour that suits what is behind it; for before each picture.
+    /// While an edge runs across the texts, which would be read on neither side of it, they are away.
     void refresh();
 
     /// The one above an application.
     [[nodiscard]] StatusBarView& statusBar() const { return bars_->statusBar(); }
 
-    /// The one above the wallpaper.
+    /// The one above the wallpaper, and above the black that a sheet leaves.
     [[nodiscard]] StatusBarView& whiteStatusBar() const { return bars_->whiteStatusBar(); }
 
     [[nodiscard]] HomeIndicatorView& homeIndicator() const { return bars_->homeIndicator(); }
@@ -41,8 +37,8 @@ private:
     public:
         BarsView();
 
-        void setBehind(Behind behind, const AnimationGroup::Course& course);
-        void refresh();
+        /// How far down the wallpaper reaches, and how far all that is dark behind the bars.
+        void refresh(double wallpaperDepth, double darkDepth);
 
         [[nodiscard]] StatusBarView& statusBar() const { return *statusBar_; }
 
@@ -54,15 +50,12 @@ private:
         void layoutSubviews() override;
 
     private:
-        void showApplicationBars(bool shown);
-
         Ref<StatusBarView> statusBar_;
         Ref<StatusBarView> whiteStatusBar_;
         Ref<HomeIndicatorView> homeIndicator_;
-        Behind behind_ = Behind::Application;
     };
 
     Ref<UIWindow> window_;
     Ref<BarsView> bars_;
-    bool isOnBlack_ = false;
+    std::function<double()> wallpaperDepth_ = [] { return 0.0; };
 };

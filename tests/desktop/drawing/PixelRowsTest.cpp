@@ -4,6 +4,7 @@
 #include <sys/mman.h>
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -96,6 +97,32 @@ TEST_P(PixelRowsTest, PaintsOverNothingBeyondARow) {
         PixelRows::paintOver(row.row(), over.row(), static_cast<std::uint8_t>(opacity));
         EXPECT_TRUE(row.isAll(static_cast<std::uint8_t>(painted)));
     }
+}
+
+/// Blocks of 64 pixels that are all clear or all opaque are told from those with one that is neither.
+TEST(PixelRows, PaintsOverWhateverARowIsMadeOf) {
+    using Pixel = std::array<std::uint8_t, PixelRows::pixelSize>;
+    constexpr Pixel clear{0, 0, 0, 0};
+    constexpr Pixel half{10, 20, 30, 128};
+    constexpr Pixel opaque{40, 50, 60, 255};
+    constexpr Pixel before{200, 200, 200, 255};
+    constexpr Pixel halfOver{110, 120, 130, 255};
+    constexpr std::size_t block = 64;
+    std::vector<Pixel> over(6 * block, opaque);
+    auto painted = over;
+    const auto set = [&](std::size_t place, const Pixel& pixel, const Pixel& then) {
+        over[place] = pixel;
+        painted[place] = then;
+    };
+    for (std::size_t place = 0; place < 2 * block; ++place)
+        set(place, clear, before);
+    set(2 * block - 1, half, halfOver);
+    set(3 * block - 1, half, halfOver);
+    set(4 * block, clear, before);
+    std::vector<Pixel> row(over.size(), before);
+    PixelRows::paintOver({row.front().data(), row.size() * PixelRows::pixelSize},
+                         {over.front().data(), over.size() * PixelRows::pixelSize}, 255);
+    EXPECT_EQ(row, painted);
 }
 
 TEST_P(PixelRowsTest, BringsNothingBackBeyondARow) {

@@ -78,6 +78,7 @@ private:
         EXPECT_EQ(presented()["swipeDismissable"], false);
         const auto item = presented()["items"].toArray()[0].toObject();
         EXPECT_EQ(item["title"], "My Settings.tar");
+        EXPECT_EQ(item["description"].toString().left(14), "11/16/26, 3:12") << "on the device's clock";
         EXPECT_EQ(item["tappable"], true);
         give({"tap \"My Settings.tar\""});
         EXPECT_EQ(presented()["items"].toArray().size(), 4);

@@ -131,7 +131,8 @@ TEST_F(DocumentCommandsPadTest, APopoverIsToldOfWithItsSource) {
     EXPECT_EQ(top().value("kind"), "share");
     EXPECT_EQ(top().value("style"), "popover");
     EXPECT_EQ(top().value("popover").toObject(), (QJsonObject{{"sourceRect", QJsonArray{410, 590, 0, 0}}}));
-    EXPECT_EQ(refusalOf("swipe-down"), "no sheet is presented");
+    EXPECT_EQ(refusalOf("swipe-down"),
+              "a popover is presented: it is no sheet, a touch beside it takes it away");
     EXPECT_TRUE(ask("touch down 100 100").isEmpty());
     EXPECT_TRUE(ask("touch up 100 100").isEmpty());
     settle();

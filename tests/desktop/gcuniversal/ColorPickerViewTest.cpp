@@ -2,6 +2,7 @@
 
 #include "Phone.h"
 #include "RectGeometry.h"
+#include "views/UILabelPeer.h"
 #include "views/UIViewPeer.h"
 
 #include <gmock/gmock.h>
@@ -34,6 +35,11 @@ protected:
     const Ref<ColorPickerView> picker_ = make<ColorPickerView>(false);
 };
 
+class GermanColorPickerViewTest : public ColorPickerViewTest {
+protected:
+    GermanColorPickerViewTest() : ColorPickerViewTest({.locale = "de_DE"}) {}
+};
+
 class RightToLeftColorPickerViewTest : public ColorPickerViewTest {
 protected:
     RightToLeftColorPickerViewTest() : ColorPickerViewTest({.locale = "he_IL"}) {}
@@ -44,14 +50,29 @@ protected:
 TEST_F(ColorPickerViewTest, BeginsWithTheColourAndTheNames) {
     EXPECT_THAT(extents<ColorSwatch>(), ElementsAre(Pair(16, 88)));
     EXPECT_THAT(extents<UITextField>(), ElementsAre(Pair(100, 374)));
-    EXPECT_THAT(extents<UILabel>(), testing::Each(Pair(16, 92)));
+    EXPECT_THAT(extents<UILabel>(), testing::Each(Pair(16, 80)));
     EXPECT_THAT(extents<UISlider>(), testing::Each(Pair(92, 374)));
+}
+
+TEST_F(GermanColorPickerViewTest, SlidersBeginBehindTheLongestName) {
+    const auto withOpacity = make<ColorPickerView>(true);
+    show(Ref<UIView>(withOpacity));
+    for (const auto& view : withOpacity->peer().subviews()) {
+        if (auto* const label = dynamic_cast<UILabel*>(view.get())) {
+            EXPECT_GE(label->frame().size.width, label->peer().sizeThatFits({}).width)
+                << peerOf<UILabelPeer>(*label).text().value_or("");
+            EXPECT_GT(CGRectGetMaxX(label->frame()), 80) << "for Deckkraft";
+        }
+        if (dynamic_cast<const UISlider*>(view.get()) != nullptr) {
+            EXPECT_GT(view->frame().origin.x, 92);
+        }
+    }
 }
 
 TEST_F(RightToLeftColorPickerViewTest, BeginsAtTheRight) {
     EXPECT_THAT(extents<ColorSwatch>(), ElementsAre(Pair(302, 374)));
     EXPECT_THAT(extents<UITextField>(), ElementsAre(Pair(16, 290)));
-    EXPECT_THAT(extents<UILabel>(), testing::Each(Pair(298, 374)));
+    EXPECT_THAT(extents<UILabel>(), testing::Each(Pair(310, 374)));
     EXPECT_THAT(extents<UISlider>(), testing::Each(Pair(16, 298)));
 }
 

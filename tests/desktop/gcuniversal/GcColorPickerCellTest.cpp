@@ -17,6 +17,8 @@ using Texts = std::vector<std::string>;
 
 class GcColorPickerCellTest : public RowsFixture {
 protected:
+    using RowsFixture::RowsFixture;
+
     [[nodiscard]] static std::string colorRow(const std::string& id, const std::string& more = {}) {
         return keptRow("PSLinkCell", id, text("cellClass", "GcColorPickerCell") + more);
     }
@@ -43,6 +45,15 @@ protected:
         return {};
     }
 
+    /// What the sheet calls all that is in it.
+    [[nodiscard]] Texts names() {
+        layOut();
+        Texts found;
+        for (const auto& element : AccessibilityElement::allIn(sheet()->shownView()))
+            found.push_back(element.label);
+        return found;
+    }
+
     void close() {
         sheet()->dismissPresented();
         settle();
@@ -67,7 +78,37 @@ protected:
     }
 };
 
+class GermanColorPickerCellTest : public GcColorPickerCellTest {
+protected:
+    GermanColorPickerCellTest() : GcColorPickerCellTest({.locale = "de_DE"}) {}
+};
+
+class ForeignColorPickerCellTest : public GcColorPickerCellTest,
+                                   public testing::WithParamInterface<const char*> {
+protected:
+    ForeignColorPickerCellTest() : GcColorPickerCellTest({.locale = GetParam()}) {}
+};
+
 } // namespace
+
+TEST_F(GermanColorPickerCellTest, TheSheetIsInGerman) {
+    writeList({colorRow("a")});
+    show();
+    open("a");
+    EXPECT_EQ(names(),
+              (Texts{"Farben", "Fertig", "Farbe in Hex", "Raster", "Rot", "Grün", "Blau", "Deckkraft"}));
+}
+
+TEST_P(ForeignColorPickerCellTest, NothingInTheSheetIsInEnglish) {
+    writeList({colorRow("a")});
+    show();
+    open("a");
+    ASSERT_EQ(names().size(), 8U);
+    for (const auto& name : names())
+        EXPECT_EQ(name.find_first_of("abcdefghijklmnopqrstuvwxyz"), std::string::npos) << name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, ForeignColorPickerCellTest, testing::Values("ar_EG", "he_IL"));
 
 TEST_F(GcColorPickerCellTest, ShowsTheColour) {
     writeList({colorRow("a", text("default", "ff0000")), colorRow("b", text("fallback", "00ff0080")),

@@ -14,7 +14,7 @@ using Texts = std::vector<std::string>;
 
 class GcImagePickerCellTest : public RowsFixture {
 protected:
-    GcImagePickerCellTest() {
+    explicit GcImagePickerCellTest(const TestDevice::Settings& settings = {}) : RowsFixture(settings) {
         writeList({keptRow("PSLinkCell", "photo", text("cellClass", "GcImagePickerCell"))});
         show();
     }
@@ -43,6 +43,15 @@ protected:
         return dynamic_cast<UIImageView&>(*cellPeer("photo").subviews().front()->peer().subviews().back());
     }
 
+    /// What the sheet calls all that is in it.
+    [[nodiscard]] Texts names() {
+        layOut();
+        Texts found;
+        for (const auto& element : AccessibilityElement::allIn(sheet()->shownView()))
+            found.push_back(element.label);
+        return found;
+    }
+
     void press(const std::string& label) {
         for (const auto& found : AccessibilityElement::allIn(sheet()->shownView())) {
             if (found.label == label) {
@@ -57,7 +66,40 @@ protected:
     TemporaryFolder files_;
 };
 
+class GermanImagePickerCellTest : public GcImagePickerCellTest {
+protected:
+    GermanImagePickerCellTest() : GcImagePickerCellTest({.locale = "de_DE"}) {}
+};
+
+class HebrewImagePickerCellTest : public GcImagePickerCellTest {
+protected:
+    HebrewImagePickerCellTest() : GcImagePickerCellTest({.locale = "he_IL"}) {}
+};
+
 } // namespace
+
+TEST_F(GermanImagePickerCellTest, AllOfTheSheetIsInGerman) {
+    EXPECT_EQ(elementsOf("photo"), Texts{"Row photo=kein Bild"});
+    open();
+    EXPECT_TRUE(sheet()->filePicker()->pickFiles({picture()}));
+    settle();
+    EXPECT_EQ(elementsOf("photo"), Texts{"Row photo=Bild"});
+    open();
+    EXPECT_EQ(names(),
+              (Texts{"Abbrechen", "Bild",
+                     "Lege eine PNG-, JPEG- oder HEIC-Datei auf dem Fenster ab oder gib ihren Pfad ein.",
+                     "Pfad einer Datei", "Bild entfernen"}));
+}
+
+TEST_F(HebrewImagePickerCellTest, WhatIsWrongIsToldInHebrew) {
+    open();
+    const auto refused = sheet()->filePicker()->pickFiles({"/etc/passwd"});
+    ASSERT_FALSE(refused);
+    EXPECT_EQ(refused.error(), "הקובץ אינו תמונה שניתן להשתמש בה. יש לבחור קובץ PNG, JPEG או HEIC.");
+    settle();
+    EXPECT_EQ(sheet()->title(), "לא ניתן להשתמש בתמונה");
+    EXPECT_EQ(sheet()->actions().at(0).title, "אישור");
+}
 
 TEST_F(GcImagePickerCellTest, TakesAPictureAndShowsIt) {
     EXPECT_EQ(elementsOf("photo"), Texts{"Row photo=no image"});

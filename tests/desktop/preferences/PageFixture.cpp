@@ -60,7 +60,7 @@ std::optional<PropertyList> ListedPage::choiceTitles(const Ref<PSSpecifier>& spe
     return PropertyList::Array{"First of " + identifierOf(specifier), "Second of " + identifierOf(specifier)};
 }
 
-PageFixture::PageFixture() {
+PageFixture::PageFixture(const TestDevice::Settings& settings) : Phone({}, settings) {
     device.write(std::string(bundlePath) + "/Info.plist", "{}");
     LoadedBundles::shared().addClass(listedPageClass, DesktopBundle::withPath(bundlePath));
 }

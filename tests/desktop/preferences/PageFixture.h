@@ -38,7 +38,7 @@ protected:
     static constexpr auto bundlePath = "/var/jb/Library/PreferenceBundles/Test.bundle";
     static constexpr auto domain = "com.example.test";
 
-    PageFixture();
+    explicit PageFixture(const TestDevice::Settings& settings = {});
     ~PageFixture() override;
 
     /// Writes the list "Rows" of those items, each the inside of an XML dictionary.

@@ -2,7 +2,9 @@
 
 #include "DesktopImage.h"
 #include "EntryFixture.h"
+#include "KnownPictures.h"
 #include "PSListControllerPeer.h"
+#include "PngFile.h"
 #include "PreferenceBundle.h"
 #include "RectGeometry.h"
 #include "screen/Screen.h"
@@ -130,6 +132,31 @@ TEST_F(SettingsRootPageTest, AnEntrysIconComesFromItsBundle) {
     show();
     ASSERT_TRUE(iconOf("good"));
     EXPECT_EQ(DesktopImage::sizeOf(*iconOf("good")), (CGSize{1, 1}));
+}
+
+TEST_F(SettingsRootPageTest, PicturesOfBundlesAreDecodedWhileNothingMoves) {
+    const auto decoded = [] { return KnownPictures::shared().decodedCount(); };
+    device.write(PreferenceBundle::pathOf("Good") + "/inside/row@3x.png", pngFile(87, 21));
+    device.write(PreferenceBundle::pathOf("Good") + "/inside/row@2x.png", pngFile(58, 14));
+    writeBundleEntry("good", "Good");
+    show();
+    const auto before = decoded();
+    while (KnownPictures::shared().prepare()) {
+    }
+    EXPECT_EQ(decoded(), before + (screen->traits().displayScale < 3 ? 2 : 1));
+    const auto prepared = decoded();
+    EXPECT_TRUE(DesktopImage::named(PreferenceBundle::pathOf("Good") + "/inside/row.png",
+                                    screen->traits().displayScale));
+    EXPECT_EQ(decoded(), prepared);
+}
+
+TEST_F(SettingsRootPageTest, ExpectsNoPicturesOnceItIsGone) {
+    device.write(PreferenceBundle::pathOf("Good") + "/row@3x.png", pngFile(22, 87));
+    writeBundleEntry("good", "Good");
+    show();
+    window->setRootViewController(make<UIViewController>());
+    page = nullptr;
+    EXPECT_FALSE(KnownPictures::shared().prepare());
 }
 
 TEST_F(SettingsRootPageTest, AnIconThatIsNoPictureIsNone) {

@@ -41,6 +41,11 @@ Ref<UIViewController> ShellFixture::topPage() const {
     return peerOf<UINavigationControllerPeer>(*shell->settings()->pages()).top();
 }
 
+const UIView& ShellFixture::nameOfIcon() const {
+    const auto& home = *screen->windows().front()->peer().subviews().front();
+    return *home.peer().subviews().back()->peer().subviews().back();
+}
+
 CGRect ShellFixture::frameOfSettings() const {
     const auto& view = shell->settings()->rootViewController()->view();
     return view.peer().convertToScreen(view.bounds());

@@ -27,6 +27,8 @@ protected:
     [[nodiscard]] Ref<UIViewController> topPage() const;
     /// Where Settings is on the screen.
     [[nodiscard]] CGRect frameOfSettings() const;
+    /// The name of Settings on the home screen.
+    [[nodiscard]] const UIView& nameOfIcon() const;
 
     std::optional<Screen> screen;
     std::optional<Shell> shell;

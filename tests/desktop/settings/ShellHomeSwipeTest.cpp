@@ -58,16 +58,30 @@ TEST_F(ShellHomeSwipeTest, SettingsShrinksBesideTheFingerAndItsLowerEdgeStaysThe
 }
 
 TEST_F(ShellHomeSwipeTest, TheStatusBarIsWhiteOnceTheFingerHasDrawnSettingsFromBeneathIt) {
-    const auto& bar = shell->bars().statusBar();
+    const auto isWhite = [this] {
+        shell->bars().refresh();
+        return !shell->bars().whiteStatusBar().peer().isHidden();
+    };
     shell->launchSettings();
     settle();
     drag({195, 839}, {195, 789});
-    EXPECT_EQ(bar.layer().peer().number(LayerProperty::Opacity), 1);
+    EXPECT_FALSE(isWhite());
     finger.touch(TouchPhase::Moved, {195, 640});
-    EXPECT_EQ(bar.layer().peer().number(LayerProperty::Opacity), 0);
+    EXPECT_TRUE(isWhite());
     finger.touch(TouchPhase::Cancelled, {});
     settle();
-    EXPECT_EQ(bar.layer().peer().number(LayerProperty::Opacity), 1);
+    EXPECT_FALSE(isWhite());
+}
+
+TEST_F(ShellHomeSwipeTest, TheIconsNameIsNotSeenBesideSettings) {
+    const auto& name = nameOfIcon();
+    shell->launchSettings();
+    settle();
+    drag({195, 839}, {195, 500});
+    EXPECT_EQ(name.layer().peer().shownValue(LayerProperty::Opacity)[0], 0);
+    finger.touch(TouchPhase::Cancelled, {});
+    settle();
+    EXPECT_EQ(name.layer().peer().shownValue(LayerProperty::Opacity)[0], 0);
 }
 
 TEST_F(ShellHomeSwipeTest, AHesitantDragSpringsBack) {

@@ -200,22 +200,24 @@ TEST_F(ShellTest, APlainListOpensAsAPageOfItsRows) {
 
 TEST_F(ShellTest, TheBarsSuitWhatIsInFront) {
     auto& bars = shell->bars();
-    EXPECT_EQ(bars.statusBar().layer().peer().number(LayerProperty::Opacity), 0);
-    EXPECT_EQ(bars.homeIndicator().layer().peer().number(LayerProperty::Opacity), 0);
+    const auto suitApplication = [&bars] {
+        bars.refresh();
+        const bool isWhite = !bars.whiteStatusBar().peer().isHidden();
+        EXPECT_EQ(bars.statusBar().peer().isHidden(), isWhite);
+        EXPECT_EQ(bars.homeIndicator().peer().isHidden(), isWhite);
+        return !isWhite;
+    };
+    EXPECT_FALSE(suitApplication());
     shell->launchSettings();
     settle();
-    EXPECT_EQ(bars.statusBar().layer().peer().number(LayerProperty::Opacity), 1);
-    EXPECT_EQ(bars.homeIndicator().layer().peer().number(LayerProperty::Opacity), 1);
-    EXPECT_TRUE(bars.whiteStatusBar().peer().isHidden());
+    EXPECT_TRUE(suitApplication());
     shell->goHome();
     settle();
-    EXPECT_EQ(bars.statusBar().layer().peer().number(LayerProperty::Opacity), 0);
-    EXPECT_EQ(bars.homeIndicator().layer().peer().number(LayerProperty::Opacity), 0);
-    EXPECT_FALSE(bars.whiteStatusBar().peer().isHidden());
+    EXPECT_FALSE(suitApplication());
     shell->relaunch();
     shell->terminateSettings();
     settle();
-    EXPECT_EQ(bars.homeIndicator().layer().peer().number(LayerProperty::Opacity), 0);
+    EXPECT_FALSE(suitApplication());
 }
 
 TEST_F(ShellTest, SettingsGrowsFromItsIconAndNothingShinesThroughBoth) {
@@ -266,19 +268,47 @@ TEST_F(ShellTest, TheIconIsInItsPlaceOnlyWhileSettingsIsNotSeen) {
     EXPECT_TRUE(isIconShown());
 }
 
-TEST_F(ShellTest, TheStatusBarIsWhiteUntilSettingsHasComeBeneathIt) {
+TEST_F(ShellTest, TheIconsNameComesOnceSettingsIsAsSmallAsTheIcon) {
     const auto shownAlpha = [this] {
-        return shell->bars().statusBar().layer().peer().shownValue(LayerProperty::Opacity)[0];
+        return nameOfIcon().layer().peer().shownValue(LayerProperty::Opacity)[0];
     };
-    shell->launchSettings();
-    advance(std::chrono::milliseconds(100));
-    EXPECT_EQ(shownAlpha(), 0);
-    advance(std::chrono::milliseconds(120));
     EXPECT_EQ(shownAlpha(), 1);
+    shell->launchSettings();
+    advance(std::chrono::milliseconds(40));
+    EXPECT_EQ(shownAlpha(), 0);
+    settle();
+    EXPECT_EQ(shownAlpha(), 0);
+    shell->goHome();
+    advance(std::chrono::milliseconds(300));
+    EXPECT_EQ(shownAlpha(), 0);
+    settle();
+    EXPECT_EQ(shownAlpha(), 1);
+    shell->launchSettings();
+    shell->terminateSettings();
+    EXPECT_LE(shownAlpha(), 1);
+    settle();
+    EXPECT_EQ(shownAlpha(), 1);
+}
+
+TEST_F(ShellTest, TheStatusBarIsWhiteUntilSettingsHasComeBeneathIt) {
+    const auto isShown = [this](const StatusBarView& bar) {
+        shell->bars().refresh();
+        return !bar.peer().isHidden();
+    };
+    const auto& dark = shell->bars().statusBar();
+    const auto& white = shell->bars().whiteStatusBar();
+    shell->launchSettings();
+    advance(std::chrono::milliseconds(80));
+    EXPECT_TRUE(isShown(white));
+    EXPECT_FALSE(isShown(dark));
+    advance(std::chrono::milliseconds(120));
+    EXPECT_FALSE(isShown(white));
+    EXPECT_TRUE(isShown(dark));
     settle();
     shell->goHome();
     advance(std::chrono::milliseconds(110));
-    EXPECT_EQ(shownAlpha(), 0);
+    EXPECT_TRUE(isShown(white));
+    EXPECT_FALSE(isShown(dark));
 }
 
 TEST_F(ShellTest, AMenuAboveSettingsDoesNotStayAboveTheHomeScreen) {

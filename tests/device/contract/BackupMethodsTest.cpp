@@ -111,6 +111,19 @@ TEST_F(BackupMethodsTest, AnArchiveIsSharedFromTheMiddleOfATablet) {
                         "UIActivityViewController 1");
 }
 
+TEST_F(BackupMethodsTest, OnAPhoneAnArchiveIsSharedFromNowhere) {
+    save("a");
+    setDeviceIdiom(0);
+    perform(page, "shareBackup:", text("a.tar.gz"));
+    setDeviceIdiom(1);
+    auto lines = takeJournal();
+    std::erase_if(lines, [](const std::string& line) {
+        return !line.contains("opover") && !line.contains("presentViewController");
+    });
+    EXPECT_EQ(lines, Lines{("-[cxBackupRestoreController presentViewController:animated:completion:] "
+                            "UIActivityViewController 1")});
+}
+
 TEST_F(BackupMethodsTest, WithoutTheSheetThatSharesNothingIsShown) {
     save("a");
     refuseInitialisersOf("UIActivityViewController");
@@ -154,6 +167,30 @@ TEST_F(BackupMethodsTest, AFolderWithoutSettingsIsNoBackup) {
     EXPECT_FALSE(sheets().empty());
     EXPECT_EQ(perform(page, "validateBackupContents:", text(folder.c_str())), nullptr);
     EXPECT_EQ(takeJournal(), Lines{"log: preferences.plist not found"});
+}
+
+TEST_F(BackupMethodsTest, SettingsComeBeforeImagesAndTheExtensionIsToldLast) {
+    const files::path images = placeOfFile("/var/jb/var/mobile/Library/Preferences/com.orvel.corvexprefs");
+    files::create_directories(images.parent_path());
+    std::ofstream(images) << "a file, into which nothing can be copied";
+    std::ofstream(folder + "/preferences.plist")
+        << "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+           "<plist version=\"1.0\"><dict><key>kEnabled</key><true/></dict></plist>";
+    std::ofstream(folder + "/kCustomIcon-IMG") << "icon";
+    perform(page, "performRestoreFromFolder:", text(folder.c_str()));
+    auto lines = takeJournal();
+    std::erase_if(lines, [](const std::string& line) {
+        return !line.starts_with("-[SuiteDefaults") && !line.starts_with("log:") &&
+               !line.contains("symbolName:]") && !line.contains("notification");
+    });
+    ASSERT_EQ(lines.size(), 6U) << testing::PrintToString(lines);
+    EXPECT_EQ((Lines{lines.begin(), lines.begin() + 3}),
+              (Lines{"-[SuiteDefaults removePersistentDomainForName:] \"com.orvel.corvexprefs\"",
+                     "-[SuiteDefaults setObject:forKey:] 1 \"kEnabled\"", "-[SuiteDefaults synchronize]"}));
+    EXPECT_TRUE(lines[3].starts_with("log: Error restoring file kCustomIcon-IMG: ")) << lines[3];
+    EXPECT_EQ(lines[4], sheetMade + std::string("\"Warning\" \"Some files failed to restore\" "
+                                                "\"info.circle.fill\""));
+    EXPECT_EQ(lines[5], "Darwin notification com.orvel.corvexprefs/ReloadPrefs");
 }
 
 TEST_F(BackupMethodsTest, AnArchiveThatIsNoneIsToldAndChangesNothing) {

@@ -72,7 +72,7 @@ TEST_F(BackupPageTest, TheCreateSheetIsBuiltInOrder) {
     perform(page, "createBackup", nullptr);
     EXPECT_EQ(
         journalOf({"OBWelcomeController", "settingsForStyle", "atIndex", "setBackgroundColor",
-                   "UIBarButtonItem", "UINavigationItem", "UINavigationBar", "activateConstraints"}),
+                   "UIBarButtonItem", "UINavigationItem", "UINavigationBar", "Guide", "activateConstraints"}),
         (Lines{sheetMade + "\"Create Backup\" \"Save your current settings\" \"square.and.arrow.down.fill\"",
                "-[OBWelcomeController viewDidLoad]",
                "+[_UIBackdropViewSettings settingsForStyle:] 2",
@@ -93,6 +93,8 @@ TEST_F(BackupPageTest, TheCreateSheetIsBuiltInOrder) {
                "-[UINavigationItem setRightBarButtonItem:] UIBarButtonItem",
                "-[UINavigationBar setItems:] [UINavigationItem]",
                "-[UINavigationBar topAnchor]",
+               "-[UIView safeAreaLayoutGuide]",
+               "-[UILayoutGuide topAnchor]",
                "-[UINavigationBar leadingAnchor]",
                "-[UINavigationBar trailingAnchor]",
                ("+[NSLayoutConstraint activateConstraints:] [NSLayoutConstraint, NSLayoutConstraint, "
@@ -161,6 +163,38 @@ TEST_F(BackupPageTest, TheListLeadsToTheOptionsAndTheseToTheEnd) {
               (Lines{"-[cxBackupRestoreController dismissViewControllerAnimated:completion:] 1 completion",
                      "log: Deleting backup: a.tar.gz",
                      sheetMade + "\"Success\" \"Backup deleted successfully\" \"info.circle.fill\""}));
+}
+
+TEST_F(BackupPageTest, ItemsAreLookedForOnceTheirSheetIsPresentedAndThenTakeTaps) {
+    save("a");
+    const Lines steps{presented + "OBWelcomeController 1", "-[OBBulletedListItem setTag:] 0",
+                      "-[OBBulletedListItem setUserInteractionEnabled:] 1",
+                      "-[OBBulletedListItem addGestureRecognizer:] UITapGestureRecognizer"};
+    const auto begin = [&] {
+        auto lines =
+            journalOf({"presentViewController", "setTag", "setUserInteraction", "addGestureRecognizer"});
+        lines.resize(std::min(lines.size(), steps.size()));
+        return lines;
+    };
+    perform(page, "showBackupList", nullptr);
+    EXPECT_EQ(begin(), steps);
+    perform(page, "dismissWelcomeController:", rightButtonOf(page));
+    takeJournal();
+    perform(page, "showOptionsForBackup:", text("a.tar.gz"));
+    EXPECT_EQ(begin(), steps);
+}
+
+TEST_F(BackupPageTest, SheetsThatHaveNoViewsOfTheirItemsAreShownAllTheSame) {
+    save("a");
+    refuseInitialisersOf("OBBulletedListItem");
+    perform(page, "showBackupList", nullptr);
+    EXPECT_EQ(journalOf({"presentViewController", "setTag"}), Lines{presented + "OBWelcomeController 1"});
+    EXPECT_EQ(describedAnswer(page, "currentBackupsList"), "[\"a.tar.gz\"]");
+    perform(page, "dismissWelcomeController:", rightButtonOf(page));
+    takeJournal();
+    perform(page, "showOptionsForBackup:", text("a.tar.gz"));
+    EXPECT_EQ(journalOf({"presentViewController", "setTag"}), Lines{presented + "OBWelcomeController 1"});
+    refuseInitialisersOf(nullptr);
 }
 
 TEST_F(BackupPageTest, ARestoredBackupReplacesTheSettingsAndIsTold) {

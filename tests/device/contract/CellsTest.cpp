@@ -319,6 +319,24 @@ TEST_F(CellsTest, AButtonOfTheRowIsReadiedStepByStep) {
     objc_release(table);
 }
 
+TEST_F(CellsTest, ACaptionOfTheRowIsReadiedStepByStep) {
+    auto* const cell = newCell("TweakCustomCell", 0, nullptr,
+                               row({{"leftLabel", text("First")}, {"fontColor", text("00f")}}));
+    auto* const table = newByName("UIView");
+    moveView(cell, table);
+    auto lines = takeJournal();
+    const auto begin = std::ranges::find(lines, "-[UILabel setText:] \"First\"");
+    const auto end = std::find(begin, lines.end(), "-[UILabel widthAnchor]");
+    ASSERT_NE(end, lines.end());
+    EXPECT_EQ((Lines{begin + 1, end}),
+              (Lines{"+[UIFont systemFontOfSize:weight:] 11 0.23", "-[UILabel setFont:] 11",
+                     "-[UILabel setTextColor:] rgba(0, 0, 1, 1)", "-[UILabel setTextAlignment:] 1",
+                     "-[UILabel setNumberOfLines:] 2", "-[UILabel setAdjustsFontSizeToFitWidth:] 1",
+                     "-[UILabel setMinimumScaleFactor:] 0.7", "-[UILabel setLineBreakMode:] 0"}));
+    objc_release(cell);
+    objc_release(table);
+}
+
 TEST_F(CellsTest, ATapSendsTheButtonToTheRowsTarget) {
     auto* const cell = newCell("TweakCustomCell", 0, nullptr, row({{"middleClass", text("SecondPage")}}));
     auto* const table = newByName("UIView");

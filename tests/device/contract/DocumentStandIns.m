@@ -1,6 +1,10 @@
 // Stand-ins of what files are chosen with and shared by.
 #import "StandIns.h"
 
+static NSInteger deviceIdiom = 1; // a tablet's
+
+void setDeviceIdiom(long idiom) { deviceIdiom = idiom; }
+
 @interface UIDevice : NSObject
 @end
 
@@ -13,7 +17,7 @@
 }
 - (NSInteger)userInterfaceIdiom {
     record(self, _cmd, @"");
-    return 1;
+    return deviceIdiom;
 }
 @end
 

@@ -67,6 +67,8 @@ void answerAlertOf(id controller, unsigned index);
 void pickDocument(id picker, const char* path);
 /// Whether URLs refuse from now on that access to them begins.
 void refuseAccess(bool refused);
+/// What the device says that it is from now on: 0 is a phone, 1 a tablet, which it is at first.
+void setDeviceIdiom(long idiom);
 /// From now on the object is sent "noticed:" for notifications of that name.
 void observe(id observer, const char* name);
 void postNotification(const char* name);
@@ -140,6 +142,9 @@ void forgetOpenersOf(id page);
 id storedValue(const char* key);
 void storeValue(id value, const char* key);
 const char* temporaryFolder();
+/// Where a file is that the pane calls so: what is under the jailbreak's root is in a folder of the tests' own.
+const char* placeOfFile(const char* path);
+void emptyJailbreakRoot(void);
 
 /// How many objects of exactly that class are alive.
 long aliveOf(const char* className);

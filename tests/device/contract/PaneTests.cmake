@@ -20,6 +20,7 @@ set(DEVICE_STAND_INS
     ${CMAKE_CURRENT_LIST_DIR}/FoundationStandIns.m
     ${CMAKE_CURRENT_LIST_DIR}/Framework.m
     ${CMAKE_CURRENT_LIST_DIR}/FrameworkState.m
+    ${CMAKE_CURRENT_LIST_DIR}/JailbreakRoot.m
     ${CMAKE_CURRENT_LIST_DIR}/LayoutStandIns.m
     ${CMAKE_CURRENT_LIST_DIR}/StandIns.m)
 set(DEVICE_TEST_SUPPORT

@@ -49,6 +49,7 @@ private:
         replace(line, folder, "", "DOCUMENTS");
         replace(line, folderOfCode(), "", "BUNDLE");
         replace(line, temporaryFolder(), "\" ", "TEMPORARY");
+        replace(line, placeOfFile("/var/jb/var"), "", "/var/jb/var");
         if (line.contains("addBulletedListItem"))
             line = std::regex_replace(line, std::regex("[0-9/]+, [0-9]+:[0-9]+[^\"]*"), "DATE");
         return line;

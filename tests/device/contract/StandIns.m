@@ -599,6 +599,8 @@ void finishAnimations(void) {
                                image:(UIImage *)image
                            tintColor:(UIColor *)color {
     record(self, _cmd, @"%@ %@ %@ %@", describe(title), describe(description), describe(image), describe(color));
+    if (isRefusing([OBBulletedListItem class]))
+        return;
     OBBulletedListItem *item = [OBBulletedListItem new];
     [[self bulletedList]->subviews addObject:item];
     [item release];

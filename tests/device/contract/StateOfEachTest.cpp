@@ -12,5 +12,6 @@ void StateOfEachTest::OnTestStart(const testing::TestInfo& /*test*/) {
 void StateOfEachTest::OnTestEnd(const testing::TestInfo& /*test*/) {
     finishAnimations();
     runWaitingWork();
+    emptyJailbreakRoot();
     pool_.reset();
 }

@@ -13,6 +13,8 @@
 /// A page of rows with what stands in them, and what of them is on the disk.
 class RowsFixture : public PageFixture {
 protected:
+    using PageFixture::PageFixture;
+
     /// What the domain's file holds under a key.
     [[nodiscard]] static std::optional<PropertyList> written(const std::string& key);
 

@@ -4,7 +4,8 @@
 #include <iterator>
 #include <memory>
 
-DocumentsFixture::DocumentsFixture(const Screen::Options& options) : Phone(options) {
+DocumentsFixture::DocumentsFixture(const Screen::Options& options, const TestDevice::Settings& settings)
+    : Phone(options, settings) {
     show(page);
 }
 

@@ -14,7 +14,7 @@
 /// A page that presents what files are chosen with and shared by, and a folder of the host.
 class DocumentsFixture : public Phone {
 protected:
-    explicit DocumentsFixture(const Screen::Options& options = {});
+    explicit DocumentsFixture(const Screen::Options& options = {}, const TestDevice::Settings& settings = {});
 
     void present(const Ref<UIViewController>& controller);
 

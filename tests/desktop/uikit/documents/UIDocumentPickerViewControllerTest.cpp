@@ -34,7 +34,9 @@ const Class delegateClass = Class::define<PickerDelegate>(
 
 class UIDocumentPickerTest : public DocumentsFixture {
 protected:
-    explicit UIDocumentPickerTest(const Screen::Options& options = {}) : DocumentsFixture(options) {}
+    explicit UIDocumentPickerTest(const Screen::Options& options = {},
+                                  const TestDevice::Settings& settings = {})
+        : DocumentsFixture(options, settings) {}
 
     void open(const Texts& types = {"public.data"}) {
         picker = UIDocumentPickerViewController::initWithDocumentTypes(types, UIDocumentPickerMode::Import);
@@ -57,6 +59,11 @@ protected:
     Ref<UIDocumentPickerViewController> picker;
 };
 
+class GermanDocumentPickerTest : public UIDocumentPickerTest {
+protected:
+    GermanDocumentPickerTest() : UIDocumentPickerTest({}, {.locale = "de_DE"}) {}
+};
+
 class UIDocumentPickerPadTest : public UIDocumentPickerTest {
 protected:
     UIDocumentPickerPadTest() : UIDocumentPickerTest({.idiom = Idiom::Pad, .scale = 2, .size = {}}) {}
@@ -67,6 +74,15 @@ std::string documents(const std::string& name) {
 }
 
 } // namespace
+
+TEST_F(GermanDocumentPickerTest, TheUsersFolderIsCalledInHisLanguageAndFoldersInItAsTheyAre) {
+    device.write(documents("Image/a.gz"), "1");
+    open();
+    EXPECT_EQ(labels(), (Texts{"Abbrechen", "Dokumente", "Image"}));
+    press("Image");
+    settle();
+    EXPECT_EQ(top()->title(), "Image");
+}
 
 TEST_F(UIDocumentPickerTest, ShowsWhatIsInTheDocumentsFolderByName) {
     device.write(documents("b10.gz"), "1");

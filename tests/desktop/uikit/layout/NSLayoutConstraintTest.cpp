@@ -128,6 +128,19 @@ TEST_F(NSLayoutConstraintTest, FramesLieOnPixels) {
     EXPECT_EQ(view->frame().size.width, 10);
 }
 
+TEST_F(NSLayoutConstraintTest, WhatIsWholePixelsWideStaysSoInTheMiddleBetweenTwo) {
+    host->peer().setTraitOverride([](Traits& traits) { traits.displayScale = 3; });
+    const auto width = 404 / 3.0;
+    const auto view = add();
+    equal({*view, Width}, width);
+    equal({*view, CenterX}, {*host, CenterX});
+    for (auto hostPixels = 405; hostPixels < 1500; hostPixels += 2) {
+        host->setFrame(CGRectMake(0, 0, hostPixels / 3.0, 200));
+        layOut();
+        EXPECT_NEAR(view->frame().size.width, width, 1e-9) << hostPixels;
+    }
+}
+
 TEST_F(NSLayoutConstraintTest, AContradictionIsLoggedAndTheRestHolds) {
     const auto view = add();
     fill(*view);

@@ -169,22 +169,29 @@ TEST_F(SheetPresentationViewTest, dimsTheTintOfWhatItCovers) {
     EXPECT_EQ(tint(covered), own);
 }
 
-TEST_F(SheetPresentationViewTest, theStatusBarIsOnBlackOnceThePresenterHasLeftIt) {
+TEST_F(SheetPresentationViewTest, theScreenIsBlackAsFarAsThePresenterHasLeftIt) {
     const auto sheet = page("B");
     present(sheet, true);
-    EXPECT_FALSE(top()->blackensStatusBar());
+    EXPECT_EQ(top()->blackDepth(), 0);
     advance(milliseconds(50));
-    EXPECT_LT(root().origin.y, 47.0 / 2);
-    EXPECT_FALSE(top()->blackensStatusBar());
-    advance(milliseconds(100));
-    EXPECT_GT(root().origin.y, 47.0 / 2);
-    EXPECT_TRUE(top()->blackensStatusBar());
+    EXPECT_GT(top()->blackDepth(), 0);
+    EXPECT_LT(top()->blackDepth(), 47);
+    EXPECT_NEAR(top()->blackDepth(), root().origin.y, 1e-9);
     settle();
+    EXPECT_NEAR(top()->blackDepth(), 47, 1e-9);
     drag({195, 70}, {195, 600});
-    EXPECT_FALSE(top()->blackensStatusBar());
+    EXPECT_NEAR(top()->blackDepth(), root().origin.y, 1e-9);
+    EXPECT_LT(top()->blackDepth(), 20);
     finger.touch(TouchPhase::Cancelled, {});
     dismissBy(*sheet, true);
     EXPECT_EQ(top(), nullptr);
+}
+
+TEST_F(SheetPresentationViewTest, theBlackIsWhereTheWindowHasBeenMovedTo) {
+    present(page("B"), false);
+    settle();
+    window->peer().setTransform(AffineTransform::translation(0, 100));
+    EXPECT_NEAR(top()->blackDepth(), 147, 1e-9);
 }
 
 TEST_F(SheetPresentationViewTest, blursNothingOfTheBlackBesideThePresenter) {
@@ -329,7 +336,7 @@ TEST_F(PadSheetTest, isACardInTheMiddleAndThePresenterStays) {
     EXPECT_EQ(root(), window->bounds());
     EXPECT_EQ(sheet->view().peer().safeAreaInsets(), UIEdgeInsets());
     EXPECT_FALSE(sheet->view().peer().traits().compactWidth);
-    EXPECT_FALSE(top()->blackensStatusBar());
+    EXPECT_EQ(top()->blackDepth(), 0);
 }
 
 TEST_F(PadSheetTest, aFormSheetIsSmallerAndNarrow) {

@@ -98,6 +98,18 @@ TEST(CompositorDamage, IsOnlyTheChangedPartOfAFadedView) {
     EXPECT_FALSE(damage(shown).contains(QPoint(2, 2)));
 }
 
+/// One with nothing in it is faded by its colour, another in a picture, and these differ in the last digits.
+TEST(CompositorDamage, IsAllOfAFadedViewThatGetsItsFirstSubviewOrLosesItsLast) {
+    ShownScreen shown;
+    const auto view = shown.add(CGRectMake(5.25, 5.25, 30, 30), red);
+    view->setAlpha(0.5);
+    shown.compositor.render();
+    const auto inner = ShownScreen::add(*view, CGRectMake(10, 10, 5, 5), green);
+    EXPECT_TRUE(damage(shown).contains(QPoint(5, 5)));
+    inner->peer().removeFromSuperview();
+    EXPECT_TRUE(damage(shown).contains(QPoint(5, 5)));
+}
+
 /// Elsewhere a pixel around what changed is painted with it, which makes up for one that is left out.
 TEST(CompositorDamage, WithinAPictureIsAllThatIsLeftWhereItIsCutOffAtWholePixels) {
     ShownScreen shown;

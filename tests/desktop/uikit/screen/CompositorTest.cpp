@@ -4,6 +4,7 @@
 #include "screen/CompositorFixture.h"
 
 #include <chrono>
+#include <utility>
 
 namespace {
 
@@ -204,6 +205,20 @@ TEST_F(CompositorTest, BlursWhatIsBehindABackdropWithinItsOutline) {
     EXPECT_EQ(shown_.pixel(20, 5), white);
     EXPECT_EQ(shown_.pixel(5, 10), QColor(Qt::black));
     EXPECT_EQ(shown_.pixel(34, 10), white);
+}
+
+TEST_F(CompositorTest, TintsNothingBeyondABackdropsRoundCorners) {
+    const auto panel = shown_.add(CGRectMake(5, 10, 30, 20), red);
+    panel->layer().peer().backdrop = Backdrop{.blurRadius = 4, .saturation = 1};
+    panel->layer().setCornerRadius(10);
+    for (const auto& [alpha, tinted] :
+         {std::pair{1.0, QColor(255, 0, 0)}, std::pair{0.5, QColor(255, 127, 127)}}) {
+        panel->setAlpha(alpha);
+        EXPECT_EQ(shown_.pixel(5, 10), white);
+        EXPECT_EQ(shown_.pixel(34, 29), white);
+        expectNear(shown_.pixel(8, 20), tinted);
+        expectNear(shown_.pixel(20, 20), tinted);
+    }
 }
 
 TEST_F(CompositorTest, ShowsWhatIsBehindAFadedPanelBlurredInPart) {

@@ -4,11 +4,14 @@
 #include "TestDevice.h"
 #include "UIKit/UIAlertController.h"
 #include "screen/Screen.h"
+#include "views/UILabelPeer.h"
 #include "views/UIViewPeer.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <optional>
+#include <ostream>
 
 namespace {
 
@@ -24,11 +27,32 @@ std::string timeOn(const TestDevice::Settings& settings) {
     return bars.statusBar().time();
 }
 
-AnimationGroup::Course slow() {
-    return {.duration = std::chrono::milliseconds(250),
-            .delay = {},
-            .curve = AnimationCurve::linear(),
-            .fromCurrentState = true};
+double alphaOf(const UIView& bar) {
+    return bar.peer().isHidden() ? 0 : bar.layer().peer().number(LayerProperty::Opacity);
+}
+
+/// What is seen of the bars above an application that has left so much of the screen to the wallpaper.
+struct Alphas {
+    double dark;
+    double white;
+    double indicator;
+
+    friend bool operator==(const Alphas&, const Alphas&) = default;
+};
+
+std::ostream& operator<<(std::ostream& out, const Alphas& alphas) {
+    return out << alphas.dark << ", " << alphas.white << ", " << alphas.indicator;
+}
+
+Alphas alphasAt(double wallpaperDepth, const Screen::Options& options = {}) {
+    const TestDevice device;
+    const Screen screen{options};
+    SystemBars bars;
+    bars.setWallpaperDepth([wallpaperDepth] { return wallpaperDepth; });
+    bars.refresh();
+    return {.dark = alphaOf(bars.statusBar()),
+            .white = alphaOf(bars.whiteStatusBar()),
+            .indicator = alphaOf(bars.homeIndicator())};
 }
 
 } // namespace
@@ -48,6 +72,17 @@ TEST(SystemBarsTest, showTheTimeAsOfTheLastRefresh) {
     EXPECT_EQ(bars.statusBar().time(), "3:12");
     bars.refresh();
     EXPECT_EQ(bars.statusBar().time(), "3:21");
+}
+
+TEST(SystemBarsTest, writeATabletsChargeAsTheLocaleDoes) {
+    const TestDevice device({.locale = "de_DE"});
+    const Screen screen({.idiom = Idiom::Pad});
+    const SystemBars bars;
+    const auto& parts = bars.statusBar().peer().subviews();
+    EXPECT_TRUE(std::ranges::any_of(parts, [](const auto& part) {
+        auto* const label = dynamic_cast<UILabel*>(part.get());
+        return label != nullptr && peerOf<UILabelPeer>(*label).text() == "100\u00a0%";
+    }));
 }
 
 TEST(SystemBarsTest, areAtTheEdgesOfAPhone) {
@@ -92,18 +127,20 @@ TEST(SystemBarsTest, areWhiteWhileASheetLeavesBlackBehindThem) {
     const auto window = make<UIWindow>();
     window->setRootViewController(root);
     screen.addWindow(window);
-    const auto style = [&bars] {
+    const auto isWhite = [&bars] {
         bars.refresh();
-        return bars.statusBar().peer().traits().style;
+        EXPECT_EQ(alphaOf(bars.homeIndicator()), 1);
+        EXPECT_EQ(alphaOf(bars.statusBar()) + alphaOf(bars.whiteStatusBar()), 1);
+        return alphaOf(bars.whiteStatusBar()) == 1;
     };
     root->presentViewController(
         UIAlertController::alertControllerWithTitle("A", {}, UIAlertControllerStyle::Alert), false, {});
-    EXPECT_EQ(style(), UserInterfaceStyle::Light);
+    EXPECT_FALSE(isWhite());
     root->dismissViewControllerAnimated(false, {});
     root->presentViewController(make<UIViewController>(), false, {});
-    EXPECT_EQ(style(), UserInterfaceStyle::Dark);
+    EXPECT_TRUE(isWhite());
     root->dismissViewControllerAnimated(false, {});
-    EXPECT_EQ(style(), UserInterfaceStyle::Light);
+    EXPECT_FALSE(isWhite());
 }
 
 TEST(SystemBarsTest, areGoneFromTheScreenAtTheirEnd) {
@@ -117,48 +154,43 @@ TEST(SystemBarsTest, areGoneFromTheScreenAtTheirEnd) {
 }
 
 TEST(SystemBarsTest, areWhiteAndWithoutAnIndicatorAboveTheWallpaper) {
+    EXPECT_EQ(alphasAt(0), (Alphas{.dark = 1, .white = 0, .indicator = 1}));
+    EXPECT_EQ(alphasAt(844), (Alphas{.dark = 0, .white = 1, .indicator = 0}));
     const TestDevice device;
     const Screen screen{Screen::Options{}};
-    SystemBars bars;
+    const SystemBars bars;
     const auto white = bars.whiteStatusBar().peer().traits().style;
     EXPECT_EQ(white, UserInterfaceStyle::Dark) << "whose texts are white";
     EXPECT_TRUE(bars.whiteStatusBar().peer().isHidden());
-    bars.setBehind(SystemBars::Behind::Wallpaper, {});
-    EXPECT_FALSE(bars.whiteStatusBar().peer().isHidden());
-    EXPECT_EQ(bars.statusBar().layer().peer().number(LayerProperty::Opacity), 0);
-    EXPECT_EQ(bars.homeIndicator().layer().peer().number(LayerProperty::Opacity), 0);
 }
 
-TEST(SystemBarsTest, fadeOneIntoTheOtherWithTheWhiteBarBeneath) {
-    TestDevice device;
-    const Screen screen{Screen::Options{}};
-    SystemBars bars;
-    bars.setBehind(SystemBars::Behind::Wallpaper, {});
-    bars.setBehind(SystemBars::Behind::Application, slow());
-    const auto shownAlpha = [&bars] {
-        return bars.statusBar().layer().peer().shownValue(LayerProperty::Opacity)[0];
-    };
-    device.advance(std::chrono::milliseconds(125));
-    EXPECT_NEAR(shownAlpha(), 0.5, 1e-6);
-    EXPECT_FALSE(bars.whiteStatusBar().peer().isHidden());
-    EXPECT_EQ(bars.whiteStatusBar().layer().peer().number(LayerProperty::Opacity), 1);
-    device.advance(std::chrono::milliseconds(126));
-    EXPECT_EQ(shownAlpha(), 1);
-    EXPECT_TRUE(bars.whiteStatusBar().peer().isHidden());
+TEST(SystemBarsTest, haveNoTextsThatAnEdgeRunsAcross) {
+    EXPECT_EQ(alphasAt(12).dark, 1) << "the edge is above them";
+    EXPECT_NEAR(alphasAt(15).dark, 0.5, 1e-9);
+    for (const auto edge : {18.0, 26.0, 34.0}) {
+        EXPECT_EQ(alphasAt(edge).dark, 0) << edge;
+        EXPECT_EQ(alphasAt(edge).white, 0) << edge;
+    }
+    EXPECT_NEAR(alphasAt(37).white, 0.5, 1e-9);
+    EXPECT_EQ(alphasAt(40).white, 1) << "the edge is below them";
 }
 
-TEST(SystemBarsTest, endAsTheyWereLastToldWhenToldInMidFade) {
-    TestDevice device;
-    const Screen screen{Screen::Options{}};
-    SystemBars bars;
-    bars.setBehind(SystemBars::Behind::Wallpaper, slow());
-    device.advance(std::chrono::milliseconds(100));
-    bars.setBehind(SystemBars::Behind::Application, slow());
-    device.advance(std::chrono::milliseconds(100));
-    bars.setBehind(SystemBars::Behind::Wallpaper, slow());
-    device.settle();
-    EXPECT_FALSE(bars.whiteStatusBar().peer().isHidden());
-    EXPECT_EQ(bars.homeIndicator().layer().peer().number(LayerProperty::Opacity), 0);
+TEST(SystemBarsTest, ofATabletAreLowerAndGiveWaySooner) {
+    const Screen::Options pad{.idiom = Idiom::Pad, .scale = 2};
+    EXPECT_EQ(alphasAt(0, pad).dark, 1);
+    EXPECT_EQ(alphasAt(6, pad).dark, 0);
+    EXPECT_EQ(alphasAt(18, pad).white, 0);
+    EXPECT_EQ(alphasAt(24, pad).white, 1);
+}
+
+TEST(SystemBarsTest, areWhiteAllTheWayInDarkAppearance) {
+    for (const auto edge : {0.0, 26.0, 844.0})
+        EXPECT_EQ(alphasAt(edge, {.style = UserInterfaceStyle::Dark}).dark, 1) << edge;
+}
+
+TEST(SystemBarsTest, theIndicatorLeavesBeforeItStandsOnTheWallpaper) {
+    EXPECT_NEAR(alphasAt(3).indicator, 0.5, 1e-9);
+    EXPECT_EQ(alphasAt(6).indicator, 0);
 }
 
 TEST(SystemBarsTest, bothShowTheTimeInTheSamePlace) {
