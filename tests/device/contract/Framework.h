@@ -142,7 +142,8 @@ void forgetOpenersOf(id page);
 id storedValue(const char* key);
 void storeValue(id value, const char* key);
 const char* temporaryFolder();
-/// Where a file is that the pane calls so: what is under the jailbreak's root is in a folder of the tests' own.
+/// Where a file is that the pane calls so: what is under the jailbreak's root is in a folder of the tests'
+/// own.
 const char* placeOfFile(const char* path);
 void emptyJailbreakRoot(void);
 
