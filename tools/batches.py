@@ -70,6 +70,11 @@ def members(text):
     return set(MEMBER_DEFINED_OUTSIDE.findall(text)).union(*declared)
 
 
+def names_that_may_change(text):
+    """The names that a formatted source keeps to itself, and that nothing else in it may mean or find."""
+    return own_names(text) - members(text) - FOUND_BY_NAME
+
+
 def with_names(text, names, ending):
     """The source with an ending after each of the names, where they stand alone."""
     def renamed(token):
@@ -97,7 +102,7 @@ def joined(sources):
     included = set()
     parts = []
     for number, (name, text) in enumerate(sources):
-        text = with_names(text, own_names(text) - members(text) - FOUND_BY_NAME, f"In{number}")
+        text = with_names(text, names_that_may_change(text), f"In{number}")
         parts.append(f"// {name}\n{without_includes(text, included)}\n")
     return "".join(parts)
 

@@ -62,11 +62,20 @@ class JoinTest(unittest.TestCase):
     def test_a_word_of_a_header_is_no_sources_own(self):
         self.write("b/Header.h", "double gap();\n")
         self.write("build/Made.h", "double margin();\n")
-        self.with_own("a/First.cpp", "constexpr int gap = 4;\nconstexpr int margin = 2;")
+        self.write("node_modules/b/Foreign.h", "double inset();\n")
+        self.with_own("a/First.cpp", "constexpr int gap = 4;\nconstexpr int margin = 2;\nconstexpr int inset = 1;")
         self.source("a/Second.cpp", "")
         text = self.joined()
         self.assertIn("constexpr int gapIn0 = 4;", text)
         self.assertIn("constexpr int margin = 2;", text)
+        self.assertIn("constexpr int inset = 1;", text)
+
+    def test_what_is_a_member_too_or_found_by_its_name_stays(self):
+        for source in ("a/First.cpp", "a/Second.cpp"):
+            self.with_own(source, "int rows();\nvoid PrintTo(int);\nclass Page {\n    int rows;\n};")
+        text = self.joined()
+        self.assertEqual((text.count("int rows();"), text.count("int rows;"), text.count("void PrintTo(int);")), (2, 2, 2))
+        self.assertIn("class PageIn1", text)
 
     def test_lines_are_those_of_the_sources(self):
         self.source("a/First.cpp", "int one;\nint two;")
