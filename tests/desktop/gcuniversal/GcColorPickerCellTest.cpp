@@ -8,7 +8,6 @@
 #include "RectGeometry.h"
 #include "cells/RowsFixture.h"
 #include "controls/UISliderPeer.h"
-#include "screen/Presentations.h"
 #include "system/DarwinNotifications.h"
 
 namespace {
@@ -33,8 +32,6 @@ protected:
         ASSERT_NE(sheet(), nullptr);
     }
 
-    [[nodiscard]] Presented* sheet() { return screen.presentations().top(); }
-
     [[nodiscard]] AccessibilityElement element(const std::string& label) {
         layOut();
         for (const auto& found : AccessibilityElement::allIn(sheet()->shownView())) {
@@ -43,15 +40,6 @@ protected:
         }
         ADD_FAILURE() << "there is no " << label;
         return {};
-    }
-
-    /// What the sheet calls all that is in it.
-    [[nodiscard]] Texts names() {
-        layOut();
-        Texts found;
-        for (const auto& element : AccessibilityElement::allIn(sheet()->shownView()))
-            found.push_back(element.label);
-        return found;
     }
 
     void close() {
@@ -95,7 +83,7 @@ TEST_F(GermanColorPickerCellTest, TheSheetIsInGerman) {
     writeList({colorRow("a")});
     show();
     open("a");
-    EXPECT_EQ(names(),
+    EXPECT_EQ(namesOnSheet(),
               (Texts{"Farben", "Fertig", "Farbe in Hex", "Raster", "Rot", "Grün", "Blau", "Deckkraft"}));
 }
 
@@ -103,8 +91,8 @@ TEST_P(ForeignColorPickerCellTest, NothingInTheSheetIsInEnglish) {
     writeList({colorRow("a")});
     show();
     open("a");
-    ASSERT_EQ(names().size(), 8U);
-    for (const auto& name : names())
+    ASSERT_EQ(namesOnSheet().size(), 8U);
+    for (const auto& name : namesOnSheet())
         EXPECT_EQ(name.find_first_of("abcdefghijklmnopqrstuvwxyz"), std::string::npos) << name;
 }
 

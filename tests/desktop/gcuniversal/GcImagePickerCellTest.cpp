@@ -4,7 +4,6 @@
 #include "RectGeometry.h"
 #include "cells/RowsFixture.h"
 #include "screen/FilePicker.h"
-#include "screen/Presentations.h"
 
 #include <QImage>
 
@@ -25,8 +24,6 @@ protected:
         ASSERT_NE(sheet(), nullptr);
     }
 
-    [[nodiscard]] Presented* sheet() { return screen.presentations().top(); }
-
     [[nodiscard]] std::string picture() const {
         QImage image(8, 6, QImage::Format_RGB32);
         image.fill(Qt::blue);
@@ -41,15 +38,6 @@ protected:
 
     [[nodiscard]] UIImageView& preview() const {
         return dynamic_cast<UIImageView&>(*cellPeer("photo").subviews().front()->peer().subviews().back());
-    }
-
-    /// What the sheet calls all that is in it.
-    [[nodiscard]] Texts names() {
-        layOut();
-        Texts found;
-        for (const auto& element : AccessibilityElement::allIn(sheet()->shownView()))
-            found.push_back(element.label);
-        return found;
     }
 
     void press(const std::string& label) {
@@ -85,7 +73,7 @@ TEST_F(GermanImagePickerCellTest, AllOfTheSheetIsInGerman) {
     settle();
     EXPECT_EQ(elementsOf("photo"), Texts{"Row photo=Bild"});
     open();
-    EXPECT_EQ(names(),
+    EXPECT_EQ(namesOnSheet(),
               (Texts{"Abbrechen", "Bild",
                      "Lege eine PNG-, JPEG- oder HEIC-Datei auf dem Fenster ab oder gib ihren Pfad ein.",
                      "Pfad einer Datei", "Bild entfernen"}));

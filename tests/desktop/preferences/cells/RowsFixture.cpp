@@ -23,6 +23,14 @@ std::vector<AccessibilityRole> RowsFixture::rolesOf(const std::string& id) const
     return roles;
 }
 
+std::vector<std::string> RowsFixture::namesOnSheet() {
+    layOut();
+    std::vector<std::string> names;
+    for (const auto& element : AccessibilityElement::allIn(sheet()->shownView()))
+        names.push_back(element.label);
+    return names;
+}
+
 CGPoint RowsFixture::middleOf(const UIView& view) {
     const auto frame = screenFrame(view);
     return {CGRectGetMidX(frame), CGRectGetMidY(frame)};

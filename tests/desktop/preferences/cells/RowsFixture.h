@@ -3,6 +3,7 @@
 #include "Foundation/NSDictionary.h"
 #include "PageFixture.h"
 #include "accessibility/AccessibilityElement.h"
+#include "screen/Presentations.h"
 #include "text/UITextFieldPeer.h"
 
 #include <optional>
@@ -34,6 +35,12 @@ protected:
     /// The elements of a row for those who do not see it, as "label=value" each.
     [[nodiscard]] std::vector<std::string> elementsOf(const std::string& id) const;
     [[nodiscard]] std::vector<AccessibilityRole> rolesOf(const std::string& id) const;
+
+    /// What is presented on top; null when nothing is.
+    [[nodiscard]] Presented* sheet() { return screen.presentations().top(); }
+
+    /// What the sheet calls all that is in it.
+    [[nodiscard]] std::vector<std::string> namesOnSheet();
 
     /// Where the middle of something is on the screen.
     [[nodiscard]] static CGPoint middleOf(const UIView& view);
