@@ -1,5 +1,6 @@
 # The sources of a target compiled several at once, as texts that tools/join puts together: what they include is read
 # once for all, and code that they have in common is made once. From nothing that takes half the time, after a change more.
+include(${CMAKE_CURRENT_LIST_DIR}/TargetsBelow.cmake)
 find_package(Python3 REQUIRED COMPONENTS Interpreter)
 set(JOINED_AT_MOST 24)
 set(JOINED_FOLDER ${CMAKE_BINARY_DIR}/joined)
@@ -50,10 +51,10 @@ function(corvex_join_sources_of target)
     add_dependencies(${target} joined_sources)
 endfunction()
 
-# corvex_join_sources_below(FOLDER): for all targets but those that a generator looks for headers in, and those that say
-# no by UNITY_BUILD.
-function(corvex_join_sources_below folder)
-    get_property(targets DIRECTORY ${folder} PROPERTY BUILDSYSTEM_TARGETS)
+# corvex_join_sources(FOLDER): for the targets of a folder and of those below it, when all of them are known, but for those
+# that a generator looks for headers in, and those that say no by UNITY_BUILD. Texts that stay the same are left alone.
+function(corvex_join_sources folder)
+    corvex_targets_below(targets ${folder})
     foreach(target IN LISTS targets)
         get_target_property(type ${target} TYPE)
         get_target_property(automoc ${target} AUTOMOC)
@@ -62,16 +63,6 @@ function(corvex_join_sources_below folder)
             corvex_join_sources_of(${target})
         endif()
     endforeach()
-    get_property(folders DIRECTORY ${folder} PROPERTY SUBDIRECTORIES)
-    foreach(below IN LISTS folders)
-        corvex_join_sources_below(${below})
-    endforeach()
-endfunction()
-
-# corvex_join_sources(FOLDER): for the targets of a folder and of those below it, when all of them are known. Texts that
-# stay the same are left alone.
-function(corvex_join_sources folder)
-    corvex_join_sources_below(${folder})
     get_property(texts GLOBAL PROPERTY JOINED_TEXTS)
     get_property(sources GLOBAL PROPERTY JOINED_SOURCES)
     get_property(lines GLOBAL PROPERTY JOINED_LIST)

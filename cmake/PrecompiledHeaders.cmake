@@ -4,6 +4,7 @@
 # g++ forgets here where the library's own headers switch a warning off, so that it may warn of what is right, where texts
 # are put together with "+" at that; with append() it does not.
 include(${CMAKE_CURRENT_LIST_DIR}/PrecompiledStandardHeaders.cmake)
+include(${CMAKE_CURRENT_LIST_DIR}/TargetsBelow.cmake)
 set(PRECOMPILED_TESTS <filesystem> <fstream> <gtest/gtest.h> <random>)
 set(PRECOMPILED_PICTURES <QGuiApplication> <QImage> <QJsonArray> <QJsonObject> <QPainter> <QPainterPath>)
 
@@ -96,7 +97,7 @@ endfunction()
 # corvex_precompile_headers(FOLDER): for the libraries and the tests of a folder and of those below it. Other programs
 # and what is loaded at run time have a source or two each.
 function(corvex_precompile_headers folder)
-    get_property(targets DIRECTORY ${folder} PROPERTY BUILDSYSTEM_TARGETS)
+    corvex_targets_below(targets ${folder})
     foreach(target IN LISTS targets)
         get_target_property(type ${target} TYPE)
         get_target_property(sources ${target} SOURCES)
@@ -110,9 +111,5 @@ function(corvex_precompile_headers folder)
         endif()
         corvex_precompiled_headers(precompiled ${target})
         target_precompile_headers(${target} REUSE_FROM ${precompiled})
-    endforeach()
-    get_property(folders DIRECTORY ${folder} PROPERTY SUBDIRECTORIES)
-    foreach(below IN LISTS folders)
-        corvex_precompile_headers(${below})
     endforeach()
 endfunction()

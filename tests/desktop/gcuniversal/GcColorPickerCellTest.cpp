@@ -32,32 +32,22 @@ protected:
         ASSERT_NE(sheet(), nullptr);
     }
 
-    [[nodiscard]] AccessibilityElement element(const std::string& label) {
-        layOut();
-        for (const auto& found : AccessibilityElement::allIn(sheet()->shownView())) {
-            if (found.label == label)
-                return found;
-        }
-        ADD_FAILURE() << "there is no " << label;
-        return {};
-    }
-
     void close() {
         sheet()->dismissPresented();
         settle();
     }
 
     void pressDone() {
-        Phone::tap(*element("Done").view);
+        Phone::tap(*elementOnSheet("Done").view);
         settle();
     }
 
     void setSlider(const std::string& name, bool up) {
-        peerIf<UISliderPeer>(*element(name).view)->adjust(up);
+        peerIf<UISliderPeer>(*elementOnSheet(name).view)->adjust(up);
     }
 
     void typeHex(const QString& hex) {
-        auto& field = *peerIf<UITextFieldPeer>(*element("Hex Color").view);
+        auto& field = *peerIf<UITextFieldPeer>(*elementOnSheet("Hex Color").view);
         field.becomeFirstResponder();
         field.edit([&hex](EditedText& edited) {
             edited.selectAll();
@@ -117,7 +107,7 @@ TEST_F(GcColorPickerCellTest, ATapOpensASheetThatSavesAsItIsLeft) {
     show();
     open("a");
     EXPECT_EQ(sheet()->title(), "Colors");
-    Phone::tap(*element("Grid").view);
+    Phone::tap(*elementOnSheet("Grid").view);
     EXPECT_EQ(written("a"), std::nullopt);
     close();
     const auto middle = ColorGridPeer::colorAt(ColorGridPeer::columns / 2, ColorGridPeer::lines / 2);
@@ -173,8 +163,8 @@ TEST_F(GcColorPickerCellTest, WhatIsTypedAndNoColourIsPutBack) {
     show();
     open("a");
     typeHex("red");
-    peerIf<UITextFieldPeer>(*element("Hex Color").view)->returnPressed();
-    EXPECT_EQ(element("Hex Color").value, "ff0000ff");
+    peerIf<UITextFieldPeer>(*elementOnSheet("Hex Color").view)->returnPressed();
+    EXPECT_EQ(elementOnSheet("Hex Color").value, "ff0000ff");
     close();
     EXPECT_EQ(written("a"), std::nullopt);
 }

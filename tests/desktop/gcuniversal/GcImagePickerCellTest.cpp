@@ -41,14 +41,8 @@ protected:
     }
 
     void press(const std::string& label) {
-        for (const auto& found : AccessibilityElement::allIn(sheet()->shownView())) {
-            if (found.label == label) {
-                Phone::tap(*found.view);
-                settle();
-                return;
-            }
-        }
-        ADD_FAILURE() << "there is no " << label;
+        Phone::tap(*elementOnSheet(label).view);
+        settle();
     }
 
     TemporaryFolder files_;

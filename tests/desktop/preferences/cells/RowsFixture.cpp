@@ -2,6 +2,8 @@
 
 #include "RectGeometry.h"
 
+#include <algorithm>
+
 std::optional<PropertyList> RowsFixture::written(const std::string& key) {
     const auto path = "/var/mobile/Library/Preferences/" + std::string(domain) + ".plist";
     const auto kept = dictionaryWithContentsOfFile(path).value_or(PropertyList::Dictionary());
@@ -29,6 +31,15 @@ std::vector<std::string> RowsFixture::namesOnSheet() {
     for (const auto& element : AccessibilityElement::allIn(sheet()->shownView()))
         names.push_back(element.label);
     return names;
+}
+
+AccessibilityElement RowsFixture::elementOnSheet(const std::string& label) {
+    layOut();
+    const auto elements = AccessibilityElement::allIn(sheet()->shownView());
+    const auto found = std::ranges::find(elements, label, &AccessibilityElement::label);
+    if (found == elements.end())
+        throw std::runtime_error("there is nothing on the sheet called " + label);
+    return *found;
 }
 
 CGPoint RowsFixture::middleOf(const UIView& view) {

@@ -42,6 +42,9 @@ protected:
     /// What the sheet calls all that is in it.
     [[nodiscard]] std::vector<std::string> namesOnSheet();
 
+    /// What the sheet calls so, which must be there.
+    [[nodiscard]] AccessibilityElement elementOnSheet(const std::string& label);
+
     /// Where the middle of something is on the screen.
     [[nodiscard]] static CGPoint middleOf(const UIView& view);
 

@@ -1,0 +1,10 @@
+# corvex_targets_below(RESULT FOLDER): all targets that are built of a folder and of those below it, as far as they are known.
+function(corvex_targets_below result folder)
+    get_property(targets DIRECTORY ${folder} PROPERTY BUILDSYSTEM_TARGETS)
+    get_property(folders DIRECTORY ${folder} PROPERTY SUBDIRECTORIES)
+    foreach(below IN LISTS folders)
+        corvex_targets_below(found ${below})
+        list(APPEND targets ${found})
+    endforeach()
+    set(${result} ${targets} PARENT_SCOPE)
+endfunction()
