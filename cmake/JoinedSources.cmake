@@ -1,5 +1,6 @@
 # The sources of a target compiled several at once, as texts that tools/join puts together: what they include is read
-# once for all, and code that they have in common is made once. From nothing that takes half the time, after a change more.
+# once for all, and code that they have in common is made once. From nothing that takes two thirds of the time, after a
+# change more.
 include(${CMAKE_CURRENT_LIST_DIR}/TargetsBelow.cmake)
 find_package(Python3 REQUIRED COMPONENTS Interpreter)
 set(JOINED_AT_MOST 24)
