@@ -1,5 +1,6 @@
 #include "documents/DocumentInbox.h"
 
+#include "CreationNote.h"
 #include "Device.h"
 #include "Foundation/NSFileManager.h"
 #include "Foundation/NSString.h"
@@ -22,7 +23,13 @@ std::string problem(const std::string& path, int error) {
 
 std::expected<void, int> copyInto(const std::string& folder, const std::string& name, RegularFile& file) {
     const auto opened = Device::current().root().open(folder, O_PATH | O_DIRECTORY);
-    return opened ? AtomicFile::makeCopy(*opened, name, file) : std::unexpected(opened.error());
+    if (!opened)
+        return std::unexpected(opened.error());
+    const CreationNote note(stringByAppendingPathComponent(folder, name));
+    auto copied = AtomicFile::makeCopy(*opened, name, file);
+    if (copied)
+        note.made();
+    return copied;
 }
 
 std::expected<std::string, std::string> take(std::expected<RegularFile, int> file, const std::string& path) {
