@@ -11,14 +11,12 @@
 
 #include <fcntl.h>
 
-#include <cstring>
-
 namespace {
 
 constexpr auto inboxName = "com.apple.Preferences-Inbox";
 
 std::string problem(const std::string& path, int error) {
-    return systemText("“%@” could not be opened: %@.", {lastPathComponent(path), std::strerror(error)});
+    return systemText("“%@” could not be opened: %@.", {lastPathComponent(path), systemTextOfError(error)});
 }
 
 std::expected<void, int> copyInto(const std::string& folder, const std::string& name, RegularFile& file) {
