@@ -12,11 +12,12 @@
 #include <string>
 #include <vector>
 
-/// Measures the frames of everything that moves in the pane, on a phone at 3x and on a tablet at 2x: what a
-/// frame takes from its touch or its moment on until its picture is there, in processor time of all
-/// threads, and how many pixels it painted. Prints, for each scene, the first frame, the median,
-/// the 95th percentile, what a copy of the whole picture took right after the scene, and the median as so
-/// many times that. Fails when a scene is not good (`SceneFrames`).
+/// Measures the frames of everything that moves in the pane, on a phone at 3x, on a tablet at 2x, and on a
+/// phone in a window at 1x: what a frame takes from its touch or its moment on until its picture is there, in
+/// processor time of all threads, and how many pixels it painted. Prints, for each scene, the first frame,
+/// the median, the 95th percentile, what a copy of the whole picture took right after the scene, and the
+/// median as so many times that. Fails when a scene is not good (`SceneFrames`). A picture at 1x is copied
+/// within the processor's cache, which tells nothing of painting; there, a scene is to take less than at 3x.
 
 namespace {
 
@@ -42,8 +43,7 @@ class FramesBench final : public PaneScenes {
 public:
     using PaneScenes::PaneScenes;
 
-    /// \returns whether every scene painted something, and fast enough
-    [[nodiscard]] bool run() {
+    [[nodiscard]] std::vector<SceneFrames> run() {
         play();
         if (Screen::current().traits().idiom == Idiom::Phone)
             playOpeningAgain();
@@ -51,7 +51,7 @@ public:
                     "a copy", "copies", "pixels");
         for (const auto& scene : scenes_)
             scene.print();
-        return std::ranges::all_of(scenes_, &SceneFrames::isGood);
+        return scenes_;
     }
 
 protected:
@@ -93,8 +93,13 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
     std::printf("frames, in milliseconds of processor time; phone, 1170 x 2532 pixels\n");
-    const bool phone = FramesBench({.idiom = Idiom::Phone, .scale = 3, .size = {}}).run();
+    const auto phone = FramesBench({.idiom = Idiom::Phone, .scale = 3, .size = {}}).run();
     std::printf("tablet, 1640 x 2360 pixels\n");
-    const bool pad = FramesBench({.idiom = Idiom::Pad, .scale = 2, .size = {}}).run();
-    return phone && pad ? EXIT_SUCCESS : EXIT_FAILURE;
+    const auto pad = FramesBench({.idiom = Idiom::Pad, .scale = 2, .size = {}}).run();
+    std::printf("phone, 390 x 844 pixels\n");
+    const auto window = FramesBench({.idiom = Idiom::Phone, .scale = 1, .size = {}}).run();
+    const bool isGood = std::ranges::all_of(phone, &SceneFrames::isGood) &&
+                        std::ranges::all_of(pad, &SceneFrames::isGood) &&
+                        std::ranges::equal(window, phone, &SceneFrames::isFasterThan);
+    return isGood ? EXIT_SUCCESS : EXIT_FAILURE;
 }

@@ -11,7 +11,11 @@ void SceneFrames::add(double time, double pixels) {
 }
 
 bool SceneFrames::isGood() const {
-    return !times_.empty() && quantile(times_, 0.5) <= mostCopies * timeOfCopy_;
+    return !times_.empty() && median() <= mostCopies * timeOfCopy_;
+}
+
+bool SceneFrames::isFasterThan(const SceneFrames& other) const {
+    return !times_.empty() && !other.times_.empty() && median() < other.median();
 }
 
 void SceneFrames::print() const {
@@ -19,9 +23,8 @@ void SceneFrames::print() const {
         std::printf("  %-28s painted nothing\n", name_.c_str());
         return;
     }
-    const auto median = quantile(times_, 0.5);
     std::printf("  %-28s %6zu %8.2f %8.2f %8.2f %8.2f %8.1f %10.0f\n", name_.c_str(), times_.size(),
-                times_.front(), median, quantile(times_, 0.95), timeOfCopy_, median / timeOfCopy_,
+                times_.front(), median(), quantile(times_, 0.95), timeOfCopy_, median() / timeOfCopy_,
                 quantile(pixels_, 0.5));
 }
 

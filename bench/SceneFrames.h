@@ -5,6 +5,9 @@
 #include <utility>
 #include <vector>
 
+/// The value that a part of all is not above. \pre there are some
+[[nodiscard]] double quantile(std::vector<double> values, double part);
+
 /// What the frames of one scene took, and whether that is good enough.
 class SceneFrames {
 public:
@@ -23,15 +26,18 @@ public:
     /// Whether something was painted, and fast enough.
     [[nodiscard]] bool isGood() const;
 
+    /// Whether something was painted, and the median is below that of the same scene elsewhere.
+    [[nodiscard]] bool isFasterThan(const SceneFrames& other) const;
+
     /// A line for people.
     void print() const;
 
 private:
+    /// \pre something was painted
+    [[nodiscard]] double median() const { return quantile(times_, 0.5); }
+
     std::string name_;
     std::vector<double> times_;
     std::vector<double> pixels_;
     double timeOfCopy_ = 0;
 };
-
-/// The value that a part of all is not above. \pre there are some
-[[nodiscard]] double quantile(std::vector<double> values, double part);

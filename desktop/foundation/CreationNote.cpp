@@ -32,8 +32,16 @@ CreationNote::CreationNote(std::string_view path)
       isNew_(place_ && isNothingAt(*place_)) {}
 
 void CreationNote::made() const {
-    if (!isNew_)
-        return;
+    if (isNew_)
+        write();
+}
+
+void CreationNote::replaced() const {
+    if (place_)
+        write();
+}
+
+void CreationNote::write() const {
     const auto date = Device::current().momentOfCreation();
     const auto bits = std::bit_cast<std::uint64_t>(date.timeIntervalSinceReferenceDate);
     lsetxattr(hostPathOf(*place_).c_str(), attribute, &bits, sizeof bits, 0);

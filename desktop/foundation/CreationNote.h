@@ -17,10 +17,15 @@ public:
     /// It is there now. Nothing happens when something was there before.
     void made() const;
 
+    /// Another thing is there now, in place of what was there before.
+    void replaced() const;
+
     /// What was noted for what is there.
     [[nodiscard]] static std::optional<NSDate> of(const DeviceRoot::Place& place);
 
 private:
+    void write() const;
+
     std::expected<DeviceRoot::Place, int> place_;
     bool isNew_;
 };

@@ -1,5 +1,6 @@
 #include "Foundation/NSDictionary.h"
 
+#include "CreationNote.h"
 #include "Device.h"
 #include "files/AtomicFile.h"
 #include "files/RegularFile.h"
@@ -26,5 +27,8 @@ bool writeToFileAtomically(const PropertyList::Dictionary& dictionary, std::stri
     if (!bytes)
         return false;
     const auto place = Device::current().root().locate(path);
-    return place && AtomicFile::replace(place->folder, place->name, *bytes);
+    if (!place || !AtomicFile::replace(place->folder, place->name, *bytes))
+        return false;
+    CreationNote(path).replaced();
+    return true;
 }

@@ -3,6 +3,7 @@
 #include "CreationNote.h"
 #include "Device.h"
 #include "Foundation/NSString.h"
+#include "SystemTexts.h"
 #include "files/FileErrors.h"
 #include "files/FolderListing.h"
 #include "files/RegularFile.h"
@@ -26,6 +27,12 @@ constexpr mode_t newFileMode = 0644;
 
 const DeviceRoot& root() {
     return Device::current().root();
+}
+
+Ref<NSError> errorOf(FileOperation operation, int error, std::string_view path,
+                     std::string_view toFolder = {}) {
+    return fileError(operation, error, path, toFolder,
+                     [](std::string_view english) { return systemText(english); });
 }
 
 bool isFolder(std::string_view path) {
@@ -123,8 +130,8 @@ bool NSFileManager::fileExistsAtPath(std::string_view path) const {
 Result<void> NSFileManager::createDirectoryAtPath(std::string_view path, bool withIntermediateDirectories) {
     const auto made = withIntermediateDirectories ? ensureFolderAndItsParents(path) : makeFolder(path);
     if (!made)
-        return std::unexpected(fileError(FileOperation::CreateDirectory, made.error(), path,
-                                         stringByDeletingLastPathComponent(path)));
+        return std::unexpected(errorOf(FileOperation::CreateDirectory, made.error(), path,
+                                       stringByDeletingLastPathComponent(path)));
     return {};
 }
 
@@ -134,7 +141,7 @@ bool NSFileManager::createFileAtPath(std::string_view path, const NSData& conten
 
 Result<void> NSFileManager::removeItemAtPath(std::string_view path) {
     if (const auto removed = removeTree(path); !removed)
-        return std::unexpected(fileError(FileOperation::Remove, removed.error(), path));
+        return std::unexpected(errorOf(FileOperation::Remove, removed.error(), path));
     return {};
 }
 
@@ -142,11 +149,11 @@ Result<void> NSFileManager::copyItemAtPath(std::string_view path, std::string_vi
     const auto original = root().locate(path);
     const auto found = original ? statusOf(*original) : std::unexpected(original.error());
     if (!found)
-        return std::unexpected(fileError(FileOperation::Read, found.error(), path));
+        return std::unexpected(errorOf(FileOperation::Read, found.error(), path));
 
     const auto failure = [&](int error) {
         return std::unexpected(
-            fileError(FileOperation::Copy, error, path, stringByDeletingLastPathComponent(toPath)));
+            errorOf(FileOperation::Copy, error, path, stringByDeletingLastPathComponent(toPath)));
     };
     const auto target = root().locate(toPath);
     if (!target)
@@ -163,7 +170,7 @@ Result<std::vector<std::string>> NSFileManager::contentsOfDirectoryAtPath(std::s
     const auto folder = root().open(path, O_PATH | O_DIRECTORY);
     auto names = folder ? namesInFolder(folder->get()) : std::unexpected(folder.error());
     if (!names)
-        return std::unexpected(fileError(FileOperation::List, names.error(), path));
+        return std::unexpected(errorOf(FileOperation::List, names.error(), path));
     return std::move(*names);
 }
 
@@ -181,7 +188,7 @@ Result<NSFileAttributes> NSFileManager::attributesOfItemAtPath(std::string_view 
     const auto place = root().locate(path);
     const auto status = place ? statusOf(*place) : std::unexpected(place.error());
     if (!status)
-        return std::unexpected(fileError(FileOperation::Read, status.error(), path));
+        return std::unexpected(errorOf(FileOperation::Read, status.error(), path));
     const auto noted = CreationNote::of(*place);
     return NSFileAttributes{.fileType = typeOf(status->stx_mode),
                             .fileSize = status->stx_size,

@@ -6,7 +6,9 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 #include <span>
+#include <string>
 
 namespace {
 
@@ -57,11 +59,16 @@ constexpr std::array texts{
          "Lege eine PNG-, JPEG- oder HEIC-Datei auf dem Fenster ab oder gib ihren Pfad ein.",
          "أفلت ملف PNG أو JPEG أو HEIC على النافذة، أو اكتب مساره.",
          "יש לגרור קובץ PNG, JPEG או HEIC אל החלון, או להקליד את הנתיב שלו."},
+    Text{"File exists", "Die Datei gibt es schon", "الملف موجود بالفعل", "הקובץ כבר קיים"},
+    Text{"File name too long", "Der Dateiname ist zu lang", "اسم الملف طويل جدًا", "שם הקובץ ארוך מדי"},
     Text{"Green", "Grün", "أخضر", "ירוק"},
     Text{"Grid", "Raster", "شبكة", "רשת"},
     Text{"Hex Color", "Farbe in Hex", "لون سداسي عشري", "צבע הקסדצימלי"},
     Text{"image", "Bild", "صورة", "תמונה"},
     Text{"Image", "Bild", "صورة", "תמונה"},
+    Text{"Input/output error", "Ein-/Ausgabefehler", "خطأ في الإدخال أو الإخراج", "שגיאת קלט/פלט"},
+    Text{"Invalid argument", "Ungültiges Argument", "وسيطة غير صالحة", "ארגומנט לא חוקי"},
+    Text{"Is a directory", "Es ist ein Ordner", "إنه مجلد", "זו תיקייה"},
     Text{"Its class “%@” is no page.", "Seine Klasse „%@“ ist keine Seite.", "", ""},
     Text{"Language", "Sprache", "اللغة", "שפה"},
     Text{"Light", "Hell", "فاتح", "בהיר"},
@@ -70,6 +77,9 @@ constexpr std::array texts{
          "אף יישום לא פתח אותו."},
     Text{"No class in it is called “%@”.", "Keine Klasse darin heißt „%@“.", "", ""},
     Text{"no image", "kein Bild", "لا توجد صورة", "אין תמונה"},
+    Text{"No space left on device", "Kein Speicherplatz mehr frei", "لا توجد مساحة كافية", "אין די מקום"},
+    Text{"No such file or directory", "Datei oder Ordner nicht gefunden", "لا يوجد ملف أو مجلد بهذا الاسم",
+         "אין קובץ או תיקייה כזו"},
     Text{"nothing defines “%@”", "„%@“ ist nirgends definiert", "", ""},
     Text{"OK", "OK", "موافق", "אישור"},
     Text{"One file is wanted.", "Es wird eine Datei gebraucht.", "مطلوب ملف واحد.", "נדרש קובץ אחד."},
@@ -78,7 +88,10 @@ constexpr std::array texts{
     Text{"Opacity", "Deckkraft", "العتامة", "אטימות"},
     Text{"Open With…", "Öffnen mit …", "فتح باستخدام…", "פתיחה באמצעות…"},
     Text{"Path of a File", "Pfad einer Datei", "مسار ملف", "נתיב של קובץ"},
+    Text{"Permission denied", "Keine Berechtigung", "الإذن مرفوض", "ההרשאה נדחתה"},
     Text{"Phone on a desktop", "Telefon auf einem Desktop", "هاتف على سطح المكتب", "טלפון על שולחן העבודה"},
+    Text{"Read-only file system", "Das Dateisystem kann nur gelesen werden", "نظام الملفات للقراءة فقط",
+         "מערכת הקבצים לקריאה בלבד"},
     Text{"Red", "Rot", "أحمر", "אדום"},
     Text{"Remove Image", "Bild entfernen", "إزالة الصورة", "הסרת התמונה"},
     Text{"Save to Folder…", "In Ordner sichern …", "حفظ في مجلد…", "שמירה בתיקייה…"},
@@ -97,6 +110,24 @@ constexpr std::array texts{
          "الملف ليس صورة يمكن استخدامها. اختر ملف PNG أو JPEG أو HEIC.",
          "הקובץ אינו תמונה שניתן להשתמש בה. יש לבחור קובץ PNG, JPEG או HEIC."},
     Text{"The file is too large.", "Die Datei ist zu groß.", "الملف كبير جدًا.", "הקובץ גדול מדי."},
+    Text{"The file “{x}” couldn’t be saved in the folder “{y}” because a file with the same name already "
+         "exists.",
+         "Die Datei „{x}“ konnte nicht im Ordner „{y}“ gesichert werden, da es dort eine mit diesem Namen "
+         "gibt.",
+         "تعذر حفظ الملف «{x}» في المجلد «{y}» لوجود ملف بالاسم نفسه.",
+         "לא ניתן היה לשמור את הקובץ ”{x}“ בתיקייה ”{y}“ משום שכבר קיים קובץ באותו שם."},
+    Text{"The file “{x}” couldn’t be saved in the folder “{y}” because the volume is read only.",
+         "Die Datei „{x}“ konnte nicht im Ordner „{y}“ gesichert werden, da das Volume nur gelesen werden "
+         "kann.",
+         "تعذر حفظ الملف «{x}» في المجلد «{y}» لأن وحدة التخزين للقراءة فقط.",
+         "לא ניתן היה לשמור את הקובץ ”{x}“ בתיקייה ”{y}“ משום שהכונן לקריאה בלבד."},
+    Text{"The file “{x}” couldn’t be saved in the folder “{y}” because there isn’t enough space.",
+         "Die Datei „{x}“ konnte nicht im Ordner „{y}“ gesichert werden, da zu wenig Speicherplatz frei ist.",
+         "تعذر حفظ الملف «{x}» في المجلد «{y}» لعدم وجود مساحة كافية.",
+         "לא ניתן היה לשמור את הקובץ ”{x}“ בתיקייה ”{y}“ משום שאין די מקום."},
+    Text{"The file “{x}” couldn’t be saved in the folder “{y}”.",
+         "Die Datei „{x}“ konnte nicht im Ordner „{y}“ gesichert werden.",
+         "تعذر حفظ الملف «{x}» في المجلد «{y}».", "לא ניתן היה לשמור את הקובץ ”{x}“ בתיקייה ”{y}“."},
     Text{"The Image Cannot Be Used", "Das Bild kann nicht verwendet werden", "لا يمكن استخدام الصورة",
          "לא ניתן להשתמש בתמונה"},
     Text{"The image could not be saved.", "Das Bild konnte nicht gesichert werden.", "تعذر حفظ الصورة.",
@@ -108,10 +139,27 @@ constexpr std::array texts{
     Text{"There is no code at %@.", "Unter %@ ist kein Code.", "", ""},
     Text{"This folder is empty.", "Dieser Ordner ist leer.", "هذا المجلد فارغ.", "התיקייה ריקה."},
     Text{"Time Zone", "Zeitzone", "المنطقة الزمنية", "אזור זמן"},
+    Text{"You don’t have permission to save the file “{x}” in the folder “{y}”.",
+         "Du darfst die Datei „{x}“ nicht im Ordner „{y}“ sichern.",
+         "لا تملك إذنًا لحفظ الملف «{x}» في المجلد «{y}».",
+         "אין לך הרשאה לשמור את הקובץ ”{x}“ בתיקייה ”{y}“."},
     Text{"“%@” could not be opened: %@.", "„%@“ konnte nicht geöffnet werden: %@.", "تعذر فتح «%@»: %@.",
          "לא ניתן היה לפתוח את ”%@“: %@."},
     Text{"“%@” is not of a kind that can be chosen.", "Dateien wie „%@“ können nicht gewählt werden.",
          "لا يمكن اختيار ملفات مثل «%@».", "לא ניתן לבחור קבצים כמו ”%@“."},
+    Text{"“{x}” couldn’t be removed because the file name is invalid.",
+         "„{x}“ konnte nicht entfernt werden, da der Dateiname ungültig ist.",
+         "تعذرت إزالة «{x}» لأن اسم الملف غير صالح.", "לא ניתן היה להסיר את ”{x}“ משום ששם הקובץ אינו חוקי."},
+    Text{"“{x}” couldn’t be removed because the volume is read only.",
+         "„{x}“ konnte nicht entfernt werden, da das Volume nur gelesen werden kann.",
+         "تعذرت إزالة «{x}» لأن وحدة التخزين للقراءة فقط.",
+         "לא ניתן היה להסיר את ”{x}“ משום שהכונן לקריאה בלבד."},
+    Text{"“{x}” couldn’t be removed because you don’t have permission to access it.",
+         "„{x}“ konnte nicht entfernt werden, da du nicht darauf zugreifen darfst.",
+         "تعذرت إزالة «{x}» لأنك لا تملك إذن الوصول إليه.",
+         "לא ניתן היה להסיר את ”{x}“ משום שאין לך הרשאת גישה אליו."},
+    Text{"“{x}” couldn’t be removed.", "„{x}“ konnte nicht entfernt werden.", "تعذرت إزالة «{x}».",
+         "לא ניתן היה להסיר את ”{x}“."},
 };
 
 struct Language {
@@ -136,4 +184,9 @@ std::string systemText(std::string_view english) {
 
 std::string systemText(std::string_view english, std::initializer_list<std::string> arguments) {
     return replacePlaceholders(systemText(english), std::span(arguments.begin(), arguments.size()));
+}
+
+std::string systemTextOfError(int error) {
+    const auto* const english = strerrordesc_np(error);
+    return english != nullptr ? systemText(english) : std::to_string(error);
 }

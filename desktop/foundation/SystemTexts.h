@@ -10,3 +10,6 @@
 
 /// Likewise, with each "%@" in turn replaced by an argument.
 [[nodiscard]] std::string systemText(std::string_view english, std::initializer_list<std::string> arguments);
+
+/// What the host says of an error of that number, in the device's language likewise.
+[[nodiscard]] std::string systemTextOfError(int error);

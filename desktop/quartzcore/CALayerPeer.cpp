@@ -5,6 +5,7 @@
 #include "QuartzCore/CALayer.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace {
@@ -231,9 +232,11 @@ AffineTransform CALayerPeer::shownToSuperlayer() const {
                  asTransform(shownValue(LayerProperty::Transform)));
 }
 
-CGRect CALayerPeer::shownFrameOnScreen() const {
+ShownShape CALayerPeer::shownShapeOnScreen() const {
     auto toScreen = shownToSuperlayer();
     for (const auto* layer = superlayer(); layer != nullptr; layer = layer->peer().superlayer())
         toScreen = layer->peer().shownToSuperlayer().after(toScreen);
-    return toScreen(shownBounds());
+    const auto scale = std::hypot(toScreen.a, toScreen.b);
+    return {.frame = toScreen(shownBounds()),
+            .cornerRadius = scale * shownValue(LayerProperty::CornerRadius)[0]};
 }

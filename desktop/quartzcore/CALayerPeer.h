@@ -6,6 +6,7 @@
 #include "LayerAnimation.h"
 #include "LayerProperty.h"
 #include "QuartzCore/CALayer.h"
+#include "ShownShape.h"
 
 #include <QPainterPath>
 #include <array>
@@ -85,7 +86,7 @@ public:
     [[nodiscard]] AffineTransform shownToSuperlayer() const;
 
     /// Where it is shown in the outermost layer's superlayer, which is the screen for what is in a window.
-    [[nodiscard]] CGRect shownFrameOnScreen() const;
+    [[nodiscard]] ShownShape shownShapeOnScreen() const;
     [[nodiscard]] CGRect shownBounds() const;
 
     // What is not animated.

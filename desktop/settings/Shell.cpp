@@ -75,7 +75,7 @@ Shell::Shell() : homeWindow_(make<UIWindow>()), home_(make<HomeView>([this] { la
     homeWindow_->setWindowLevel(homeLevel);
     homeWindow_->setFrame(screen.bounds());
     home_->setFrame(homeWindow_->bounds());
-    bars_.setWallpaperDepth([this] { return wallpaperDepth(); });
+    bars_.setApplication([this] { return shownSettings(); });
     home_->setAutoresizingMask(UIViewAutoresizing::FlexibleWidth | UIViewAutoresizing::FlexibleHeight);
     homeWindow_->addSubview(home_);
     screen.addWindow(homeWindow_);
@@ -230,10 +230,10 @@ void Shell::endSettings() {
     AnimationGroup::run(fade({}, milliseconds(150)), [this] { home_->setSettingsNameShown(true); }, {});
 }
 
-double Shell::wallpaperDepth() const {
+std::optional<ShownShape> Shell::shownSettings() const {
     if (!settingsWindow_ || settingsWindow_->peer().isHidden())
-        return Screen::current().bounds().size.height;
-    return settingsWindow_->layer().peer().shownFrameOnScreen().origin.y;
+        return std::nullopt;
+    return settingsWindow_->layer().peer().shownShapeOnScreen();
 }
 
 void Shell::shrinkToIcon() {

@@ -63,8 +63,8 @@ private:
     void placeSettings(const AffineTransform& transform);
     void showSettings(bool shown);
     void setCorners(double radius);
-    /// How far down from its upper edge the screen shows the home screen.
-    [[nodiscard]] double wallpaperDepth() const;
+    /// Where Settings is seen in front of the home screen; nothing while it is not.
+    [[nodiscard]] std::optional<ShownShape> shownSettings() const;
     /// The finger that draws Settings up has come so far.
     void followFinger(CGPoint translation);
     void fingerGone(bool goesHome);

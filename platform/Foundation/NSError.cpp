@@ -22,12 +22,14 @@ NSError::NSError(std::string_view domain, std::int64_t code, PropertyList::Dicti
       userInfo_(std::move(userInfo)),
       underlyingError_(std::move(underlyingError)) {}
 
+const std::string* NSError::textFor(std::string_view key) const {
+    const auto found = userInfo_.find(key);
+    return found != userInfo_.end() ? found->second.getIf<std::string>() : nullptr;
+}
+
 std::string NSError::localizedDescription() const {
-    const auto found = userInfo_.find(NSLocalizedDescriptionKey);
-    if (found != userInfo_.end()) {
-        if (const auto* const text = found->second.getIf<std::string>())
-            return *text;
-    }
+    if (const auto* const text = textFor(NSLocalizedDescriptionKey))
+        return *text;
     return "The operation couldn’t be completed. (" + domain_ + " error " + std::to_string(code_) + ".)";
 }
 
@@ -37,11 +39,13 @@ std::string NSError::description() const {
         info += (info.empty() ? "" : ", ") + key + "=" + value;
     };
     for (const auto& [key, value] : userInfo_) {
-        if (key != NSLocalizedDescriptionKey)
+        if (key != NSLocalizedDescriptionKey && key != NSDebugDescriptionErrorKey)
             add(key, value.description());
     }
     if (underlyingError_)
         add("NSUnderlyingError", "{" + underlyingError_->description() + "}");
-    return "Error Domain=" + domain_ + " Code=" + std::to_string(code_) + " \"" + localizedDescription() +
-           "\"" + (info.empty() ? "" : " UserInfo={" + info + "}");
+    const auto* const forLog = textFor(NSDebugDescriptionErrorKey);
+    return "Error Domain=" + domain_ + " Code=" + std::to_string(code_) + " \"" +
+           (forLog != nullptr ? *forLog : localizedDescription()) + "\"" +
+           (info.empty() ? "" : " UserInfo={" + info + "}");
 }

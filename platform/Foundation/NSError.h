@@ -12,12 +12,14 @@
 inline constexpr std::string_view NSCocoaErrorDomain = "NSCocoaErrorDomain";
 inline constexpr std::string_view NSPOSIXErrorDomain = "NSPOSIXErrorDomain";
 inline constexpr std::string_view NSLocalizedDescriptionKey = "NSLocalizedDescription";
+inline constexpr std::string_view NSDebugDescriptionErrorKey = "NSDebugDescription";
 inline constexpr std::string_view NSFilePathErrorKey = "NSFilePath";
 
 /// Why an operation failed. Never changes once made.
 class NSError final : public NSObject {
 public:
-    /// \param userInfo what is known besides; the text for the user stands under `NSLocalizedDescriptionKey`
+    /// \param userInfo what is known besides; the text for the user stands under `NSLocalizedDescriptionKey`,
+    /// and the one for the log, if that is another, under `NSDebugDescriptionErrorKey`
     /// \param underlyingError the error that led to this one, or an empty Ref
     [[nodiscard]] static Ref<NSError> errorWithDomain(std::string_view domain, std::int64_t code,
                                                       PropertyList::Dictionary userInfo = {},
@@ -36,6 +38,9 @@ public:
 private:
     NSError(std::string_view domain, std::int64_t code, PropertyList::Dictionary userInfo,
             Ref<NSError> underlyingError);
+
+    /// Null when there is none.
+    [[nodiscard]] const std::string* textFor(std::string_view key) const;
 
     std::string domain_;
     std::int64_t code_;

@@ -2,6 +2,7 @@
 #include "DesktopColor.h"
 #include "Foundation/NSFileManager.h"
 #include "ObjectiveC/AttachedValues.h"
+#include "StandardErrorListener.h"
 #include "touches/DesktopTapGestureRecognizer.h"
 #include "views/UIViewPeer.h"
 
@@ -262,6 +263,19 @@ TEST_F(cxBackupRestoreControllerListTest, ADeletedBackupIsGoneAndTheOthersAreSho
     EXPECT_EQ(titlesOfItems(), Names{"b.tar"});
     EXPECT_EQ(page->currentBackupsList(), Names{"b.tar.gz"});
     EXPECT_EQ(device.log().take(), Log{"Deleting backup: a.tar.gz"});
+}
+
+TEST_F(cxBackupRestoreControllerListTest, ABackupIsStillThereWhenItsEndIsLogged) {
+    makeBackup("a.tar.gz");
+    std::vector<Names> then;
+    {
+        const StandardErrorListener listener([&](std::string_view text) {
+            if (text.contains("Deleting backup"))
+                then.push_back(namesIn(backupsFolder));
+        });
+        EXPECT_EQ(deleteNow("a.tar.gz"), deleted);
+    }
+    EXPECT_EQ(then, std::vector<Names>{Names{"a.tar.gz"}});
 }
 
 TEST_F(cxBackupRestoreControllerListTest, AfterTheLastOneTheListDoesNotComeBack) {

@@ -41,6 +41,21 @@ TEST(SceneFramesTest, ASceneThatPaintedNothingIsNotGood) {
     EXPECT_TRUE(frames.isGood());
 }
 
+TEST(SceneFramesTest, AFasterSceneHasALowerMedian) {
+    SceneFrames slow("scene");
+    SceneFrames fast("scene");
+    EXPECT_FALSE(fast.isFasterThan(slow)) << "nothing was painted";
+    for (const auto time : {1.0, 2.0, 100.0})
+        fast.add(time, somePixels);
+    EXPECT_FALSE(fast.isFasterThan(slow));
+    EXPECT_FALSE(slow.isFasterThan(fast));
+    for (const auto time : {1.0, 2.5, 3.0})
+        slow.add(time, somePixels);
+    EXPECT_TRUE(fast.isFasterThan(slow));
+    EXPECT_FALSE(slow.isFasterThan(fast));
+    EXPECT_FALSE(slow.isFasterThan(slow));
+}
+
 TEST(SceneFramesTest, AQuantileIsOneOfTheValues) {
     EXPECT_EQ(quantile({3, 1, 2}, 0.5), 2);
     EXPECT_EQ(quantile({3, 1, 2}, 1), 3);

@@ -40,6 +40,14 @@ TEST(NSError, DescribesItselfForTheLog) {
               "Error Domain=d Code=1 \"Failed\"");
 }
 
+TEST(NSError, HasATextForTheLogThatTheUserDoesNotRead) {
+    auto userInfo = info("„a“ konnte nicht entfernt werden.");
+    userInfo.emplace(NSDebugDescriptionErrorKey, "“a” couldn’t be removed.");
+    const auto error = NSError::errorWithDomain("d", 4, userInfo);
+    EXPECT_EQ(error->localizedDescription(), "„a“ konnte nicht entfernt werden.");
+    EXPECT_EQ(error->description(), "Error Domain=d Code=4 \"“a” couldn’t be removed.\"");
+}
+
 TEST(NSError, DescribesWhatItKnowsBesides) {
     auto userInfo = info("“a” couldn’t be removed.");
     userInfo.emplace(NSFilePathErrorKey, "/b/a");

@@ -25,7 +25,7 @@ public:
 
     [[nodiscard]] bool isTransient() const override { return transient; }
 
-    [[nodiscard]] double blackDepth() const override { return 0; }
+    [[nodiscard]] std::optional<ShownShape> steppedBack() const override { return std::nullopt; }
 
     void keyboardHeightDidChange() override { keyboardHeights.push_back(Screen::current().keyboardHeight()); }
 

@@ -107,14 +107,18 @@ std::string fillIn(std::string_view text, std::string_view x, std::string_view y
 
 } // namespace
 
-Ref<NSError> fileError(FileOperation operation, int error, std::string_view path, std::string_view toFolder) {
+Ref<NSError> fileError(FileOperation operation, int error, std::string_view path, std::string_view toFolder,
+                       std::string (*translated)(std::string_view)) {
     const auto& outcome = outcomeOf(operation, error);
     auto underlying = NSError::errorWithDomain(
         NSPOSIXErrorDomain, error,
         {{std::string(NSLocalizedDescriptionKey), std::generic_category().message(error)}});
-    auto text = fillIn(outcome.text, lastPathComponent(path), lastPathComponent(toFolder));
-    return NSError::errorWithDomain(
-        NSCocoaErrorDomain, outcome.code,
-        {{std::string(NSLocalizedDescriptionKey), std::move(text)}, {std::string(NSFilePathErrorKey), path}},
-        std::move(underlying));
+    const auto told = [&](std::string_view text) {
+        return fillIn(text, lastPathComponent(path), lastPathComponent(toFolder));
+    };
+    return NSError::errorWithDomain(NSCocoaErrorDomain, outcome.code,
+                                    {{std::string(NSLocalizedDescriptionKey), told(translated(outcome.text))},
+                                     {std::string(NSDebugDescriptionErrorKey), told(outcome.text)},
+                                     {std::string(NSFilePathErrorKey), path}},
+                                    std::move(underlying));
 }

@@ -27,7 +27,7 @@ public:
     [[nodiscard]] std::vector<Action> actions() const override;
     [[nodiscard]] std::optional<Details> details() const override;
 
-    [[nodiscard]] double blackDepth() const override { return 0; }
+    [[nodiscard]] std::optional<ShownShape> steppedBack() const override { return std::nullopt; }
 
     [[nodiscard]] UIView& shownView() const override;
     /// Chooses what cancels; nothing happens when nothing does.

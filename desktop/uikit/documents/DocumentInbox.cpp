@@ -1,5 +1,6 @@
 #include "documents/DocumentInbox.h"
 
+#include "CreationNote.h"
 #include "Device.h"
 #include "Foundation/NSFileManager.h"
 #include "Foundation/NSString.h"
@@ -10,19 +11,23 @@
 
 #include <fcntl.h>
 
-#include <cstring>
-
 namespace {
 
 constexpr auto inboxName = "com.apple.Preferences-Inbox";
 
 std::string problem(const std::string& path, int error) {
-    return systemText("“%@” could not be opened: %@.", {lastPathComponent(path), std::strerror(error)});
+    return systemText("“%@” could not be opened: %@.", {lastPathComponent(path), systemTextOfError(error)});
 }
 
 std::expected<void, int> copyInto(const std::string& folder, const std::string& name, RegularFile& file) {
     const auto opened = Device::current().root().open(folder, O_PATH | O_DIRECTORY);
-    return opened ? AtomicFile::makeCopy(*opened, name, file) : std::unexpected(opened.error());
+    if (!opened)
+        return std::unexpected(opened.error());
+    const CreationNote note(stringByAppendingPathComponent(folder, name));
+    auto copied = AtomicFile::makeCopy(*opened, name, file);
+    if (copied)
+        note.made();
+    return copied;
 }
 
 std::expected<std::string, std::string> take(std::expected<RegularFile, int> file, const std::string& path) {

@@ -3,8 +3,10 @@
 #include "DesktopColor.h"
 #include "DesktopImage.h"
 #include "ObjectiveC/Class.h"
+#include "RectGeometry.h"
 #include "TextLayout.h"
 #include "controls/UIControlPeer.h"
+#include "keyboard/KeyPalette.h"
 
 #include <QPainter>
 
@@ -22,23 +24,6 @@ constexpr double caselessSize = 20; ///< of letters that are neither small nor l
 constexpr double wordSize = 16;
 constexpr double symbolSize = 19;
 constexpr double bareSymbolSize = 24; ///< without a cap around it
-
-struct Palette {
-    QColor letterKey;
-    QColor otherKey;
-    QColor shadow;
-    QColor text;
-};
-
-Palette paletteFor(const Traits& traits) {
-    if (traits.style == UserInterfaceStyle::Dark)
-        return {.letterKey = {107, 107, 107},
-                .otherKey = {71, 71, 71},
-                .shadow = {29, 29, 29},
-                .text = Qt::white};
-    return {
-        .letterKey = Qt::white, .otherKey = {171, 176, 186}, .shadow = {137, 138, 141}, .text = Qt::black};
-}
 
 bool isWide(const KeyboardLayout::Key& key) {
     return key.action != Action::Type || key.text == " ";
@@ -77,17 +62,25 @@ double textSizeOf(const KeyboardKey& key) {
     return key.isShifted() ? capitalSize : letterSize;
 }
 
+/// What is drawn of a key.
+CGRect capIn(const CGRect& bounds, Idiom idiom) {
+    const auto [across, down] = KeyboardLayout::gap(idiom);
+    return UIEdgeInsetsInsetRect(bounds, {.top = down, .left = across, .bottom = down, .right = across});
+}
+
 class KeyPeer final : public UIControlPeer {
 public:
     // UIControlPeer:
-    void stateDidChange() override { setNeedsDisplay(); }
+    void stateDidChange() override {
+        setNeedsDisplay();
+        key().fingerDidChange(isHighlighted());
+    }
 
     // UIViewPeer:
     void drawLayer(QPainter& painter, const CGRect& bounds, const Traits& traits) override {
-        const auto gap = KeyboardLayout::gap(traits.idiom);
-        const QRectF shape(bounds.origin.x + gap.across, bounds.origin.y + gap.down,
-                           bounds.size.width - 2 * gap.across, bounds.size.height - 2 * gap.down);
-        const auto palette = paletteFor(traits);
+        const auto cap = capIn(bounds, traits.idiom);
+        const QRectF shape(cap.origin.x, cap.origin.y, cap.size.width, cap.size.height);
+        const auto palette = KeyPalette::forStyle(traits.style);
         painter.setRenderHint(QPainter::Antialiasing);
         if (hasCap(traits))
             drawCap(painter, shape, palette);
@@ -95,9 +88,9 @@ public:
     }
 
 private:
-    [[nodiscard]] const KeyboardKey& key() const { return dynamic_cast<const KeyboardKey&>(control()); }
+    [[nodiscard]] KeyboardKey& key() const { return dynamic_cast<KeyboardKey&>(control()); }
 
-    /// Keys that type are bright; a finger turns that round.
+    /// Keys that type are bright; a finger turns that round, which a balloon covers.
     [[nodiscard]] bool isBright() const {
         const auto action = key().key().action;
         const auto bright = action == Action::Type || (action == Action::Shift && key().isShifted());
@@ -109,7 +102,7 @@ private:
         return traits.idiom != Idiom::Phone || key().key().action != Action::ChangeLanguage;
     }
 
-    void drawCap(QPainter& painter, const QRectF& shape, const Palette& palette) const {
+    void drawCap(QPainter& painter, const QRectF& shape, const KeyPalette& palette) const {
         painter.setPen(Qt::NoPen);
         painter.setBrush(palette.shadow);
         painter.drawRoundedRect(shape.translated(0, shadowHeight), cornerRadius, cornerRadius);
@@ -150,4 +143,25 @@ KeyboardKey::KeyboardKey(const KeyboardLayout::Key& key, Pressed pressed)
 void KeyboardKey::setShifted(bool shifted) {
     isShifted_ = shifted;
     peer().setNeedsDisplay();
+}
+
+bool KeyboardKey::mayHaveBalloon() const {
+    return peer().traits().idiom == Idiom::Phone && !isWide(key_);
+}
+
+void KeyboardKey::fingerDidChange(bool isOn) {
+    if (balloon_)
+        std::exchange(balloon_, nullptr)->peer().removeFromSuperview();
+    auto* const keyboard = peer().superview();
+    if (!isOn || !mayHaveBalloon() || keyboard == nullptr)
+        return;
+    const auto idiom = peer().traits().idiom;
+    const auto cap = capIn(bounds(), idiom);
+    const auto gap = KeyboardLayout::gap(idiom).across;
+    const auto room = CGRectMake(gap - frame().origin.x, 0, keyboard->bounds().size.width - 2 * gap, 0);
+    const auto place = KeyBalloon::frameFor(cap, room);
+    balloon_ = make<KeyBalloon>(cap, place, labelOf(*this), textSizeOf(*this));
+    balloon_->setFrame(place);
+    addSubview(balloon_);
+    keyboard->peer().bringSubviewToFront(*this); // so that it is in front of other keys
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "UIKit/UIControl.h"
+#include "keyboard/KeyBalloon.h"
 #include "keyboard/KeyboardLayout.h"
 
 #include <functional>
@@ -20,8 +21,18 @@ public:
 
     [[nodiscard]] bool isShifted() const { return isShifted_; }
 
+    /// There while a finger is on the key; empty else.
+    [[nodiscard]] const Ref<KeyBalloon>& balloon() const { return balloon_; }
+
+    /// A finger has come upon the key, or has gone from it.
+    void fingerDidChange(bool isOn);
+
 private:
+    /// Whether a finger on it has a balloon rise above it.
+    [[nodiscard]] bool mayHaveBalloon() const;
+
     KeyboardLayout::Key key_;
     Pressed pressed_;
+    Ref<KeyBalloon> balloon_;
     bool isShifted_ = false;
 };

@@ -35,7 +35,7 @@ public:
 
     [[nodiscard]] bool isTransient() const override { return true; }
 
-    [[nodiscard]] double blackDepth() const override { return 0; }
+    [[nodiscard]] std::optional<ShownShape> steppedBack() const override { return std::nullopt; }
 
     void keyboardHeightDidChange() override {}
 

@@ -41,7 +41,7 @@ public:
 
     [[nodiscard]] UIView& shownView() const override { return *panel_; }
 
-    [[nodiscard]] double blackDepth() const override { return 0; }
+    [[nodiscard]] std::optional<ShownShape> steppedBack() const override { return std::nullopt; }
 
     void dismissPresented() override;
 

@@ -87,12 +87,11 @@ void SheetPresentationView::willUncover() {
     });
 }
 
-/// What steps back leaves black above itself.
-double SheetPresentationView::blackDepth() const {
+std::optional<ShownShape> SheetPresentationView::steppedBack() const {
     const auto covered = beneath();
     if (!covered || backing_->peer().superview() == nullptr)
-        return 0;
-    return covered->layer().peer().shownFrameOnScreen().origin.y;
+        return std::nullopt;
+    return covered->layer().peer().shownShapeOnScreen();
 }
 
 // Where everything is.

@@ -49,7 +49,7 @@ public:
 
     [[nodiscard]] UIView& shownView() const override { return *card_; }
 
-    [[nodiscard]] double blackDepth() const override;
+    [[nodiscard]] std::optional<ShownShape> steppedBack() const override;
 
     /// As the user does it; nothing happens while the controller does not let him.
     void dismissPresented() override;

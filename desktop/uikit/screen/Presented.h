@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CoreGraphics/CGGeometry.h"
+#include "ShownShape.h"
 #include "UIKit/UINavigationItem.h"
 
 #include <optional>
@@ -76,8 +77,8 @@ public:
     /// Whether it goes when the application is left. Sheets and alerts are still there on the way back.
     [[nodiscard]] virtual bool isTransient() const = 0;
 
-    /// How far down the screen is black from its upper edge on, in points.
-    [[nodiscard]] virtual double blackDepth() const = 0;
+    /// What has stepped back for it, with black around; nothing when nothing has.
+    [[nodiscard]] virtual std::optional<ShownShape> steppedBack() const = 0;
 
     /// The keyboard covers another height of the screen. Runs among the changes that the keyboard animates.
     virtual void keyboardHeightDidChange() = 0;

@@ -6,6 +6,7 @@
 #include "DesktopFont.h"
 #include "Device.h"
 #include "ObjectiveC/Class.h"
+#include "screen/Screen.h"
 #include "screen/StatusGlyphs.h"
 #include "texts/PercentText.h"
 #include "time/UnixTime.h"
@@ -110,11 +111,12 @@ void StatusBarView::refresh() {
     peer().setNeedsLayout();
 }
 
-StatusBarView::Extent StatusBarView::textExtent() const {
+CGRect StatusBarView::textFrame() const {
     const auto isPhone = peer().traits().idiom == Idiom::Phone;
-    const auto middle = isPhone ? phoneMiddle : padMiddle;
-    const auto half = (isPhone ? phoneTextSize : padTextSize) / 2;
-    return {.top = middle - half, .bottom = middle + half};
+    const auto margin = isPhone ? phoneTrailing : padMargin;
+    const auto height = isPhone ? phoneTextSize : padTextSize;
+    return CGRectMake(margin, (isPhone ? phoneMiddle : padMiddle) - height / 2,
+                      Screen::current().bounds().size.width - 2 * margin, height);
 }
 
 void StatusBarView::layoutSubviews() {

@@ -18,13 +18,8 @@ public:
     /// The time as it is shown: without a word for the half of the day.
     [[nodiscard]] std::string time() const;
 
-    /// What its texts and glyphs take of its height.
-    struct Extent {
-        double top;
-        double bottom;
-    };
-
-    [[nodiscard]] Extent textExtent() const;
+    /// What its texts and glyphs take of the screen, with what is between them.
+    [[nodiscard]] CGRect textFrame() const;
 
     // UIView:
     void layoutSubviews() override;

@@ -1,6 +1,8 @@
 #include "screen/SystemBars.h"
 
 #include "AnimationGroup.h"
+#include "CALayerPeer.h"
+#include "RectGeometry.h"
 #include "screen/Screen.h"
 #include "views/UIViewPeer.h"
 
@@ -9,16 +11,12 @@
 namespace {
 
 constexpr auto windowLevel = 1000.0;
-constexpr auto fadeDistance = 6.0; ///< within which an edge that comes near makes a bar fade
+constexpr auto fadeDistance = 6.0; ///< that the application moves up by until the home indicator is gone
 
-/// From 0 to 1 while the edge moves from there on by the distance of a fade.
-double passedBy(double edge, double start) {
-    return std::clamp((edge - start) / fadeDistance, 0.0, 1.0);
-}
-
-void show(UIView& bar, double alpha) {
-    bar.setAlpha(alpha);
-    bar.peer().setHidden(alpha <= 0);
+/// What nothing is seen of.
+ShownShape belowScreen() {
+    const auto& size = Screen::current().bounds().size;
+    return {.frame = CGRectMake(0, size.height, size.width, 0)};
 }
 
 } // namespace
@@ -35,43 +33,69 @@ SystemBars::~SystemBars() {
     Screen::current().removeWindow(*window_);
 }
 
+std::optional<ShownShape> SystemBars::seenAllOver() {
+    return ShownShape{.frame = Screen::current().bounds()};
+}
+
 void SystemBars::refresh() {
-    const auto wallpaper = wallpaperDepth_();
-    auto dark = wallpaper;
-    for (const auto* const presented : Screen::current().presentations().all())
-        dark = std::max(dark, presented->blackDepth());
-    AnimationGroup::runWithoutAnimation([&] { bars_->refresh(wallpaper, dark); });
+    const auto application = application_().value_or(belowScreen());
+    auto light = application;
+    for (const auto* const presented : Screen::current().presentations().all()) {
+        const auto steppedBack = presented->steppedBack();
+        if (steppedBack && steppedBack->frame.origin.y > light.frame.origin.y)
+            light = *steppedBack;
+    }
+    AnimationGroup::runWithoutAnimation([&] { bars_->refresh(application, light); });
 }
 
 SystemBars::BarsView::BarsView()
-    : statusBar_(make<StatusBarView>()),
+    : strip_(make<UIView>()),
+      cut_(make<UIView>()),
+      statusBar_(make<StatusBarView>()),
       whiteStatusBar_(make<StatusBarView>()),
       homeIndicator_(make<HomeIndicatorView>()) {
     setUserInteractionEnabled(false);
     setAutoresizingMask(UIViewAutoresizing::FlexibleWidth | UIViewAutoresizing::FlexibleHeight);
     whiteStatusBar_->peer().setTraitOverride([](Traits& traits) { traits.style = UserInterfaceStyle::Dark; });
     whiteStatusBar_->peer().setHidden(true);
-    addSubview(whiteStatusBar_);
-    addSubview(statusBar_);
+    cut_->layer().peer().continuousCorners = true;
+    cut_->layer().peer().roundBottom = false;
+    addSubview(strip_);
     addSubview(homeIndicator_);
+    // The application's covers the white one wherever its edge has not cut it off.
+    strip_->addSubview(whiteStatusBar_);
+    strip_->addSubview(cut_);
+    cut_->addSubview(statusBar_);
 }
 
-void SystemBars::BarsView::refresh(double wallpaperDepth, double darkDepth) {
+void SystemBars::BarsView::refresh(const ShownShape& application, const ShownShape& light) {
     statusBar_->refresh();
     whiteStatusBar_->refresh();
+    cutStatusBar(light);
+    const auto left = std::clamp(application.frame.origin.y / fadeDistance, 0.0, 1.0);
+    homeIndicator_->setAlpha(1 - left);
+    homeIndicator_->peer().setHidden(left == 1);
+}
+
+void SystemBars::BarsView::cutStatusBar(const ShownShape& light) {
+    const auto texts = statusBar_->textFrame();
     // In dark appearance the application's bar is white itself, so that no edge makes a difference.
-    const auto edge = peer().traits().style == UserInterfaceStyle::Light ? darkDepth : 0;
-    const auto [top, bottom] = statusBar_->textExtent();
-    show(*statusBar_, 1 - passedBy(edge, top - fadeDistance));
-    show(*whiteStatusBar_, passedBy(edge, bottom));
-    show(*homeIndicator_, 1 - passedBy(wallpaperDepth, 0));
+    const auto isWhole = peer().traits().style == UserInterfaceStyle::Dark || light.covers(texts);
+    const auto isSeen = isWhole || light.reaches(texts);
+    for (const auto& view : {strip_, cut_})
+        view->setClipsToBounds(isSeen && !isWhole);
+    cut_->peer().setBounds(light.frame); // so that what is in it stays where it is on the screen
+    cut_->setCenter({CGRectGetMidX(light.frame), CGRectGetMidY(light.frame)});
+    cut_->layer().setCornerRadius(light.cornerRadius);
+    statusBar_->peer().setHidden(!isSeen);
+    whiteStatusBar_->peer().setHidden(isWhole);
 }
 
 void SystemBars::BarsView::layoutSubviews() {
     UIView::layoutSubviews();
     const auto& size = bounds().size;
     const auto strip = CGRectMake(0, 0, size.width, Screen::current().safeAreaInsets().top);
-    statusBar_->setFrame(strip);
-    whiteStatusBar_->setFrame(strip);
+    for (const auto& view : std::initializer_list<Ref<UIView>>{strip_, statusBar_, whiteStatusBar_})
+        view->setFrame(strip);
     homeIndicator_->setFrame(HomeIndicatorView::frameIn(size, peer().traits().idiom == Idiom::Phone));
 }

@@ -1,10 +1,12 @@
 #pragma once
 
+#include "ShownShape.h"
 #include "screen/HomeIndicatorView.h"
 #include "screen/StatusBarView.h"
 #include "screen/UIWindow.h"
 
 #include <functional>
+#include <optional>
 
 /// The status bars and the home indicator, in a window in front of all others that takes no touches. Made by
 /// the host program, on the screen that there is; gone from it with this object.
@@ -15,12 +17,14 @@ public:
     SystemBars(const SystemBars&) = delete;
     SystemBars& operator=(const SystemBars&) = delete;
 
-    /// How far down from its upper edge the screen shows the wallpaper, in points, asked at each refresh. At
-    /// first the application is seen all over.
-    void setWallpaperDepth(std::function<double()> depth) { wallpaperDepth_ = std::move(depth); }
+    using Application = std::function<std::optional<ShownShape>()>;
+
+    /// Where the application is seen in front of the wallpaper, asked at each refresh; nothing while it is
+    /// not. At first it is seen all over.
+    void setApplication(Application application) { application_ = std::move(application); }
 
     /// Shows the device's present time, in a colour that suits what is behind it; for before each picture.
-    /// While an edge runs across the texts, which would be read on neither side of it, they are away.
+    /// Where the application's edge runs across the texts, each side of it has its own colour.
     void refresh();
 
     /// The one above an application.
@@ -37,8 +41,8 @@ private:
     public:
         BarsView();
 
-        /// How far down the wallpaper reaches, and how far all that is dark behind the bars.
-        void refresh(double wallpaperDepth, double darkDepth);
+        /// \param light where what is behind the status bar is the application's, and not black
+        void refresh(const ShownShape& application, const ShownShape& light);
 
         [[nodiscard]] StatusBarView& statusBar() const { return *statusBar_; }
 
@@ -50,12 +54,18 @@ private:
         void layoutSubviews() override;
 
     private:
+        void cutStatusBar(const ShownShape& light);
+
+        Ref<UIView> strip_; ///< of both status bars
+        Ref<UIView> cut_;   ///< has the application's one end at the application's edge
         Ref<StatusBarView> statusBar_;
         Ref<StatusBarView> whiteStatusBar_;
         Ref<HomeIndicatorView> homeIndicator_;
     };
 
+    [[nodiscard]] static std::optional<ShownShape> seenAllOver();
+
     Ref<UIWindow> window_;
     Ref<BarsView> bars_;
-    std::function<double()> wallpaperDepth_ = [] { return 0.0; };
+    Application application_ = seenAllOver;
 };

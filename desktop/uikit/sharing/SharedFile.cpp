@@ -2,6 +2,7 @@
 
 #include "Device.h"
 #include "Foundation/NSString.h"
+#include "SystemTexts.h"
 #include "files/AtomicFile.h"
 #include "files/RegularFile.h"
 
@@ -11,7 +12,6 @@
 #include <array>
 #include <cerrno>
 #include <climits>
-#include <cstring>
 
 namespace {
 
@@ -35,7 +35,7 @@ std::string SharedFile::name() const {
 }
 
 std::string SharedFile::problem(int error) const {
-    return "“" + name() + "”: " + std::strerror(error) + ".";
+    return "“" + name() + "”: " + systemTextOfError(error) + ".";
 }
 
 std::optional<std::uint64_t> SharedFile::size() const {

@@ -1,6 +1,7 @@
 #include "CreationNote.h"
 
 #include "DeviceTest.h"
+#include "Foundation/NSDictionary.h"
 #include "Foundation/NSFileManager.h"
 #include "System/FileSystemRepresentation.h"
 #include "time/UnixTime.h"
@@ -59,6 +60,17 @@ TEST_F(CreationNoteTest, WritingAgainMakesNothingNew) {
     EXPECT_NEAR(creationOf("/var/mobile"), before, aTick);
 }
 
+TEST_F(CreationNoteTest, WhatTakesAnothersPlaceIsNew) {
+    for (int time = 0; time < 2; ++time) {
+        ASSERT_TRUE(writeToFileAtomically({}, "/list.plist"));
+        EXPECT_NEAR(creationOf("/list.plist"), now(), aTick) << time;
+        device.advance(24h);
+    }
+    device.write("/outside.plist", "");
+    ASSERT_TRUE(writeToFileAtomically({}, "/outside.plist"));
+    EXPECT_NEAR(creationOf("/outside.plist"), now(), aTick);
+}
+
 TEST_F(CreationNoteTest, OfWhatIsMadeAtOneMomentTheLaterIsLater) {
     for (const auto* const path : {"/1", "/2", "/3"})
         ASSERT_TRUE(files.createFileAtPath(path, NSData()));
@@ -98,6 +110,8 @@ TEST_F(CreationNoteTest, WhatALinkLeadsToGetsNone) {
 TEST_F(CreationNoteTest, AFailureNotesNothing) {
     const CreationNote nowhere("/no/such/folder");
     nowhere.made();
+    nowhere.replaced();
+    EXPECT_FALSE(writeToFileAtomically({}, "/no/such/folder"));
     EXPECT_FALSE(files.copyItemAtPath("/missing", "/copy"));
     EXPECT_FALSE(files.fileExistsAtPath("/copy"));
 }

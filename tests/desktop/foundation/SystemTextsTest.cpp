@@ -1,8 +1,12 @@
 #include "SystemTexts.h"
 
+#include "Foundation/NSFileManager.h"
 #include "TestDevice.h"
 
 #include <gtest/gtest.h>
+
+#include <cerrno>
+#include <vector>
 
 namespace {
 
@@ -41,6 +45,37 @@ TEST(SystemTextsTest, ArgumentsTakeTheirPlaces) {
 TEST(SystemTextsTest, PathsAreReadFromTheLeftInTextsThatAreNot) {
     const TestDevice device({.locale = "ar_EG", .timeZone = "UTC"});
     EXPECT_EQ(systemText("%@ is empty.", {"/code"}), "\u2068/code\u2069 فارغ.");
+}
+
+TEST(SystemTextsTest, ErrorsOfTheHostAreToldToo) {
+    {
+        const TestDevice device({.locale = "de_DE", .timeZone = "UTC"});
+        EXPECT_EQ(systemTextOfError(EACCES), "Keine Berechtigung");
+        EXPECT_EQ(systemTextOfError(EXDEV), "Invalid cross-device link") << "which is not known";
+        EXPECT_EQ(systemTextOfError(-1), "-1");
+    }
+    const TestDevice device({.locale = "en_US", .timeZone = "UTC"});
+    EXPECT_EQ(systemTextOfError(EACCES), "Permission denied");
+}
+
+TEST(SystemTextsTest, ErrorsOfFilesThatAUserReadsAreInTheDevicesLanguageAndEnglishInTheLog) {
+    const auto failures = [](const std::string& locale) {
+        const TestDevice device({.locale = locale, .timeZone = "UTC"});
+        auto& files = NSFileManager::defaultManager();
+        device.write("/file", "");
+        return std::vector{files.removeItemAtPath("/none").error(),
+                           files.createDirectoryAtPath("/file/folder", false).error(),
+                           files.createDirectoryAtPath("/file", false).error()};
+    };
+    const auto english = failures("en_US");
+    for (const auto* const locale : {"de_DE", "ar_EG", "he_IL"}) {
+        const auto other = failures(locale);
+        for (std::size_t index = 0; index < english.size(); ++index) {
+            EXPECT_NE(other[index]->localizedDescription(), english[index]->localizedDescription()) << locale;
+            EXPECT_EQ(other[index]->description(), english[index]->description()) << locale;
+        }
+    }
+    EXPECT_EQ(failures("de_DE").front()->localizedDescription(), "„none“ konnte nicht entfernt werden.");
 }
 
 TEST(SystemTextsTest, WhatIsNotKnownStaysAsItIs) {

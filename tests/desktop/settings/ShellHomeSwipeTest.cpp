@@ -64,7 +64,7 @@ TEST_F(ShellHomeSwipeTest, TheStatusBarIsWhiteOnceTheFingerHasDrawnSettingsFromB
     };
     shell->launchSettings();
     settle();
-    drag({195, 839}, {195, 789});
+    drag({195, 839}, {195, 814});
     EXPECT_FALSE(isWhite());
     finger.touch(TouchPhase::Moved, {195, 640});
     EXPECT_TRUE(isWhite());

@@ -302,9 +302,10 @@ TEST_F(ShellTest, TheStatusBarIsWhiteUntilSettingsHasComeBeneathIt) {
     EXPECT_TRUE(isShown(white));
     EXPECT_FALSE(isShown(dark));
     advance(std::chrono::milliseconds(120));
-    EXPECT_FALSE(isShown(white));
     EXPECT_TRUE(isShown(dark));
     settle();
+    EXPECT_FALSE(isShown(white));
+    EXPECT_TRUE(isShown(dark));
     shell->goHome();
     advance(std::chrono::milliseconds(110));
     EXPECT_TRUE(isShown(white));

@@ -16,6 +16,12 @@ struct Case {
     std::string text;
 };
 
+Ref<NSError> englishError(FileOperation operation, int error, std::string_view path,
+                          std::string_view toFolder = {}) {
+    return fileError(operation, error, path, toFolder,
+                     [](std::string_view text) { return std::string(text); });
+}
+
 /// Names the case in lists of tests.
 void PrintTo(const Case& example, std::ostream* out) {
     *out << strerrorname_np(example.error);
@@ -26,7 +32,7 @@ class FileErrorsTest : public testing::TestWithParam<Case> {};
 } // namespace
 
 TEST_P(FileErrorsTest, TellsCodeTextPathAndWhatTheHostSaid) {
-    const auto error = fileError(GetParam().operation, GetParam().error, "/from/x", "/to/y");
+    const auto error = englishError(GetParam().operation, GetParam().error, "/from/x", "/to/y");
     EXPECT_EQ(error->domain(), NSCocoaErrorDomain);
     EXPECT_EQ(error->code(), GetParam().code);
     EXPECT_EQ(error->localizedDescription(), GetParam().text);
@@ -85,13 +91,21 @@ INSTANTIATE_TEST_SUITE_P(Copy, FileErrorsTest, testing::Values(
 // clang-format on
 
 TEST(FileErrors, NamesThatLookLikePlaceholdersStayAsTheyAre) {
-    EXPECT_EQ(fileError(Copy, EEXIST, "/{y}", "/{x}")->localizedDescription(),
+    EXPECT_EQ(englishError(Copy, EEXIST, "/{y}", "/{x}")->localizedDescription(),
               "“{y}” couldn’t be copied to “{x}” because an item with the same name already exists.");
+}
+
+TEST(FileErrors, TheTextForTheUserMayBeInAnotherLanguage) {
+    const auto error = fileError(CreateDirectory, EIO, "/a/b", "/c", [](std::string_view text) {
+        return text.starts_with("The file “{x}”") ? std::string("{y} hat kein {x}.") : std::string();
+    });
+    EXPECT_EQ(error->localizedDescription(), "c hat kein b.");
+    EXPECT_TRUE(error->description().contains("\"The file “b” couldn’t be saved in the folder “c”.\""));
 }
 
 TEST(FileErrors, AThingsNameIsWhatFollowsTheLastSlashOfItsPath) {
     const auto textFor = [](std::string_view path) {
-        return fileError(Remove, EBUSY, path)->localizedDescription();
+        return englishError(Remove, EBUSY, path)->localizedDescription();
     };
     EXPECT_EQ(textFor("/a/b"), "“b” couldn’t be removed.");
     EXPECT_EQ(textFor("/a/b//"), "“b” couldn’t be removed.");

@@ -121,6 +121,16 @@ TEST_F(UIDocumentPickerTest, AFileThatIsTappedIsHandedOverAsACopyOnceThePickerIs
     EXPECT_EQ(device.read(documents("ä b.tar.gz")), "content");
 }
 
+TEST_F(UIDocumentPickerTest, TheCopyIsMadeAtTheDevicesTime) {
+    device.write(documents("a.gz"), "content");
+    open();
+    press("a.gz");
+    const auto attributes = NSFileManager::defaultManager().attributesOfItemAtPath(picked());
+    ASSERT_TRUE(attributes);
+    EXPECT_NEAR(attributes->fileCreationDate.timeIntervalSinceReferenceDate,
+                device.clock().date().timeIntervalSinceReferenceDate, 60);
+}
+
 TEST_F(UIDocumentPickerTest, FoldersAreGoneIntoAndLeft) {
     device.write(documents("a/b/c.gz"), "deep");
     open();

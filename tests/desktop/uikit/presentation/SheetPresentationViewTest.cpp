@@ -169,29 +169,35 @@ TEST_F(SheetPresentationViewTest, dimsTheTintOfWhatItCovers) {
     EXPECT_EQ(tint(covered), own);
 }
 
-TEST_F(SheetPresentationViewTest, theScreenIsBlackAsFarAsThePresenterHasLeftIt) {
+TEST_F(SheetPresentationViewTest, tellsWhereThePresenterIsThatHasLeftBlackAroundIt) {
     const auto sheet = page("B");
     present(sheet, true);
-    EXPECT_EQ(top()->blackDepth(), 0);
+    const auto shape = [this] { return top()->steppedBack().value(); };
+    const auto corner = [this] {
+        return navigation->view().layer().peer().shownValue(LayerProperty::CornerRadius).front();
+    };
+    EXPECT_EQ(shape().frame, window->bounds());
     advance(milliseconds(50));
-    EXPECT_GT(top()->blackDepth(), 0);
-    EXPECT_LT(top()->blackDepth(), 47);
-    EXPECT_NEAR(top()->blackDepth(), root().origin.y, 1e-9);
+    EXPECT_GT(shape().frame.origin.y, 0);
+    EXPECT_LT(shape().frame.origin.y, 47);
+    EXPECT_EQ(shape().frame, root());
+    EXPECT_NEAR(shape().cornerRadius, corner() * root().size.width / 390, 1e-9);
     settle();
-    EXPECT_NEAR(top()->blackDepth(), 47, 1e-9);
+    EXPECT_NEAR(shape().frame.origin.y, 47, 1e-9);
+    EXPECT_NEAR(shape().cornerRadius, 10 * 370 / 390.0, 1e-9);
     drag({195, 70}, {195, 600});
-    EXPECT_NEAR(top()->blackDepth(), root().origin.y, 1e-9);
-    EXPECT_LT(top()->blackDepth(), 20);
+    EXPECT_EQ(shape().frame, root());
+    EXPECT_LT(shape().frame.origin.y, 20);
     finger.touch(TouchPhase::Cancelled, {});
     dismissBy(*sheet, true);
     EXPECT_EQ(top(), nullptr);
 }
 
-TEST_F(SheetPresentationViewTest, theBlackIsWhereTheWindowHasBeenMovedTo) {
+TEST_F(SheetPresentationViewTest, thePresenterIsWhereTheWindowHasBeenMovedTo) {
     present(page("B"), false);
     settle();
     window->peer().setTransform(AffineTransform::translation(0, 100));
-    EXPECT_NEAR(top()->blackDepth(), 147, 1e-9);
+    EXPECT_NEAR(top()->steppedBack()->frame.origin.y, 147, 1e-9);
 }
 
 TEST_F(SheetPresentationViewTest, blursNothingOfTheBlackBesideThePresenter) {
@@ -336,7 +342,7 @@ TEST_F(PadSheetTest, isACardInTheMiddleAndThePresenterStays) {
     EXPECT_EQ(root(), window->bounds());
     EXPECT_EQ(sheet->view().peer().safeAreaInsets(), UIEdgeInsets());
     EXPECT_FALSE(sheet->view().peer().traits().compactWidth);
-    EXPECT_EQ(top()->blackDepth(), 0);
+    EXPECT_FALSE(top()->steppedBack());
 }
 
 TEST_F(PadSheetTest, aFormSheetIsSmallerAndNarrow) {

@@ -3,12 +3,15 @@
 #include "CALayerPeer.h"
 #include "TestDevice.h"
 #include "UIKit/UIAlertController.h"
+#include "UIKit/UIColor.h"
+#include "screen/Compositor.h"
 #include "screen/Screen.h"
 #include "views/UILabelPeer.h"
 #include "views/UIViewPeer.h"
 
 #include <gtest/gtest.h>
 
+#include <QImage>
 #include <algorithm>
 #include <optional>
 #include <ostream>
@@ -31,29 +34,79 @@ double alphaOf(const UIView& bar) {
     return bar.peer().isHidden() ? 0 : bar.layer().peer().number(LayerProperty::Opacity);
 }
 
-/// What is seen of the bars above an application that has left so much of the screen to the wallpaper.
-struct Alphas {
-    double dark;
-    double white;
+/// Which of the bars are seen, and how much of the indicator is.
+struct Seen {
+    bool dark;
+    bool white;
     double indicator;
 
-    friend bool operator==(const Alphas&, const Alphas&) = default;
+    friend bool operator==(const Seen&, const Seen&) = default;
 };
 
-std::ostream& operator<<(std::ostream& out, const Alphas& alphas) {
-    return out << alphas.dark << ", " << alphas.white << ", " << alphas.indicator;
+std::ostream& operator<<(std::ostream& out, const Seen& seen) {
+    return out << seen.dark << ", " << seen.white << ", " << seen.indicator;
 }
 
-Alphas alphasAt(double wallpaperDepth, const Screen::Options& options = {}) {
+Seen seenAbove(const std::optional<ShownShape>& application, const Screen::Options& options = {}) {
     const TestDevice device;
     const Screen screen{options};
     SystemBars bars;
-    bars.setWallpaperDepth([wallpaperDepth] { return wallpaperDepth; });
+    bars.setApplication([application] { return application; });
     bars.refresh();
-    return {.dark = alphaOf(bars.statusBar()),
-            .white = alphaOf(bars.whiteStatusBar()),
+    return {.dark = !bars.statusBar().peer().isHidden(),
+            .white = !bars.whiteStatusBar().peer().isHidden(),
             .indicator = alphaOf(bars.homeIndicator())};
 }
+
+/// Of an application that the wallpaper is seen so far down above.
+ShownShape below(double depth, double width = Screen::phoneSize.width) {
+    return {.frame = CGRectMake(0, depth, width, 1000)};
+}
+
+/// The darkest and the brightest grey among pixels.
+struct Greys {
+    int darkest = 255;
+    int brightest = 0;
+};
+
+Greys greysIn(const QImage& picture, const QRect& rect) {
+    Greys greys;
+    for (auto y = rect.top(); y <= rect.bottom(); ++y) {
+        for (auto x = rect.left(); x <= rect.right(); ++x) {
+            const auto grey = qGray(picture.pixel(x, y));
+            greys = {.darkest = std::min(greys.darkest, grey), .brightest = std::max(greys.brightest, grey)};
+        }
+    }
+    return greys;
+}
+
+/// A screen at one pixel a point that shows a white application in front of black, with the bars.
+class EdgePicture {
+public:
+    explicit EdgePicture(const ShownShape& application) {
+        const auto window = make<UIWindow>();
+        window->setFrame(screen_.bounds());
+        window->setBackgroundColor(UIColor::blackColor());
+        const auto view = makeWith<UIView>(&UIView::initWithFrame, application.frame);
+        view->setBackgroundColor(UIColor::whiteColor());
+        view->layer().setCornerRadius(application.cornerRadius);
+        view->layer().peer().continuousCorners = true;
+        window->addSubview(view);
+        screen_.addWindow(window);
+        bars_.setApplication([application] { return application; });
+        bars_.refresh();
+    }
+
+    [[nodiscard]] Greys greys(const QRect& rect) { return greysIn(compositor_.render(), rect); }
+
+    [[nodiscard]] int grey(int x, int y) { return qGray(compositor_.render().pixel(x, y)); }
+
+private:
+    TestDevice device_;
+    Screen screen_{{.scale = 1}};
+    SystemBars bars_;
+    Compositor compositor_{screen_};
+};
 
 } // namespace
 
@@ -130,8 +183,8 @@ TEST(SystemBarsTest, areWhiteWhileASheetLeavesBlackBehindThem) {
     const auto isWhite = [&bars] {
         bars.refresh();
         EXPECT_EQ(alphaOf(bars.homeIndicator()), 1);
-        EXPECT_EQ(alphaOf(bars.statusBar()) + alphaOf(bars.whiteStatusBar()), 1);
-        return alphaOf(bars.whiteStatusBar()) == 1;
+        EXPECT_NE(bars.statusBar().peer().isHidden(), bars.whiteStatusBar().peer().isHidden());
+        return bars.statusBar().peer().isHidden();
     };
     root->presentViewController(
         UIAlertController::alertControllerWithTitle("A", {}, UIAlertControllerStyle::Alert), false, {});
@@ -154,8 +207,8 @@ TEST(SystemBarsTest, areGoneFromTheScreenAtTheirEnd) {
 }
 
 TEST(SystemBarsTest, areWhiteAndWithoutAnIndicatorAboveTheWallpaper) {
-    EXPECT_EQ(alphasAt(0), (Alphas{.dark = 1, .white = 0, .indicator = 1}));
-    EXPECT_EQ(alphasAt(844), (Alphas{.dark = 0, .white = 1, .indicator = 0}));
+    EXPECT_EQ(seenAbove(below(0)), (Seen{.dark = true, .white = false, .indicator = 1}));
+    EXPECT_EQ(seenAbove(std::nullopt), (Seen{.dark = false, .white = true, .indicator = 0}));
     const TestDevice device;
     const Screen screen{Screen::Options{}};
     const SystemBars bars;
@@ -164,33 +217,89 @@ TEST(SystemBarsTest, areWhiteAndWithoutAnIndicatorAboveTheWallpaper) {
     EXPECT_TRUE(bars.whiteStatusBar().peer().isHidden());
 }
 
-TEST(SystemBarsTest, haveNoTextsThatAnEdgeRunsAcross) {
-    EXPECT_EQ(alphasAt(12).dark, 1) << "the edge is above them";
-    EXPECT_NEAR(alphasAt(15).dark, 0.5, 1e-9);
-    for (const auto edge : {18.0, 26.0, 34.0}) {
-        EXPECT_EQ(alphasAt(edge).dark, 0) << edge;
-        EXPECT_EQ(alphasAt(edge).white, 0) << edge;
-    }
-    EXPECT_NEAR(alphasAt(37).white, 0.5, 1e-9);
-    EXPECT_EQ(alphasAt(40).white, 1) << "the edge is below them";
+TEST(SystemBarsTest, areBothSeenWhileAnEdgeRunsAcrossTheirTexts) {
+    const auto both = [](const ShownShape& application) {
+        const auto seen = seenAbove(application);
+        EXPECT_TRUE(seen.dark || seen.white);
+        return seen.dark && seen.white;
+    };
+    EXPECT_FALSE(both(below(18))) << "the edge is above them";
+    EXPECT_TRUE(both(below(18.5)));
+    EXPECT_TRUE(both(below(33.5)));
+    EXPECT_FALSE(both(below(34))) << "the edge is below them";
+    EXPECT_TRUE(both({.frame = CGRectMake(28, 0, 390, 844)})) << "or beside them";
+    EXPECT_TRUE(both({.frame = CGRectMake(0, 0, 362, 844)}));
+    EXPECT_TRUE(both({.frame = CGRectMake(0, 17, 390, 844), .cornerRadius = 47}));
+    EXPECT_FALSE(both({.frame = CGRectMake(0, 0, 390, 844), .cornerRadius = 47}))
+        << "they are within the glass";
 }
 
-TEST(SystemBarsTest, ofATabletAreLowerAndGiveWaySooner) {
+TEST(SystemBarsTest, ofATabletAreHigherUpAndWider) {
     const Screen::Options pad{.idiom = Idiom::Pad, .scale = 2};
-    EXPECT_EQ(alphasAt(0, pad).dark, 1);
-    EXPECT_EQ(alphasAt(6, pad).dark, 0);
-    EXPECT_EQ(alphasAt(18, pad).white, 0);
-    EXPECT_EQ(alphasAt(24, pad).white, 1);
+    const auto width = Screen::padSize.width;
+    EXPECT_EQ(seenAbove(below(6, width), pad).white, false);
+    EXPECT_EQ(seenAbove(below(6.5, width), pad).white, true);
+    EXPECT_EQ(seenAbove(below(17.5, width), pad).dark, true);
+    EXPECT_EQ(seenAbove(below(18, width), pad).dark, false);
+    EXPECT_EQ(seenAbove(below(0, 800), pad).white, false);
+    EXPECT_EQ(seenAbove(below(0, 799), pad).white, true);
+}
+
+TEST(SystemBarsTest, areReadOnBothSidesOfAnEdge) {
+    EdgePicture picture(below(26));
+    const auto upper = picture.greys({40, 18, 35, 8});
+    const auto lower = picture.greys({40, 26, 35, 8});
+    EXPECT_EQ(upper.darkest, 0);
+    EXPECT_GT(upper.brightest, 200);
+    EXPECT_EQ(lower.brightest, 255);
+    EXPECT_LT(lower.darkest, 55);
+    for (auto x = 343; x < 355; ++x) { // which the battery fills
+        EXPECT_EQ(picture.grey(x, 25), 255) << x;
+        EXPECT_EQ(picture.grey(x, 26), 0) << x;
+    }
+}
+
+TEST(SystemBarsTest, areCutAlongTheBendOfACornerAndNowhereElse) {
+    EdgePicture picture({.frame = CGRectMake(0, 17, 364, 834), .cornerRadius = 30});
+    // From the outer side of the corner that bends across the battery to the inner one.
+    EXPECT_EQ(picture.grey(355, 23), 255);
+    EXPECT_EQ(picture.grey(345, 28), 0);
+    const auto time = picture.greys({40, 18, 35, 16});
+    EXPECT_LT(time.darkest, 55) << "which is far from the corner";
 }
 
 TEST(SystemBarsTest, areWhiteAllTheWayInDarkAppearance) {
-    for (const auto edge : {0.0, 26.0, 844.0})
-        EXPECT_EQ(alphasAt(edge, {.style = UserInterfaceStyle::Dark}).dark, 1) << edge;
+    const Seen one{.dark = true, .white = false, .indicator = 1};
+    const Screen::Options dark{.style = UserInterfaceStyle::Dark};
+    EXPECT_EQ(seenAbove(below(0), dark), one);
+    EXPECT_TRUE(seenAbove(below(26), dark).dark);
+    EXPECT_FALSE(seenAbove(below(26), dark).white);
+    EXPECT_TRUE(seenAbove(std::nullopt, dark).dark);
+}
+
+TEST(SystemBarsTest, areWholeAgainOnceTheEdgeHasGone) {
+    const TestDevice device;
+    Screen screen{{.scale = 1}};
+    auto application = below(26);
+    SystemBars bars;
+    bars.setApplication([&application] { return application; });
+    bars.refresh();
+    application = below(0);
+    bars.refresh();
+    Compositor compositor(screen);
+    const auto window = make<UIWindow>();
+    window->setFrame(screen.bounds());
+    window->setBackgroundColor(UIColor::whiteColor());
+    screen.addWindow(window);
+    const auto& picture = compositor.render();
+    EXPECT_EQ(screenFrame(bars.statusBar()), CGRectMake(0, 0, 390, 47));
+    EXPECT_LT(greysIn(picture, {40, 18, 35, 7}).darkest, 55);
+    EXPECT_LT(greysIn(picture, {40, 26, 35, 7}).darkest, 55);
 }
 
 TEST(SystemBarsTest, theIndicatorLeavesBeforeItStandsOnTheWallpaper) {
-    EXPECT_NEAR(alphasAt(3).indicator, 0.5, 1e-9);
-    EXPECT_EQ(alphasAt(6).indicator, 0);
+    EXPECT_NEAR(seenAbove(below(3)).indicator, 0.5, 1e-9);
+    EXPECT_EQ(seenAbove(below(6)).indicator, 0);
 }
 
 TEST(SystemBarsTest, bothShowTheTimeInTheSamePlace) {
