@@ -30,7 +30,7 @@ public:
 private:
     struct Piece {
         QRect pixels;
-        std::size_t step;
+        std::size_t step = 0;
     };
 
     std::vector<Step> steps_;

@@ -64,6 +64,9 @@ constexpr std::array badges{
     Badge{"gear.badge.xmark", "gear", "xmark", 250, 36, {360, 360}},
 };
 
+/// Chevrons of back buttons and of rows that lead on, in either direction of reading.
+constexpr std::array<std::string_view, 2> usuallyHeavy{"chevron.left", "chevron.right"};
+
 QPainterPath disc(QPointF center, double radius) {
     QPainterPath path;
     path.addEllipse(center, radius, radius);
@@ -115,9 +118,13 @@ std::optional<SymbolOutline> SymbolLibrary::symbol(std::string_view name) {
 bool SymbolLibrary::prepare() {
     const auto* const badge =
         std::ranges::find_if(badges, [this](const Badge& made) { return !known_.contains(made.name); });
-    if (badge == badges.end())
+    if (badge != badges.end()) {
+        static_cast<void>(symbol(badge->name));
+        return true;
+    }
+    if (preparedHeavy_ == usuallyHeavy.size())
         return false;
-    static_cast<void>(symbol(badge->name));
+    symbol(usuallyHeavy[preparedHeavy_++])->prepare(SymbolWeight::Semibold);
     return true;
 }
 
