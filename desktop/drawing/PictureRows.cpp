@@ -1,5 +1,6 @@
 #include "PictureRows.h"
 
+#include "PicturePool.h"
 #include "PixelRows.h"
 
 #include <utility>
@@ -14,24 +15,31 @@ std::span<const std::uint8_t> PictureRows::row(int y, int left, int width) {
     const QRect pixels(left, y, width, 1);
     if (made_ == nullptr || !made_->region.intersects(pixels))
         return {picture_->constScanLine(y) + static_cast<std::size_t>(left) * PixelRows::pixelSize, bytes};
-    const auto& band = bandWith(pixels);
-    const auto offset = static_cast<std::size_t>(left - band.place.left()) * PixelRows::pixelSize;
-    return {band.rows.constScanLine(y - band.place.top()) + offset, bytes};
+    return {bands_.rows.constScanLine(madeRowOf(pixels)), bytes};
 }
 
-const PictureRows::Band& PictureRows::bandWith(const QRect& pixels) {
-    const auto other = bands_.size() - 1 - recent_;
-    if (!bands_[recent_].place.contains(pixels)) {
-        if (!bands_[other].place.contains(pixels))
-            make(bands_[other], pixels);
-        recent_ = other;
+int PictureRows::madeRowOf(const QRect& pixels) {
+    auto& [rows, places, recent] = bands_;
+    const auto has = [&](std::size_t band) {
+        return places[band].contains(pixels) && places[band].width() == pixels.width();
+    };
+    const auto other = places.size() - 1 - recent;
+    if (!has(recent)) {
+        if (!has(other))
+            make(other, pixels);
+        recent = other;
     }
-    return bands_[recent_];
+    return static_cast<int>(recent) * PixelWork::rowsAtOnce + pixels.top() - places[recent].top();
 }
 
-void PictureRows::make(Band& band, const QRect& pixels) const {
-    band.place = {pixels.left(), pixels.top(), pixels.width(), PixelWork::rowsAtOnce};
-    if (band.rows.size() != band.place.size())
-        band.rows = QImage(band.place.size(), QImage::Format_ARGB32_Premultiplied);
-    made_->work.doWithin(band.place, band.rows);
+void PictureRows::make(std::size_t band, const QRect& pixels) {
+    auto& [rows, places, recent] = bands_;
+    if (rows.width() != pixels.width()) {
+        rows = PicturePool::shared().make({pixels.width(), 2 * PixelWork::rowsAtOnce});
+        places = {};
+    }
+    places[band] = {pixels.left(), pixels.top(), pixels.width(), PixelWork::rowsAtOnce};
+    QImage part(rows.scanLine(static_cast<int>(band) * PixelWork::rowsAtOnce), pixels.width(),
+                PixelWork::rowsAtOnce, rows.bytesPerLine(), rows.format());
+    made_->work.doWithin(places[band], part);
 }

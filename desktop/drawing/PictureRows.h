@@ -24,7 +24,7 @@ public:
 
     [[nodiscard]] QSize size() const { return size_; }
 
-    /// Some pixels of a row. Those of one row stay valid while those of the next one are asked for.
+    /// Some pixels of a row. Those of one row stay valid while the same ones of the next are asked for.
     /// \pre the row is there, or made of the pixels
     [[nodiscard]] std::span<const std::uint8_t> row(int y, int left, int width);
 
@@ -34,18 +34,19 @@ private:
         PixelWork work;
     };
 
-    /// Some that were made, since a few at once are made faster.
-    struct Band {
+    /// Two stretches of rows that were made, one above the other; a few rows at once are made faster.
+    struct Bands {
         QImage rows;
-        QRect place;
+        std::array<QRect, 2> places;
+        std::size_t recent = 0; ///< that with the last row that was asked for
     };
 
-    [[nodiscard]] const Band& bandWith(const QRect& pixels);
-    void make(Band& band, const QRect& pixels) const;
+    /// \returns the number of the row of the bands that has the pixels
+    [[nodiscard]] int madeRowOf(const QRect& pixels);
+    void make(std::size_t band, const QRect& pixels);
 
     const QImage* picture_;
     QSize size_;
     std::shared_ptr<const Made> made_; ///< null for none
-    std::array<Band, 2> bands_;        ///< the last ones
-    std::size_t recent_ = 0;           ///< of them, that with the last row that was asked for
+    Bands bands_;
 };

@@ -14,10 +14,12 @@ void PixelWork::add(const QRegion& region, Step step) {
 
 void PixelWork::finish(QImage& picture) {
     for (auto top = bounds_.top(); top <= bounds_.bottom(); top += rowsAtOnce) {
-        const QRect band(bounds_.left(), top, bounds_.width(), rowsAtOnce);
         for (const auto& piece : pieces_) {
-            if (const auto pixels = piece.pixels & band; !pixels.isEmpty())
-                steps_[piece.step](picture, pixels, {});
+            const auto first = std::max(top, piece.pixels.top());
+            const auto last = std::min(top + rowsAtOnce - 1, piece.pixels.bottom());
+            if (first <= last)
+                steps_[piece.step](picture,
+                                   {piece.pixels.left(), first, piece.pixels.width(), last - first + 1}, {});
         }
     }
     *this = {};

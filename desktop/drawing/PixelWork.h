@@ -12,7 +12,7 @@
 class PixelWork {
 public:
     /// So many rows of a large picture are in the cache, with what they are made of.
-    static constexpr int rowsAtOnce = 16;
+    static constexpr int rowsAtOnce = 32;
 
     /// Works on some pixels alone. \param target with all of them \param corner of the target; the pixels
     /// are told as they lie in the whole picture

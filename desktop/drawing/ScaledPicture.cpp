@@ -57,13 +57,15 @@ void ScaledPicture::copyTo(QImage& target, const QRect& pixels, QPoint corner) {
     const auto needed = static_cast<std::size_t>(columns_.neededCount) * PixelRows::pixelSize;
     const auto left = static_cast<std::size_t>(pixels.left() - corner.x()) * PixelRows::pixelSize;
     const std::span mixed(mixed_);
+    auto* row = target.scanLine(pixels.top() - corner.y()) + left;
     for (int y = pixels.top(); y <= pixels.bottom(); ++y) {
         const Between rows((y + 0.5 - place_.top()) * perPixel, size_.height());
         const auto next = std::min(rows.first + 1, size_.height() - 1);
         const auto first = picture_.row(rows.first, columns_.firstNeeded, columns_.neededCount);
         const auto second = picture_.row(next, columns_.firstNeeded, columns_.neededCount);
         PixelRows::mix(first, second, rows.share, mixed.first(needed));
-        const std::span out(target.scanLine(y - corner.y()) + left, columns_.shares.size());
+        const std::span out(row, columns_.shares.size());
+        row += target.bytesPerLine();
         for (const auto& run : columns_.runs)
             PixelRows::mixWithNext(mixed.subspan(run.from, run.size + PixelRows::pixelSize),
                                    std::span(columns_.shares).subspan(run.to, run.size),

@@ -117,10 +117,9 @@ QRect needsPainter(const PaintItem& item) {
     const auto& look = item.look;
     if (item.isGroup() && !isPictureOnly(item) && !item.isBackgroundOnly)
         return item.wholeExtent;
-    const auto isPlainBackground = look.background.alpha == 0 || look.fillsWholePixels();
     const auto isPlainPicture = item.inner == nullptr || !item.isInnerScaled();
-    const auto isPlain = isPlainBackground && isPlainPicture && item.delegate == nullptr &&
-                         !item.hasSoftMask() && !look.backdrop && !look.castsShadow() &&
+    const auto isPlain = isPlainPicture && item.delegate == nullptr && !item.hasSoftMask() &&
+                         !look.backdrop && !look.castsShadow() &&
                          (look.borderWidth == 0 || look.borderColor.alpha == 0);
     return isPlain ? QRect() : item.extent;
 }

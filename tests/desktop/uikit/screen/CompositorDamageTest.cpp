@@ -238,6 +238,7 @@ TEST(CompositorDamage, NoPictureIsMadeOfWhatMovesWhereItIsPaintedSmaller) {
     card->layer().peer().keepsPicture = true;
     const auto page = ShownScreen::add(*card, CGRectMake(0, 0, 400, 400), red);
     page->layer().peer().keepsPicture = true;
+    ShownScreen::put(*card, CGRectMake(0.4, 0.3, 300, 300), {.red = 0, .alpha = 0.2});
     card->peer().setTransform(AffineTransform::scale(0.9));
     const auto usedBytes = [&] {
         const auto& pool = PicturePool::shared();
