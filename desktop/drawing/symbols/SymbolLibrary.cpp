@@ -122,10 +122,13 @@ bool SymbolLibrary::prepare() {
         static_cast<void>(symbol(badge->name));
         return true;
     }
-    if (preparedHeavy_ == usuallyHeavy.size())
-        return false;
-    symbol(usuallyHeavy[preparedHeavy_++])->prepare(SymbolWeight::Semibold);
-    return true;
+    for (const auto name : usuallyHeavy) {
+        if (const auto known = symbol(name); known && !known->isMade(SymbolWeight::Semibold)) {
+            known->prepare(SymbolWeight::Semibold);
+            return true;
+        }
+    }
+    return false;
 }
 
 std::optional<SymbolOutline> SymbolLibrary::make(std::string_view name) const {

@@ -3,7 +3,6 @@
 #include "symbols/SymbolFont.h"
 #include "symbols/SymbolOutline.h"
 
-#include <cstddef>
 #include <map>
 #include <optional>
 #include <string>
@@ -33,5 +32,4 @@ private:
 
     SymbolFont font_;
     std::map<std::string, std::optional<SymbolOutline>, std::less<>> known_;
-    std::size_t preparedHeavy_ = 0;
 };

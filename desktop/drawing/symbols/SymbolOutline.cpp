@@ -32,10 +32,14 @@ QPainterPath SymbolOutline::path(double pointSize, SymbolWeight weight) const {
     return toBox.map(units);
 }
 
+bool SymbolOutline::isMade(SymbolWeight weight) const {
+    return weight == SymbolWeight::Regular || !outlines_->semibold.isEmpty();
+}
+
 const QPainterPath& SymbolOutline::outline(SymbolWeight weight) const {
     if (weight == SymbolWeight::Regular)
         return outlines_->regular;
-    if (outlines_->semibold.isEmpty())
+    if (!isMade(weight))
         outlines_->semibold = outlines_->makeSemibold();
     return outlines_->semibold;
 }

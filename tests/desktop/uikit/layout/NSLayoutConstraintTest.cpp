@@ -9,6 +9,22 @@
 using NSLayoutConstraintTest = LayoutFixture;
 using enum LayoutAttribute;
 
+namespace {
+
+/// Counts how often it is laid out.
+class CountingHost final : public UIView {
+public:
+    // UIView:
+    void layoutSubviews() override {
+        UIView::layoutSubviews();
+        ++layouts;
+    }
+
+    int layouts = 0;
+};
+
+} // namespace
+
 TEST_F(NSLayoutConstraintTest, FourEdgesPlaceAView) {
     const auto view = add();
     fill(*view, 12);
@@ -214,18 +230,6 @@ TEST_F(NSLayoutConstraintTest, ALabelOfSeveralLinesIsAsHighAsItsWidthMakesIt) {
     EXPECT_EQ(label->frame().size.height, label->peer().sizeThatFits({120, 1e6}).height);
     EXPECT_GT(label->frame().size.height, wide.height);
 }
-
-/// Counts how often it is laid out.
-class CountingHost final : public UIView {
-public:
-    // UIView:
-    void layoutSubviews() override {
-        UIView::layoutSubviews();
-        ++layouts;
-    }
-
-    int layouts = 0;
-};
 
 TEST_F(NSLayoutConstraintTest, AHostOfTextsThatAreWrappedIsLaidOutOnce) {
     const auto counting = make<CountingHost>();
