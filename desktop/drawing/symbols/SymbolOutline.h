@@ -24,6 +24,7 @@ public:
 
     /// Whether the outline of a weight has been asked for before, or need not be made.
     [[nodiscard]] bool isMade(SymbolWeight weight) const;
+
     /// Has it made.
     void prepare(SymbolWeight weight) const { static_cast<void>(outline(weight)); }
 
