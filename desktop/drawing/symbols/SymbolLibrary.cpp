@@ -122,13 +122,10 @@ bool SymbolLibrary::prepare() {
         static_cast<void>(symbol(badge->name));
         return true;
     }
-    for (const auto name : usuallyHeavy) {
-        if (const auto known = symbol(name); known && !known->isMade(SymbolWeight::Semibold)) {
-            known->prepare(SymbolWeight::Semibold);
-            return true;
-        }
-    }
-    return false;
+    return std::ranges::any_of(usuallyHeavy, [this](std::string_view name) {
+        const auto known = symbol(name);
+        return known && known->prepare(SymbolWeight::Semibold);
+    });
 }
 
 std::optional<SymbolOutline> SymbolLibrary::make(std::string_view name) const {

@@ -22,11 +22,8 @@ public:
     /// The outline in points within a box of `size` whose upper left corner is the origin; fill it.
     [[nodiscard]] QPainterPath path(double pointSize, SymbolWeight weight = SymbolWeight::Regular) const;
 
-    /// Whether the outline of a weight has been asked for before, or need not be made.
-    [[nodiscard]] bool isMade(SymbolWeight weight) const;
-
-    /// Has it made.
-    void prepare(SymbolWeight weight) const { static_cast<void>(outline(weight)); }
+    /// Has the outline of a weight made. \returns whether it was not there
+    [[nodiscard]] bool prepare(SymbolWeight weight) const;
 
 private:
     [[nodiscard]] const QPainterPath& outline(SymbolWeight weight) const;

@@ -230,7 +230,7 @@ TEST(SymbolLibraryTest, PreparesNothingThatIsKnown) {
     SymbolLibrary library;
     EXPECT_TRUE(library.symbol("gear.badge"));
     EXPECT_TRUE(library.symbol("gear.badge.xmark"));
-    library.symbol("chevron.left")->prepare(SymbolWeight::Semibold);
+    EXPECT_TRUE(library.symbol("chevron.left")->prepare(SymbolWeight::Semibold));
     EXPECT_EQ(preparationsOf(library), 1 + 1);
     EXPECT_EQ(library.symbol("gear.badge.checkmark")->path(100), pathOf("gear.badge.checkmark"));
 }

@@ -56,10 +56,10 @@ TEST(SymbolOutlineTest, ThePreparedOutlineIsTheOneThatIsAskedFor) {
         ++made;
         return rectangle(0, 0, 600, 300);
     });
-    EXPECT_TRUE(outline.isMade(SymbolWeight::Regular));
-    EXPECT_FALSE(outline.isMade(SymbolWeight::Semibold));
-    outline.prepare(SymbolWeight::Semibold);
-    EXPECT_TRUE(outline.isMade(SymbolWeight::Semibold));
+    EXPECT_FALSE(outline.prepare(SymbolWeight::Regular));
+    EXPECT_EQ(made, 0);
+    EXPECT_TRUE(outline.prepare(SymbolWeight::Semibold));
+    EXPECT_FALSE(outline.prepare(SymbolWeight::Semibold));
     EXPECT_EQ(made, 1);
     EXPECT_DOUBLE_EQ(outline.path(10, SymbolWeight::Semibold).boundingRect().width(), 6);
     EXPECT_EQ(made, 1);
