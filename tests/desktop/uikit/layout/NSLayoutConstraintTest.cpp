@@ -248,6 +248,7 @@ TEST_F(NSLayoutConstraintTest, AHostOfTextsThatAreWrappedIsLaidOutOnce) {
     const auto first = label->frame();
     EXPECT_EQ(first.size.height, label->peer().sizeThatFits({first.size.width, 1e6}).height);
     EXPECT_LT(first.size.width, 100);
+    EXPECT_FALSE(label->peer().takeLayoutWidth(*label->peer().intrinsicWidth())) << "it has that already";
     counting->peer().layoutIfNeeded();
     EXPECT_EQ(counting->layouts, 1);
     counting->peer().setNeedsLayout();
