@@ -217,6 +217,7 @@ TEST(CompositorDamage, PagesThatMoveInAPictureThatIsPaintedSmallerAreAsInAWholeP
     const auto above = ShownScreen::add(*card, CGRectMake(0, 0, 120, 160), red);
     const auto bar = ShownScreen::add(*card, CGRectMake(10, 20, 70, 25), blue);
     bar->layer().setCornerRadius(7);
+    bar->layer().setBorderWidth(2);
     for (const auto& page : {beneath, above}) {
         page->layer().peer().keepsPicture = true;
         ShownScreen::put(*page, CGRectMake(11, 60, 77, 33), blue);
