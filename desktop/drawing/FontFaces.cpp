@@ -51,6 +51,15 @@ double trackingOf(const FontStyle& style) {
     return std::lerp(below.*points, above->*points, (style.size - below.size) / (above->size - below.size));
 }
 
+constexpr double textSize = 17; // of any text below the display size
+
+constexpr std::array oneOfEachFace{
+    FontStyle{textSize, FontWeight::Regular},  FontStyle{FontFaces::displaySize, FontWeight::Regular},
+    FontStyle{textSize, FontWeight::Light},    FontStyle{FontFaces::displaySize, FontWeight::Light},
+    FontStyle{textSize, FontWeight::Medium},   FontStyle{FontFaces::displaySize, FontWeight::Medium},
+    FontStyle{textSize, FontWeight::Semibold}, FontStyle{FontFaces::displaySize, FontWeight::Semibold},
+    FontStyle{textSize, FontWeight::Bold},     FontStyle{FontFaces::displaySize, FontWeight::Bold}};
+
 bool isDisplay(const FontStyle& style) {
     return style.size >= FontFaces::displaySize;
 }
@@ -67,6 +76,10 @@ std::expected<void, std::string> FontFaces::check(const QStringList& families) {
         return {};
     return std::unexpected("the font families that texts are set in are not installed: " +
                            missing.join(", ").toStdString());
+}
+
+std::span<const FontStyle> FontFaces::styles() {
+    return oneOfEachFace;
 }
 
 QFont FontFaces::font(const FontStyle& style) {

@@ -6,6 +6,7 @@
 #include <QFontDatabase>
 #include <QStringList>
 #include <expected>
+#include <span>
 #include <string>
 
 /// The faces that stand in for the platform's own: Inter for text, Inter Display for what is larger, and
@@ -19,6 +20,9 @@ public:
     /// \returns or a message for the user that names the missing families and the packages that have them
     [[nodiscard]] static std::expected<void, std::string>
     check(const QStringList& families = QFontDatabase::families());
+
+    /// One style of each face for texts in Latin letters.
+    [[nodiscard]] static std::span<const FontStyle> styles();
 
     /// The font of a style. Qt has fonts of whole pixels only, so this one has a fixed size, and `unit` says
     /// what its pixels stand for.

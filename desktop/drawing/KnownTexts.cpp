@@ -1,5 +1,7 @@
 #include "KnownTexts.h"
 
+#include "FontFaces.h"
+
 #include <QCoreApplication>
 #include <functional>
 #include <utility>
@@ -28,6 +30,15 @@ std::shared_ptr<const TextLines> KnownTexts::lines(std::string_view text, const 
     return made;
 }
 
+bool KnownTexts::prepare() {
+    constexpr auto letters = "abcdefghijklmnopqrstuvwxyz ABCDEFGHIJKLMNOPQRSTUVWXYZ 0123456789 .,:;!?";
+    const auto styles = FontFaces::styles();
+    if (preparedFaces_ == styles.size())
+        return false;
+    static_cast<void>(lines(letters, styles[preparedFaces_++], {}));
+    return true;
+}
+
 std::shared_ptr<const TextLines> KnownTexts::find(const Key& key) {
     const auto place = places_.find(key);
     if (place == places_.end())
@@ -50,6 +61,7 @@ void KnownTexts::keep(Key key, std::shared_ptr<const TextLines> lines) {
 void KnownTexts::clear() {
     places_.clear();
     known_.clear();
+    preparedFaces_ = 0;
 }
 
 std::size_t KnownTexts::Hash::operator()(const Key& key) const {

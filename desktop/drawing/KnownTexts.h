@@ -24,6 +24,10 @@ public:
     [[nodiscard]] std::shared_ptr<const TextLines> lines(std::string_view text, const FontStyle& style,
                                                          const TextLines::Room& room);
 
+    /// Has the letters of one face shaped, which loads it, unless those of all faces have been. \returns
+    /// whether there was one
+    bool prepare();
+
     /// How often lines had to be made.
     [[nodiscard]] std::size_t madeCount() const { return madeCount_; }
 
@@ -55,4 +59,5 @@ private:
     std::list<Known> known_; ///< the last used first
     std::unordered_map<Key, std::list<Known>::iterator, Hash> places_;
     std::size_t madeCount_ = 0;
+    std::size_t preparedFaces_ = 0;
 };

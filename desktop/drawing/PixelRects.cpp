@@ -17,8 +17,35 @@ std::size_t bytesOf(int pixels) {
     return static_cast<std::size_t>(pixels) * PixelRows::pixelSize;
 }
 
-std::span<const uchar> pixelsOf(const QImage& picture, int left, int y, int count) {
-    return {picture.constScanLine(y) + bytesOf(left), bytesOf(count)};
+/// The pixels of a rectangle, row by row, from its first. Qt looks at each row that it is asked for whether
+/// the picture is shared, which takes as long as a short row.
+template <class Byte>
+class RowsOf {
+public:
+    RowsOf(Byte* first, qsizetype bytesPerLine, int width)
+        : row_(first),
+          bytesPerLine_(bytesPerLine),
+          size_(bytesOf(width)) {}
+
+    std::span<Byte> next() {
+        const std::span row(row_, size_);
+        row_ += bytesPerLine_;
+        return row;
+    }
+
+private:
+    Byte* row_;
+    qsizetype bytesPerLine_;
+    std::size_t size_;
+};
+
+RowsOf<uchar> rowsIn(QImage& picture, const QRect& rect) {
+    return {picture.scanLine(rect.top()) + bytesOf(rect.left()), picture.bytesPerLine(), rect.width()};
+}
+
+RowsOf<const uchar> rowsIn(const QImage& picture, const QRect& rect, QPoint corner) {
+    return {picture.constScanLine(rect.top() - corner.y()) + bytesOf(rect.left() - corner.x()),
+            picture.bytesPerLine(), rect.width()};
 }
 
 QRgb premultiplied(const QColor& color) {
@@ -30,10 +57,9 @@ QRgb premultiplied(const QColor& color) {
 void PixelRects::fill(QImage& picture, const QRegion& region, const QColor& color) {
     const auto pixel = premultiplied(color);
     for (const auto& rect : region) {
-        for (int y = rect.top(); y <= rect.bottom(); ++y) {
-            auto* const row = reinterpret_cast<QRgb*>(picture.scanLine(y)) + rect.left();
-            std::fill_n(row, rect.width(), pixel);
-        }
+        auto rows = rowsIn(picture, rect);
+        for (int y = rect.top(); y <= rect.bottom(); ++y)
+            std::fill_n(reinterpret_cast<QRgb*>(rows.next().data()), rect.width(), pixel);
     }
 }
 
@@ -48,19 +74,18 @@ void PixelRects::paintOver(QImage& picture, const QRegion& region, const QColor&
     const auto* const bytes = reinterpret_cast<const uchar*>(pixels.data());
     const auto rest = static_cast<std::uint8_t>(opaque - color.alpha());
     for (const auto& rect : region) {
-        const auto size = bytesOf(rect.width());
+        auto rows = rowsIn(picture, rect);
         for (int y = rect.top(); y <= rect.bottom(); ++y)
-            PixelRows::paintColorOver({picture.scanLine(y) + bytesOf(rect.left()), size}, {bytes, size},
-                                      rest);
+            PixelRows::paintColorOver(rows.next(), {bytes, bytesOf(rect.width())}, rest);
     }
 }
 
 void PixelRects::copy(const QImage& from, QImage& picture, const QRegion& region, QPoint corner) {
     for (const auto& rect : region) {
+        auto rows = rowsIn(picture, rect);
+        auto others = rowsIn(from, rect, corner);
         for (int y = rect.top(); y <= rect.bottom(); ++y)
-            std::memcpy(picture.scanLine(y) + bytesOf(rect.left()),
-                        from.constScanLine(y - corner.y()) + bytesOf(rect.left() - corner.x()),
-                        bytesOf(rect.width()));
+            std::memcpy(rows.next().data(), others.next().data(), bytesOf(rect.width()));
     }
 }
 
@@ -68,19 +93,20 @@ void PixelRects::paintOver(QImage& picture, const QRegion& region, const QImage&
                            double opacity) {
     const auto share = static_cast<std::uint8_t>(std::lround(opacity * opaque));
     for (const auto& rect : region& over.rect().translated(corner)) {
+        auto rows = rowsIn(picture, rect);
+        auto others = rowsIn(over, rect, corner);
         for (int y = rect.top(); y <= rect.bottom(); ++y)
-            PixelRows::paintOver({picture.scanLine(y) + bytesOf(rect.left()), bytesOf(rect.width())},
-                                 pixelsOf(over, rect.left() - corner.x(), y - corner.y(), rect.width()),
-                                 share);
+            PixelRows::paintOver(rows.next(), others.next(), share);
     }
 }
 
 void PixelRects::bringBack(QImage& picture, const QRegion& region, const QImage& before, const QImage& mask,
                            QPoint corner) {
     for (const auto& rect : region) {
+        auto rows = rowsIn(picture, rect);
+        auto rowsBefore = rowsIn(before, rect, corner);
+        auto masks = rowsIn(mask, rect, corner);
         for (int y = rect.top(); y <= rect.bottom(); ++y)
-            PixelRows::bringBack({picture.scanLine(y) + bytesOf(rect.left()), bytesOf(rect.width())},
-                                 pixelsOf(before, rect.left() - corner.x(), y - corner.y(), rect.width()),
-                                 pixelsOf(mask, rect.left() - corner.x(), y - corner.y(), rect.width()));
+            PixelRows::bringBack(rows.next(), rowsBefore.next(), masks.next());
     }
 }

@@ -41,6 +41,15 @@ QRect rowsPainted(const QRect& part, const QRectF& place, QSize size) {
     return QRect(0, top, size.width(), end - top) & QRect({}, size);
 }
 
+/// The rows of a part in which something of it is outdated.
+QRegion rowsWith(const QRegion& outdated, const QRegion& part) {
+    const auto all = part.boundingRect();
+    QRegion rows;
+    for (const auto& rect : outdated& part)
+        rows |= QRect(all.left(), rect.top(), all.width(), rect.height());
+    return rows;
+}
+
 } // namespace
 
 void LayerPainter::paint(const PaintList& list, const QRegion& damage, QImage& picture) {
@@ -67,8 +76,23 @@ const QImage& LayerPainter::pictureOf(const PaintItem& item, const QRegion& part
     const auto seen = item.inner->hasPictures() ? part : bandsAround(part.boundingRect(), item.inner->size());
     const auto damage = kept.outdated & seen;
     kept.outdated -= damage;
+    if (kept.picture.isNull())
+        kept.picture = pictures_.make(item.inner->size());
     Painting(*item.inner, damage, kept.picture, Qt::transparent, *this).paintAll();
     return pictures_.picture(item.identity);
+}
+
+PictureRows LayerPainter::rowsOf(const PaintItem& item, const QRegion& part) {
+    auto& kept = compare(item);
+    const auto& inner = *item.inner;
+    const auto isChanging = kept.lastChange == kept.lastUse && inner.hasPictures();
+    const auto made =
+        isChanging ? Painting::wholePixelsOnly(inner, rowsWith(kept.outdated, part)) : QRegion();
+    const auto& picture = pictureOf(item, part - made);
+    if (made.isEmpty())
+        return PictureRows(picture);
+    return {picture, inner.size(), made,
+            Painting(inner, made, kept.picture, Qt::transparent, *this).putOff()};
 }
 
 const QImage& LayerPainter::smallerPictureOf(const PaintItem& item, int factor, const QRect& part) {
@@ -108,13 +132,14 @@ LayerPictures::Kept& LayerPainter::compare(const PaintItem& item) {
     if (kept.shown == item.inner)
         return kept;
     QRegion damage = QRect({}, item.inner->size());
-    if (kept.shown != nullptr && kept.picture.size() == item.inner->size()) {
+    if (kept.shown != nullptr && kept.shown->size() == item.inner->size()) {
         damage = damageBetween(*kept.shown, *item.inner);
     } else {
-        kept.picture = pictures_.make(item.inner->size());
-        kept.outdated = {}; // of the picture before, which may have been larger
+        kept.picture = {}; // which is made once it is needed
+        kept.outdated = {};
     }
     if (!damage.isEmpty()) {
+        kept.lastChange = kept.lastUse;
         for (auto& [factor, smaller] : kept.smaller)
             smaller.outdated = smaller.picture.rect();
     }

@@ -2,6 +2,7 @@
 
 #include "LayerPictures.h"
 #include "PaintList.h"
+#include "PictureRows.h"
 #include "ScratchImages.h"
 #include "ShadowRenderer.h"
 
@@ -19,6 +20,10 @@ public:
     /// The picture of a layer that keeps one, brought up to date in a part of it; valid until the painting
     /// ends.
     [[nodiscard]] const QImage& pictureOf(const PaintItem& item, const QRegion& part);
+
+    /// The rows of that picture as they are now. Where it has changed just now, and may change again in the
+    /// next painting, it is left as it is and made as it is read, if that is work on whole pixels.
+    [[nodiscard]] PictureRows rowsOf(const PaintItem& item, const QRegion& part);
 
     /// What is painted smaller of that, so many times smaller, brought up to date in the rows that a part of
     /// the layer's place is painted of; pictures within it are painted so from the start.

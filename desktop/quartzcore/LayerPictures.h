@@ -29,10 +29,11 @@ public:
 
     struct Kept {
         std::shared_ptr<const PaintList> shown; ///< null until there is a picture
-        QImage picture;                         ///< of what is shown, ARGB32 premultiplied
+        QImage picture;                         ///< of what is shown, ARGB32 premultiplied; may be null
         QRegion outdated;                       ///< where the picture is not that
         std::map<int, Smaller> smaller;         ///< by how many times smaller they are
         std::uint64_t lastUse = 0;
+        std::uint64_t lastChange = 0; ///< the painting that first showed something else
     };
 
     /// The picture of a layer, which may be one of what it showed before; it counts as used by this painting.

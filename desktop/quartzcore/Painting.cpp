@@ -3,14 +3,15 @@
 #include "LayerDelegate.h"
 #include "LayerPainter.h"
 #include "PainterBands.h"
-#include "PicturePool.h"
 #include "PixelRects.h"
+#include "PixelWork.h"
 #include "ScaledPicture.h"
 #include "ShadowRenderer.h"
 
 #include <algorithm>
 #include <bit>
 #include <cmath>
+#include <memory>
 
 namespace {
 
@@ -102,12 +103,28 @@ bool isPictureOnly(const PaintItem& item) {
     return item.inner != nullptr && !item.hasSoftMask() && !item.isInnerScaled();
 }
 
-} // namespace
-
-Painting::Surface::Surface(QImage& picture) : image(picture), painter(&picture) {
-    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
-                           QPainter::SmoothPixmapTransform);
+/// What is in a part of a surface by then. \returns the picture that it will be in
+std::shared_ptr<QImage> save(const QRect& part, PaintSurface& surface) {
+    auto saved = std::make_shared<QImage>(part.size(), QImage::Format_ARGB32_Premultiplied);
+    surface.put(part, [saved, part](const QImage& target, const QRect& pixels, QPoint corner) {
+        PixelRects::copy(target, *saved, pixels.translated(-part.topLeft()), corner - part.topLeft());
+    });
+    return saved;
 }
+
+/// Where an item, with all within it, is painted by more than work on whole pixels; may be empty.
+QRect needsPainter(const PaintItem& item) {
+    const auto& look = item.look;
+    if (item.isGroup() && !isPictureOnly(item) && !item.isBackgroundOnly)
+        return item.wholeExtent;
+    const auto isPlainPicture = item.inner == nullptr || !item.isInnerScaled();
+    const auto isPlain = isPlainPicture && item.delegate == nullptr && !item.hasSoftMask() &&
+                         !look.backdrop && !look.castsShadow() &&
+                         (look.borderWidth == 0 || look.borderColor.alpha == 0);
+    return isPlain ? QRect() : item.extent;
+}
+
+} // namespace
 
 Painting::Painting(const PaintList& list, const QRegion& damage, QImage& picture, const QColor& color,
                    LayerPainter& painter)
@@ -122,9 +139,29 @@ Painting::Painting(const PaintList& list, const QRegion& damage, QImage& picture
       isAnySeen_(items_.size()) {}
 
 void Painting::paintAll() {
+    PaintSurface surface(picture_);
+    paintInto(surface);
+    surface.finish();
+}
+
+PixelWork Painting::putOff() {
+    PaintSurface surface(picture_);
+    paintInto(surface);
+    return surface.takeWork();
+}
+
+QRegion Painting::wholePixelsOnly(const PaintList& list, QRegion rows) {
+    const auto all = rows.boundingRect();
+    for (const auto& item : list.items()) {
+        if (const auto reach = needsPainter(item); !reach.isEmpty())
+            rows -= QRect(all.left(), reach.top(), all.width(), reach.height());
+    }
+    return rows;
+}
+
+void Painting::paintInto(PaintSurface& surface) {
     findSeen();
-    PixelRects::fill(picture_, damage_ - covered_.front(), color_);
-    Surface surface(picture_);
+    surface.fill(damage_ - covered_.front(), color_);
     paintItems(0, items_.size(), surface);
 }
 
@@ -149,21 +186,21 @@ QRegion Painting::seenWithin(const PaintItem& item, const QRegion& part) const {
     return (damage_ & part) - covered_[item.end];
 }
 
-void Painting::paintItems(std::size_t first, std::size_t end, Surface& surface) {
+void Painting::paintItems(std::size_t first, std::size_t end, PaintSurface& surface) {
     for (auto index = first; index < end; index = items_[index].end) {
         if (isAnySeen_[index])
             paintItem(index, surface);
     }
 }
 
-void Painting::paintItem(std::size_t index, Surface& surface) {
+void Painting::paintItem(std::size_t index, PaintSurface& surface) {
     if (items_[index].isGroup())
         paintGroup(index, surface);
     else
         paintLayer(index, surface);
 }
 
-void Painting::paintGroup(std::size_t index, Surface& surface) {
+void Painting::paintGroup(std::size_t index, PaintSurface& surface) {
     const auto& item = items_[index];
     if (item.isBackgroundOnly) {
         paintBackground(index, surface, item.opacity);
@@ -175,16 +212,17 @@ void Painting::paintGroup(std::size_t index, Surface& surface) {
     }
     const auto region = seenWithin(item, item.wholeExtent);
     auto& image = painter_.scratch().take(picture_.size());
-    PixelRects::fill(image, region, Qt::transparent);
     {
-        Surface group(image);
+        PaintSurface group(image);
+        group.fill(region, Qt::transparent);
         paintLayer(index, group);
+        group.finish();
     }
-    PixelRects::paintOver(surface.image, region, image, {}, item.opacity);
+    PixelRects::paintOver(surface.image(), region, image, {}, item.opacity);
     painter_.scratch().release();
 }
 
-void Painting::paintLayer(std::size_t index, Surface& surface) {
+void Painting::paintLayer(std::size_t index, PaintSurface& surface) {
     const auto& item = items_[index];
     if (!seen_[index].isEmpty())
         paintShadow(item, surface);
@@ -194,7 +232,7 @@ void Painting::paintLayer(std::size_t index, Surface& surface) {
         paintInside(index, surface);
 }
 
-void Painting::paintInside(std::size_t index, Surface& surface) {
+void Painting::paintInside(std::size_t index, PaintSurface& surface) {
     const auto& item = items_[index];
     if (!seen_[index].isEmpty()) {
         if (const auto& backdrop = item.look.backdrop)
@@ -208,7 +246,7 @@ void Painting::paintInside(std::size_t index, Surface& surface) {
     paintBorder(item, surface);
 }
 
-void Painting::paintMasked(std::size_t index, Surface& surface) {
+void Painting::paintMasked(std::size_t index, PaintSurface& surface) {
     const auto& item = items_[index];
     const auto edges = seenWithin(item, softEdges(item));
     if (edges.isEmpty()) {
@@ -217,18 +255,24 @@ void Painting::paintMasked(std::size_t index, Surface& surface) {
     }
     std::vector<QRect> parts = partsOf(softEdges(item));
     std::erase_if(parts, [&edges](const QRect& part) { return !edges.intersects(part); });
-    std::vector<QImage> saved;
+    std::vector<std::shared_ptr<QImage>> saved;
     saved.reserve(parts.size());
     for (const auto& part : parts)
-        saved.push_back(surface.image.copy(part));
+        saved.push_back(save(part, surface));
     paintInside(index, surface);
     const auto outline = item.look.transform().map(item.look.outline());
-    for (std::size_t place = 0; place < parts.size(); ++place)
-        PixelRects::bringBack(surface.image, edges & parts[place], saved[place],
-                              partOfShape(outline, Qt::black, parts[place]), parts[place].topLeft());
+    for (std::size_t place = 0; place < parts.size(); ++place) {
+        const auto corner = parts[place].topLeft();
+        const auto mask = partOfShape(outline, Qt::black, parts[place]);
+        surface.put(edges & parts[place], [before = saved[place], mask,
+                                           corner](QImage& target, const QRect& pixels, QPoint targetCorner) {
+            PixelRects::bringBack(target, pixels.translated(-targetCorner), *before, mask,
+                                  corner - targetCorner);
+        });
+    }
 }
 
-void Painting::paintShadow(const PaintItem& item, Surface& surface) {
+void Painting::paintShadow(const PaintItem& item, PaintSurface& surface) {
     const auto& look = item.look;
     if (!look.castsShadow())
         return;
@@ -239,7 +283,7 @@ void Painting::paintShadow(const PaintItem& item, Surface& surface) {
     painter_.shadows().paint(readied(surface, item, item.extent), look.shadowShape(), shadow);
 }
 
-void Painting::paintBackdrop(std::size_t index, const Backdrop& backdrop, Surface& surface) {
+void Painting::paintBackdrop(std::size_t index, const Backdrop& backdrop, PaintSurface& surface) {
     const auto& item = items_[index];
     if (!damage_.intersects(item.body))
         return;
@@ -247,18 +291,19 @@ void Painting::paintBackdrop(std::size_t index, const Backdrop& backdrop, Surfac
     const auto region = seen_[index] & item.body & item.innerClip;
     const auto inside = seen.isOpaque() ? insideOf(item.look, 0) & item.body : QRect();
     for (const auto& rect : region& inside)
-        seen.copyTo(surface.image, rect.translated(-item.body.topLeft()), item.body.topLeft());
+        seen.copyTo(surface.image(), rect.translated(-item.body.topLeft()), item.body.topLeft());
     const auto shape = item.look.transform().map(shapeOf(item, 0));
-    surface.painter.resetTransform();
+    auto& painter = surface.painter();
+    painter.resetTransform();
     for (const auto& part : partsOf(region - inside)) {
         QImage image(part.size(), QImage::Format_ARGB32_Premultiplied);
         const auto corner = item.body.topLeft() - part.topLeft();
         seen.copyTo(image, image.rect().translated(-corner), corner);
-        surface.painter.setClipRect(part);
-        surface.painter.setBrushOrigin(part.topLeft());
-        surface.painter.fillPath(shape, QBrush(image));
+        painter.setClipRect(part);
+        painter.setBrushOrigin(part.topLeft());
+        painter.fillPath(shape, QBrush(image));
     }
-    surface.painter.setBrushOrigin(0, 0);
+    painter.setBrushOrigin(0, 0);
 }
 
 /// What lies behind is painted smaller, as finely as is needed for its blur.
@@ -278,7 +323,7 @@ BlurredBackdrop Painting::backdropOf(std::size_t index, const Backdrop& backdrop
     return {behind, sigma * smaller, backdrop.saturation, asColor(item.look.background), full};
 }
 
-void Painting::paintBackground(std::size_t index, Surface& surface, double opacity) {
+void Painting::paintBackground(std::size_t index, PaintSurface& surface, double opacity) {
     const auto& item = items_[index];
     const auto& look = item.look;
     auto color = look.background;
@@ -287,7 +332,7 @@ void Painting::paintBackground(std::size_t index, Surface& surface, double opaci
         return;
     if (look.fillsWholePixels()) {
         const auto region = seen_[index] & item.innerClip & look.wholePixels();
-        PixelRects::paintOver(surface.image, region, asColor(color));
+        surface.paintOver(region, asColor(color));
         return;
     }
     const auto isEdgeHidden = look.borderColor.alpha == 1; // then no background shines through its edge
@@ -296,15 +341,18 @@ void Painting::paintBackground(std::size_t index, Surface& surface, double opaci
     const auto all = QRegion(item.body & item.innerClip);
     const auto region = seen_[index] & all;
     const auto inside = insideOf(look, inset);
-    PixelRects::paintOver(surface.image, region & inside, asColor(color));
+    surface.paintOver(region & inside, asColor(color));
     for (const auto& part : partsOf(all - inside)) {
-        if (region.intersects(part))
-            PixelRects::paintOver(surface.image, region & part, partOfShape(shape, asColor(color), part),
-                                  part.topLeft(), 1);
+        if (!region.intersects(part))
+            continue;
+        surface.put(region & part, [edge = partOfShape(shape, asColor(color), part), corner = part.topLeft()](
+                                       QImage& target, const QRect& pixels, QPoint targetCorner) {
+            PixelRects::paintOver(target, pixels.translated(-targetCorner), edge, corner - targetCorner, 1);
+        });
     }
 }
 
-void Painting::paintContents(const PaintItem& item, Surface& surface) {
+void Painting::paintContents(const PaintItem& item, PaintSurface& surface) {
     const auto reach = item.body & item.innerClip;
     if (item.delegate == nullptr || !damage_.intersects(reach))
         return;
@@ -314,7 +362,7 @@ void Painting::paintContents(const PaintItem& item, Surface& surface) {
     painter.restore();
 }
 
-void Painting::paintPicture(std::size_t index, Surface& surface, double opacity) {
+void Painting::paintPicture(std::size_t index, PaintSurface& surface, double opacity) {
     const auto& item = items_[index];
     const auto region = seen_[index] & item.body;
     if (item.inner == nullptr || region.isEmpty())
@@ -325,30 +373,41 @@ void Painting::paintPicture(std::size_t index, Surface& surface, double opacity)
     }
     const auto corner = item.cornerOfInner();
     const auto& image = painter_.pictureOf(item, region.translated(-corner));
-    PixelRects::copy(image, surface.image, region & item.opaque, corner);
-    PixelRects::paintOver(surface.image, region - item.opaque, image, corner, opacity);
+    surface.copy(image, region & item.opaque, corner);
+    surface.paintOver(region - item.opaque, image, corner, opacity);
 }
 
-void Painting::paintScaledPicture(const PaintItem& item, const QRegion& region, Surface& surface) const {
-    if (const auto times = timesSmaller(item); times > 1) {
-        surface.painter.resetTransform();
-        surface.painter.setClipRegion(region);
-        PainterBands::draw(surface.painter, item.placeOfInner(item.partPaintedSmaller()),
-                           painter_.smallerPictureOf(item, times, region.boundingRect()));
+void Painting::paintScaledPicture(const PaintItem& item, const QRegion& region, PaintSurface& surface) const {
+    const auto times = timesSmaller(item);
+    if (times == 1) {
+        putScaledPicture(item, region, surface);
         return;
     }
-    const auto& image = painter_.pictureOf(item, pixelsOfPicture(item, region));
-    const ScaledPicture scaled(image, item.placeOfInner());
-    for (const auto& rect : region& item.opaque)
-        scaled.copyTo(surface.image, rect);
-    for (const auto& rect : PainterBands::of(region - item.opaque)) {
-        auto part = PicturePool::shared().make(rect.size());
-        scaled.copyTo(part, rect, rect.topLeft());
-        PixelRects::paintOver(surface.image, rect, part, rect.topLeft(), 1);
+    auto& painter = surface.painter();
+    painter.resetTransform();
+    painter.setClipRegion(region);
+    PainterBands::draw(painter, item.placeOfInner(item.partPaintedSmaller()),
+                       painter_.smallerPictureOf(item, times, region.boundingRect()));
+}
+
+void Painting::putScaledPicture(const PaintItem& item, const QRegion& region, PaintSurface& surface) const {
+    const auto rows = painter_.rowsOf(item, pixelsOfPicture(item, region));
+    const auto scaledOnce = [&] { return std::make_shared<ScaledPicture>(rows, item.placeOfInner()); };
+    for (const auto& rect : region& item.opaque) {
+        surface.put(rect, [scaled = scaledOnce()](QImage& target, const QRect& pixels, QPoint corner) {
+            scaled->copyTo(target, pixels, corner);
+        });
+    }
+    for (const auto& rect : region - item.opaque) {
+        surface.put(rect, [scaled = scaledOnce()](QImage& target, const QRect& pixels, QPoint corner) {
+            QImage part(pixels.size(), QImage::Format_ARGB32_Premultiplied);
+            scaled->copyTo(part, pixels, pixels.topLeft());
+            PixelRects::paintOver(target, pixels.translated(-corner), part, pixels.topLeft() - corner, 1);
+        });
     }
 }
 
-void Painting::paintBorder(const PaintItem& item, Surface& surface) {
+void Painting::paintBorder(const PaintItem& item, PaintSurface& surface) {
     const auto& look = item.look;
     if (look.borderWidth == 0 || look.borderColor.alpha == 0)
         return;
@@ -357,8 +416,8 @@ void Painting::paintBorder(const PaintItem& item, Surface& surface) {
     readied(surface, item, item.body & item.innerClip).fillPath(shape, asColor(look.borderColor));
 }
 
-QPainter& Painting::readied(Surface& surface, const PaintItem& item, const QRegion& clip) const {
-    auto& painter = surface.painter;
+QPainter& Painting::readied(PaintSurface& surface, const PaintItem& item, const QRegion& clip) const {
+    auto& painter = surface.painter();
     painter.resetTransform();
     painter.setClipRegion(damage_ & clip);
     painter.setTransform(item.look.transform());

@@ -2,6 +2,8 @@
 
 #include "BlurredBackdrop.h"
 #include "PaintList.h"
+#include "PaintSurface.h"
+#include "PixelWork.h"
 
 #include <QColor>
 #include <QImage>
@@ -22,36 +24,37 @@ public:
 
     void paintAll();
 
+    /// What `paintAll` would do, to be done later; the picture is not touched. \pre there is nothing in the
+    /// damage but work on whole pixels
+    [[nodiscard]] PixelWork putOff();
+
+    /// Those of some rows where a list has nothing but work on whole pixels.
+    [[nodiscard]] static QRegion wholePixelsOnly(const PaintList& list, QRegion rows);
+
 private:
-    /// A picture that layers are painted into: the whole's, or that of a group on its way into it.
-    struct Surface {
-        QImage& image;
-        QPainter painter;
-
-        explicit Surface(QImage& picture);
-    };
-
+    void paintInto(PaintSurface& surface);
     /// Where nothing that lies in front covers an item.
     void findSeen();
     /// The same for a part of an item with all within it.
     [[nodiscard]] QRegion seenWithin(const PaintItem& item, const QRegion& part) const;
     [[nodiscard]] BlurredBackdrop backdropOf(std::size_t index, const Backdrop& backdrop) const;
-    void paintItems(std::size_t first, std::size_t end, Surface& surface);
-    void paintItem(std::size_t index, Surface& surface);
-    void paintGroup(std::size_t index, Surface& surface);
-    void paintLayer(std::size_t index, Surface& surface);
-    void paintInside(std::size_t index, Surface& surface);
-    void paintMasked(std::size_t index, Surface& surface);
-    void paintShadow(const PaintItem& item, Surface& surface);
+    void paintItems(std::size_t first, std::size_t end, PaintSurface& surface);
+    void paintItem(std::size_t index, PaintSurface& surface);
+    void paintGroup(std::size_t index, PaintSurface& surface);
+    void paintLayer(std::size_t index, PaintSurface& surface);
+    void paintInside(std::size_t index, PaintSurface& surface);
+    void paintMasked(std::size_t index, PaintSurface& surface);
+    void paintShadow(const PaintItem& item, PaintSurface& surface);
     /// With the layer's background.
-    void paintBackdrop(std::size_t index, const Backdrop& backdrop, Surface& surface);
+    void paintBackdrop(std::size_t index, const Backdrop& backdrop, PaintSurface& surface);
     /// \param opacity of a group that has nothing else
-    void paintBackground(std::size_t index, Surface& surface, double opacity = 1);
-    void paintContents(const PaintItem& item, Surface& surface);
-    void paintPicture(std::size_t index, Surface& surface, double opacity = 1);
-    void paintScaledPicture(const PaintItem& item, const QRegion& region, Surface& surface) const;
-    void paintBorder(const PaintItem& item, Surface& surface);
-    [[nodiscard]] QPainter& readied(Surface& surface, const PaintItem& item, const QRegion& clip) const;
+    void paintBackground(std::size_t index, PaintSurface& surface, double opacity = 1);
+    void paintContents(const PaintItem& item, PaintSurface& surface);
+    void paintPicture(std::size_t index, PaintSurface& surface, double opacity = 1);
+    void paintScaledPicture(const PaintItem& item, const QRegion& region, PaintSurface& surface) const;
+    void putScaledPicture(const PaintItem& item, const QRegion& region, PaintSurface& surface) const;
+    void paintBorder(const PaintItem& item, PaintSurface& surface);
+    [[nodiscard]] QPainter& readied(PaintSurface& surface, const PaintItem& item, const QRegion& clip) const;
 
     const PaintList& list_;
     const std::vector<PaintItem>& items_;

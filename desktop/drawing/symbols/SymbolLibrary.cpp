@@ -64,6 +64,9 @@ constexpr std::array badges{
     Badge{"gear.badge.xmark", "gear", "xmark", 250, 36, {360, 360}},
 };
 
+/// Chevrons of back buttons and of rows that lead on, in either direction of reading.
+constexpr std::array<std::string_view, 2> usuallyHeavy{"chevron.left", "chevron.right"};
+
 QPainterPath disc(QPointF center, double radius) {
     QPainterPath path;
     path.addEllipse(center, radius, radius);
@@ -115,10 +118,14 @@ std::optional<SymbolOutline> SymbolLibrary::symbol(std::string_view name) {
 bool SymbolLibrary::prepare() {
     const auto* const badge =
         std::ranges::find_if(badges, [this](const Badge& made) { return !known_.contains(made.name); });
-    if (badge == badges.end())
-        return false;
-    static_cast<void>(symbol(badge->name));
-    return true;
+    if (badge != badges.end()) {
+        static_cast<void>(symbol(badge->name));
+        return true;
+    }
+    return std::ranges::any_of(usuallyHeavy, [this](std::string_view name) {
+        const auto known = symbol(name);
+        return known && known->prepare(SymbolWeight::Semibold);
+    });
 }
 
 std::optional<SymbolOutline> SymbolLibrary::make(std::string_view name) const {

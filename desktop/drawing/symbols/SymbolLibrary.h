@@ -23,8 +23,8 @@ public:
     /// \returns nothing for a name that no symbol has
     [[nodiscard]] std::optional<SymbolOutline> symbol(std::string_view name);
 
-    /// Makes one of the symbols that are put together of others, which takes long, unless all are known.
-    /// \returns whether there was one
+    /// Makes one of the symbols that take long, unless all are made: those that are put together of others,
+    /// and heavier ones that pages have in their bars and rows. \returns whether there was one
     bool prepare();
 
 private:

@@ -32,10 +32,16 @@ QPainterPath SymbolOutline::path(double pointSize, SymbolWeight weight) const {
     return toBox.map(units);
 }
 
+bool SymbolOutline::prepare(SymbolWeight weight) const {
+    if (weight == SymbolWeight::Regular || !outlines_->semibold.isEmpty())
+        return false;
+    outlines_->semibold = outlines_->makeSemibold();
+    return true;
+}
+
 const QPainterPath& SymbolOutline::outline(SymbolWeight weight) const {
     if (weight == SymbolWeight::Regular)
         return outlines_->regular;
-    if (outlines_->semibold.isEmpty())
-        outlines_->semibold = outlines_->makeSemibold();
+    static_cast<void>(prepare(weight));
     return outlines_->semibold;
 }

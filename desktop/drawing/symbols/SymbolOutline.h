@@ -22,6 +22,9 @@ public:
     /// The outline in points within a box of `size` whose upper left corner is the origin; fill it.
     [[nodiscard]] QPainterPath path(double pointSize, SymbolWeight weight = SymbolWeight::Regular) const;
 
+    /// Has the outline of a weight made. \returns whether it was not there
+    [[nodiscard]] bool prepare(SymbolWeight weight) const;
+
 private:
     [[nodiscard]] const QPainterPath& outline(SymbolWeight weight) const;
 

@@ -27,6 +27,9 @@ UIEdgeInsets insetsOf(const UIView& view, LayoutGuide guide) {
     return {};
 }
 
+/// So often texts get their widths anew, each time of what follows from the last ones; most do once.
+constexpr auto mostWrappings = 8;
+
 /// In the middle between two pixels both edges of a view go the same way, whatever the reckoning has left of
 /// them, so that what is whole pixels wide stays as wide.
 double toPixel(double value, double scale) {
@@ -55,7 +58,8 @@ LayoutProblem::LayoutProblem(UIView& host, const HostSize& size) : host_(host) {
             view->peer().addOwnConstraints(*this);
     }
     addIntrinsicSizes();
-    wrapTexts();
+    for (auto turn = 0; turn < mostWrappings && wrapTexts(); ++turn) {
+    }
 }
 
 bool LayoutProblem::isPlacedAsAWhole(const UIView& view) const {
@@ -142,8 +146,8 @@ void LayoutProblem::addIntrinsicSize(const UIViewPeer& view, const Unknowns& unk
 }
 
 /// A text of several lines has its height from the width that it gets, so it is asked again once that is
-/// known.
-void LayoutProblem::wrapTexts() {
+/// known; and its width may follow from that.
+bool LayoutProblem::wrapTexts() {
     auto changed = false;
     for (const auto* view : views_) {
         if (!view->peer().isFrameGiven() &&
@@ -151,10 +155,11 @@ void LayoutProblem::wrapTexts() {
             changed = true;
     }
     if (!changed)
-        return;
+        return false;
     for (const auto constraint : std::exchange(intrinsicSizes_, {}))
         static_cast<void>(solver_.removeConstraint(constraint));
     addIntrinsicSizes();
+    return true;
 }
 
 std::optional<LinearExpression> LayoutProblem::originInHost(const UIView& view, bool horizontal) const {

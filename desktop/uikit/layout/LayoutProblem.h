@@ -57,7 +57,8 @@ private:
     void addIntrinsicSizes();
     void addIntrinsicSize(const UIViewPeer& view, const Unknowns& unknowns);
     void addConstraints(const UIView& view);
-    void wrapTexts();
+    /// \returns whether a text got another width
+    bool wrapTexts();
     /// Once, until the host's constraints can all hold again.
     void logContradiction() const;
     [[nodiscard]] std::optional<LinearExpression> originInHost(const UIView& view, bool horizontal) const;

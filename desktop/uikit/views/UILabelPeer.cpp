@@ -97,13 +97,6 @@ void UILabelPeer::setShadowOffset(CGSize offset) {
     setNeedsDisplay();
 }
 
-void UILabelPeer::setPreferredMaxLayoutWidth(double width) {
-    if (preferredMaxLayoutWidth_ == width)
-        return;
-    preferredMaxLayoutWidth_ = width;
-    setNeedsConstraintLayout();
-}
-
 void UILabelPeer::changed() {
     laid_.reset();
     setNeedsDisplay();
@@ -142,7 +135,7 @@ std::optional<double> UILabelPeer::intrinsicHeight() const {
 bool UILabelPeer::takeLayoutWidth(double width) {
     const auto changes = numberOfLines_ != 1 && preferredMaxLayoutWidth_ != width;
     if (changes)
-        setPreferredMaxLayoutWidth(width);
+        preferredMaxLayoutWidth_ = width;
     return changes;
 }
 

@@ -56,9 +56,6 @@ public:
     /// In points, to the right and down. One point up until another is set.
     void setShadowOffset(CGSize offset);
 
-    /// The width that a text of several lines is wrapped to for the intrinsic height; 0 for none.
-    void setPreferredMaxLayoutWidth(double width);
-
     /// What the text's lines need in a width, in points that are not rounded to pixels; 0 without text.
     [[nodiscard]] double heightOfLines(double width) const;
     /// Whether there is text that the bounds have no room for.

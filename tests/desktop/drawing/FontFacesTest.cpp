@@ -9,7 +9,10 @@
 #include <QGlyphRun>
 #include <QPainterPath>
 #include <QRawFont>
+#include <QString>
 #include <QTextLayout>
+#include <set>
+#include <utility>
 
 namespace {
 
@@ -53,6 +56,19 @@ TEST(FontFacesTest, EachWeightHasAFaceOfItsOwn) {
         EXPECT_EQ(faceOf({size, FontWeight::Semibold}).weight(), 600);
         EXPECT_EQ(faceOf({size, FontWeight::Bold}).weight(), 700);
     }
+}
+
+TEST(FontFacesTest, HasOneStyleOfEachFace) {
+    std::set<std::pair<QString, int>> faces;
+    for (const auto& style : FontFaces::styles())
+        faces.emplace(faceOf(style).familyName(), faceOf(style).weight());
+    std::set<std::pair<QString, int>> expected;
+    for (const auto* const family : {"Inter", "Inter Display"}) {
+        for (const auto weight : {300, 400, 500, 600, 700})
+            expected.emplace(family, weight);
+    }
+    EXPECT_EQ(faces, expected);
+    EXPECT_EQ(FontFaces::styles().size(), expected.size());
 }
 
 TEST(FontFacesTest, CapitalsAreAsHighAsThePlatforms) {

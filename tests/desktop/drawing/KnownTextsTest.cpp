@@ -1,5 +1,6 @@
 #include "KnownTexts.h"
 
+#include "FontFaces.h"
 #include "TextLayout.h"
 
 #include <gtest/gtest.h>
@@ -46,6 +47,14 @@ QImage painted(const TextLines& lines) {
 }
 
 } // namespace
+
+TEST_F(KnownTextsTest, TheLettersOfEachFaceArePreparedOnce) {
+    while (KnownTexts::shared().prepare()) {
+    }
+    EXPECT_EQ(made(), FontFaces::styles().size());
+    EXPECT_FALSE(KnownTexts::shared().prepare());
+    EXPECT_EQ(made(), FontFaces::styles().size());
+}
 
 TEST_F(KnownTextsTest, ATextIsBrokenIntoLinesOnce) {
     const auto text = newText("Settings");

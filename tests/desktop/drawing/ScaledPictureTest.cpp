@@ -26,7 +26,7 @@ QImage randomPicture(QSize size) {
 /// What is seen in a picture of that size.
 QImage seen(const QImage& picture, const QRectF& place, QSize size) {
     auto target = blank(size);
-    ScaledPicture(picture, place).copyTo(target, target.rect());
+    ScaledPicture(PictureRows(picture), place).copyTo(target, target.rect());
     return target;
 }
 
@@ -66,10 +66,10 @@ TEST(ScaledPictureTest, APixelIsTheSameWhateverPartIsAskedFor) {
         const auto whole = seen(picture, place, {100, 60});
         for (const auto& part : {QRect(0, 0, 1, 60), QRect(40, 10, 33, 20), QRect(99, 59, 1, 1)}) {
             auto target = blank({100, 60});
-            ScaledPicture(picture, place).copyTo(target, part);
+            ScaledPicture(PictureRows(picture), place).copyTo(target, part);
             EXPECT_EQ(target.copy(part), whole.copy(part));
             auto apart = blank(part.size());
-            ScaledPicture(picture, place).copyTo(apart, part, part.topLeft());
+            ScaledPicture(PictureRows(picture), place).copyTo(apart, part, part.topLeft());
             EXPECT_EQ(apart, whole.copy(part));
         }
     }

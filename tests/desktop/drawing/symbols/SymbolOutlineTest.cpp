@@ -49,3 +49,18 @@ TEST(SymbolOutlineTest, TheSemiboldOutlineIsMadeOnceAndOnlyWhenAskedFor) {
     EXPECT_DOUBLE_EQ(copy->size(10, SymbolWeight::Semibold).width(), 6 + 2 * 0.88);
     EXPECT_EQ(made, 1);
 }
+
+TEST(SymbolOutlineTest, ThePreparedOutlineIsTheOneThatIsAskedFor) {
+    int made = 0;
+    const SymbolOutline outline(rectangle(0, 0, 500, 300), [&] {
+        ++made;
+        return rectangle(0, 0, 600, 300);
+    });
+    EXPECT_FALSE(outline.prepare(SymbolWeight::Regular));
+    EXPECT_EQ(made, 0);
+    EXPECT_TRUE(outline.prepare(SymbolWeight::Semibold));
+    EXPECT_FALSE(outline.prepare(SymbolWeight::Semibold));
+    EXPECT_EQ(made, 1);
+    EXPECT_DOUBLE_EQ(outline.path(10, SymbolWeight::Semibold).boundingRect().width(), 6);
+    EXPECT_EQ(made, 1);
+}

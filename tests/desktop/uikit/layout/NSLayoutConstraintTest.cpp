@@ -9,6 +9,22 @@
 using NSLayoutConstraintTest = LayoutFixture;
 using enum LayoutAttribute;
 
+namespace {
+
+/// Counts how often it is laid out.
+class CountingHost final : public UIView {
+public:
+    // UIView:
+    void layoutSubviews() override {
+        UIView::layoutSubviews();
+        ++layouts;
+    }
+
+    int layouts = 0;
+};
+
+} // namespace
+
 TEST_F(NSLayoutConstraintTest, FourEdgesPlaceAView) {
     const auto view = add();
     fill(*view, 12);
@@ -213,6 +229,31 @@ TEST_F(NSLayoutConstraintTest, ALabelOfSeveralLinesIsAsHighAsItsWidthMakesIt) {
     layOut();
     EXPECT_EQ(label->frame().size.height, label->peer().sizeThatFits({120, 1e6}).height);
     EXPECT_GT(label->frame().size.height, wide.height);
+}
+
+TEST_F(NSLayoutConstraintTest, AHostOfTextsThatAreWrappedIsLaidOutOnce) {
+    const auto counting = make<CountingHost>();
+    counting->setFrame(CGRectMake(0, 0, 100, 300));
+    const auto label = make<UILabel>();
+    peerOf<UILabelPeer>(*label).setNumberOfLines(0);
+    label->setText("Rows whose controlling switch is off are hidden and come back when it is turned on.");
+    label->peer().setFrameGiven(false);
+    counting->addSubview(label);
+    equal({*label, Leading}, {*counting, Leading});
+    equal({*label, Top}, {*counting, Top});
+    constrain({.first = {*label, Trailing},
+               .relation = LinearRelation::LessOrEqual,
+               .second = LayoutAnchor(*counting, Trailing)});
+    counting->peer().layoutIfNeeded();
+    const auto first = label->frame();
+    EXPECT_EQ(first.size.height, label->peer().sizeThatFits({first.size.width, 1e6}).height);
+    EXPECT_LT(first.size.width, 100);
+    EXPECT_FALSE(label->peer().takeLayoutWidth(*label->peer().intrinsicWidth())) << "it has that already";
+    counting->peer().layoutIfNeeded();
+    EXPECT_EQ(counting->layouts, 1);
+    counting->peer().setNeedsLayout();
+    counting->peer().layoutIfNeeded();
+    EXPECT_EQ(label->frame(), first);
 }
 
 TEST_F(NSLayoutConstraintTest, TheFittingSizeIsTheSmallestThatHoldsEverything) {

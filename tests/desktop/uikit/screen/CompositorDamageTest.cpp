@@ -1,3 +1,4 @@
+#include "PicturePool.h"
 #include "UIKit/UILabel.h"
 #include "screen/RandomLayers.h"
 #include "screen/ShownScreen.h"
@@ -26,6 +27,15 @@ std::string difference(const QImage& left, const QImage& right) {
         }
     }
     return {};
+}
+
+/// A picture that was brought up to date is as one that is painted whole: with what layers show for the first
+/// time, and again with what was made of it.
+void expectAsPaintedWhole(const QImage& picture, Screen& screen) {
+    Compositor whole(screen);
+    EXPECT_EQ(difference(picture, whole.render()), "");
+    whole.forgetPicture();
+    EXPECT_EQ(difference(picture, whole.render()), "") << "the second time";
 }
 
 QRegion damage(ShownScreen& shown) {
@@ -164,8 +174,8 @@ TEST_P(RandomChanges, PaintTheSamePixelsAsAWholePicture) {
         shown.device.advance(70ms);
         const auto picture = shown.compositor.render().copy();
         partialPictures += shown.compositor.lastDamage() != QRegion(picture.rect()) ? 1 : 0;
-        Compositor whole(shown.screen);
-        ASSERT_EQ(difference(picture, whole.render()), "") << "at step " << step;
+        SCOPED_TRACE("at step " + std::to_string(step));
+        expectAsPaintedWhole(picture, shown.screen);
     }
     EXPECT_GT(partialPictures, 0);
 }
@@ -193,6 +203,60 @@ TEST(CompositorDamage, APageIsPaintedSmallerBitByBitAsItIsPaintedWhole) {
         EXPECT_EQ(difference(picture, whole.render()), "") << "from " << top;
         page->peer().setTransform(AffineTransform::translation(0, -static_cast<double>(changed)));
     }
+}
+
+/// Two pages move side by side, beneath a bar that is painted, in a card that is stepped back meanwhile.
+TEST(CompositorDamage, PagesThatMoveInAPictureThatIsPaintedSmallerAreAsInAWholePicture) {
+    ShownScreen shown({120, 160}, 3);
+    const auto card = shown.add(CGRectMake(0, 0, 120, 160), ColorComponents{.alpha = 0});
+    card->layer().peer().keepsPicture = true;
+    card->layer().setMasksToBounds(true);
+    card->layer().setCornerRadius(10);
+    const auto beneath = ShownScreen::add(*card, CGRectMake(0, 0, 120, 160), green);
+    const auto dimming = ShownScreen::add(*card, CGRectMake(0, 0, 120, 160), {.red = 0, .alpha = 0.1});
+    const auto above = ShownScreen::add(*card, CGRectMake(0, 0, 120, 160), red);
+    const auto bar = ShownScreen::add(*card, CGRectMake(10, 20, 70, 25), blue);
+    bar->layer().setCornerRadius(7);
+    bar->layer().setBorderWidth(2);
+    for (const auto& page : {beneath, above}) {
+        page->layer().peer().keepsPicture = true;
+        ShownScreen::put(*page, CGRectMake(11, 60, 77, 33), blue);
+    }
+    for (const auto step : {1, 2, 5, 6, 6, 6, 9}) {
+        above->setFrame(CGRectMake(120 - 11 * step, 0, 120, 160));
+        beneath->setFrame(CGRectMake(-4 * step, 0, 120, 160));
+        dimming->setAlpha(0.1 * step);
+        card->peer().setTransform(AffineTransform::scale(1 - 0.011 * step));
+        SCOPED_TRACE(step);
+        expectAsPaintedWhole(shown.compositor.render().copy(), shown.screen);
+    }
+}
+
+/// What is moving is painted smaller from the pages' pictures, and made a picture of once it rests.
+TEST(CompositorDamage, NoPictureIsMadeOfWhatMovesWhereItIsPaintedSmaller) {
+    ShownScreen shown({400, 400});
+    const auto card = shown.add(CGRectMake(0, 0, 400, 400), green);
+    card->layer().peer().keepsPicture = true;
+    const auto page = ShownScreen::add(*card, CGRectMake(0, 0, 400, 400), red);
+    page->layer().peer().keepsPicture = true;
+    ShownScreen::put(*card, CGRectMake(0.4, 0.3, 300, 300), {.red = 0, .alpha = 0.2});
+    card->peer().setTransform(AffineTransform::scale(0.9));
+    const auto usedBytes = [&] {
+        const auto& pool = PicturePool::shared();
+        return pool.allBytes() - pool.keptBytes();
+    };
+    shown.compositor.render();
+    const auto moving = usedBytes();
+    for (const auto left : {30, 60, 90}) {
+        page->setFrame(CGRectMake(left, 0, 400, 400));
+        card->peer().setTransform(AffineTransform::scale(0.9 - 0.001 * left));
+        shown.compositor.render();
+        EXPECT_EQ(usedBytes(), moving) << left;
+    }
+    card->peer().setTransform(AffineTransform::scale(0.8));
+    shown.compositor.render();
+    constexpr std::size_t bytesOfCard = 400UL * 400 * 4;
+    EXPECT_GE(usedBytes(), moving + bytesOfCard);
 }
 
 constexpr auto oneByte = 0xEE;

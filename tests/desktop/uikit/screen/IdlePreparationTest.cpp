@@ -1,6 +1,7 @@
 #include "screen/IdlePreparation.h"
 
 #include "KnownPictures.h"
+#include "KnownTexts.h"
 #include "PicturePool.h"
 #include "PngFile.h"
 #include "TestDevice.h"
@@ -21,5 +22,6 @@ TEST(IdlePreparationTest, PreparesBitByBitAllThereIs) {
     EXPECT_GE(PicturePool::shared().allBytes(), PicturePool::usual);
     EXPECT_FALSE(PicturePool::shared().prepare());
     EXPECT_FALSE(SymbolLibrary::shared().prepare());
+    EXPECT_FALSE(KnownTexts::shared().prepare());
     EXPECT_EQ(KnownPictures::shared().decodedCount(), decodedBefore + 1);
 }

@@ -37,10 +37,11 @@ TEST_F(UILabelPeerTest, WrapsToTheRoomItIsGiven) {
     EXPECT_LE(peer().sizeThatFits({40, 0}).height, 2 * lineHeight);
 }
 
-TEST_F(UILabelPeerTest, WrapsItsIntrinsicSizeToThePreferredWidth) {
+TEST_F(UILabelPeerTest, WrapsItsIntrinsicSizeToTheWidthThatALayoutGaveIt) {
     peer().setNumberOfLines(0);
     EXPECT_NEAR(*peer().intrinsicHeight(), lineHeight, 1e-9);
-    peer().setPreferredMaxLayoutWidth(70);
+    EXPECT_TRUE(peer().takeLayoutWidth(70));
+    EXPECT_FALSE(peer().takeLayoutWidth(70));
     EXPECT_LE(*peer().intrinsicWidth(), 70);
     EXPECT_GT(*peer().intrinsicHeight(), 2 * lineHeight - 1);
 }
