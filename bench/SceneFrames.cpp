@@ -4,6 +4,8 @@
 #include <cstdio>
 
 void SceneFrames::add(double time, double pixels) {
+    if (times_.size() < 2)
+        first_ = std::max(first_, time);
     if (pixels <= 0)
         return;
     times_.push_back(time);
@@ -23,8 +25,8 @@ void SceneFrames::print() const {
         std::printf("  %-28s painted nothing\n", name_.c_str());
         return;
     }
-    std::printf("  %-28s %6zu %8.2f %8.2f %8.2f %8.2f %8.1f %10.0f\n", name_.c_str(), times_.size(),
-                times_.front(), median(), quantile(times_, 0.95), timeOfCopy_, median() / timeOfCopy_,
+    std::printf("  %-28s %6zu %8.2f %8.2f %8.2f %8.2f %8.1f %10.0f\n", name_.c_str(), times_.size(), first(),
+                median(), quantile(times_, 0.95), timeOfCopy_, median() / timeOfCopy_,
                 quantile(pixels_, 0.5));
 }
 

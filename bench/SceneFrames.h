@@ -29,6 +29,10 @@ public:
     /// Whether something was painted, and the median is below that of the same scene elsewhere.
     [[nodiscard]] bool isFasterThan(const SceneFrames& other) const;
 
+    /// What the dearer of the first two that were painted took, or one before them: the first picture may
+    /// show only where everything starts from.
+    [[nodiscard]] double first() const { return first_; }
+
     /// A line for people.
     void print() const;
 
@@ -37,6 +41,7 @@ private:
     [[nodiscard]] double median() const { return quantile(times_, 0.5); }
 
     std::string name_;
+    double first_ = 0;
     std::vector<double> times_;
     std::vector<double> pixels_;
     double timeOfCopy_ = 0;

@@ -12,6 +12,7 @@
 #include "screen/TouchDispatcher.h"
 #include "system/LogRecorder.h"
 #include "system/UrlOpener.h"
+#include "time/FrameClock.h"
 #include "time/MainQueueScheduler.h"
 #include "time/RealClock.h"
 #include "time/VirtualClock.h"
@@ -125,8 +126,9 @@ int runWindow(const ProgramOptions& options) {
     auto root = readiedRoot(options);
     if (!root)
         return EXIT_FAILURE;
-    const Device device(
-        deviceOptions(options, std::move(*root), std::make_unique<RealClock>(), regionOfDesktop()));
+    auto clock = std::make_unique<FrameClock>();
+    auto& time = *clock;
+    const Device device(deviceOptions(options, std::move(*root), std::move(clock), regionOfDesktop()));
     Device::current().urls().setDesktop(
         [](const std::string& url) { return QDesktopServices::openUrl(QUrl(QString::fromStdString(url))); });
     Screen screen(screenOptions(options));
@@ -137,6 +139,7 @@ int runWindow(const ProgramOptions& options) {
                         {.scale = options.scale,
                          .followsAppearance = !options.appearance,
                          .goBack = [&shell] { shell.goBack(); },
+                         .beginFrame = [&time] { time.beginFrame(); },
                          .showTime = [&shell] { shell.bars().refresh(); }});
     window.show();
     return QGuiApplication::exec();

@@ -135,8 +135,15 @@ void DeviceWindow::followAppearance() {
 
 void DeviceWindow::wake() {
     const auto isBetweenFrames = timer_.isActive() && compositor_.isAnimating();
-    if (!isBetweenFrames)
-        timer_.start(0);
+    if (isBetweenFrames)
+        return;
+    isPictureDue_ = true;
+    timer_.start(0);
+}
+
+void DeviceWindow::beginFrame() {
+    if (!isPictureDue_)
+        options_.beginFrame();
 }
 
 void DeviceWindow::refresh() {
@@ -152,6 +159,8 @@ void DeviceWindow::refresh() {
         tellAssistivePrograms();
     }
     const auto moves = !changed.isEmpty() || compositor_.isAnimating();
+    isPictureDue_ = false;
+    beginFrame(); // so that what comes next waits no longer for what this one took
     scheduleRefresh(moves || prepareWhileIdle());
 }
 
@@ -457,7 +466,9 @@ void DeviceWindow::exposeEvent(QExposeEvent* event) {
         place();
 }
 
+/// Sees all events of the program first.
 bool DeviceWindow::eventFilter(QObject* watched, QEvent* event) {
+    beginFrame();
     if (event->type() == QEvent::ApplicationPaletteChange)
         followAppearance();
     return QRasterWindow::eventFilter(watched, event);

@@ -33,6 +33,9 @@ public:
         bool followsAppearance = true;
         /// The way back from where the user is.
         std::function<void()> goBack;
+        /// Moves the device's time on: before each picture, and before what happens between pictures, but not
+        /// between something that happens and the picture that shows it.
+        std::function<void()> beginFrame;
         /// Brings up to date what shows the time, before each picture.
         std::function<void()> showTime;
     };
@@ -77,6 +80,7 @@ private:
     void place();
     void followAppearance();
     void refresh();
+    void beginFrame();
     /// \param asNextFrame or when something is due
     void scheduleRefresh(bool asNextFrame);
     void touch(TouchPhase phase, QPointF place);
@@ -105,6 +109,7 @@ private:
     Options options_;
     Compositor compositor_;
     const QImage* picture_ = nullptr; ///< the compositor's; null before the first
+    bool isPictureDue_ = false;       ///< of what has happened in this frame
     ScreenPlacement placement_;
     KeyboardFocus focus_;
     InputMethod inputMethod_;

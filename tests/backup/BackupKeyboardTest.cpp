@@ -20,7 +20,11 @@ class BackupKeyboardTest : public BackupPageFixture {
 protected:
     BackupKeyboardTest()
         : shown(screen, finger,
-                {.scale = std::nullopt, .followsAppearance = true, .goBack = {}, .showTime = [] {}}) {
+                {.scale = std::nullopt,
+                 .followsAppearance = true,
+                 .goBack = {},
+                 .beginFrame = [] {},
+                 .showTime = [] {}}) {
         device.write(std::string(bundlePath) + "/BackupRestore.plist", rows);
         show();
         shown.resize(195, 422);

@@ -56,6 +56,22 @@ TEST(SceneFramesTest, AFasterSceneHasALowerMedian) {
     EXPECT_FALSE(slow.isFasterThan(slow));
 }
 
+TEST(SceneFramesTest, TheFirstIsTheDearerOfTwo) {
+    SceneFrames frames("scene");
+    for (const auto time : {1.0, 5.0, 9.0})
+        frames.add(time, somePixels);
+    EXPECT_EQ(frames.first(), 5);
+}
+
+TEST(SceneFramesTest, WhatComesBeforeTheFirstPictureCountsToo) {
+    SceneFrames frames("scene");
+    frames.add(9, 0);
+    frames.add(1, somePixels);
+    frames.add(5, somePixels);
+    frames.add(10, 0);
+    EXPECT_EQ(frames.first(), 9);
+}
+
 TEST(SceneFramesTest, AQuantileIsOneOfTheValues) {
     EXPECT_EQ(quantile({3, 1, 2}, 0.5), 2);
     EXPECT_EQ(quantile({3, 1, 2}, 1), 3);

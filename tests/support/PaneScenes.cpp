@@ -178,6 +178,7 @@ void PaneScenes::watch() {
     constexpr auto most = 360;
     constexpr auto stillAtMost = 3;
     auto still = 0;
+    frame();
     for (auto count = 0; count < most && still < stillAtMost; ++count) {
         nextFrame();
         const auto moves = compositor_.isAnimating() || !compositor_.lastDamage().isEmpty();

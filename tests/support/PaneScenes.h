@@ -57,7 +57,7 @@ private:
     void touch(TouchPhase phase, CGPoint place);
     /// The finger moves by equal steps, one each frame.
     void moveFinger(CGPoint from, CGPoint to, int frames);
-    /// Frames for as long as something moves.
+    /// The picture that shows at once what was begun, and frames for as long as something moves.
     void watch();
     void nextFrame();
 

@@ -26,8 +26,9 @@ TEST_F(DeviceWindowTest, GivesTheDeviceThePixelsThatItShows) {
 }
 
 TEST_F(DeviceWindowTest, KeepsAScaleThatWasAskedFor) {
-    DeviceWindow other(screen, finger,
-                       {.scale = 2, .followsAppearance = true, .goBack = [] {}, .showTime = [] {}});
+    DeviceWindow other(
+        screen, finger,
+        {.scale = 2, .followsAppearance = true, .goBack = [] {}, .beginFrame = [] {}, .showTime = [] {}});
     other.resize(100, 100);
     run();
     EXPECT_EQ(screen.traits().displayScale, 2);
@@ -170,6 +171,32 @@ TEST_F(DeviceWindowTest, IsDarkWhenTheDesktopIs) {
     QGuiApplication::setPalette(QPalette(Qt::black, Qt::white));
     EXPECT_EQ(screen.traits().style, UserInterfaceStyle::Light);
     QGuiApplication::setPalette(before);
+}
+
+TEST_F(DeviceWindowTest, WhatIsBegunIsShownFirstAsOfTheSameTime) {
+    run();
+    betweenFrames_ = std::chrono::milliseconds(7);
+    const auto before = device.clock().uptime();
+    send(QEvent::MouseButtonPress);
+    const auto begun = device.clock().uptime();
+    EXPECT_EQ(begun, before + betweenFrames_);
+    send(QEvent::MouseButtonRelease);
+    EXPECT_EQ(device.clock().uptime(), begun);
+    run();
+    EXPECT_EQ(timeOfPicture_, begun);
+    EXPECT_GT(device.clock().uptime(), begun) << "what comes next";
+}
+
+TEST_F(DeviceWindowTest, WhatHappensBetweenTwoPicturesHasItsOwnTime) {
+    UIView::animateWithDuration(1, 0, UIViewAnimationOptions::None, [this] { first_->setAlpha(0.5); }, {});
+    shown.wake();
+    run();
+    betweenFrames_ = std::chrono::milliseconds(7);
+    const auto before = device.clock().uptime();
+    send(QEvent::MouseButtonPress);
+    EXPECT_EQ(device.clock().uptime(), before + betweenFrames_);
+    send(QEvent::MouseButtonRelease);
+    EXPECT_EQ(device.clock().uptime(), before + 2 * betweenFrames_);
 }
 
 TEST_F(DeviceWindowTest, RunsTheDevicesWork) {

@@ -11,7 +11,8 @@ WindowFixture::WindowFixture(const TestDevice::Settings& settings)
             {.scale = std::nullopt,
              .followsAppearance = true,
              .goBack = [this] { ++timesBack_; },
-             .showTime = [] {}}) {
+             .beginFrame = [this] { device.clock().moveTo(device.clock().uptime() + betweenFrames_); },
+             .showTime = [this] { timeOfPicture_ = Device::current().clock().uptime(); }}) {
     first_ = addCountedButton(*window, firstFrame, "First", firstPresses_);
     second_ = addCountedButton(*window, secondFrame, "Second", secondPresses_);
     shown.resize(195, 422);
@@ -20,13 +21,15 @@ WindowFixture::WindowFixture(const TestDevice::Settings& settings)
 }
 
 void WindowFixture::click(QPointF place) {
-    QMouseEvent down(QEvent::MouseButtonPress, place, shown.mapToGlobal(place), Qt::LeftButton,
-                     Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(&shown, &down);
-    QMouseEvent up(QEvent::MouseButtonRelease, place, shown.mapToGlobal(place), Qt::LeftButton, Qt::NoButton,
-                   Qt::NoModifier);
-    QCoreApplication::sendEvent(&shown, &up);
+    send(QEvent::MouseButtonPress, place);
+    send(QEvent::MouseButtonRelease, place);
     run();
+}
+
+void WindowFixture::send(QEvent::Type type, QPointF place) {
+    QMouseEvent event(type, place, shown.mapToGlobal(place), Qt::LeftButton,
+                      type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&shown, &event);
 }
 
 void WindowFixture::press(Qt::Key key) {

@@ -1,5 +1,6 @@
 #include "UIKit/UIDocumentPickerViewController.h"
 
+#include "Foundation/NSFileManager.h"
 #include "ObjectiveC/Class.h"
 #include "ObjectiveC/Weak.h"
 #include "documents/DocumentsFixture.h"
