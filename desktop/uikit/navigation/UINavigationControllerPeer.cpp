@@ -116,6 +116,8 @@ void UINavigationControllerPeer::changePage(Direction direction, bool animated) 
     const auto to = top() ? makePage(top(), direction) : Page();
     animated = animated && isVisible() && from.controller && to.controller;
     beginAppearances(from, to, animated);
+    if (to.view)
+        layoutPage(to); // once, with what its controller has changed as it was to appear
     if (!from.controller || !to.controller) {
         finish(from, to, false);
         return;
@@ -133,7 +135,6 @@ UINavigationControllerPeer::Page UINavigationControllerPeer::makePage(const Ref<
                     .view = make<NavigationPageView>(retain(&controller->view())),
                     .content = makeContent(controller)};
     container_->peer().insertSubview(page.view, direction == Direction::Pop ? 0 : 1);
-    layoutPage(page);
     return page;
 }
 
@@ -227,6 +228,7 @@ void UINavigationControllerPeer::beginInteractivePop() {
     followsFinger_ = popsAtEnd_ = true;
     const auto to = makePage(*(stack_.end() - 2), Direction::Pop);
     beginAppearances(shown_, to, true);
+    layoutPage(to);
     startTransition(shown_, to, Direction::Pop);
 }
 

@@ -23,6 +23,23 @@ protected:
     const Ref<LoggedPage> c = page("C");
 };
 
+/// Writes down when it is laid out.
+class LoggedViewPeer final : public UIViewPeer {
+public:
+    explicit LoggedViewPeer(PageLog& log) : log_(log) {}
+
+    // UIViewPeer:
+    void layoutSubviews() override { log_.emplace_back("layout"); }
+
+private:
+    PageLog& log_;
+};
+
+class LoggedView final : public UIView {
+public:
+    explicit LoggedView(PageLog& log) : UIView(std::make_unique<LoggedViewPeer>(log)) {}
+};
+
 class PadNavigationControllerTest : public NavigationFixture {
 protected:
     PadNavigationControllerTest() : NavigationFixture({.idiom = Idiom::Pad, .scale = 2}) {}
@@ -42,6 +59,23 @@ TEST_F(UINavigationControllerTest, aPushTellsBothPagesAtItsBeginAndAtItsEnd) {
     EXPECT_THAT(log, ElementsAre("viewDidDisappear A", "viewDidAppear B"));
     EXPECT_FALSE(peer().isTransitioning());
     EXPECT_EQ(a->view().peer().superview(), nullptr);
+}
+
+TEST_F(UINavigationControllerTest, aPageIsLaidOutOnceItKnowsThatItWillAppear) {
+    show({a});
+    b->view().addSubview(make<LoggedView>(log));
+    log.clear();
+    navigation->pushViewController(b, true);
+    EXPECT_THAT(log, ElementsAre("viewWillDisappear A", "viewWillAppear B", "layout"));
+}
+
+TEST_F(UINavigationControllerTest, aPageUnderAFingerIsLaidOutOnceItKnowsThatItWillAppear) {
+    show({a, b});
+    a->view().addSubview(make<LoggedView>(log));
+    log.clear();
+    peer().beginInteractivePop();
+    EXPECT_THAT(log, ElementsAre("viewWillDisappear B", "viewWillAppear A", "layout"));
+    peer().endInteractivePop(true);
 }
 
 TEST_F(UINavigationControllerTest, aPopTellsBothPagesAndLetsTheTopGo) {
