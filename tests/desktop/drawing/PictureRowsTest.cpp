@@ -1,5 +1,7 @@
 #include "PictureRows.h"
 
+#include "BlankPicture.h"
+
 #include <gtest/gtest.h>
 
 #include <QColor>
@@ -12,12 +14,6 @@
 namespace {
 
 constexpr auto rows = PixelWork::rowsAtOnce;
-
-QImage blank(QSize size, const QColor& color) {
-    QImage image(size, QImage::Format_ARGB32_Premultiplied);
-    image.fill(color);
-    return image;
-}
 
 /// Each pixel tells where it is.
 QColor colorAt(int x, int y) {

@@ -1,16 +1,8 @@
 #include "PixelRects.h"
 
+#include "BlankPicture.h"
+
 #include <gtest/gtest.h>
-
-namespace {
-
-QImage blank(QSize size, const QColor& color) {
-    QImage image(size, QImage::Format_ARGB32_Premultiplied);
-    image.fill(color);
-    return image;
-}
-
-} // namespace
 
 TEST(PixelRectsTest, FillsThePixelsOfARegionAndNoOthers) {
     auto image = blank({8, 6}, Qt::white);

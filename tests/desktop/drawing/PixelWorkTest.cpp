@@ -1,5 +1,6 @@
 #include "PixelWork.h"
 
+#include "BlankPicture.h"
 #include "PixelRects.h"
 
 #include <gtest/gtest.h>
@@ -10,12 +11,6 @@
 namespace {
 
 constexpr auto rows = PixelWork::rowsAtOnce;
-
-QImage blank(QSize size, const QColor& color) {
-    QImage image(size, QImage::Format_ARGB32_Premultiplied);
-    image.fill(color);
-    return image;
-}
 
 PixelWork::Step filling(const QColor& color) {
     return [color](QImage& target, const QRect& pixels, QPoint corner) {

@@ -1,16 +1,12 @@
 #include "ScaledPicture.h"
 
+#include "BlankPicture.h"
+
 #include <gtest/gtest.h>
 
 #include <random>
 
 namespace {
-
-QImage blank(QSize size, const QColor& color = Qt::transparent) {
-    QImage image(size, QImage::Format_ARGB32_Premultiplied);
-    image.fill(color);
-    return image;
-}
 
 QImage randomPicture(QSize size) {
     auto image = blank(size);

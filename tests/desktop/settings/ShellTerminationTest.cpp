@@ -1,5 +1,6 @@
 // The end of the Settings application.
 
+#include "LayoutCounter.h"
 #include "ShellFixture.h"
 #include "UIKit/UITextField.h"
 #include "keyboard/Keyboard.h"
@@ -14,17 +15,6 @@ namespace {
 using namespace std::chrono_literals;
 
 using ShellTerminationTest = ShellFixture;
-
-class LayoutCounter final : public UIView {
-public:
-    // UIView:
-    void layoutSubviews() override {
-        UIView::layoutSubviews();
-        ++layouts;
-    }
-
-    int layouts = 0;
-};
 
 } // namespace
 

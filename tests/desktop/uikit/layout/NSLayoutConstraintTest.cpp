@@ -1,3 +1,4 @@
+#include "LayoutCounter.h"
 #include "UIKit/NSLayoutDimension.h"
 #include "UIKit/NSLayoutXAxisAnchor.h"
 #include "UIKit/NSLayoutYAxisAnchor.h"
@@ -8,22 +9,6 @@
 
 using NSLayoutConstraintTest = LayoutFixture;
 using enum LayoutAttribute;
-
-namespace {
-
-/// Counts how often it is laid out.
-class CountingHost final : public UIView {
-public:
-    // UIView:
-    void layoutSubviews() override {
-        UIView::layoutSubviews();
-        ++layouts;
-    }
-
-    int layouts = 0;
-};
-
-} // namespace
 
 TEST_F(NSLayoutConstraintTest, FourEdgesPlaceAView) {
     const auto view = add();
@@ -232,7 +217,7 @@ TEST_F(NSLayoutConstraintTest, ALabelOfSeveralLinesIsAsHighAsItsWidthMakesIt) {
 }
 
 TEST_F(NSLayoutConstraintTest, AHostOfTextsThatAreWrappedIsLaidOutOnce) {
-    const auto counting = make<CountingHost>();
+    const auto counting = make<LayoutCounter>();
     counting->setFrame(CGRectMake(0, 0, 100, 300));
     const auto label = make<UILabel>();
     peerOf<UILabelPeer>(*label).setNumberOfLines(0);
