@@ -10,7 +10,6 @@
 #include "RectGeometry.h"
 #include "navigation/UINavigationControllerPeer.h"
 #include "screen/Screen.h"
-#include "screen/TouchDispatcher.h"
 #include "system/ApplicationSuspension.h"
 #include "system/ApplicationTermination.h"
 #include "time/MainQueueScheduler.h"
@@ -123,7 +122,6 @@ void Shell::goHome() {
     isHome_ = true;
     Screen::current().firstResponder().clear();
     Screen::current().presentations().dismissTransient();
-    TouchDispatcher::cancelTouchesIn(*settingsWindow_);
     settingsWindow_->setUserInteractionEnabled(false);
     setCorners(Screen::current().cornerRadius());
     AnimationGroup::run(
@@ -194,7 +192,6 @@ void Shell::makeIconWindow() {
     auto& screen = Screen::current();
     iconWindow_ = make<UIWindow>();
     iconWindow_->setWindowLevel(iconLevel);
-    iconWindow_->setUserInteractionEnabled(false);
     iconWindow_->setFrame(screen.bounds());
     iconWindow_->setBackgroundColor(UIColor::grayColor()); // where the picture's own corners are round
     iconWindow_->setClipsToBounds(true);

@@ -3,6 +3,7 @@
 #include "CALayerPeer.h"
 #include "EntryList.h"
 #include "PSListControllerPeer.h"
+#include "RectGeometry.h"
 #include "ShellFixture.h"
 #include "UIKit/UIApplication.h"
 #include "menus/DesktopMenu.h"
@@ -110,6 +111,19 @@ TEST_F(ShellTest, SettingsRunsOnBehindTheHomeScreen) {
     settle();
     EXPECT_EQ(shell->settings(), before);
     EXPECT_EQ(titles(), (Titles{"Settings", "good"}));
+}
+
+TEST_F(ShellTest, ATapOnTheIconThatSettingsShrinksToOpensItAgain) {
+    shell->launchSettings();
+    settle();
+    shell->goHome();
+    advance(std::chrono::milliseconds(300)); // the icon is seen, and is still on its way
+    const auto frame = frameOfSettings();
+    finger.touch(TouchPhase::Began, {CGRectGetMidX(frame), CGRectGetMidY(frame)});
+    finger.touch(TouchPhase::Ended, {CGRectGetMidX(frame), CGRectGetMidY(frame)});
+    EXPECT_EQ(shell->app(), "Settings");
+    settle();
+    EXPECT_EQ(frameOfSettings(), screen->bounds());
 }
 
 TEST_F(ShellTest, ASuspendedApplicationGoesToTheBackground) {
