@@ -1,13 +1,16 @@
 #include "UIKit/UIDocumentPickerViewController.h"
 
+#include "DesktopColor.h"
 #include "Foundation/NSFileManager.h"
 #include "ObjectiveC/Class.h"
 #include "ObjectiveC/Weak.h"
 #include "documents/DocumentsFixture.h"
-#include "views/UIViewPeer.h"
+#include "tables/UITableViewCellPeer.h"
+#include "views/UILabelPeer.h"
 
 #include <algorithm>
 #include <filesystem>
+#include <stdexcept>
 #include <utility>
 
 namespace {
@@ -56,8 +59,29 @@ protected:
                                        "/com.apple.Preferences-Inbox");
     }
 
+    /// The row that has that name.
+    [[nodiscard]] const UITableViewCellPeer& row(const std::string& name) {
+        for (const auto* view = viewOf(name); view != nullptr; view = view->peer().superview()) {
+            if (const auto* const cell = dynamic_cast<const UITableViewCell*>(view))
+                return peerOf<UITableViewCellPeer>(*cell);
+        }
+        throw std::logic_error("no row is called " + name);
+    }
+
+    [[nodiscard]] bool isSelected(const std::string& name) { return row(name).isSelected(); }
+
+    [[nodiscard]] ColorComponents colorOf(const std::string& name) {
+        return DesktopColor::resolve(peerOf<UILabelPeer>(row(name).textLabel()).textColor(), Traits());
+    }
+
     Ref<PickerDelegate> delegate = make<PickerDelegate>();
     Ref<UIDocumentPickerViewController> picker;
+
+private:
+    [[nodiscard]] const UIView* viewOf(const std::string& label) {
+        const auto elements = AccessibilityElement::allIn(top()->shownView());
+        return std::ranges::find(elements, label, &AccessibilityElement::label)->view.get();
+    }
 };
 
 class GermanDocumentPickerTest : public UIDocumentPickerTest {
@@ -141,9 +165,18 @@ TEST_F(UIDocumentPickerTest, FoldersAreGoneIntoAndLeft) {
     EXPECT_EQ(top()->details()->items.size(), 1U);
     press("a"); // the way back
     EXPECT_EQ(top()->title(), "a");
+    EXPECT_FALSE(isSelected("b"));
     press("b");
     press("c.gz");
     EXPECT_EQ(device.read(picked()), "deep");
+}
+
+TEST_F(UIDocumentPickerTest, NamesOfFilesAndFoldersBeginAtOnePlace) {
+    device.write(documents("a.gz"), "content");
+    device.write(documents("b/c.gz"), "deep");
+    open();
+    EXPECT_EQ(row("a.gz").textLabel().frame().origin.x, 16 + 29 + 16);
+    EXPECT_EQ(row("b").textLabel().frame().origin.x, 16 + 29 + 16);
 }
 
 TEST_F(UIDocumentPickerTest, StartsWhereItIsTold) {
@@ -166,6 +199,8 @@ TEST_F(UIDocumentPickerTest, OnlyFilesOfTheTypesCanBeChosen) {
     open({"org.gnu.gnu-zip-tar"});
     EXPECT_FALSE(top()->details()->items[0].tappable);
     EXPECT_TRUE(top()->details()->items[1].tappable);
+    EXPECT_EQ(colorOf("a.txt").alpha, 0.3) << "as fainter texts have";
+    EXPECT_EQ(colorOf("b.tar.GZ").alpha, 1);
     press("a.txt");
     EXPECT_EQ(kind(), "documentPicker");
     EXPECT_FALSE(pick({hostFile("a.txt")}));
@@ -242,6 +277,8 @@ TEST_F(UIDocumentPickerTest, AFileThatHasGoneMeanwhileIsRefused) {
     std::filesystem::remove(device.hostPath(documents("a.gz")));
     press("a.gz");
     EXPECT_EQ(complaint(), "“a.gz” could not be opened: No such file or directory.");
+    press("OK");
+    EXPECT_FALSE(isSelected("a.gz"));
 }
 
 TEST_F(UIDocumentPickerTest, SeveralFilesNeedToBeAllowed) {
