@@ -173,8 +173,14 @@ TEST_P(BadTouch, IsRefused) {
 INSTANTIATE_TEST_SUITE_P(Lines, BadTouch,
                          testing::Values("touch", "touch down", "touch down 1", "touch down 1 2 3",
                                          "touch Down 1 2", "touch down nan 2", "touch down 1 inf",
-                                         "touch down 1e400 2", "touch down 1x 2", "touch down 1e9 2",
+                                         "touch down 1e400 2", "touch down 1x 2", "touch down 1 -100001",
                                          "touch move 1 2", "touch up 1 2", "touch cancel 1 2"));
+
+TEST_F(TouchCommandsTest, AFingerMayLeaveTheScreen) {
+    for (const auto* const line : {"touch down 100 100", "touch move -100000 100", "touch move 100 100000"})
+        static_cast<void>(ask(line));
+    EXPECT_TRUE(finger.isTouching());
+}
 
 /// A window whose controller presents another one.
 class PresentingTest : public DriverFixture {

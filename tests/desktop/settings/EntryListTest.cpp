@@ -91,6 +91,17 @@ TEST_F(EntryListTest, EntriesAreInTheOrderOfTheirLabels) {
     EXPECT_EQ(labels(), (std::vector<std::string>{"apple", "Banana", "Corvex", "Éclair", "zebra"}));
 }
 
+TEST_F(EntryListTest, EntriesOfOneLabelAreInTheOrderOfTheirNames) {
+    constexpr int count = 60; // more than are sorted without their order being lost
+    for (int number = 0; number < count; ++number)
+        writeBundleEntry(std::to_string(100 + number * 37 % count) + ".plist", "Same");
+    std::vector<std::string> names;
+    for (const auto& entry : EntryList::read())
+        names.push_back(entry.name);
+    EXPECT_EQ(names.size(), static_cast<std::size_t>(count));
+    EXPECT_TRUE(std::ranges::is_sorted(names));
+}
+
 TEST_F(EntryListTest, WhatIsNoEntryIsLoggedOnceAndLeftOut) {
     writeBundleEntry("good.plist", "Good");
     writeRaw("text.plist", "this is no property list");

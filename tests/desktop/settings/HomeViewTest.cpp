@@ -78,3 +78,10 @@ TEST_F(HomeViewTest, AnIconUnderAFingerIsDimmed) {
     peer.setHighlighted(false);
     EXPECT_EQ(picture->layer().peer().number(LayerProperty::Opacity), 1);
 }
+
+TEST_F(HomeViewTest, TheNameIsInTheMiddleBelowTheIconAndMayBeWider) {
+    show(Idiom::Phone);
+    const auto& icon = *home->peer().subviews().back();
+    const auto& name = *icon.peer().subviews().back();
+    EXPECT_EQ(name.peer().convertTo(*home, name.bounds()), CGRectMake(27 - 12, 76 + 60 + 5, 60 + 24, 15));
+}

@@ -118,3 +118,18 @@ TEST_F(InputMethodTest, TellsWhenNobodyTakesText) {
 }
 
 } // namespace
+
+TEST_F(InputMethodTest, IsToldWhatAFieldIsFor) {
+    const auto hintsFor = [this](const TextInputTraits& traits) {
+        peerOf<UITextFieldPeer>(*field_).setTextInputTraits(traits);
+        return Qt::InputMethodHints::fromInt(ask(Qt::ImHints).toUInt());
+    };
+    using enum TextInputTraits::Keys;
+    using enum TextInputTraits::Capitals;
+    EXPECT_EQ(hintsFor({.keys = Letters, .capitals = Sentences, .secure = false}), Qt::ImhNone);
+    EXPECT_EQ(hintsFor({.keys = Letters, .capitals = None, .secure = false}), Qt::ImhNoAutoUppercase);
+    EXPECT_EQ(hintsFor({.keys = Numbers, .capitals = Words, .secure = false}), Qt::ImhPreferNumbers);
+    EXPECT_EQ(hintsFor({.keys = Letters, .capitals = Words, .secure = true}),
+              Qt::ImhHiddenText | Qt::ImhSensitiveData)
+        << "so that it is neither shown nor learned";
+}

@@ -55,6 +55,15 @@ TEST_F(PSEditableTableCellTest, TheFieldStandsAfterTheLabel) {
     EXPECT_EQ(fieldOf("b").view().frame().origin.x, 16);
 }
 
+TEST_F(PSEditableTableCellTest, ALongLabelLeavesTheFieldRoom) {
+    writeList({text("cell", "PSEditTextCell") + text("key", "a") + text("defaults", domain) +
+               text("label", "What the first row of Settings is called on this device")});
+    show();
+    EXPECT_EQ(fieldOf("a").view().frame().size.width, 80);
+    EXPECT_EQ(CGRectGetMaxX(fieldOf("a").view().frame()), 342);
+    EXPECT_EQ(CGRectGetMaxX(cellPeer("a").textLabel().frame()), 342 - 80 - 12);
+}
+
 TEST_F(PSEditableTableCellTest, TheValueIsWrittenWhenEditingEnds) {
     writeList({keptRow("PSEditTextCell", "a", text("PostNotification", "com.example.changed"))});
     show();

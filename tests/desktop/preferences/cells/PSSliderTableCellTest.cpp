@@ -91,6 +91,21 @@ TEST_F(PSSliderTableCellTest, ShowsItsNumber) {
     EXPECT_EQ(sliderOf("b").view().frame().size.width, 326);
 }
 
+TEST_F(PSSliderTableCellTest, ItsNumberIsShownWholeAndUngrouped) {
+    writeList(
+        {keptRow("PSSliderCell", "a",
+                 yes("showValue") + number("min", "0") + number("max", "2000") +
+                     number("default", "1500.25")),
+         keptRow("PSSliderCell", "b",
+                 yes("showValue") + number("min", "-10") + number("max", "1") + number("default", "-9.88"))});
+    show();
+    for (const auto& [id, shown] : {std::pair("a", "1500.25"), std::pair("b", "-9.88")}) {
+        const auto label = dynamicCast<UILabel>(cellPeer(id).contentView().peer().subviews().back());
+        EXPECT_EQ(peerOf<UILabelPeer>(*label).text(), shown);
+        EXPECT_FALSE(peerOf<UILabelPeer>(*label).isTruncated()) << shown;
+    }
+}
+
 TEST_F(PSSliderTableCellTest, ASegmentedOneRestsAtItsStops) {
     writeList(
         {keptRow("PSSliderCell", "a",

@@ -381,3 +381,40 @@ TEST_F(UIAlertControllerTest, leavesNothingAliveWhateverItsHandlersHold) {
     settle();
     EXPECT_EQ(watched.strong(), nullptr);
 }
+
+TEST_F(UIAlertControllerTest, makesAButtonsTitleSmallerBeforeItIsCutShort) {
+    const auto isCutShort = [this](const std::string& title) {
+        const auto shown = alert({action(title)});
+        present(shown);
+        const auto cut = peerOf<UILabelPeer>(labelOf(*viewOf(shown).buttons().front())).isTruncated();
+        dismissBy(*navigation, false);
+        settle();
+        return cut;
+    };
+    EXPECT_FALSE(isCutShort("Reset all of the settings of Corvex")) << "somewhat too long";
+    EXPECT_TRUE(isCutShort("Reset all of the settings of Corvex and all pictures of it, too"));
+}
+
+TEST_F(UIAlertControllerTest, linesOfAPixelAreBetweenItsButtons) {
+    const auto shown = usual();
+    present(shown);
+    const auto pixel = 1 / screen.traits().displayScale;
+    const auto lines = [&](std::size_t index) {
+        std::vector<CGRect> frames;
+        const auto& button = *viewOf(shown).buttons().at(index);
+        for (const auto& view : button.peer().subviews()) {
+            const auto& size = view->bounds().size;
+            if (!view->peer().isHidden() && std::min(size.width, size.height) < 1)
+                frames.push_back(view->frame());
+        }
+        return frames;
+    };
+    const auto above = CGRectMake(0, 0, 135, pixel);
+    EXPECT_THAT(lines(0), ElementsAre(above));
+    const auto second = lines(1);
+    ASSERT_EQ(second.size(), 2U);
+    EXPECT_EQ(second[0], above);
+    EXPECT_EQ(second[1].origin.x, 0);
+    EXPECT_NEAR(second[1].size.width, pixel, 1e-9);
+    EXPECT_NEAR(second[1].size.height, 44, 1e-9);
+}

@@ -100,3 +100,21 @@ TEST_F(UISegmentedControlTest, TheChosenTitleStandsOut) {
     EXPECT_EQ(weightOf(1), FontWeight::Semibold);
     EXPECT_EQ(weightOf(0), FontWeight::Medium);
 }
+
+TEST_F(UISegmentedControlTest, WhatIsChosenSlidesThereUnderAShadow) {
+    peer().setSelected(0, false);
+    const auto isThumb = [](const Ref<UIView>& view) {
+        return view->layer().peer().number(LayerProperty::ShadowOpacity) > 0;
+    };
+    const auto found = std::ranges::find_if(peer().subviews(), isThumb);
+    ASSERT_NE(found, peer().subviews().end());
+    const auto& thumb = (*found)->layer().peer();
+    EXPECT_EQ(thumb.number(LayerProperty::ShadowOpacity), 0.12);
+    EXPECT_FALSE(thumb.isAnimating());
+    peer().setSelected(2, true);
+    EXPECT_EQ((*found)->frame(), CGRectMake(202, 2, 96, 28));
+    advance(std::chrono::milliseconds(409));
+    EXPECT_TRUE(thumb.isAnimating());
+    advance(std::chrono::milliseconds(2));
+    EXPECT_FALSE(thumb.isAnimating());
+}

@@ -146,3 +146,28 @@ TEST_F(UISliderTest, TellsWhatItIs) {
     EXPECT_EQ(peer().accessibility().value, "75%");
     EXPECT_TRUE(peer().accessibility().isElement);
 }
+
+TEST_F(UISliderTest, IsHeldASmallWayBesideItsThumbToo) {
+    for (const auto& [beside, held] : {std::pair(21.0, true), std::pair(23.0, false)}) {
+        peer().setValue(0.5);
+        auto place = at(0.5);
+        place.x += beside;
+        down(place);
+        place.x += 20;
+        move(place);
+        up(place);
+        EXPECT_NEAR(peer().value(), held ? 0.6 : 0.5, 1e-9) << beside;
+    }
+}
+
+TEST_F(UISliderTest, ItsThumbStandsOutByTwoFaintShadows) {
+    const auto& parts = peer().subviews();
+    const auto& wide = (*(parts.end() - 2))->layer().peer();
+    const auto& narrow = parts.back()->layer().peer();
+    for (const auto* const layer : {&wide, &narrow})
+        EXPECT_EQ(layer->number(LayerProperty::ShadowOpacity), 0.12);
+    EXPECT_EQ(wide.value(LayerProperty::ShadowOffset)[1], 6);
+    EXPECT_EQ(wide.number(LayerProperty::ShadowRadius), 6.5);
+    EXPECT_EQ(narrow.value(LayerProperty::ShadowOffset)[1], 0.5);
+    EXPECT_EQ(narrow.number(LayerProperty::ShadowRadius), 2);
+}

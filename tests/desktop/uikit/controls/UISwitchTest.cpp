@@ -132,3 +132,24 @@ TEST_F(UISwitchTest, TellsOfItself) {
     EXPECT_EQ(peer().accessibility().value, "1");
     EXPECT_EQ(peer().inspectedProperties().at("on"), PropertyList(true));
 }
+
+TEST_F(UISwitchTest, AFingerThatTremblesOnTheMiddleTaps) {
+    down(130);
+    move(124);
+    EXPECT_FALSE(peer().isOn());
+    up(124);
+    EXPECT_TRUE(peer().isOn());
+    EXPECT_EQ(changes_, 1);
+}
+
+TEST_F(UISwitchTest, ItsThumbStandsOutByTwoFaintShadows) {
+    const auto& parts = peer().subviews();
+    const auto& wide = (*(parts.end() - 2))->layer().peer();
+    const auto& narrow = parts.back()->layer().peer();
+    for (const auto* const layer : {&wide, &narrow})
+        EXPECT_EQ(layer->value(LayerProperty::ShadowOffset)[1], 3);
+    EXPECT_EQ(wide.number(LayerProperty::ShadowOpacity), 0.15);
+    EXPECT_EQ(wide.number(LayerProperty::ShadowRadius), 4);
+    EXPECT_EQ(narrow.number(LayerProperty::ShadowOpacity), 0.06);
+    EXPECT_EQ(narrow.number(LayerProperty::ShadowRadius), 0.5);
+}

@@ -1,11 +1,13 @@
 #include "screen/SystemBars.h"
 
 #include "CALayerPeer.h"
+#include "RectGeometry.h"
 #include "TestDevice.h"
 #include "UIKit/UIAlertController.h"
 #include "UIKit/UIColor.h"
 #include "screen/Compositor.h"
 #include "screen/Screen.h"
+#include "screen/StatusGlyphs.h"
 #include "views/UILabelPeer.h"
 #include "views/UIViewPeer.h"
 
@@ -136,6 +138,42 @@ TEST(SystemBarsTest, writeATabletsChargeAsTheLocaleDoes) {
         auto* const label = dynamic_cast<UILabel*>(part.get());
         return label != nullptr && peerOf<UILabelPeer>(*label).text() == "100\u00a0%";
     }));
+}
+
+TEST(SystemBarsTest, haveTheSameGapBesideATabletsDateAndCharge) {
+    const TestDevice device;
+    Screen screen({.idiom = Idiom::Pad, .scale = 2});
+    const SystemBars bars;
+    screen.layoutIfNeeded();
+    const auto& parts = bars.statusBar().peer().subviews();
+    ASSERT_EQ(parts.size(), 4U);
+    const auto time = screenFrame(*parts[0]);
+    const auto date = screenFrame(*parts[1]);
+    const auto charge = screenFrame(*parts[2]);
+    const auto glyphs = screenFrame(*parts[3]);
+    EXPECT_EQ(time.origin.x, 20);
+    EXPECT_NEAR(date.origin.x - CGRectGetMaxX(time), 6, 1e-9);
+    EXPECT_NEAR(charge.origin.x - glyphs.origin.x - StatusGlyphs::wirelessWidth, 6, 1e-9);
+    EXPECT_NEAR(CGRectGetMaxX(glyphs), 820 - 20, 1e-9);
+}
+
+TEST(SystemBarsTest, outlineTheBatteryFaintly) {
+    const TestDevice device;
+    Screen screen{Screen::Options{}};
+    const auto window = make<UIWindow>();
+    window->setFrame(screen.bounds());
+    window->setBackgroundColor(UIColor::whiteColor());
+    screen.addWindow(window);
+    SystemBars bars;
+    bars.refresh();
+    Compositor compositor(screen);
+    const auto picture = compositor.render();
+    const auto middle = 3 * 26;
+    const auto left = static_cast<int>(3 * (390 - 27 - StatusGlyphs::batteryWidth));
+    auto faintest = 255;
+    for (auto x = left; x < left + 4; ++x) // before the charge begins
+        faintest = std::min(faintest, qGray(picture.pixel(x, middle)));
+    EXPECT_NEAR(faintest, 255 * (1 - 0.35), 2);
 }
 
 TEST(SystemBarsTest, areAtTheEdgesOfAPhone) {

@@ -169,6 +169,18 @@ TEST_F(UIScrollViewPeerMotionTest, IndicatorShowsWhileContentsMove) {
     EXPECT_EQ(opacity(), 0);
 }
 
+TEST_F(UIScrollViewPeerMotionTest, ContentsBeyondAnEdgePressTheIndicatorTogetherButNotAway) {
+    constexpr auto whole = 594 * 600 / 2000.0;
+    down(100, 120);
+    move(100, 130);
+    move(100, 230);
+    const auto& indicator = *scroll->peer().subviews().back();
+    EXPECT_NEAR(indicator.frame().size.height, whole + offset(), 1e-9);
+    move(100, 1030);
+    EXPECT_LT(offset(), -whole);
+    EXPECT_EQ(indicator.frame().size.height, 8);
+}
+
 TEST_F(UIScrollViewPeerMotionTest, MotionEndsWithItsWindow) {
     flick();
     advance(50ms);
