@@ -6,6 +6,7 @@
 #include "RectGeometry.h"
 #include "ShellFixture.h"
 #include "UIKit/UIApplication.h"
+#include "UIKit/UITextField.h"
 #include "menus/DesktopMenu.h"
 #include "menus/MenuPresentation.h"
 #include "navigation/UINavigationControllerPeer.h"
@@ -338,6 +339,24 @@ TEST_F(ShellTest, AMenuAboveSettingsDoesNotStayAboveTheHomeScreen) {
     EXPECT_EQ(screen->presentations().top(), nullptr);
     settle();
     EXPECT_EQ(screen->hitTest({57, 106})->peer().accessibility().label, "Settings");
+    shell->launchSettings();
+    settle();
+    EXPECT_EQ(screen->presentations().top(), nullptr) << "nor come back with Settings";
+}
+
+TEST_F(ShellTest, WhatIsTypedAtTheHomeScreenIsNoFieldsInSettings) {
+    shell->launchSettings();
+    settle();
+    const auto field = make<UITextField>();
+    shell->settings()->pages()->view().addSubview(field);
+    field->setFrame(CGRectMake(20, 200, 200, 34));
+    ASSERT_TRUE(field->becomeFirstResponder());
+    settle();
+    EXPECT_GT(screen->keyboardHeight(), 0);
+    shell->goHome();
+    EXPECT_EQ(screen->firstResponder().input(), nullptr);
+    settle();
+    EXPECT_EQ(screen->keyboardHeight(), 0);
 }
 
 TEST_F(ShellTest, TheWayBackIsToThePageBeforeAndFromTheFirstOneHome) {

@@ -1,6 +1,7 @@
 #include "WindowAccessibility.h"
 
 #include "WindowFixture.h"
+#include "controls/UISliderPeer.h"
 #include "views/UIViewPeer.h"
 
 namespace {
@@ -42,6 +43,25 @@ TEST_F(WindowAccessibilityTest, TellsOfADisabledControl) {
     EXPECT_FALSE(told().child(0)->state().disabled);
     peerOf<UIControlPeer>(*first_).setEnabled(false);
     EXPECT_TRUE(told().child(0)->state().disabled);
+}
+
+TEST_F(WindowAccessibilityTest, ASliderMayBeSetHigherAndLower) {
+    using Actions = QAccessibleActionInterface;
+    const auto slider = make<UISlider>();
+    slider->setFrame(CGRectMake(20, 300, 200, 34));
+    window->addSubview(slider);
+    layOut();
+    const auto& peer = peerOf<UISliderPeer>(*slider);
+    const QStringList usual{Actions::pressAction(), Actions::setFocusAction()};
+    EXPECT_EQ(told().child(0)->actionInterface()->actionNames(), usual);
+    ASSERT_EQ(told().childCount(), 3);
+    auto& actions = *told().child(2)->actionInterface();
+    EXPECT_EQ(actions.actionNames(),
+              usual + QStringList({Actions::increaseAction(), Actions::decreaseAction()}));
+    actions.doAction(Actions::increaseAction());
+    EXPECT_NEAR(peer.value(), 0.1, 1e-9);
+    actions.doAction(Actions::decreaseAction());
+    EXPECT_EQ(peer.value(), 0);
 }
 
 TEST_F(WindowAccessibilityTest, LosesAnElementThatIsGone) {

@@ -85,6 +85,15 @@ TEST_F(PSEditableTableCellTest, TheSameTextIsNotWritten) {
     EXPECT_EQ(written("a"), std::nullopt);
 }
 
+TEST_F(PSEditableTableCellTest, ATextThatTheFieldShowsInOneLineIsNotWrittenUnlessItIsEdited) {
+    writeList({keptRow("PSEditTextCell", "a", text("default", "one\ntwo"))});
+    show();
+    ASSERT_NE(fieldOf("a").fieldText(), "one\ntwo");
+    tap("a");
+    fieldOf("a").returnPressed();
+    EXPECT_EQ(written("a"), std::nullopt);
+}
+
 TEST_F(PSEditableTableCellTest, ATapOnTheLabelEdits) {
     writeList({keptRow("PSEditTextCell", "a")});
     show();

@@ -67,6 +67,16 @@ TEST_F(PSSliderTableCellTest, WritesWhileTheThumbMoves) {
     EXPECT_EQ(Device::current().notifications().take().size(), 1U);
 }
 
+TEST_F(PSSliderTableCellTest, StaysUnderTheFingerWhateverIsReadMeanwhile) {
+    writeList({keptRow("PSSliderCell", "a", no("isContinuous"))});
+    show();
+    dragThumb("a", 149);
+    peer().reloadSpecifier(specifier("a"));
+    EXPECT_EQ(sliderOf("a").value(), 0.5);
+    up(thumbOf("a"));
+    EXPECT_EQ(written("a"), PropertyList(0.5));
+}
+
 TEST_F(PSSliderTableCellTest, OneThatIsNotContinuousWritesAtTheEnd) {
     writeList({keptRow("PSSliderCell", "a", no("isContinuous"))});
     show();

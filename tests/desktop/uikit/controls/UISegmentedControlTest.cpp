@@ -3,6 +3,8 @@
 #include "controls/UISegmentedControlPeer.h"
 #include "views/UILabelPeer.h"
 
+#include <algorithm>
+
 namespace {
 
 /// Three titles of 100 points each, from (20, 100) on.
@@ -117,4 +119,40 @@ TEST_F(UISegmentedControlTest, WhatIsChosenSlidesThereUnderAShadow) {
     EXPECT_TRUE(thumb.isAnimating());
     advance(std::chrono::milliseconds(2));
     EXPECT_FALSE(thumb.isAnimating());
+}
+
+TEST_F(UISegmentedControlTest, AreDividedByShortLinesButNotBesideWhatIsChosen) {
+    const auto dividers = [this] {
+        std::vector<std::pair<CGRect, double>> all; // with how opaque they are
+        for (const auto& view : peer().subviews()) {
+            if (view->bounds().size.width == 1)
+                all.emplace_back(view->frame(), view->layer().peer().number(LayerProperty::Opacity));
+        }
+        std::ranges::sort(all, {}, [](const auto& divider) { return divider.first.origin.x; });
+        return all;
+    };
+    const auto first = CGRectMake(100, 6, 1, 20);
+    const auto second = CGRectMake(200, 6, 1, 20);
+    EXPECT_EQ(dividers(), (std::vector{std::pair(first, 1.0), std::pair(second, 1.0)}));
+    peer().setSelected(0, false);
+    EXPECT_EQ(dividers(), (std::vector{std::pair(first, 0.0), std::pair(second, 1.0)}));
+    peer().setSelected(1, false);
+    EXPECT_EQ(dividers(), (std::vector{std::pair(first, 0.0), std::pair(second, 0.0)}));
+}
+
+TEST_F(UISegmentedControlTest, WhatIsChosenShrinksWhileAFingerHoldsIt) {
+    peer().setSelected(0, false);
+    const auto widthOfThumb = [this] {
+        double width = 0;
+        for (const auto& view : peer().subviews()) {
+            if (view->layer().peer().number(LayerProperty::ShadowOpacity) > 0)
+                width = view->frame().size.width;
+        }
+        return width;
+    };
+    EXPECT_EQ(widthOfThumb(), 96);
+    down(middleOf(0));
+    EXPECT_NEAR(widthOfThumb(), 0.95 * 96, 1e-9);
+    up(middleOf(0));
+    EXPECT_EQ(widthOfThumb(), 96);
 }

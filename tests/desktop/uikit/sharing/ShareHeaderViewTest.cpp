@@ -43,6 +43,7 @@ TEST_F(ShareHeaderViewTest, ItsTextsMeetInTheMiddleBesideTheSymbol) {
 TEST_F(ShareHeaderViewTest, ItsTextsEndBeforeTheButtonThatCloses) {
     showHeader([] {});
     EXPECT_EQ(element("Close").frame(), CGRectMake(390 - 16 - 30, 21, 30, 30));
+    EXPECT_EQ(element("Close").layer().cornerRadius(), 15) << "which is round";
     for (const auto* const text : {"my backup.tar.gz", "7 bytes"})
         EXPECT_EQ(CGRectGetMaxX(element(text).frame()), 390 - 16 - 30 - 16) << text;
 }
