@@ -219,6 +219,18 @@ TEST_F(PresentingTest, SwipeDownLeavesAlertsAlone) {
     EXPECT_EQ(refusalOf("swipe-down"), "no sheet is presented");
 }
 
+TEST_F(PresentingTest, ScreenTellsWhichActionsCannotBeChosen) {
+    const auto menu = make<PresentedStandIn>();
+    menu->shownActions = {
+        {.title = "Apply", .symbol = {}, .destructive = false, .disabled = false, .frame = {}},
+        {.title = "Never", .symbol = {}, .destructive = false, .disabled = true, .frame = {}}};
+    screen.presentations().add(*menu, *menu);
+    const auto actions = presented().value("actions").toArray();
+    ASSERT_EQ(actions.size(), 2);
+    EXPECT_EQ(actions[0]["enabled"], true);
+    EXPECT_EQ(actions[1]["enabled"], false);
+}
+
 TEST_F(PresentingTest, ScreenTellsOfASheet) {
     const auto sheet = make<UIViewController>();
     sheet->peer().setTitle("Notes");

@@ -5,6 +5,7 @@
 #include "controls/UIControlPeer.h"
 #include "screen/Screen.h"
 #include "screen/UIWindow.h"
+#include "views/UILabelPeer.h"
 
 #include <gtest/gtest.h>
 
@@ -84,4 +85,5 @@ TEST_F(HomeViewTest, TheNameIsInTheMiddleBelowTheIconAndMayBeWider) {
     const auto& icon = *home->peer().subviews().back();
     const auto& name = *icon.peer().subviews().back();
     EXPECT_EQ(name.peer().convertTo(*home, name.bounds()), CGRectMake(27 - 12, 76 + 60 + 5, 60 + 24, 15));
+    EXPECT_EQ(peerOf<UILabelPeer>(dynamic_cast<const UILabel&>(name)).fontStyle(), FontStyle{.size = 12});
 }

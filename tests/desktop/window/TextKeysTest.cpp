@@ -119,6 +119,7 @@ INSTANTIATE_TEST_SUITE_P(Keys, TextKeysTest, testing::ValuesIn(presses),
 
 TEST_F(TextKeysTest, LeavesOtherKeysAlone) {
     EXPECT_FALSE(press(Qt::Key_F5, {}));
+    EXPECT_FALSE(press(Qt::Key_Escape, {}, "\x1b")) << "whose text is no character that is written";
     EXPECT_FALSE(press(Qt::Key_Shift, Qt::ShiftModifier));
     EXPECT_FALSE(press(Qt::Key_Q, Qt::ControlModifier, "\x11"));
     EXPECT_FALSE(press(Qt::Key_Q, Qt::AltModifier, "q"));
