@@ -1,0 +1,3 @@
+#pragma once
+
+enum class HorizontalAlignment { Left, Center, Right };
