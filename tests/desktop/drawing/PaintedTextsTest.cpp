@@ -81,7 +81,7 @@ TEST_F(PaintedTextsTest, WhateverIsOtherMakesOtherLetters) {
     const auto left = aligned(text, HorizontalAlignment::Left);
     static_cast<void>(painted(left));
     EXPECT_EQ(made(), 1U);
-    const auto between = painted(left, origin + QPointF(0.1, 0));
+    const auto between = painted(left, origin + QPointF(0.01, 0));
     EXPECT_EQ(made(), 2U);
     const auto right = painted(aligned(text, HorizontalAlignment::Right));
     EXPECT_EQ(made(), 3U);
@@ -92,10 +92,28 @@ TEST_F(PaintedTextsTest, WhateverIsOtherMakesOtherLetters) {
 
     forgetLines();
     const auto anew = aligned(text, HorizontalAlignment::Left);
-    EXPECT_EQ(painted(anew, origin + QPointF(0.1, 0)), between);
+    EXPECT_EQ(painted(anew, origin + QPointF(0.01, 0)), between);
     EXPECT_EQ(painted(aligned(text, HorizontalAlignment::Right)), right);
     EXPECT_EQ(painted(aligned(text, HorizontalAlignment::Right, 120)), narrow);
     EXPECT_EQ(painted(TextLayout(text, {.size = 17, .weight = FontWeight::Bold}, {})), heavy);
+}
+
+TEST_F(PaintedTextsTest, LinesAreAlignedEachTheirOwnWay) {
+    const auto text = newText() + "\nS";
+    const auto width = TextLayout(text, style, {.pixelScale = scale}).size().width();
+    const auto left = painted(aligned(text, HorizontalAlignment::Left, width));
+    EXPECT_NE(painted(aligned(text, HorizontalAlignment::Right, width)), left);
+    EXPECT_EQ(painted(aligned(text, HorizontalAlignment::Left, width)), left);
+    EXPECT_EQ(made(), 2U);
+}
+
+TEST_F(PaintedTextsTest, EveryLineIsPainted) {
+    const auto text = newText();
+    const auto one = painted(TextLayout(text, style));
+    const auto two = painted(TextLayout(text + "\nSettings", style));
+    const auto part = QRect(0, 0, one.width(), static_cast<int>((origin.y() + style.ascent()) * scale));
+    EXPECT_EQ(two.copy(part), one.copy(part));
+    EXPECT_NE(two, one);
 }
 
 TEST_F(PaintedTextsTest, LettersOfAnyColorAreThoseOfAPainter) {

@@ -79,7 +79,10 @@ TEST(PainterBandsTest, NothingIsPaintedMoreThanOnceOrWhereNothingIsSeen) {
     auto rows = 0.0;
     const auto count = [&rows](QPainter& painter) {
         const QRectF all(0, -500, 300, 2000);
-        PainterBands::paint(painter, all, [&] { rows += painter.clipBoundingRect().height(); });
+        PainterBands::paint(painter, all, [&] {
+            EXPECT_FALSE(painter.clipBoundingRect().isEmpty());
+            rows += painter.clipBoundingRect().height();
+        });
     };
     static_cast<void>(painted(1, count));
     EXPECT_EQ(rows, 300); // of the clip
