@@ -1,6 +1,6 @@
 #pragma once
 
-#include "HorizontalAlignment.h"
+#include "TextLayout.h"
 #include "TextLines.h"
 
 #include <QColor>

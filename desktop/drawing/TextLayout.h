@@ -1,7 +1,6 @@
 #pragma once
 
 #include "FontStyle.h"
-#include "HorizontalAlignment.h"
 #include "TextLines.h"
 
 #include <QColor>
@@ -19,6 +18,8 @@
 #include <vector>
 
 class QPainter;
+
+enum class HorizontalAlignment { Left, Center, Right };
 
 struct TextLayoutOptions {
     double maximumWidth = std::numeric_limits<double>::infinity(); ///< in points

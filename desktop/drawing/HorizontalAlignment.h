@@ -1,3 +1,0 @@
-#pragma once
-
-enum class HorizontalAlignment { Left, Center, Right };
