@@ -2,6 +2,7 @@
 
 #include "FontFaces.h"
 #include "KnownTexts.h"
+#include "PaintedTexts.h"
 #include "PainterBands.h"
 #include "PixelComponents.h"
 
@@ -176,21 +177,17 @@ void TextLayout::paint(QPainter& painter, QPointF origin, const QColor& color) c
     const auto pixels = pixelsIn(painter, inkRect().translated(origin));
     if (pixels.isEmpty())
         return;
-    const auto& toPixels = painter.deviceTransform();
-    const auto fineness = finenessOf(toPixels);
-    QImage image(pixels.size() * fineness, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    {
-        QPainter letters(&image);
-        // The first line stands on whole pixels, as the rasteriser has it on its own ones.
-        const auto line = toPixels.map(origin + QPointF(0, baseline(0))).y();
-        const auto down = fineness > 1 ? std::floor(line + 0.5 + roundingError) - line : 0;
-        letters.setTransform(toPixels * QTransform::fromTranslate(-pixels.x(), down - pixels.y()) *
-                             QTransform::fromScale(fineness, fineness));
-        paintLines(letters, origin, color);
-    }
-    if (fineness > 1)
-        image = PixelComponents::reduced(image, pixels.size()).toImage();
+    const auto toPicture = QTransform::fromTranslate(origin.x(), origin.y()) * painter.deviceTransform() *
+                           QTransform::fromTranslate(-pixels.x(), -pixels.y());
+    const PaintedTexts::Key key{.lines = text_,
+                                .alignment = options_.alignment,
+                                .width = boxWidth(),
+                                .toPicture = toPicture,
+                                .size = pixels.size()};
+    const auto coverage =
+        PaintedTexts::shared().coverage(key, [&] { return letters(toPicture, pixels.size(), Qt::black); });
+    const auto image =
+        coverage.isNull() ? letters(toPicture, pixels.size(), color) : PaintedTexts::colored(coverage, color);
     painter.save();
     painter.resetTransform();
     const auto pixel = 1 / painter.device()->devicePixelRatioF();
@@ -199,10 +196,25 @@ void TextLayout::paint(QPainter& painter, QPointF origin, const QColor& color) c
     painter.restore();
 }
 
-void TextLayout::paintLines(QPainter& painter, QPointF origin, const QColor& color) const {
+QImage TextLayout::letters(const QTransform& toPicture, QSize size, const QColor& color) const {
+    const auto fineness = finenessOf(toPicture);
+    QImage image(size * fineness, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    {
+        QPainter painter(&image);
+        // The first line stands on whole pixels, as the rasteriser has it on its own ones.
+        const auto line = toPicture.map(QPointF(0, baseline(0))).y();
+        const auto down = fineness > 1 ? std::floor(line + 0.5 + roundingError) - line : 0;
+        painter.setTransform(toPicture * QTransform::fromTranslate(0, down) *
+                             QTransform::fromScale(fineness, fineness));
+        paintLines(painter, color);
+    }
+    return fineness > 1 ? PixelComponents::reduced(image, size).toImage() : image;
+}
+
+void TextLayout::paintLines(QPainter& painter, const QColor& color) const {
     painter.setPen(color);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
-    painter.translate(origin);
     painter.scale(unit_, unit_);
     for (std::size_t number = 0; number < lines().size(); ++number) {
         const auto line = lines()[number].textLine();
@@ -212,9 +224,11 @@ void TextLayout::paintLines(QPainter& painter, QPointF origin, const QColor& col
 }
 
 QRectF TextLayout::inkRect() const {
-    const auto height = static_cast<double>(lines().size()) * style_.lineHeight();
+    QRectF rect;
+    for (std::size_t number = 0; number < lines().size(); ++number)
+        rect |= lineRect(number);
     const auto beyond = style_.size / 2; // letters with marks above or below, and slanted ones
-    return QRectF(0, 0, boxWidth(), height).adjusted(-beyond, -beyond, beyond, beyond);
+    return rect.adjusted(-beyond, -beyond, beyond, beyond);
 }
 
 double TextLayout::lineWidth(const TextLines::Line& line) const {

@@ -4,10 +4,13 @@
 #include "TextLines.h"
 
 #include <QColor>
+#include <QImage>
 #include <QPointF>
 #include <QRectF>
+#include <QSize>
 #include <QSizeF>
 #include <QString>
+#include <QTransform>
 #include <cstddef>
 #include <limits>
 #include <memory>
@@ -78,7 +81,9 @@ private:
     [[nodiscard]] double boxWidth() const;
     [[nodiscard]] double left(const TextLines::Line& line) const;
     [[nodiscard]] std::size_t lineOf(qsizetype position) const;
-    void paintLines(QPainter& painter, QPointF origin, const QColor& color) const;
+    /// On nothing, in a picture of that size. \param toPicture from points
+    [[nodiscard]] QImage letters(const QTransform& toPicture, QSize size, const QColor& color) const;
+    void paintLines(QPainter& painter, const QColor& color) const;
     /// What letters may reach.
     [[nodiscard]] QRectF inkRect() const;
     [[nodiscard]] QRectF characterRect(qsizetype begin, qsizetype end) const;

@@ -1,6 +1,7 @@
 #include "CAGradientLayerPeer.h"
 
 #include "DesktopColor.h"
+#include "PainterBands.h"
 
 #include <QLinearGradient>
 #include <QPainter>
@@ -41,7 +42,8 @@ void CAGradientLayerPeer::drawLayer(QPainter& painter, const CGRect& bounds, con
     const auto radius = std::min(shownValue(LayerProperty::CornerRadius)[0], greatest);
     painter.setPen(Qt::NoPen);
     painter.setBrush(gradientIn(bounds));
-    painter.drawRoundedRect(QRectF(origin.x, origin.y, size.width, size.height), radius, radius);
+    const QRectF rect(origin.x, origin.y, size.width, size.height);
+    PainterBands::paint(painter, rect, [&] { painter.drawRoundedRect(rect, radius, radius); });
 }
 
 Traits CAGradientLayerPeer::layerTraits() const {

@@ -3,6 +3,7 @@
 #include "CALayerPeer.h"
 #include "DesktopColor.h"
 #include "ObjectiveC/Class.h"
+#include "PainterBands.h"
 #include "views/UIViewPeer.h"
 
 #include <QLinearGradient>
@@ -29,7 +30,8 @@ public:
             shade.setColorAt(part,
                              QColor::fromRgbF(0, 0, 0, static_cast<float>(shadowOpacity * part * part)));
         }
-        painter.fillRect(QRectF(0, 0, size.width, size.height), shade);
+        const QRectF all(0, 0, size.width, size.height);
+        PainterBands::paint(painter, all, [&] { painter.fillRect(all, shade); });
     }
 };
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QPainter>
+#include <algorithm>
 #include <functional>
 #include <vector>
 
@@ -61,6 +62,41 @@ TEST(PainterBandsTest, APictureHasTheSamePixelsAsWithoutBands) {
               painted(1, [&](QPainter& painter) { painter.drawImage(QPointF(8, 4), image); }));
     EXPECT_EQ(painted(1.25, [&](QPainter& painter) { PainterBands::draw(painter, place, image); }),
               painted(1.25, [&](QPainter& painter) { painter.drawImage(place, image); }));
+}
+
+TEST(PainterBandsTest, WhatIsPaintedBandByBandHasTheSamePixels) {
+    const QColor color(0, 80, 255, 100);
+    for (const auto scale : {1.0, 1.25}) {
+        const auto fill = [&](QPainter& painter) { painter.fillRect(place, color); };
+        EXPECT_EQ(
+            painted(scale,
+                    [&](QPainter& painter) { PainterBands::paint(painter, place, [&] { fill(painter); }); }),
+            painted(scale, fill));
+    }
+}
+
+TEST(PainterBandsTest, NothingIsPaintedMoreThanOnceOrWhereNothingIsSeen) {
+    auto rows = 0.0;
+    const auto count = [&rows](QPainter& painter) {
+        const QRectF all(0, -500, 300, 2000);
+        PainterBands::paint(painter, all, [&] {
+            EXPECT_FALSE(painter.clipBoundingRect().isEmpty());
+            rows += painter.clipBoundingRect().height();
+        });
+    };
+    static_cast<void>(painted(1, count));
+    EXPECT_EQ(rows, 300); // of the clip
+}
+
+/// As many pieces of rows as 64 rows with soft edges have are shared out to threads.
+TEST(PainterBandsTest, RowsWithSoftEdgesAreFew) {
+    auto most = 0.0;
+    static_cast<void>(painted(1, [&most](QPainter& painter) {
+        PainterBands::paint(painter, place,
+                            [&] { most = std::max(most, painter.clipBoundingRect().height()); });
+    }));
+    EXPECT_GT(most, 16);
+    EXPECT_LT(most * 3, 96);
 }
 
 TEST(PainterBandsTest, ThePainterIsAsItWasBefore) {
