@@ -23,7 +23,8 @@ void draw(QPainter& painter, QPointF place, const QImage& image);
 /// Draws a picture larger or smaller.
 void draw(QPainter& painter, const QRectF& place, const QImage& image);
 
-/// Has something painted band by band, each cut off at the band. \pre it reaches no further than its place
+/// Has something painted band by band, each cut off at the band; of gradients the last bit may be another.
+/// \pre it reaches no further than its place
 void paint(QPainter& painter, const QRectF& place, const std::function<void()>& something);
 
 } // namespace PainterBands

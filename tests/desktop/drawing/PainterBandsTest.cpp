@@ -2,8 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QLinearGradient>
 #include <QPainter>
 #include <algorithm>
+#include <cstdlib>
 #include <functional>
 #include <vector>
 
@@ -40,6 +42,14 @@ int rowsOf(const std::vector<QRect>& bands) {
     return rows;
 }
 
+/// Of any component of any pixel.
+int greatestDifference(const QImage& one, const QImage& other) {
+    auto greatest = 0;
+    for (qsizetype byte = 0; byte < one.sizeInBytes(); ++byte)
+        greatest = std::max(greatest, std::abs(one.constBits()[byte] - other.constBits()[byte]));
+    return greatest;
+}
+
 } // namespace
 
 TEST(PainterBandsTest, ARegionsBandsAreAllOfItAndHaveFewRows) {
@@ -72,6 +82,19 @@ TEST(PainterBandsTest, WhatIsPaintedBandByBandHasTheSamePixels) {
             painted(scale,
                     [&](QPainter& painter) { PainterBands::paint(painter, place, [&] { fill(painter); }); }),
             painted(scale, fill));
+    }
+}
+
+TEST(PainterBandsTest, GradientsDifferByTheirLastBitAtMost) {
+    QLinearGradient gradient(place.topLeft(), place.bottomRight());
+    gradient.setColorAt(0, QColor(255, 59, 48));
+    gradient.setColorAt(1, QColor(0, 80, 255, 100));
+    for (const auto scale : {1.0, 1.25}) {
+        const auto fill = [&](QPainter& painter) { painter.fillRect(place, gradient); };
+        const auto whole = painted(scale, fill);
+        const auto inBands = painted(
+            scale, [&](QPainter& painter) { PainterBands::paint(painter, place, [&] { fill(painter); }); });
+        EXPECT_LE(greatestDifference(whole, inBands), 1);
     }
 }
 
