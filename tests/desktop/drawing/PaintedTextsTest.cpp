@@ -8,6 +8,7 @@
 #include <QColor>
 #include <QImage>
 #include <QPainter>
+#include <memory>
 #include <string>
 
 namespace {
@@ -45,6 +46,15 @@ QImage blank(QSize size) {
     QImage picture(size, QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::transparent);
     return picture;
+}
+
+/// Of lines that are aligned to the left.
+PaintedTexts::Key keyOf(const std::shared_ptr<const TextLines>& lines, QSize size, double width = 0) {
+    return {.lines = lines,
+            .alignment = HorizontalAlignment::Left,
+            .width = width,
+            .toPicture = {},
+            .size = size};
 }
 
 class PaintedTextsTest : public testing::Test {
@@ -121,11 +131,7 @@ TEST_F(PaintedTextsTest, LettersOfAnyColorAreThoseOfAPainter) {
     for (auto x = 0; x < black.width(); ++x)
         black.setPixel(x, 0, static_cast<QRgb>(x) << 24U);
     const auto lines = KnownTexts::shared().lines(newText(), style, {});
-    const PaintedTexts::Key key{.lines = lines,
-                                .alignment = HorizontalAlignment::Left,
-                                .width = 0,
-                                .toPicture = {},
-                                .size = black.size()};
+    const auto key = keyOf(lines, black.size());
     const auto coverage = PaintedTexts::shared().coverage(key, [&black] { return black; });
     EXPECT_EQ(coverage.format(), QImage::Format_Alpha8);
     for (const auto& color : {QColor(Qt::white), QColor(255, 59, 48), QColor(60, 60, 67, 153)}) {
@@ -145,11 +151,7 @@ TEST_F(PaintedTextsTest, LettersWithColorsOfTheirOwnHaveNoOther) {
     picture.fill(Qt::transparent);
     picture.setPixelColor(3, 4, Qt::red);
     const auto lines = KnownTexts::shared().lines(newText(), style, {});
-    const PaintedTexts::Key key{.lines = lines,
-                                .alignment = HorizontalAlignment::Left,
-                                .width = 0,
-                                .toPicture = {},
-                                .size = picture.size()};
+    const auto key = keyOf(lines, picture.size());
     const auto paint = [&picture] { return picture; };
     EXPECT_TRUE(PaintedTexts::shared().coverage(key, paint).isNull());
     EXPECT_TRUE(PaintedTexts::shared().coverage(key, paint).isNull());
@@ -170,15 +172,9 @@ TEST_F(PaintedTextsTest, LettersThatAreCutOffAtThePicturesEdgeAreTheirOwn) {
 TEST_F(PaintedTextsTest, TheLastUsedAreKeptAndNoMoreThanThereIsRoomFor) {
     auto& texts = PaintedTexts::shared();
     const auto lines = KnownTexts::shared().lines(newText(), style, {});
-    const auto keyOf = [&lines](int number) {
-        return PaintedTexts::Key{.lines = lines,
-                                 .alignment = HorizontalAlignment::Left,
-                                 .width = static_cast<double>(number),
-                                 .toPicture = {},
-                                 .size = {512, 512}};
-    };
     const auto use = [&](int number) {
-        const auto picture = texts.coverage(keyOf(number), [] { return blank({512, 512}); });
+        const auto picture =
+            texts.coverage(keyOf(lines, {512, 512}, number), [] { return blank({512, 512}); });
         EXPECT_EQ(picture.size(), QSize(512, 512));
     };
     constexpr auto room = static_cast<int>(PaintedTexts::capacity / 512 / 512);
@@ -196,11 +192,7 @@ TEST_F(PaintedTextsTest, TheLastUsedAreKeptAndNoMoreThanThereIsRoomFor) {
 
 TEST_F(PaintedTextsTest, WhatWouldTakeTheRoomOfAllOthersIsNotKept) {
     const auto lines = KnownTexts::shared().lines(newText(), style, {});
-    const PaintedTexts::Key key{.lines = lines,
-                                .alignment = HorizontalAlignment::Left,
-                                .width = 0,
-                                .toPicture = {},
-                                .size = {1024, 1024}};
+    const auto key = keyOf(lines, {1024, 1024});
     const auto use = [&key] {
         return PaintedTexts::shared().coverage(key, [] { return blank({1024, 1024}); });
     };
